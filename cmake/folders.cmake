@@ -1,0 +1,36 @@
+# One static library per folder of the house; all share the warning level and one precompiled header.
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+      ${CCACHE})
+endif()
+
+add_library(jxc_options INTERFACE)
+target_compile_options(jxc_options INTERFACE -Wall -Wextra $<$<BOOL:${JXC_WERROR}>:-Werror>
+                                             $<$<BOOL:${CCACHE}>:-fpch-preprocess>)
+target_include_directories(jxc_options INTERFACE ${PROJECT_SOURCE_DIR})
+if(JXC_SANITIZE)
+  target_compile_options(jxc_options INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer)
+  target_link_options(jxc_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# jxc_folder(NAME [LINK libraries...] [EXCLUDE files...]): the library jxc_NAME of every source below NAME/.
+function(jxc_folder name)
+  cmake_parse_arguments(ARG "" "" "LINK;EXCLUDE" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${name}/*.cpp)
+  foreach(file IN LISTS ARG_EXCLUDE)
+    list(REMOVE_ITEM sources ${PROJECT_SOURCE_DIR}/${name}/${file})
+  endforeach()
+  add_library(jxc_${name} STATIC ${sources})
+  target_link_libraries(jxc_${name} PUBLIC jxc_options ${ARG_LINK})
+  if(name STREQUAL controls)
+    target_precompile_headers(jxc_controls PRIVATE ${PROJECT_SOURCE_DIR}/cmake/standard_headers.h)
+  else()
+    target_precompile_headers(jxc_${name} REUSE_FROM jxc_controls)
+  endif()
+endfunction()

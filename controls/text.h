@@ -1,0 +1,50 @@
+// Texts as users type and read them: UTF-8, leading-number conversion, display of numbers, lengths in bytes of the
+// local code page (where a Chinese character counts 2).
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace jxc {
+
+// The number at the start of `text` after blanks: sign, digits, point, exponent; 0 when there is none.
+double Val(std::string_view text);
+// Whether the whole text, blanks around it apart, is one number.
+bool IsNumericText(std::string_view text);
+
+std::string Trim(std::string_view text);
+// Only the letters A to Z change: codes and key words are ASCII.
+std::string UpperCase(std::string_view text);
+std::string LowerCase(std::string_view text);
+bool EqualsNoCase(std::string_view a, std::string_view b);
+
+// The shortest decimal text that reads back as `number`, without exponent between 1e-7 and 1e15.
+std::string NumberText(double number);
+// `number` with exactly `decimals` decimals, halves away from zero on its decimal text; "," between thousands on request.
+// A value that rounds to zero shows no minus sign.
+std::string FormatFixed(double number, int decimals, bool thousands = false);
+// Rounds to `decimals` decimals through the number's 15-digit decimal text, so that 0.00015 rounds as a person expects.
+enum class Halves { ToEven, AwayFromZero };
+double RoundDecimal(double number, int decimals, Halves halves = Halves::AwayFromZero);
+// The number without binary residue: a quantity that people see as 0 is 0 (15 significant digits relative to `scale`).
+double WithoutResidue(double number, double scale = 1.0);
+
+// The code points of a UTF-8 text, and back.
+std::u32string ToCodePoints(std::string_view text);
+std::string FromCodePoints(std::u32string_view points);
+
+// Bytes in the local code page: a Chinese character counts 2, a Latin one 1.
+int AnsiByteLength(std::string_view text);
+// `text` cut before the character that passes `limit` bytes.
+std::string TruncateToBytes(std::string_view text, int limit);
+
+// `text` padded with blanks or cut to `width` characters.
+std::string PadRight(std::string_view text, int width);
+// Characters, not bytes: the part from the 1-based position on, at most `count` characters.
+std::string MidText(std::string_view text, int start, int count = -1);
+int CharacterCount(std::string_view text);
+
+std::vector<std::string> Split(std::string_view text, char separator);
+
+} // namespace jxc

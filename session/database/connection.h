@@ -1,0 +1,110 @@
+// The one road to the company's database. Every statement is a text in one of the system's two dialects, word for
+// word as the business routines build it; what stands between that text and the engine (literals lifted to bound
+// parameters, rewrites, the cache of prepared statements) is told in translation.h.
+//
+// Failures are DatabaseError. A failed statement leaves the connection usable outside a transaction; inside one, only
+// statements run through Tolerantly() may fail without forcing the roll-back.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/value.h"
+
+namespace jxc {
+
+class Engine;
+
+// What the database, or the translation of a statement for it, refused. what() is text for people.
+class DatabaseError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+// An update by row found its row changed or gone since it was read.
+class ConflictError : public DatabaseError {
+  public:
+    using DatabaseError::DatabaseError;
+};
+
+// A result, complete in memory: column names as the statement gives them, cells row by row.
+struct Rows {
+    std::vector<std::string> names;
+    std::vector<Value> cells;
+    size_t Count() const { return names.empty() ? 0 : cells.size() / names.size(); }
+    const Value& At(size_t row, size_t column) const { return cells[row * names.size() + column]; }
+};
+
+class Connection {
+  public:
+    Connection();
+    ~Connection(); // rolls back an open transaction and closes
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    void Open(std::unique_ptr<Engine> engine);
+    void Close();
+    bool IsOpen() const;
+
+    // Runs a statement that gives no rows: Insert, Update, Delete, ALTER TABLE. On a database server inside a
+    // transaction it may be sent together with the statements behind it; its failure then shows at the next Flush,
+    // Query or CommitTrans at the latest.
+    void Execute(std::string_view sql);
+    // Runs a statement that gives rows.
+    Rows Query(std::string_view sql);
+    // Waits until everything sent so far has succeeded, or throws the first failure.
+    void Flush();
+
+    // One transaction at a time, no nesting. Writers of one company wait for each other at BeginTrans, so a routine
+    // that reads, computes and writes inside a transaction is never overtaken.
+    void BeginTrans();
+    void CommitTrans();
+    void RollbackTrans() noexcept;
+    bool InTransaction() const;
+
+    // Runs `work` so that a DatabaseError inside it undoes only `work` and leaves an open transaction usable; the
+    // error is thrown on. Routines that swallow errors by design run their statements so.
+    void Tolerantly(const std::function<void()>& work);
+
+    // The engine's plan of a statement, a line per step, as EXPLAIN gives it: the proof that no table is scanned.
+    std::vector<std::string> Plan(std::string_view sql);
+
+    // Called with each statement's text before it is sent, transaction commands among them ("begin", "commit",
+    // "rollback" is not announced). It may throw DatabaseError: that is how faults are injected. Null for none.
+    void SetObserver(std::function<void(std::string_view)> observer);
+
+    Engine& EngineInUse();
+
+  private:
+    void Announce(std::string_view sql);
+
+    std::unique_ptr<Engine> engine_;
+    std::function<void(std::string_view)> observer_;
+    bool inTransaction_ = false;
+};
+
+// Begins a transaction and rolls it back when it goes out of scope without Commit(). Only Commit() commits.
+class Transaction {
+  public:
+    explicit Transaction(Connection& connection) : connection_(connection) { connection_.BeginTrans(); }
+    ~Transaction() {
+        if (!done_)
+            connection_.RollbackTrans();
+    }
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
+    void Commit() {
+        connection_.CommitTrans();
+        done_ = true;
+    }
+
+  private:
+    Connection& connection_;
+    bool done_ = false;
+};
+
+} // namespace jxc

@@ -1,0 +1,58 @@
+// A result to walk through, or a set of rows to change one at a time. The two patterns in which every screen opens it:
+// Read for lookups, lists and reports, Write for "select * from <table> where <key>" followed by field assignments and
+// Update. The whole result is in memory, so RecordCount is always known.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "session/database/connection.h"
+
+namespace jxc {
+
+enum class Access { Read, Write };
+
+class Recordset {
+  public:
+    // Opens `sql`. With Write it must be "select [distinct] <columns or *> from <one table> [where ..] [order by ..]";
+    // anything else is a DatabaseError.
+    Recordset(Connection& connection, std::string_view sql, Access access = Access::Read);
+
+    bool AtEnd() const { return row_ >= RecordCount(); }
+    void MoveNext() { ++row_; }
+    size_t RecordCount() const { return rows_.Count(); }
+
+    // A field of the current row, by name in any case or by ordinal from 0. An unknown name, or a read past the end,
+    // is a DatabaseError.
+    const Value& operator[](std::string_view name) const { return Field(OrdinalOf(name)); }
+    const Value& operator[](size_t ordinal) const { return Field(ordinal); }
+    size_t OrdinalOf(std::string_view name) const;
+    size_t FieldCount() const { return rows_.names.size(); }
+    const std::string& FieldName(size_t ordinal) const { return rows_.names[ordinal]; }
+
+    // Starts a new row; the fields assigned until Update make it. Fields not assigned are null.
+    void AddNew();
+    // Assigns a field of the current or new row. Money fields round to four decimals; a date field takes
+    // 'yyyy-mm-dd' or null, a number field no text but a numeric one. A wrong kind is a DatabaseError.
+    void Set(std::string_view name, Value value);
+    void Set(size_t ordinal, Value value);
+    // Writes the assigned fields. A changed row that meanwhile vanished is a ConflictError, at this call or, inside a
+    // transaction on a server, at the connection's next Flush, Query or CommitTrans.
+    void Update();
+    // Deletes the current row.
+    void Delete();
+
+  private:
+    const Value& Field(size_t ordinal) const;
+
+    Connection& connection_;
+    Rows rows_;
+    size_t row_ = 0;
+    bool adding_ = false;
+    std::string table_;                          // Write: the table
+    std::vector<Value> keys_;                    // Write: the engine's row address of each row
+    std::vector<std::pair<size_t, Value>> set_;  // assigned since AddNew or the last Update
+};
+
+} // namespace jxc
