@@ -1,0 +1,176 @@
+// Control models: what a person sees and touches on a screen, as plain state with events, without a toolkit. Each
+// registers itself in its screen by name. Operations change models; a view shows what the models say afterwards.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/date.h"
+#include "controls/value.h"
+
+namespace jxc {
+
+struct Screen;
+
+enum class ControlKind { Text, Label, Button, Check, Option, List, Date, Grid, Tree, Tabs, Frame, Menu };
+
+// "text", "label", "button" ...: the kind as scripts read it.
+std::string_view KindName(ControlKind kind);
+
+struct Control {
+    Control(Screen& screen, std::string name, ControlKind kind, std::string caption = "");
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    // What a script reads as the control's value; nothing for controls without one.
+    virtual Value Shown() const { return {}; }
+    // Visible and enabled as a person meets it: the frame it stands in counts too.
+    bool IsShown() const { return visible && (!frame || frame->IsShown()); }
+    bool IsUsable() const { return enabled && IsShown() && (!frame || frame->IsUsable()); }
+
+    Screen& screen;
+    const std::string name;
+    const ControlKind kind;
+    std::string caption;
+    std::string tag;
+    bool visible = true;
+    bool enabled = true;
+    Control* frame = nullptr; // the frame or panel that holds it
+
+    std::function<void()> onEnter;
+    std::function<bool()> onLeave;                // false keeps the focus here
+    std::function<void(const std::string&)> onKey; // a named key: "Enter", "Delete", "F5" ...
+};
+
+struct Label : Control {
+    Label(Screen& screen, std::string name, std::string caption = "")
+        : Control(screen, std::move(name), ControlKind::Label, std::move(caption)) {}
+    Value Shown() const override { return caption; }
+    int color = 0;
+};
+
+struct Frame : Control {
+    Frame(Screen& screen, std::string name, std::string caption = "")
+        : Control(screen, std::move(name), ControlKind::Frame, std::move(caption)) {}
+};
+
+// A command button or a menu item.
+struct Command : Control {
+    std::function<void()> onClick;
+
+  protected:
+    using Control::Control;
+};
+
+struct Button : Command {
+    Button(Screen& screen, std::string name, std::string caption = "")
+        : Command(screen, std::move(name), ControlKind::Button, std::move(caption)) {}
+};
+
+struct MenuItem : Command {
+    MenuItem(Screen& screen, std::string name, std::string caption = "")
+        : Command(screen, std::move(name), ControlKind::Menu, std::move(caption)) {}
+};
+
+// A check box or one option of a group. Assigning `value` fires nothing; Change does, as a click would.
+struct Toggle : Control {
+    bool value = false;
+    std::function<void()> onChange;
+    Value Shown() const override { return std::int64_t{value}; }
+
+  protected:
+    using Control::Control;
+};
+
+struct CheckBox : Toggle {
+    CheckBox(Screen& screen, std::string name, std::string caption = "", bool ticked = false)
+        : Toggle(screen, std::move(name), ControlKind::Check, std::move(caption)) {
+        value = ticked;
+    }
+    void Change(bool ticked);
+};
+
+struct OptionButton : Toggle {
+    OptionButton(Screen& screen, std::string name, std::string group, std::string caption = "", bool chosen = false)
+        : Toggle(screen, std::move(name), ControlKind::Option, std::move(caption)), group(std::move(group)) {
+        value = chosen;
+    }
+    // Chooses this option and clears the others of its group.
+    void Choose();
+    const std::string group;
+};
+
+// Anything with text that is edited key by key.
+struct EditBox : Control {
+    std::string text;
+    int selStart = 0;  // in characters
+    int selLength = 0;
+    bool locked = false;
+    // A key before it takes effect: its code point, 22 for a paste. Setting it to 0 refuses the key.
+    std::function<void(int& keyCode)> onKeyPress;
+    std::function<void()> onChange; // the user changed the text
+    Value Shown() const override { return text; }
+
+    void SelectAll();
+    // Types one character, or 8 for backspace, 22 for a paste, through onKeyPress; false when it was refused.
+    bool PressKey(int keyCode);
+    // Puts `insert` in place of the selection, unfiltered.
+    void Insert(std::string_view insert);
+
+  protected:
+    using Control::Control;
+};
+
+struct TextBox : EditBox {
+    TextBox(Screen& screen, std::string name, std::string text = "")
+        : EditBox(screen, std::move(name), ControlKind::Text) {
+        this->text = std::move(text);
+    }
+    int maxBytes = 0; // the field's limit in bytes, 0 for none
+};
+
+// A drop-down list; an editable one also takes free text.
+struct ListBox : EditBox {
+    ListBox(Screen& screen, std::string name, bool editable = false)
+        : EditBox(screen, std::move(name), ControlKind::List), editable(editable) {}
+    const bool editable;
+    std::vector<std::string> items;
+    std::function<void()> onChoose;
+    // The item as people read it; a list that keeps a key behind the text cuts it off here.
+    std::function<std::string(const std::string& item)> visibleText;
+
+    int Index() const { return index_; }
+    // The chosen item whole, "" when none is.
+    std::string Chosen() const { return index_ < 0 ? "" : items[static_cast<size_t>(index_)]; }
+    // Selects without firing onChoose; -1 for none. The text follows.
+    void SetIndex(int index);
+    // Selects as a person does, firing onChoose.
+    void Choose(int index);
+    void Clear();
+    std::string VisibleText(int index) const;
+
+  private:
+    int index_ = -1;
+};
+
+struct DateBox : Control {
+    DateBox(Screen& screen, std::string name) : Control(screen, std::move(name), ControlKind::Date) {}
+    std::optional<Date> date;
+    std::function<void()> onChange;
+    Value Shown() const override { return date ? Value(IsoText(*date)) : Value(); }
+};
+
+struct Tabs : Control {
+    Tabs(Screen& screen, std::string name, std::vector<std::string> captions)
+        : Control(screen, std::move(name), ControlKind::Tabs), captions(std::move(captions)) {}
+    std::vector<std::string> captions;
+    int index = 0;
+    std::function<void()> onChange;
+    Value Shown() const override { return std::int64_t{index}; }
+};
+
+} // namespace jxc

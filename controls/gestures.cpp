@@ -1,0 +1,251 @@
+#include "controls/gestures.h"
+
+#include "controls/text.h"
+#include "controls/view.h"
+
+namespace jxc {
+
+namespace {
+
+// Runs a screen's own routine; what it throws is shown to the person, who stays on the screen.
+template <typename Routine>
+void Guarded(Screen& screen, const Routine& routine) {
+    try {
+        routine();
+    } catch (const GestureRefused&) {
+        throw;
+    } catch (const std::exception& error) {
+        Warn(screen.title, error.what());
+    }
+}
+
+void RequireUsable(const Control& control) {
+    if (!control.IsShown())
+        throw GestureRefused(control.name + " 不可见。");
+    if (!control.IsUsable())
+        throw GestureRefused(control.name + " 不可用。");
+}
+
+void RequireRow(const Grid& grid, int row) {
+    if (row < 1 || row > grid.RowCount())
+        throw GestureRefused(grid.name + " 没有第 " + std::to_string(row) + " 行。");
+}
+
+void RequireColumn(const Grid& grid, int column) {
+    if (column < 1 || column > grid.ColumnCount())
+        throw GestureRefused(grid.name + " 没有第 " + std::to_string(column) + " 列。");
+}
+
+// The value that typing `text` into a cell of the column gives.
+Value TypedValue(const GridColumn& column, const std::string& text) {
+    if (column.type == CellType::Text)
+        return column.maxBytes > 0 ? TruncateToBytes(text, column.maxBytes) : text;
+    std::string digits;
+    for (const char c : text)
+        if (c != ',')
+            digits += c;
+    if (Trim(digits).empty())
+        return {};
+    if (!IsNumericText(digits))
+        throw GestureRefused("“" + column.caption + "”只能输入数字。");
+    return Val(digits);
+}
+
+// Types the whole new text key by key over the selected old one. When a key is refused the old text comes back.
+void ReplaceText(EditBox& box, const std::string& text) {
+    const std::string before = box.text;
+    box.SelectAll();
+    if (text.empty()) {
+        box.PressKey(8);
+        return;
+    }
+    for (const char32_t point : ToCodePoints(text))
+        if (!box.PressKey(static_cast<int>(point))) {
+            box.text = before;
+            box.SelectAll();
+            if (box.onChange)
+                box.onChange();
+            throw GestureRefused(box.name + " 不接受该输入。");
+        }
+}
+
+} // namespace
+
+bool LeaveFocus(Screen& screen) {
+    Control* held = screen.Focus();
+    if (!held)
+        return true;
+    bool left = true;
+    screen.MoveFocus(nullptr);
+    if (held->onLeave)
+        Guarded(screen, [&] { left = held->onLeave(); });
+    if (!left && !screen.Focus())
+        screen.MoveFocus(held);
+    return left && !screen.Focus();
+}
+
+bool GoTo(Screen& screen, Control& control) {
+    RequireUsable(control);
+    if (screen.Focus() == &control)
+        return true;
+    if (!LeaveFocus(screen) || !control.IsUsable() || !screen.IsOpen())
+        return false;
+    screen.MoveFocus(&control);
+    if (control.onEnter)
+        Guarded(screen, control.onEnter);
+    return screen.Focus() == &control;
+}
+
+void EnterText(Screen& screen, EditBox& box, const std::string& text) {
+    if (const auto* list = dynamic_cast<ListBox*>(&box); box.locked || (list && !list->editable))
+        throw GestureRefused(box.name + " 不能输入。");
+    if (!GoTo(screen, box))
+        return;
+    ReplaceText(box, text);
+    if (auto* list = dynamic_cast<ListBox*>(&box))
+        if (const int index = ItemWithText(*list, text); index >= 0)
+            list->SetIndex(index);
+    LeaveFocus(screen);
+}
+
+void EnterDate(Screen& screen, DateBox& box, std::optional<Date> date) {
+    if (!GoTo(screen, box))
+        return;
+    box.date = date;
+    if (box.onChange)
+        Guarded(screen, box.onChange);
+    LeaveFocus(screen);
+}
+
+void SetToggle(Screen& screen, Toggle& toggle, bool on) {
+    if (!GoTo(screen, toggle))
+        return;
+    Guarded(screen, [&] {
+        if (auto* option = dynamic_cast<OptionButton*>(&toggle)) {
+            if (!on)
+                throw GestureRefused(toggle.name + " 只能选中。");
+            option->Choose();
+        } else {
+            static_cast<CheckBox&>(toggle).Change(on);
+        }
+    });
+    LeaveFocus(screen);
+}
+
+void ChooseItem(Screen& screen, ListBox& list, int index) {
+    if (index < -1 || index >= static_cast<int>(list.items.size()))
+        throw GestureRefused(list.name + " 没有第 " + std::to_string(index) + " 项。");
+    if (!GoTo(screen, list))
+        return;
+    Guarded(screen, [&] { list.Choose(index); });
+    LeaveFocus(screen);
+}
+
+int ItemWithText(const ListBox& list, const std::string& text) {
+    const std::string wanted = Trim(text);
+    for (int i = 0; i < static_cast<int>(list.items.size()); ++i)
+        if (Trim(list.VisibleText(i)) == wanted)
+            return i;
+    return -1;
+}
+
+void ChooseTab(Screen& screen, Tabs& tabs, int index) {
+    if (index < 0 || index >= static_cast<int>(tabs.captions.size()))
+        throw GestureRefused(tabs.name + " 没有第 " + std::to_string(index) + " 页。");
+    if (!GoTo(screen, tabs))
+        return;
+    tabs.index = index;
+    if (tabs.onChange)
+        Guarded(screen, tabs.onChange);
+}
+
+void Click(Screen& screen, Command& command) {
+    if (!GoTo(screen, command))
+        return;
+    if (command.onClick)
+        Guarded(screen, command.onClick);
+    if (screen.Focus() == &command)
+        LeaveFocus(screen);
+}
+
+void PressKey(Screen& screen, Control& control, const std::string& key) {
+    if (!GoTo(screen, control))
+        return;
+    auto* grid = dynamic_cast<Grid*>(&control);
+    if (grid && key == "Enter" && grid->onEnterKey)
+        Guarded(screen, grid->onEnterKey);
+    else if (control.onKey)
+        Guarded(screen, [&] { control.onKey(key); });
+}
+
+void TypeCell(Screen& screen, Grid& grid, int row, int column, const std::string& text) {
+    RequireColumn(grid, column);
+    RequireUsable(grid);
+    if (grid.Column(column).hidden)
+        throw GestureRefused("“" + grid.Column(column).caption + "”不可见。");
+    if (!grid.CanType(column))
+        throw GestureRefused("“" + grid.Column(column).caption + "”不能输入。");
+    const Value typed = TypedValue(grid.Column(column), text);
+    if (row != grid.RowCount() + 1)
+        RequireRow(grid, row);
+    if (!GoTo(screen, grid))
+        return;
+    if (row == grid.RowCount() + 1) {
+        grid.selectedRow = grid.RowCount();
+        if (grid.onEnterKey)
+            Guarded(screen, grid.onEnterKey);
+        RequireRow(grid, row);
+    }
+    grid.selectedRow = row;
+    grid.selectedColumn = column;
+    Guarded(screen, [&] {
+        grid.SetCell(row, column, typed);
+        if (grid.onCellLeave)
+            grid.onCellLeave(row, column);
+    });
+}
+
+void SelectRow(Screen& screen, Grid& grid, int row) {
+    RequireRow(grid, row);
+    if (!GoTo(screen, grid))
+        return;
+    grid.selectedRow = row;
+    if (grid.onSelect)
+        Guarded(screen, [&] { grid.onSelect(row); });
+}
+
+void DoubleClickRow(Screen& screen, Grid& grid, int row) {
+    SelectRow(screen, grid, row);
+    if (grid.onDoubleClick)
+        Guarded(screen, [&] { grid.onDoubleClick(row); });
+}
+
+void ClickHeading(Screen& screen, Grid& grid, int column) {
+    RequireColumn(grid, column);
+    if (!GoTo(screen, grid))
+        return;
+    if (grid.onHeading)
+        Guarded(screen, [&] { grid.onHeading(column); });
+}
+
+void SelectNode(Screen& screen, Tree& tree, int node) {
+    if (node < 0 || node >= static_cast<int>(tree.nodes.size()))
+        throw GestureRefused(tree.name + " 没有该节点。");
+    if (!GoTo(screen, tree))
+        return;
+    tree.selected = node;
+    if (tree.onSelect)
+        Guarded(screen, [&] { tree.onSelect(node); });
+}
+
+void DropNode(Screen& screen, Tree& tree, int node, int onto) {
+    const auto known = [&](int at) { return at >= 0 && at < static_cast<int>(tree.nodes.size()); };
+    if (!known(node) || !known(onto))
+        throw GestureRefused(tree.name + " 没有该节点。");
+    if (!GoTo(screen, tree))
+        return;
+    if (tree.onDrop)
+        Guarded(screen, [&] { tree.onDrop(node, onto); });
+}
+
+} // namespace jxc

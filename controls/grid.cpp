@@ -1,0 +1,174 @@
+#include "controls/grid.h"
+
+#include <algorithm>
+
+#include "controls/screen.h"
+#include "controls/text.h"
+
+namespace jxc {
+
+namespace {
+
+// Nothing first, then numbers, then texts, as the databases sort.
+bool Before(const Value& a, const Value& b) {
+    const auto rank = [](const Value& v) { return v.IsNull() ? 0 : v.IsText() ? 2 : 1; };
+    if (rank(a) != rank(b))
+        return rank(a) < rank(b);
+    if (rank(a) == 1)
+        return a.AsDouble() < b.AsDouble();
+    return rank(a) == 2 && a.AsText() < b.AsText();
+}
+
+} // namespace
+
+void Grid::SetColumns(std::vector<GridColumn> columns) {
+    columns_ = std::move(columns);
+    rows_.clear();
+    formulas_.clear();
+    selectedRow = 0;
+    selectedColumn = 1;
+    sortedColumn = 0;
+}
+
+void Grid::SetFormula(int column, std::string_view formula) {
+    std::erase_if(formulas_, [&](const Formula& f) { return f.column == column; });
+    if (formula.empty())
+        return;
+    formulas_.push_back({column, std::string(formula), RowFormula(formula)});
+    for (const int read : formulas_.back().compiled.Reads())
+        if (read > ColumnCount()) {
+            formulas_.pop_back();
+            throw FormulaError("公式 " + std::string(formula) + " 有误：没有第 " + std::to_string(read) + " 列。");
+        }
+    OrderFormulas();
+}
+
+bool Grid::HasFormula(int column) const {
+    return std::any_of(formulas_.begin(), formulas_.end(), [&](const Formula& f) { return f.column == column; });
+}
+
+void Grid::OrderFormulas() {
+    std::vector<Formula> ordered;
+    while (!formulas_.empty()) {
+        const auto waits = [&](const Formula& formula) {
+            return std::any_of(formula.compiled.Reads().begin(), formula.compiled.Reads().end(),
+                               [&](int read) { return HasFormula(read); });
+        };
+        const auto next = std::find_if_not(formulas_.begin(), formulas_.end(), waits);
+        if (next == formulas_.end()) {
+            const std::string text = formulas_.front().text;
+            formulas_ = std::move(ordered);
+            throw FormulaError("公式 " + text + " 循环引用。");
+        }
+        ordered.push_back(std::move(*next));
+        formulas_.erase(next);
+    }
+    formulas_ = std::move(ordered);
+}
+
+void Grid::Evaluate(int row, std::optional<int> changed) {
+    if (formulas_.empty())
+        return;
+    std::vector<int> touched;
+    if (changed)
+        touched.push_back(*changed);
+    for (const Formula& formula : formulas_) {
+        const auto& reads = formula.compiled.Reads();
+        const bool due = !changed || std::any_of(reads.begin(), reads.end(), [&](int read) {
+            return std::find(touched.begin(), touched.end(), read) != touched.end();
+        });
+        if (!due)
+            continue;
+        const Value value = formula.compiled.Evaluate([&](int column) { return Number(row, column); });
+        Value& cell = rows_[static_cast<size_t>(row - 1)].cells[static_cast<size_t>(formula.column - 1)];
+        if (cell == value)
+            continue;
+        cell = value;
+        touched.push_back(formula.column);
+        if (onCellChange)
+            onCellChange(row, formula.column);
+    }
+}
+
+void Grid::Recalculate() {
+    for (int row = 1; row <= RowCount(); ++row)
+        Evaluate(row, std::nullopt);
+}
+
+void Grid::SetRowCount(int rows) {
+    const size_t before = rows_.size();
+    rows_.resize(static_cast<size_t>(rows));
+    for (size_t i = before; i < rows_.size(); ++i)
+        rows_[i].cells.resize(columns_.size());
+    selectedRow = std::min(selectedRow, rows);
+}
+
+void Grid::InsertRow(int at) {
+    Row row;
+    row.cells.resize(columns_.size());
+    rows_.insert(rows_.begin() + (at - 1), std::move(row));
+}
+
+void Grid::RemoveRow(int row) {
+    CheckPlace(row, 1);
+    rows_.erase(rows_.begin() + (row - 1));
+    selectedRow = std::min(selectedRow, RowCount());
+}
+
+void Grid::CheckPlace(int row, int column) const {
+    if (row < 1 || row > RowCount() || column < 1 || column > ColumnCount())
+        throw ScreenError(name + " 没有第 " + std::to_string(row) + " 行第 " + std::to_string(column) + " 列。");
+}
+
+const Value& Grid::Cell(int row, int column) const {
+    CheckPlace(row, column);
+    return rows_[static_cast<size_t>(row - 1)].cells[static_cast<size_t>(column - 1)];
+}
+
+std::string Grid::ShownText(int row, int column) const {
+    const Value& cell = Cell(row, column);
+    const GridColumn& settings = Column(column);
+    if (cell.IsNull() || settings.type != CellType::Number || cell.AsText().empty())
+        return cell.AsText();
+    return FormatFixed(cell.AsDouble(), settings.decimals, settings.thousands);
+}
+
+void Grid::FillCell(int row, int column, Value value) {
+    CheckPlace(row, column);
+    rows_[static_cast<size_t>(row - 1)].cells[static_cast<size_t>(column - 1)] = std::move(value);
+}
+
+void Grid::SetCell(int row, int column, Value value) {
+    if (Cell(row, column) == value)
+        return;
+    FillCell(row, column, std::move(value));
+    if (onCellChange)
+        onCellChange(row, column);
+    Evaluate(row, column);
+}
+
+void Grid::SetRowColor(int row, int fromColumn, Color color) {
+    CheckPlace(row, fromColumn);
+    rows_[static_cast<size_t>(row - 1)].color = color;
+    rows_[static_cast<size_t>(row - 1)].colorFrom = fromColumn;
+}
+
+Color Grid::BackColor(int row, int column) const {
+    CheckPlace(row, column);
+    const Row& held = rows_[static_cast<size_t>(row - 1)];
+    return column >= held.colorFrom ? held.color : kNormalColor;
+}
+
+void Grid::Sort(int column, bool ascending) {
+    if (rows_.empty())
+        return;
+    CheckPlace(1, column);
+    const auto at = static_cast<size_t>(column - 1);
+    std::stable_sort(rows_.begin(), rows_.end(), [&](const Row& a, const Row& b) {
+        return ascending ? Before(a.cells[at], b.cells[at]) : Before(b.cells[at], a.cells[at]);
+    });
+    sortedColumn = column;
+    sortedAscending = ascending;
+}
+
+} // namespace jxc

@@ -1,0 +1,108 @@
+// A grid: columns with captions, types and formulas, rows of values, colours, a selected cell. Rows and columns count
+// from 1. Numbers are kept as numbers and shown with the column's decimals and thousands separators.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "controls/control.h"
+#include "controls/row_formula.h"
+
+namespace jxc {
+
+enum class CellType { Text, Number, Check };
+enum class Alignment { Left, Right, Center };
+
+// Red, green and blue as 0x00BBGGRR, the order in which the highlight colours are given; -1 is the normal colour.
+using Color = int;
+constexpr Color kNormalColor = -1;
+constexpr Color Rgb(int red, int green, int blue) { return red | green << 8 | blue << 16; }
+
+struct GridColumn {
+    std::string caption;
+    CellType type = CellType::Text;
+    int decimals = 2;
+    bool thousands = true;
+    double width = 8; // in characters
+    bool hidden = false;
+    bool locked = false; // against typing
+    Alignment alignment = Alignment::Left;
+    Color textColor = kNormalColor;
+    int maxBytes = 0; // typed text is cut to this many bytes, 0 for no limit
+};
+
+struct Grid : Control {
+    Grid(Screen& screen, std::string name) : Control(screen, std::move(name), ControlKind::Grid) {}
+
+    // Columns. Setting them empties the grid and drops formulas.
+    void SetColumns(std::vector<GridColumn> columns);
+    int ColumnCount() const { return static_cast<int>(columns_.size()); }
+    GridColumn& Column(int column) { return columns_.at(static_cast<size_t>(column - 1)); }
+    const GridColumn& Column(int column) const { return columns_.at(static_cast<size_t>(column - 1)); }
+    // "" removes the formula. A formula that reads itself, straight or over others, is a FormulaError.
+    void SetFormula(int column, std::string_view formula);
+    bool HasFormula(int column) const;
+    // Works the formulas out anew for every row.
+    void Recalculate();
+
+    // Rows.
+    int RowCount() const { return static_cast<int>(rows_.size()); }
+    void SetRowCount(int rows);
+    void InsertRow(int at); // an empty row that becomes row `at`
+    void RemoveRow(int row);
+    void Clear() { SetRowCount(0); }
+
+    const Value& Cell(int row, int column) const;
+    double Number(int row, int column) const { return Cell(row, column).AsDouble(); }
+    std::string Text(int row, int column) const { return Cell(row, column).AsText(); }
+    // The cell as shown: numbers with decimals and separators, an empty cell as "".
+    std::string ShownText(int row, int column) const;
+    // Sets a cell and works out the row's formulas that depend on it. onCellChange is told of each cell that changed.
+    void SetCell(int row, int column, Value value);
+    // Fills a cell without formulas or events: for loading; Recalculate afterwards if formulas are set.
+    void FillCell(int row, int column, Value value);
+
+    void SetRowColor(int row, int fromColumn, Color color);
+    Color BackColor(int row, int column) const;
+
+    // Sorts by a column's values: nothing before numbers before texts; equal rows keep their order.
+    void Sort(int column, bool ascending);
+    // The column of the last sort, and its direction; 0 when the rows are as filled.
+    int sortedColumn = 0;
+    bool sortedAscending = true;
+
+    int selectedRow = 0; // 0 for none
+    int selectedColumn = 1;
+    bool readOnly = false; // no typing at all
+    bool CanType(int column) const { return !readOnly && !Column(column).locked && !HasFormula(column); }
+
+    std::function<void(int row, int column)> onCellChange;
+    std::function<void(int row, int column)> onCellLeave; // a person leaves a cell that was typed into
+    std::function<void()> onEnterKey;                     // Enter on the last row
+    std::function<void(int column)> onHeading;
+    std::function<void(int row)> onSelect;
+    std::function<void(int row)> onDoubleClick;
+
+  private:
+    struct Row {
+        std::vector<Value> cells;
+        Color color = kNormalColor;
+        int colorFrom = 1;
+    };
+    struct Formula {
+        int column;
+        std::string text;
+        RowFormula compiled;
+    };
+    void CheckPlace(int row, int column) const;
+    void OrderFormulas();
+    // Evaluates the row's formulas in dependency order, all of them or those that `changed` reaches.
+    void Evaluate(int row, std::optional<int> changed);
+
+    std::vector<GridColumn> columns_;
+    std::vector<Row> rows_;
+    std::vector<Formula> formulas_; // in dependency order
+};
+
+} // namespace jxc

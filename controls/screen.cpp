@@ -1,0 +1,88 @@
+#include "controls/screen.h"
+
+#include "controls/text.h"
+#include "controls/view.h"
+
+namespace jxc {
+
+namespace {
+
+struct TableEntry {
+    std::function<std::unique_ptr<Screen>()> make;
+    std::unique_ptr<Screen> instance;
+};
+
+std::map<std::string, TableEntry, std::less<>>& Table() {
+    static std::map<std::string, TableEntry, std::less<>> table;
+    return table;
+}
+
+} // namespace
+
+Control* Screen::Find(std::string_view control) const {
+    for (Control* candidate : controls_)
+        if (candidate->name == control)
+            return candidate;
+    return nullptr;
+}
+
+void Screen::AddTextProperty(std::string property, std::string& text) {
+    AddProperty(std::move(property), [&text](const Value& v) { text = v.AsText(); }, [&text] { return Value(text); });
+}
+
+void Screen::AddProperty(std::string property, std::function<void(const Value&)> set, std::function<Value()> get) {
+    properties_[std::move(property)] = {std::move(set), std::move(get)};
+}
+
+const Screen::Property& Screen::FindProperty(std::string_view property) const {
+    const auto found = properties_.find(property);
+    if (found == properties_.end())
+        throw ScreenError(name + " 没有属性 " + std::string(property) + "。");
+    return found->second;
+}
+
+void Screen::SetProperty(std::string_view property, const Value& value) { FindProperty(property).set(value); }
+Value Screen::GetProperty(std::string_view property) const { return FindProperty(property).get(); }
+
+void ShowModal(Screen& screen) {
+    if (screen.IsOpen())
+        throw ScreenError("“" + screen.title + "”已经打开。");
+    screen.open_ = true;
+    screen.MoveFocus(nullptr);
+    try {
+        screen.Open();
+    } catch (const std::exception& error) {
+        screen.Close();
+        Warn(screen.title, error.what());
+        return;
+    }
+    if (screen.IsOpen())
+        CurrentView().RunModal(screen);
+    screen.Close();
+}
+
+void RegisterScreen(std::string name, std::function<std::unique_ptr<Screen>()> make) {
+    Table()[std::move(name)] = {std::move(make), nullptr};
+}
+
+Screen* FindScreen(std::string_view name) {
+    const auto found = Table().find(name);
+    if (found == Table().end())
+        return nullptr;
+    if (!found->second.instance)
+        found->second.instance = found->second.make();
+    return found->second.instance.get();
+}
+
+Screen& ScreenNamed(std::string_view name) {
+    if (Screen* screen = FindScreen(name))
+        return *screen;
+    throw ScreenError("本版本尚未提供该功能（" + std::string(name) + "）。");
+}
+
+void ResetScreens() {
+    for (auto& [name, entry] : Table())
+        entry.instance.reset();
+}
+
+} // namespace jxc

@@ -1,0 +1,86 @@
+// A screen: named controls, a title, public properties that openers set by name, and whether it is open. Screens are
+// single instances in the table of screens, so a lower floor opens a higher one's screen by name without including it.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/control.h"
+
+namespace jxc {
+
+// A name that no screen, control or property has, or a value that does not fit. what() is text for people.
+class ScreenError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+struct Screen {
+    explicit Screen(std::string name) : name(std::move(name)) {}
+    virtual ~Screen() = default;
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    // Loads what the screen shows when it opens. It may show messages, and may Close() the screen again.
+    virtual void Open() = 0;
+
+    bool IsOpen() const { return open_; }
+    void Close() { open_ = false; }
+
+    // Called by the controls' constructors.
+    void Register(Control& control) { controls_.push_back(&control); }
+    const std::vector<Control*>& Controls() const { return controls_; }
+    // The control by its name; null when there is none.
+    Control* Find(std::string_view control) const;
+
+    // The control that has the focus; null when none has. Screens move it by MoveFocus, which fires no event.
+    Control* Focus() const { return focus_; }
+    void MoveFocus(Control* control) { focus_ = control; }
+
+    // Public properties, for openers and scripts.
+    template <typename Number>
+    void AddNumberProperty(std::string property, Number& number) {
+        properties_[std::move(property)] = {[&number](const Value& v) { number = static_cast<Number>(v.AsLong()); },
+                                            [&number] { return Value(static_cast<std::int64_t>(number)); }};
+    }
+    void AddTextProperty(std::string property, std::string& text);
+    void AddProperty(std::string property, std::function<void(const Value&)> set, std::function<Value()> get);
+    void SetProperty(std::string_view property, const Value& value); // ScreenError for an unknown name
+    Value GetProperty(std::string_view property) const;
+
+    const std::string name;
+    std::string title;
+
+  private:
+    friend void ShowModal(Screen& screen);
+    struct Property {
+        std::function<void(const Value&)> set;
+        std::function<Value()> get;
+    };
+    const Property& FindProperty(std::string_view property) const;
+
+    std::vector<Control*> controls_;
+    std::map<std::string, Property, std::less<>> properties_;
+    Control* focus_ = nullptr;
+    bool open_ = false;
+};
+
+// Opens the screen over those that are open and returns when it has been closed. A screen whose data cannot be loaded
+// shows the reason in a message box and does not open.
+void ShowModal(Screen& screen);
+
+// The table of screens. An instance is made on first use and kept.
+void RegisterScreen(std::string name, std::function<std::unique_ptr<Screen>()> make);
+// The screen of that name; null when none is registered.
+Screen* FindScreen(std::string_view name);
+// The same, but a ScreenError for people when there is none.
+Screen& ScreenNamed(std::string_view name);
+// Forgets the instances, so that the next use starts afresh (a new company, the next test).
+void ResetScreens();
+
+} // namespace jxc
