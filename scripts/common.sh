@@ -1,0 +1,109 @@
+# Shared by ./run and ./test: packages, configuring, building, and the throw-away PostgreSQL of the tests.
+# Sourced, not run. Expects `set -euo pipefail`; works from any current directory.
+
+root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+# The CMake preset: release, or ci where warnings are errors. Both build in build/release.
+preset="${JXC_PRESET:-release}"
+build="$root/build/release"
+
+packages=(g++ cmake ninja-build ccache pkg-config
+    libsqlite3-dev libpq-dev libmuparser-dev nlohmann-json3-dev libcli11-dev
+    postgresql libgtest-dev libgmock-dev libbenchmark-dev)
+
+say() { printf '== %s\n' "$*"; }
+fail() {
+    printf 'error: %s\n' "$*" >&2
+    exit 1
+}
+
+# Installs the Debian packages that are missing; asks nobody when all are there.
+install_packages() {
+    if ! command -v dpkg-query >/dev/null; then
+        say "no Debian package manager here; taking for granted: ${packages[*]}"
+        return
+    fi
+    local missing=() package
+    for package in "${packages[@]}"; do
+        if [[ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)" != installed ]]; then
+            missing+=("$package")
+        fi
+    done
+    if ((${#missing[@]} == 0)); then
+        return
+    fi
+    local as_root=()
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null || fail "missing packages; as root: apt-get install ${missing[*]}"
+        as_root=(sudo)
+    fi
+    say "installing ${missing[*]}"
+    "${as_root[@]}" apt-get update
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+# build_targets [TARGET...]: configures and builds; without targets, everything.
+build_targets() {
+    local warnings=(-DJXC_WERROR=OFF)
+    if [[ "$preset" == ci ]]; then
+        warnings=() # the preset turns them on
+    fi
+    say "configuring (preset $preset)"
+    mkdir -p "$root/build"
+    (cd "$root" && cmake --preset "$preset" "${warnings[@]}" >"$root/build/configure.log" 2>&1) || {
+        cat "$root/build/configure.log" >&2
+        fail "configuring failed"
+    }
+    say "building ${*:-everything} in build/release"
+    cmake --build "$build" ${1:+--target "$@"}
+}
+
+# The newest PostgreSQL server installed.
+postgres_bin() {
+    local initdb
+    initdb="$(find /usr/lib/postgresql -maxdepth 3 -name initdb 2>/dev/null | sort -V | tail -n 1)"
+    [[ -n "$initdb" ]] || initdb="$(command -v initdb || true)"
+    [[ -n "$initdb" ]] || fail "no PostgreSQL server found (package postgresql)"
+    dirname "$initdb"
+}
+
+# Runs a server command: the server refuses root, so root hands it to the user postgres.
+as_postgres() {
+    if ((EUID == 0)); then
+        (cd / && runuser -u postgres -- "$@")
+    else
+        "$@"
+    fi
+}
+
+# Starts an empty PostgreSQL that is reached through a socket in a folder of its own only, and sets JXC_TEST_PG to it.
+# The caller traps EXIT with stop_postgres.
+start_postgres() {
+    postgres_folder="$(mktemp -d /tmp/jxc-postgres.XXXXXX)"
+    postgres_programs="$(postgres_bin)"
+    if ((EUID == 0)); then
+        chown postgres: "$postgres_folder"
+    fi
+    say "starting a throw-away PostgreSQL"
+    # Its data lives minutes: no waiting for the disk. Texts sort by code point, as on the other engine.
+    as_postgres "$postgres_programs/initdb" -D "$postgres_folder/data" -U postgres --auth=trust --locale=C \
+        --encoding=UTF8 --no-sync >"$postgres_folder.log" 2>&1 || {
+        cat "$postgres_folder.log" >&2
+        fail "initdb failed"
+    }
+    as_postgres "$postgres_programs/pg_ctl" -D "$postgres_folder/data" -l "$postgres_folder/server.log" -w -s \
+        -o "-c listen_addresses='' -c unix_socket_directories='$postgres_folder' -c fsync=off \
+            -c synchronous_commit=off -c full_page_writes=off" start || {
+        cat "$postgres_folder/server.log" >&2
+        fail "PostgreSQL did not start"
+    }
+    export JXC_TEST_PG="postgresql://postgres@/postgres?host=$postgres_folder"
+}
+
+stop_postgres() {
+    [[ -n "${postgres_folder:-}" ]] || return 0
+    if [[ -f "$postgres_folder/data/postmaster.pid" ]]; then
+        as_postgres "$postgres_programs/pg_ctl" -D "$postgres_folder/data" -m immediate -w -s stop || true
+    fi
+    rm -rf "$postgres_folder" "$postgres_folder.log"
+    postgres_folder=
+}
