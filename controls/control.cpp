@@ -68,9 +68,10 @@ void EditBox::Insert(std::string_view insert) {
 }
 
 bool EditBox::PressKey(int keyCode) {
+    const std::string before = text;
     if (onKeyPress)
         onKeyPress(keyCode);
-    if (keyCode == 0)
+    if (keyCode == 0 && text == before)
         return false;
     if (keyCode == kPaste) {
         Insert(CurrentView().Clipboard());

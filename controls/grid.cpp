@@ -160,9 +160,6 @@ Color Grid::BackColor(int row, int column) const {
 }
 
 void Grid::Sort(int column, bool ascending) {
-    if (rows_.empty())
-        return;
-    CheckPlace(1, column);
     const auto at = static_cast<size_t>(column - 1);
     std::stable_sort(rows_.begin(), rows_.end(), [&](const Row& a, const Row& b) {
         return ascending ? Before(a.cells[at], b.cells[at]) : Before(b.cells[at], a.cells[at]);

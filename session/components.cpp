@@ -1,0 +1,36 @@
+#include "session/components.h"
+
+#include "controls/view.h"
+#include "session/frmBrief.h"
+#include "session/html_printer.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+class TreeAsNotice : public TreePrinter {
+  public:
+    void Print(const std::string& title, const Tree& tree) override {
+        std::string text;
+        for (int node = 0; node < static_cast<int>(tree.nodes.size()); ++node)
+            text += std::string(static_cast<size_t>(tree.DepthOf(node)) * 4, ' ') +
+                    tree.nodes[static_cast<size_t>(node)].caption + "\n";
+        CurrentView().ShowNotice(title, text);
+    }
+};
+
+class NoticeOfView : public NoticeWindow {
+  public:
+    void Show(const std::string& report) override { CurrentView().ShowNotice(session.CompName, report); }
+};
+
+} // namespace
+
+Components& ComponentsInUse() {
+    static Components components{std::make_unique<CodeListScreen>(), std::make_unique<HtmlPrinter>(),
+                                 std::make_unique<TreeAsNotice>(), std::make_unique<NoticeOfView>()};
+    return components;
+}
+
+} // namespace jxc

@@ -1,0 +1,78 @@
+// Four services that the host suite's own components give: a code list editor, a printer of grids and templates, a
+// printer of trees and a notice window. A host puts its own in their place; the ones built in work without a window.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "controls/grid.h"
+#include "controls/tree.h"
+
+namespace jxc {
+
+// What the code list editor is opened for.
+enum class BriefKind {
+    ChooseList = 1,    // picks one of the code lists; the answer is its number
+    EditEntries = 2,   // maintains one list's entries; the answer is the entry chosen
+    SelectColumns = 5, // selects and orders the dictionary's columns of a table; a non-empty answer: they changed
+};
+
+class CodeListEditor {
+  public:
+    virtual ~CodeListEditor() = default;
+    // Modal. `table` for SelectColumns, `code` the list for the other kinds. "" when nothing was chosen.
+    virtual std::string Edit(const std::string& table, const std::string& code, BriefKind kind) = 0;
+};
+
+using FieldList = std::vector<std::string>; // key, value, key, value ...
+
+struct GridPrintJob {
+    FieldList header;
+    const Grid* grid = nullptr;
+    std::string typeName;
+    std::string title;
+    std::string amount;
+};
+
+struct TemplatePrintJob {
+    FieldList fields;
+    std::vector<std::pair<std::string, std::string>> columns; // "<<caption>>" and the field it stands for
+    std::vector<std::vector<std::string>> lines;              // one text per column
+    std::string typeName;
+    int type = 0;
+    int mode = 1; // 3 lets the user change the template
+};
+
+class Printer {
+  public:
+    virtual ~Printer() = default;
+    // Printing is finished when these return.
+    virtual void Print(const GridPrintJob& job) = 0;
+    virtual void Print(const TemplatePrintJob& job) = 0;
+};
+
+class TreePrinter {
+  public:
+    virtual ~TreePrinter() = default;
+    virtual void Print(const std::string& title, const Tree& tree) = 0;
+};
+
+class NoticeWindow {
+  public:
+    virtual ~NoticeWindow() = default;
+    virtual void Show(const std::string& report) = 0;
+};
+
+struct Components {
+    std::unique_ptr<CodeListEditor> codeLists;
+    std::unique_ptr<Printer> printer;
+    std::unique_ptr<TreePrinter> treePrinter;
+    std::unique_ptr<NoticeWindow> notice;
+};
+
+// Those in use; the built-in ones until a host replaces them.
+Components& ComponentsInUse();
+
+} // namespace jxc

@@ -1,0 +1,127 @@
+// Refresh: from a screen number to the screen, with the settings that the number stands for.
+
+#include <functional>
+#include <vector>
+
+#include "controls/gestures.h"
+#include "controls/view.h"
+#include "session/company_fields.h"
+#include "session/database/open_connection.h"
+#include "session/lzjxc.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+bool Always() { return true; }
+bool IsClose() { return session.myType == 1; }
+bool IsReverseClose() { return session.myType != 1; }
+bool IsTree() { return session.myType == 0; }
+bool IsList() { return session.myType != 0; }
+
+using Prepare = void (*)(Screen&);
+
+void Nothing(Screen&) {}
+void CpNoEditOff(Screen& screen) { screen.SetProperty("CpNoEdit", 0); }
+void CpTjSelectOff(Screen& screen) { screen.SetProperty("CpTjSelect", 0); }
+template <int State>
+void FixedState(Screen& screen) {
+    screen.SetProperty("myState", State);
+}
+void StateOfType(Screen& screen) { screen.SetProperty("myState", session.myType); }
+void Untick(Screen& screen, const char* box) {
+    if (auto* toggle = dynamic_cast<Toggle*>(screen.Find(box)))
+        toggle->value = false;
+}
+void HeaderList(Screen& screen) {
+    screen.SetProperty("invType", session.myType);
+    Untick(screen, "chkDjMx");
+}
+void LineList(Screen& screen) {
+    screen.SetProperty("invType", session.myType);
+    Untick(screen, "chkDj");
+}
+// A host that calls the entry screen wants to write a new document.
+void NewDocument(Screen& screen) {
+    screen.SetProperty("Action", 1);
+    screen.SetProperty("OldType", 0);
+    screen.SetProperty("oldInvID", 0);
+    screen.SetProperty("JzState", 0);
+    screen.SetProperty("invType", session.myType);
+}
+
+struct DispatchRow {
+    int action;
+    bool (*when)();
+    const char* screen;
+    Prepare prepare;
+};
+
+const DispatchRow kDispatch[] = {
+    {0, Always, "frmSystem", Nothing},
+    {1, Always, "frmCk", Nothing},
+    {2, Always, "frmCp", CpNoEditOff},
+    {3, Always, "frmCpTj", CpTjSelectOff},
+    {4, Always, "frmCkKc", FixedState<0>},
+    {5, Always, "frmCkKc", FixedState<1>},
+    {6, Always, "frmCkKc", FixedState<2>},
+    {7, IsClose, "frmJz_Step", Nothing},
+    {7, IsReverseClose, "frmJz_unStep", Nothing},
+    {8, Always, "frmTb01", StateOfType},
+    {9, Always, "frmTb02", StateOfType},
+    {11, Always, "frmDj01", HeaderList},
+    {12, Always, "frmDj01", LineList},
+    {13, Always, "frmDj02", NewDocument},
+    {14, Always, "frmJh02", StateOfType},
+    {21, IsTree, "frmYj_Jbr_Jb", FixedState<0>},
+    {21, IsList, "frmYj_Jbr", Nothing},
+    {22, Always, "frmYj_Set", Nothing},
+    {23, Always, "frmYj_Gr", Nothing},
+    {24, Always, "frmYj_Jbr_Jb", StateOfType},
+    {25, Always, "frmYj_Tj", StateOfType},
+    {28, Always, "frmYj_Tj02", Nothing},
+    {29, Always, "frmYj_Step", Nothing},
+};
+
+void ShowScreen(int action, const ScreenProperties& properties) {
+    for (const DispatchRow& row : kDispatch) {
+        if (row.action != action || !row.when())
+            continue;
+        Screen& screen = ScreenNamed(row.screen);
+        row.prepare(screen);
+        for (const auto& [name, value] : properties)
+            screen.SetProperty(name, value);
+        ShowModal(screen);
+        return;
+    }
+}
+
+void CloseConnection() noexcept {
+    try {
+        if (session.Conn && session.Conn->IsOpen())
+            session.Conn->Close();
+    } catch (const std::exception&) {
+        // The connection is given up either way; there is nobody left to tell.
+    }
+    session.Conn.reset();
+}
+
+} // namespace
+
+void lzJxc::Refresh(std::int16_t RAction, const ScreenProperties& properties) {
+    try {
+        if (!session.Conn)
+            session.Conn = std::make_unique<Connection>();
+        OpenConnection(session.SQLData, *session.Conn, session.UserPath, session.Password, session.UserID,
+                       session.Default);
+        session.CompanyFieldList.clear();
+        CompanyFields();
+        ShowScreen(RAction, properties);
+    } catch (const std::exception& error) {
+        Warn(session.CompName, error.what());
+    }
+    CloseConnection();
+}
+
+} // namespace jxc

@@ -1,0 +1,171 @@
+#include "session/frmBrief.h"
+
+#include <set>
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "session/database/recordset.h"
+#include "session/edit_filter.h"
+#include "session/grid_routines.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+std::string CaptionField() { return "FieldName_" + std::to_string(session.Language); }
+
+void FillLists(frmBrief& s) {
+    s.title = "代码表";
+    s.Grid1.SetColumns({{.caption = "编号", .width = 12, .locked = true}, {.caption = "名称", .width = 24, .locked = true}});
+    const std::string sql = "select BriefType,BriefTypeName from Brief Order By BriefType";
+    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
+        s.Grid1.SetRowCount(s.Grid1.RowCount() + 1);
+        s.Grid1.FillCell(s.Grid1.RowCount(), 1, row["BriefType"].AsText());
+        s.Grid1.FillCell(s.Grid1.RowCount(), 2, row["BriefTypeName"].AsText());
+    }
+}
+
+void FillEntries(frmBrief& s) {
+    s.title = "代码表：" + s.code;
+    s.Grid1.SetColumns({{.caption = "编号", .width = 12}, {.caption = "名称", .width = 24}});
+    const std::string sql = "select BriefCode,BriefName from briefDetail where briefType='" + s.code + "' Order By BriefCode";
+    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
+        s.Grid1.SetRowCount(s.Grid1.RowCount() + 1);
+        s.Grid1.FillCell(s.Grid1.RowCount(), 1, row["BriefCode"].AsText());
+        s.Grid1.FillCell(s.Grid1.RowCount(), 2, row["BriefName"].AsText());
+    }
+}
+
+void FillColumns(frmBrief& s) {
+    s.title = "栏目设置";
+    s.Grid1.SetColumns({{.caption = "显示", .type = CellType::Number, .decimals = 0},
+                        {.caption = "名称", .width = 24, .locked = true},
+                        {.caption = "FieldName", .hidden = true}});
+    const std::string sql = "select FieldName," + CaptionField() + ",FieldSelected from rptListDetail where ftable='" +
+                            s.table + "' Order By fieldID";
+    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
+        s.Grid1.SetRowCount(s.Grid1.RowCount() + 1);
+        const int at = s.Grid1.RowCount();
+        s.Grid1.FillCell(at, 1, row["FieldSelected"].AsLong());
+        s.Grid1.FillCell(at, 2, row[CaptionField()].AsText());
+        s.Grid1.FillCell(at, 3, row["FieldName"].AsText());
+    }
+}
+
+// The entries as typed: no quote, no code twice, no entry without a name. False after a message.
+bool EntriesAreSound(const frmBrief& s) {
+    std::set<std::string> codes;
+    for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
+        const std::string code = Trim(s.Grid1.Text(row, 1));
+        const std::string name = Trim(s.Grid1.Text(row, 2));
+        if (!CheckNoQuote(code) || !CheckNoQuote(name))
+            return false;
+        if (code.empty() || name.empty()) {
+            Warn(s.title, "第 " + std::to_string(row) + " 行：编号与名称不能为空值！");
+            return false;
+        }
+        if (!codes.insert(UpperCase(code)).second) {
+            Warn(s.title, "编号 " + code + " 重复！");
+            return false;
+        }
+    }
+    return true;
+}
+
+void SaveEntries(const frmBrief& s) {
+    Transaction transaction(Conn());
+    Conn().Execute("Delete From briefDetail Where briefType='" + s.code + "'");
+    Recordset entries(Conn(), "select * from briefDetail where briefType='" + s.code + "'", Access::Write);
+    for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
+        entries.AddNew();
+        entries.Set("briefType", s.code);
+        entries.Set("BriefCode", Trim(s.Grid1.Text(row, 1)));
+        entries.Set("BriefName", Trim(s.Grid1.Text(row, 2)));
+        entries.Update();
+    }
+    transaction.Commit();
+}
+
+void SaveColumns(const frmBrief& s) {
+    Transaction transaction(Conn());
+    for (int row = 1; row <= s.Grid1.RowCount(); ++row)
+        Conn().Execute("Update rptListDetail Set fieldID=" + std::to_string(row) + ",FieldSelected=" +
+                       (s.Grid1.Number(row, 1) != 0 ? "1" : "0") + " Where ftable='" + s.table + "' And FieldName='" +
+                       s.Grid1.Text(row, 3) + "'");
+    transaction.Commit();
+}
+
+void Confirm(frmBrief& s) {
+    const int row = s.Grid1.selectedRow;
+    if (s.kind == BriefKind::EditEntries) {
+        if (!EntriesAreSound(s))
+            return;
+        SaveEntries(s);
+    } else if (s.kind == BriefKind::SelectColumns) {
+        SaveColumns(s);
+    }
+    if (s.kind == BriefKind::SelectColumns)
+        s.chosen = s.table;
+    else if (row > 0)
+        s.chosen = s.Grid1.Text(row, s.kind == BriefKind::ChooseList ? 1 : 2);
+    s.Close();
+}
+
+void MoveRow(Grid& grid, int distance) {
+    const int from = grid.selectedRow;
+    const int to = from + distance;
+    if (from < 1 || to < 1 || to > grid.RowCount())
+        return;
+    for (int column = 1; column <= grid.ColumnCount(); ++column) {
+        const Value moved = grid.Cell(from, column);
+        grid.FillCell(from, column, grid.Cell(to, column));
+        grid.FillCell(to, column, moved);
+    }
+    grid.selectedRow = to;
+}
+
+} // namespace
+
+frmBrief::frmBrief() : Screen("frmBrief") {
+    cmdAdd.onClick = [this] { GridAppendRow(Grid1, 1); };
+    cmdDelete.onClick = [this] { GridAppendRow(Grid1, 2); };
+    cmdUp.onClick = [this] { MoveRow(Grid1, -1); };
+    cmdDown.onClick = [this] { MoveRow(Grid1, 1); };
+    cmdOk.onClick = [this] { Confirm(*this); };
+    cmdCancel.onClick = [this] { Close(); };
+    Grid1.onDoubleClick = [this](int) {
+        if (kind == BriefKind::ChooseList)
+            Confirm(*this);
+    };
+    Grid1.onEnterKey = [this] {
+        if (kind == BriefKind::EditEntries)
+            GridAppendRow(Grid1, 1);
+    };
+}
+
+void frmBrief::Open() {
+    chosen.clear();
+    const bool entries = kind == BriefKind::EditEntries;
+    const bool columns = kind == BriefKind::SelectColumns;
+    cmdAdd.visible = cmdDelete.visible = entries;
+    cmdUp.visible = cmdDown.visible = columns;
+    if (entries)
+        FillEntries(*this);
+    else if (columns)
+        FillColumns(*this);
+    else
+        FillLists(*this);
+    MoveFocus(&Grid1);
+}
+
+std::string CodeListScreen::Edit(const std::string& table, const std::string& code, BriefKind kind) {
+    frmBrief screen;
+    screen.table = table;
+    screen.code = code;
+    screen.kind = kind;
+    ShowModal(screen);
+    return screen.chosen;
+}
+
+} // namespace jxc

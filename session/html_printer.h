@@ -1,0 +1,15 @@
+// Prints to an HTML file in the folder "Sheet" below PowerPath (the system's temporary folder when that is empty), and
+// opens it with the desktop's program.
+#pragma once
+
+#include "session/components.h"
+
+namespace jxc {
+
+class HtmlPrinter : public Printer {
+  public:
+    void Print(const GridPrintJob& job) override;
+    void Print(const TemplatePrintJob& job) override;
+};
+
+} // namespace jxc

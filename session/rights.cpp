@@ -1,0 +1,56 @@
+#include "session/rights.h"
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "session/database/open_connection.h"
+#include "session/database/recordset.h"
+#include "session/messages.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+void OpenIfClosed() {
+    if (!session.Conn)
+        session.Conn = std::make_unique<Connection>();
+    if (!session.Conn->IsOpen())
+        OpenConnection(session.SQLData, *session.Conn, session.UserPath, session.Password, session.UserID,
+                       session.Default);
+}
+
+} // namespace
+
+Module GetModule(const std::string& moduleName) {
+    OpenIfClosed();
+    const std::string captionField = "Model_Name_" + std::to_string(session.Language);
+    const Recordset row(Conn(), "select SerialNo,model_Name," + captionField + ",SecondPass,password from tSysFunc" +
+                                    " Where NoUse_=0 And (Model_Name = '" + moduleName + "' or " + captionField +
+                                    " = '" + moduleName + "')");
+    if (row.AtEnd())
+        return {};
+    Module module;
+    module.serial = static_cast<int>(Val(row["SerialNo"].AsText()));
+    module.name = row["model_Name"].AsText();
+    module.caption = row[captionField].AsText();
+    if (Val(row["SecondPass"].AsText()) == 1)
+        module.password = row["password"].AsText();
+    return module;
+}
+
+int ModuleRight(const std::string& moduleName, int offset) {
+    if (session.UserName.empty())
+        return 0;
+    if (moduleName.empty())
+        return 1;
+    const int serial = GetModule(moduleName).serial;
+    if (serial == 0)
+        return 0;
+    if (serial != -1 && Val(MidText(session.myPower, serial + offset, 1)) == 0) {
+        Warn("", GetResStr(kMsgNoRight));
+        return 0;
+    }
+    return serial + offset;
+}
+
+} // namespace jxc

@@ -1,0 +1,93 @@
+#include "settings/document_numbers.h"
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "session/book.h"
+#include "session/database/recordset.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+// In the order of the search; the first one found anywhere in a rule wins.
+const char* const kDateTokens[] = {"YYYYMMDD", "YYYYMM", "MMDDYYYY", "DDMMYYYY", "YYYY", "YYMMDD",
+                                   "YYMM",     "DDMMYY", "MMYY",     "MMDD",     "DDMM"};
+
+std::string DateByToken(Date date, const std::string& token) {
+    const std::string iso = IsoText(date);
+    std::string text;
+    for (size_t at = 0; at < token.size();) {
+        if (token.compare(at, 4, "YYYY") == 0) {
+            text += iso.substr(0, 4);
+            at += 4;
+            continue;
+        }
+        const std::string pair = token.substr(at, 2);
+        text += pair == "YY" ? iso.substr(2, 2) : pair == "MM" ? iso.substr(5, 2) : iso.substr(8, 2);
+        at += 2;
+    }
+    return text;
+}
+
+// The rule without its counter, its date token expanded.
+std::string StemOf(Date date, const std::string& rule, size_t counterDigits) {
+    const std::string fixed = rule.substr(0, rule.size() - counterDigits);
+    for (const std::string token : kDateTokens) {
+        const size_t at = fixed.find(token);
+        if (at != std::string::npos)
+            return fixed.substr(0, at) + DateByToken(date, token) + fixed.substr(at + token.size());
+    }
+    return fixed;
+}
+
+std::string LastCharacters(const std::string& text, size_t count) { return text.substr(text.size() - count); }
+
+// The largest counter stored under the stem, "" when there is none.
+std::string LargestCounter(const std::string& stem, size_t counterDigits, int series) {
+    const bool account = series >= kSeriesCustomerAccount;
+    const std::string table = account ? "tAccountDetail" : BookStem(series, false) + "02";
+    const std::string field = account ? "fAcntNo" : "fInvNo";
+    const std::string length = std::to_string(CharacterCount(stem));
+    const std::string counter = std::string(Dialect("mid", "SUBSTRING")) + "(" + field + "," +
+                                std::to_string(CharacterCount(stem) + 1) + "," + std::to_string(counterDigits) + ")";
+    const Recordset row(Conn(), "select max(" + counter + ") as invID from " + table + " where left(" + field + "," +
+                                    length + ")='" + stem + "'" + " and IsNumeric(" + counter + ")" +
+                                    Dialect("", "=1"));
+    return row.AtEnd() ? "" : row["invID"].AsText();
+}
+
+} // namespace
+
+std::string NextDocumentNo(Date date, std::string& rule, int series) {
+    rule = UpperCase(rule);
+    size_t counterDigits = 0;
+    while (counterDigits < rule.size() && rule[rule.size() - 1 - counterDigits] == 'X')
+        ++counterDigits;
+    if (counterDigits == 0)
+        return "";
+    const std::string stem = StemOf(date, rule, counterDigits);
+    const std::string zeros(counterDigits, '0');
+    if (series != kSeriesTest) {
+        const std::string largest = LargestCounter(stem, counterDigits, series);
+        if (!largest.empty())
+            return stem + LastCharacters(zeros + "000000000000" + NumberText(Val(largest) + 1), counterDigits);
+    }
+    return stem + LastCharacters(zeros + "1", counterDigits);
+}
+
+bool CheckNumberRule(const std::string& rule) {
+    if (rule.find_first_of("'*#%_") == std::string::npos && rule.ends_with("XXX"))
+        return true;
+    Warn("", " [自动单号]设定--规则如下：\n"
+             "\n"
+             " 1、[年月日]（可选）：表示为 [年] YYYY/YY、[月] MM、[日] DD ；\n"
+             " 2、单号尾部的[自动计数位]（必须）：表示为 XXX... ；\n"
+             " 3、可以使用[特定字符]（可选）以区别不同单据类型： 例如 R-入库 C-出库 ... ；\n"
+             " 4、可以使用[分隔符号]（可选）： - [ ] ！\n"
+             "\n"
+             "    举例说明，[入库单]也可以设定为：YYYYMMDD-RXXX (共13位数)");
+    return false;
+}
+
+} // namespace jxc

@@ -1,0 +1,39 @@
+#include "settings/type_row.h"
+
+#include "session/database/recordset.h"
+#include "session/session.h"
+
+namespace jxc {
+
+std::optional<TypeRow> ReadTypeRow(int type) {
+    const Recordset row(Conn(), "select * from tJXC_InvSet where fSetNo=" + std::to_string(type) +
+                                    " And fSetNoUse_<>1 Order by fRowID");
+    if (row.AtEnd())
+        return std::nullopt;
+    const auto choice = [&](const char* field) { return row[field].IsNull() ? -1 : static_cast<int>(row[field].AsLong()); };
+    const auto flag = [&](const char* field) { return row[field].AsLong() == 1; };
+    TypeRow read;
+    read.fSetNo = type;
+    read.fSetName = row["fSetName"].AsText();
+    read.fSetTjType = choice("fSetTjType");
+    read.fSetKhType = choice("fSetKhType");
+    read.fSetWlType = choice("fSetWlType");
+    read.fSetZjType = choice("fSetZjType");
+    read.fSetDjBack_ = flag("fSetDjBack_");
+    read.fSetDjDd_ = flag("fSetDjDd_");
+    read.fSetAutoNo = row["fSetAutoNo"].AsText();
+    read.fSetCkName1 = row["fSetCkName1"].AsText();
+    read.fSetCkType1 = choice("fSetCkType1");
+    read.fSetCrType1 = choice("fSetCrType1");
+    read.fSetCkName2 = row["fSetCkName2"].AsText();
+    read.fSetCkType2 = choice("fSetCkType2");
+    read.fSetDjType1 = choice("fSetDjType1");
+    read.fSetDjType2 = choice("fSetDjType2");
+    read.fSetHb_ = flag("fSetHb_");
+    read.fSetHbSl_ = flag("fSetHbSl_");
+    read.fSetKc_ = flag("fSetKc_");
+    read.fSetJy_ = flag("fSetJy_");
+    return read;
+}
+
+} // namespace jxc
