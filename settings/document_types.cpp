@@ -35,12 +35,18 @@ constexpr std::array<DocumentTypeRow, 22> kTypes{{
 }};
 // clang-format on
 
-Value Cell(std::optional<std::int16_t> number) { return number ? Value(int{*number}) : Value(); }
-Value Cell(std::optional<std::string_view> text) { return text ? Value(*text) : Value(); }
+Value Cell(std::optional<std::int16_t> number) {
+    return number ? Value(int{*number}) : Value();
+}
+Value Cell(std::optional<std::string_view> text) {
+    return text ? Value(*text) : Value();
+}
 
 } // namespace
 
-std::span<const DocumentTypeRow> DefaultDocumentTypes() { return kTypes; }
+std::span<const DocumentTypeRow> DefaultDocumentTypes() {
+    return kTypes;
+}
 
 std::vector<Value> RecordCells(const DocumentTypeRow& type, int fRowID) {
     return {

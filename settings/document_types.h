@@ -1,6 +1,6 @@
-// The document types as the system ships them: what a company starts with, and what the settings screen offers while the
-// company has none. A type's row decides everything a document of it does: the customers, warehouses and prices it
-// takes, what its approval posts, and how its numbers are built.
+// The document types as the system ships them: what a company starts with, and what the settings screen
+// offers while the company has none. A type's row decides everything a document of it does: the customers,
+// warehouses and prices it takes, what its approval posts, and how its numbers are built.
 #pragma once
 
 #include <cstdint>
@@ -13,8 +13,9 @@
 
 namespace jxc {
 
-// One type; the members stand in the column order of tJXC_InvSet, on which the settings screen relies. A member without
-// a value is a cell without one. fRowID, fSetTestNo, fSetDefaultNo and fSetNoUse_ are the same for all and left out.
+// One type; the members stand in the column order of tJXC_InvSet, on which the settings screen relies. A
+// member without a value is a cell without one. fRowID, fSetTestNo, fSetDefaultNo and fSetNoUse_ are the same
+// for all and left out.
 struct DocumentTypeRow {
     std::int16_t fSetNo;
     std::string_view fSetName;
@@ -26,7 +27,8 @@ struct DocumentTypeRow {
     std::optional<std::int16_t> fSetDjDd_;
     std::string_view fSetAutoNo;
     std::optional<std::string_view> fSetCkName1;
-    std::int16_t fSetCkType1; // -1 none, 0 any, 1 head office, 2 retail, 3 consignment, 4 production, 5 not consignment
+    std::int16_t fSetCkType1; // -1 none, 0 any, 1 head office, 2 retail, 3 consignment, 4 production, 5 not
+                              // consignment
     std::int16_t fSetCrType1; // 1 in, 2 out
     std::optional<std::string_view> fSetCkName2;
     std::int16_t fSetCkType2;

@@ -1,0 +1,60 @@
+#include "host/company/create_company.h"
+
+#include <cstdio>
+
+#include <libpq-fe.h>
+
+#include "host/company/code_lists.h"
+#include "host/company/column_dictionary.h"
+#include "host/company/default_settings.h"
+#include "host/company/sample_company.h"
+#include "session/database/schema.h"
+
+namespace jxc {
+
+namespace {
+
+void Fill(Connection& connection, CompanyKind kind) {
+    static constexpr CompanyHeader kUnnamed = {.name = "新公司"};
+    Transaction transaction(connection);
+    FillDefaultSettings(connection, kind == CompanyKind::Sample ? kSampleCompany : kUnnamed);
+    FillColumnDictionary(connection);
+    FillCodeLists(connection);
+    if (kind == CompanyKind::Sample)
+        FillSampleCompany(connection);
+    transaction.Commit();
+}
+
+// The tables stand already when filling fails. What goes wrong here is not told: the caller hears of the
+// first failure.
+void RemoveCompany(int dialect, const std::string& path) noexcept {
+    if (dialect == 0) {
+        for (const char* ending : {"", "-wal", "-shm", "-journal"})
+            std::remove((path + ending).c_str());
+        return;
+    }
+    std::string drop = "drop table if exists ";
+    for (const TableDef& table : AllTables())
+        drop += (&table == AllTables().data() ? "" : ",") + std::string(table.name);
+    PGconn* server = PQconnectdb(path.c_str());
+    PQclear(PQexec(server, drop.c_str()));
+    PQfinish(server);
+}
+
+} // namespace
+
+void CreateCompany(int dialect, const std::string& path, CompanyKind kind) {
+    Connection connection;
+    CreateCompanyTables(dialect, connection, path);
+    if (kind == CompanyKind::Bare)
+        return;
+    try {
+        Fill(connection, kind);
+    } catch (...) {
+        connection.Close();
+        RemoveCompany(dialect, path);
+        throw;
+    }
+}
+
+} // namespace jxc
