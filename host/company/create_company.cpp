@@ -2,12 +2,11 @@
 
 #include <cstdio>
 
-#include <libpq-fe.h>
-
 #include "host/company/code_lists.h"
 #include "host/company/column_dictionary.h"
 #include "host/company/default_settings.h"
 #include "host/company/sample_company.h"
+#include "session/database/engine.h"
 #include "session/database/schema.h"
 
 namespace jxc {
@@ -27,32 +26,35 @@ void Fill(Connection& connection, CompanyKind kind) {
 
 // The tables stand already when filling fails. What goes wrong here is not told: the caller hears of the
 // first failure.
-void RemoveCompany(int dialect, const std::string& path) noexcept {
+void RemoveCompany(int dialect, Connection& connection, const std::string& path) noexcept {
     if (dialect == 0) {
+        connection.Close();
         for (const char* ending : {"", "-wal", "-shm", "-journal"})
             std::remove((path + ending).c_str());
         return;
     }
-    std::string drop = "drop table if exists ";
+    std::string tables;
     for (const TableDef& table : AllTables())
-        drop += (&table == AllTables().data() ? "" : ",") + std::string(table.name);
-    PGconn* server = PQconnectdb(path.c_str());
-    PQclear(PQexec(server, drop.c_str()));
-    PQfinish(server);
+        tables += (tables.empty() ? "" : ",") + std::string(table.name);
+    try {
+        connection.EngineInUse().ExecuteScript("drop table " + tables);
+    } catch (const DatabaseError&) {
+    }
 }
 
 } // namespace
 
-void CreateCompany(int dialect, const std::string& path, CompanyKind kind) {
+void CreateCompany(int dialect, const std::string& path, CompanyKind kind,
+                   std::function<void(std::string_view)> observer) {
     Connection connection;
     CreateCompanyTables(dialect, connection, path);
     if (kind == CompanyKind::Bare)
         return;
+    connection.SetObserver(std::move(observer));
     try {
         Fill(connection, kind);
     } catch (...) {
-        connection.Close();
-        RemoveCompany(dialect, path);
+        RemoveCompany(dialect, connection, path);
         throw;
     }
 }

@@ -1,0 +1,242 @@
+// What a new company holds, on both engines, and that a creation that fails leaves nothing.
+#include "host/company/create_company.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <set>
+
+#include <gtest/gtest.h>
+#include <libpq-fe.h>
+#include <unistd.h>
+
+#include "controls/date.h"
+#include "controls/text.h"
+#include "session/database/open_connection.h"
+#include "session/database/recordset.h"
+#include "session/database/schema.h"
+#include "settings/document_types.h"
+
+namespace jxc {
+
+namespace {
+
+// A place for one company: a file, or an empty database of the test server. Gone afterwards.
+class NewCompany : public testing::TestWithParam<int> {
+  protected:
+    void SetUp() override {
+        if (GetParam() == 0) {
+            const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+            std::string file = std::string("jxc_") + test->name() + "_" + std::to_string(getpid()) + ".db";
+            std::replace(file.begin(), file.end(), '/', '_');
+            path = std::filesystem::temp_directory_path() / file;
+            return;
+        }
+        const char* server = std::getenv("JXC_TEST_PG");
+        if (!server)
+            GTEST_SKIP() << "JXC_TEST_PG names no PostgreSQL";
+        server_ = server;
+        const std::string database = "jxc_new_company";
+        OnServer("drop database if exists " + database);
+        OnServer("create database " + database);
+        path = server_ + (server_.find('?') == std::string::npos ? "?" : "&") + "dbname=" + database;
+    }
+    void TearDown() override {
+        connection.Close();
+        if (GetParam() == 0) {
+            for (const char* ending : {"", "-wal", "-shm"})
+                std::filesystem::remove(path + ending);
+        } else if (!server_.empty()) {
+            OnServer("drop database if exists jxc_new_company");
+        }
+    }
+    void Create(CompanyKind kind) {
+        CreateCompany(GetParam(), path, kind);
+        OpenConnection(GetParam(), connection, path, "", "", "");
+    }
+    std::string Scalar(const std::string& sql) { return Recordset(connection, sql)[size_t{0}].AsText(); }
+    int Count(const std::string& fromWhere) {
+        return static_cast<int>(
+            Recordset(connection, "Select Count(*) From " + fromWhere)[size_t{0}].AsLong());
+    }
+
+    std::string path;
+    Connection connection;
+
+  private:
+    void OnServer(const std::string& sql) {
+        PGconn* server = PQconnectdb(server_.c_str());
+        PGresult* result = PQexec(server, sql.c_str());
+        EXPECT_EQ(PQresultStatus(result), PGRES_COMMAND_OK) << PQerrorMessage(server);
+        PQclear(result);
+        PQfinish(server);
+    }
+    std::string server_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Engines, NewCompany, testing::Values(0, 1),
+                         [](const auto& engine) { return engine.param == 0 ? "SQLite" : "PostgreSQL"; });
+
+TEST_P(NewCompany, HoldsTheDocumentTypes) {
+    Create(CompanyKind::Default);
+    Recordset types(connection, "select * from tJXC_InvSet where fSetNoUse_<>1 Order by fRowID");
+    ASSERT_EQ(types.RecordCount(), 22u);
+    const int order[] = {20, 21, 22, 23, 24, 0, 1, -1, 2, -2, 3, 4, 5, -5, 6, -6, 7, -7, 31, 32, 51, 52};
+    for (int fRowID = 1; fRowID <= 22; ++fRowID, types.MoveNext()) {
+        EXPECT_EQ(types[size_t{0}].AsLong(), fRowID);
+        EXPECT_EQ(types["fSetNo"].AsLong(), order[fRowID - 1]);
+        EXPECT_EQ(types["fSetDefaultNo"].AsText(), types["fSetAutoNo"].AsText());
+        EXPECT_EQ(types["fSetTestNo"], Value(""));
+    }
+
+    const auto row = [&](int fSetNo) {
+        std::string cells;
+        Recordset type(connection, "select * from tJXC_InvSet where fSetNo=" + std::to_string(fSetNo));
+        for (size_t column = 1; column < type.FieldCount(); ++column)
+            cells += (column == 1 ? "" : "|") + (type[column].IsNull() ? "." : type[column].AsText());
+        return cells;
+    };
+    EXPECT_EQ(row(1), "1|入库单|1|1|2|.|0|1|YYYYMMDDRKXXX||仓库|1|1|.|-1|1|1|1|1|1|0|YYYYMMDDRKXXX|0");
+    EXPECT_EQ(row(4), "4|盘点单|4|-1|-1|.|.|.|YYYYMMDDPDXXX||仓库|0|1|.|-1|4|1|1|.|1|0|YYYYMMDDPDXXX|0");
+    EXPECT_EQ(row(-6),
+              "-6|代销退货单|3|2|-1|.|1|1|YYYYMMDDDFXXX||出库|1|2|代销仓库|3|4|3|1|.|1|0|YYYYMMDDDFXXX|0");
+    EXPECT_EQ(row(52),
+              "52|内部资金帐|.|-1|-1|.|.|.|YYYYMMZJXXXXX||.|-1|-1|.|-1|-1|-1|0|.|0|0|YYYYMMZJXXXXX|0");
+}
+
+TEST_P(NewCompany, BeginsItsBooksOnTheFirstOfTheMonth) {
+    Create(CompanyKind::Default);
+    const std::string first = IsoText(Today()).substr(0, 8) + "01";
+    Recordset system(connection, "select * from tJXC_InvSys");
+    ASSERT_EQ(system.RecordCount(), 1u);
+    EXPECT_EQ(system["fSysDate"].AsText(), first);
+    EXPECT_EQ(system["fSysDay"].AsLong(), 1);
+    EXPECT_EQ(system["fSysFun10"].AsLong(), 1);
+    EXPECT_EQ(Scalar("select CompDate from SystemSets"), first);
+    EXPECT_EQ(Scalar("Select MoneyCode,0 as aa from Moneys Order By MoneyType desc"), "人民币");
+    EXPECT_EQ(Count("tJXC_Cp"), 0);
+    EXPECT_EQ(Count("tJXC_Ck"), 0);
+}
+
+TEST_P(NewCompany, HasACaptionForEveryProductFieldShown) {
+    Create(CompanyKind::Default);
+    const TableDef& products = *FindTable("tJXC_Cp");
+    Recordset columns(connection, "select * from RptListDetail where ftable='tJxc_Cp' order by fieldID");
+    EXPECT_EQ(columns.RecordCount(),
+              products.fields.size() - 2); // the keys of product and supplier have none
+    for (; !columns.AtEnd(); columns.MoveNext()) {
+        EXPECT_NE(FindField(products, columns["FieldName"].AsText()), nullptr);
+        EXPECT_NE(columns["FieldName_0"].AsText(), "");
+        EXPECT_NE(columns["FieldName_1"].AsText(), "");
+    }
+    Recordset counted(connection,
+                      "select FieldName_1,FieldName from tJXC_rptListDetail Where FieldName_1<>'' "
+                      "And fieldID<7 Order by fieldID");
+    std::string captions;
+    for (; !counted.AtEnd(); counted.MoveNext())
+        captions += counted[size_t{0}].AsText() + "=" + counted[1].AsText() + " ";
+    EXPECT_EQ(captions,
+              "编码=fCpCode 品名规格=fCpName 单位=fCpUnit 帐面数=fInvSl2 实盘数=fInvSl9 盈亏数=fInvSl ");
+}
+
+TEST_P(NewCompany, BareHasTablesOnly) {
+    Create(CompanyKind::Bare);
+    for (const TableDef& table : AllTables())
+        EXPECT_EQ(Count(std::string(table.name)), 0) << table.name;
+}
+
+TEST_P(NewCompany, SampleProductsFitTheirFields) {
+    Create(CompanyKind::Sample);
+    Recordset products(connection, "select * from tJXC_Cp Order By fCpID");
+    ASSERT_GE(products.RecordCount(), 60u);
+    std::set<std::string> codes, barCodes;
+    for (int fCpID = 2; !products.AtEnd(); products.MoveNext(), ++fCpID) {
+        const std::string code = products["fCpCode"].AsText();
+        EXPECT_EQ(products["fCpID"].AsLong(), fCpID); // the first key handed out is 2
+        EXPECT_TRUE(codes.insert(code).second) << code;
+        EXPECT_TRUE(barCodes.insert(products["fCpBarCode"].AsText()).second) << code;
+        EXPECT_EQ(products["fCpBarCode"].AsText().size(), 13u);
+        EXPECT_LE(AnsiByteLength(code), 20);
+        EXPECT_LE(AnsiByteLength(products["fCpName"].AsText()), 50) << code;
+        EXPECT_LE(AnsiByteLength(products["fCpGG"].AsText()), 30) << code;
+        EXPECT_LE(AnsiByteLength(products["fCpUnit"].AsText()), 8) << code;
+        for (int price = 1; price < 4; ++price)
+            EXPECT_GT(products["fCpPrice" + std::to_string(price)].AsDouble(),
+                      products["fCpPrice" + std::to_string(price - 1)].AsDouble())
+                << code;
+        EXPECT_LE(products["fCpSlMin"].AsDouble(), products["fCpSlMax"].AsDouble()) << code;
+    }
+    EXPECT_EQ(Count("tJXC_Cp a Left Join cards b On a.fKhID=b.fID Where a.fKhID>0 And (b.fType0 is null or "
+                    "b.fType0<>1 or b.CompName<>a.fKhName)"),
+              0);
+    EXPECT_EQ(Count("tJXC_Cp Where fCkName<>'' And fCkName not in (Select fCkName From tJXC_Ck)"), 0);
+    // Each category, location and origin can be picked from its list.
+    for (const std::string field : {"fCpZy", "fCpCw", "fCpCd"})
+        EXPECT_EQ(Count("tJXC_Cp Where " + field + "<>'' And " + field +
+                        " not in (Select BriefName From briefDetail Where briefType='" + field + "')"),
+                  0);
+    // A kit costs what its parts cost, and the kit product carries that cost.
+    Recordset kits(connection, "select a.fTjID,a.fTjJe,b.fCpPrice0 from tJXC_CpTj01 a Left Join tJXC_Cp b "
+                               "On a.fCpID=b.fCpID Order By a.fTjID");
+    ASSERT_GE(kits.RecordCount(), 1u);
+    for (; !kits.AtEnd(); kits.MoveNext()) {
+        const double parts =
+            Val(Scalar("select sum(a.fCpPjSL*b.fCpPrice0) as fJe from tJXC_CpTj02 a Left Join tJXC_Cp b "
+                       "On a.fCpPjID=b.fCpID where a.fTjID=" +
+                       kits["fTjID"].AsText()));
+        EXPECT_NEAR(kits["fTjJe"].AsDouble(), parts, 1e-9);
+        EXPECT_NEAR(kits["fCpPrice0"].AsDouble(), parts, 1e-9);
+    }
+}
+
+TEST_P(NewCompany, SampleHasAWarehouseOfEachKind) {
+    Create(CompanyKind::Sample);
+    for (const char* kind : {"fCkType0", "fCkType1", "fCkType2", "fCkType3"})
+        EXPECT_EQ(Count(std::string("tJXC_Ck Where fCkFlag<>1 And ") + kind + "=1"), 1) << kind;
+    EXPECT_EQ(Scalar("Select b.compname From tJXC_Ck a, tAccounts b Where a.fCkType1=1 And b.compCode='1001' "
+                     "And a.fZhID=1001"),
+              "现金");
+    EXPECT_EQ(Scalar("Select b.fType0 From tJXC_Ck a Inner Join cards b On a.fKhID=b.fID Where a.fCkType2=1"),
+              "3");
+
+    EXPECT_EQ(Count("cards"), 20);
+    EXPECT_EQ(Scalar("Select min(fID) as fID From cards"), "2");
+    EXPECT_EQ(Count("cards Where fType0=3"), 3);
+}
+
+TEST_P(NewCompany, SampleSalespeopleFormOneTree) {
+    Create(CompanyKind::Sample);
+    EXPECT_EQ(Count("tJXC_Yj_Jbr"), 8);
+    EXPECT_EQ(Count("tJXC_Yj_Jbr Where fFloor=0"), 1);
+    EXPECT_EQ(Count("tJXC_Yj_Jbr a Inner Join tJXC_Yj_Jbr b On a.fName2=b.fName Where a.fFloor=b.fFloor+1"),
+              7);
+    EXPECT_EQ(Count("tJXC_Yj_Jbr Where fJbCode not in (Select fJbCode From tJXC_Yj_SetJb)"), 0);
+    EXPECT_EQ(Count("tRsBasic Where fBmName not in (Select fname From tRs_Bm)"), 0);
+    EXPECT_EQ(Count("tRsBasic Where fName in (Select fName From tJXC_Yj_Jbr)"), 8);
+}
+
+TEST_P(NewCompany, LeavesNothingWhenFillingFails) {
+    int statements = 0;
+    const auto failAtTheLastTable = [&](std::string_view sql) {
+        ++statements;
+        if (sql.find("tJXC_Yj_SetJb") != std::string_view::npos)
+            throw DatabaseError("no space left");
+    };
+    EXPECT_THROW(CreateCompany(GetParam(), path, CompanyKind::Sample, failAtTheLastTable), DatabaseError);
+    EXPECT_GT(statements, 1);
+    if (GetParam() == 0) {
+        EXPECT_FALSE(std::filesystem::exists(path));
+    }
+    // So the same place serves the next attempt.
+    Create(CompanyKind::Sample);
+    EXPECT_EQ(Count("tJXC_InvSet"), 22);
+}
+
+TEST_P(NewCompany, RefusesAPlaceThatIsTaken) {
+    Create(CompanyKind::Sample);
+    EXPECT_THROW(CreateCompany(GetParam(), path, CompanyKind::Default), DatabaseError);
+    EXPECT_EQ(Count("cards"), 20);
+}
+
+} // namespace
+
+} // namespace jxc
