@@ -48,7 +48,10 @@ Value TypedValue(const GridColumn& column, const std::string& text) {
         return {};
     if (!IsNumericText(digits))
         throw GestureRefused("“" + column.caption + "”只能输入数字。");
-    return Val(digits);
+    const double number = Val(digits);
+    if (RoundDecimal(number, column.decimals) != number)
+        throw GestureRefused("“" + column.caption + "”最多 " + std::to_string(column.decimals) + " 位小数。");
+    return number;
 }
 
 // Types the whole new text key by key over the selected old one. When a key is refused the old text comes back.

@@ -111,10 +111,18 @@ std::string NumberText(double number) {
 double RoundDecimal(double number, int decimals, Halves halves) {
     if (!std::isfinite(number) || number == 0)
         return 0;
+    // Most figures already have no more decimals than asked for, binary residue apart.
+    if (decimals >= 0 && decimals <= 12) {
+        static const double powers[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12};
+        const double scaled = number * powers[decimals];
+        const double nearest = std::nearbyint(scaled);
+        if (std::fabs(scaled) < 1e15 && std::fabs(scaled - nearest) <= 1e-15 * std::fabs(scaled))
+            return nearest / powers[decimals];
+    }
     // The 15 digits a person would see, as digits and a decimal exponent.
     char text[40];
     std::snprintf(text, sizeof text, "%.14e", std::fabs(number));
-    const int exponent = std::atoi(std::string_view(text).substr(17).data());
+    const int exponent = std::atoi(text + 17);
     std::string digits;
     digits += text[0];
     digits.append(text + 2, 14);
@@ -156,8 +164,12 @@ std::string FormatFixed(double number, int decimals, bool thousands) {
     return rounded < 0 ? "-" + text : text;
 }
 
-double WithoutResidue(double number, double scale) {
-    return std::fabs(number) <= 1e-12 * std::max(1.0, std::fabs(scale)) ? 0 : number;
+double AddDecimal(double a, double b) {
+    const double scale = std::max(std::fabs(a), std::fabs(b));
+    if (scale == 0)
+        return 0;
+    const int digitsBeforePoint = std::max(0, static_cast<int>(std::floor(std::log10(scale))) + 1);
+    return RoundDecimal(a + b, std::max(0, std::min(12, 15 - digitsBeforePoint)));
 }
 
 std::u32string ToCodePoints(std::string_view text) {

@@ -27,8 +27,9 @@ std::string FormatFixed(double number, int decimals, bool thousands = false);
 // Rounds to `decimals` decimals through the number's 15-digit decimal text, so that 0.00015 rounds as a person expects.
 enum class Halves { ToEven, AwayFromZero };
 double RoundDecimal(double number, int decimals, Halves halves = Halves::AwayFromZero);
-// The number without binary residue: a quantity that people see as 0 is 0 (15 significant digits relative to `scale`).
-double WithoutResidue(double number, double scale = 1.0);
+// a + b as a person adds decimal figures: without binary residue, so that 0.1 + 0.2 - 0.3 is 0 and what was added can be
+// taken away again. Twelve decimals and 15 digits are kept.
+double AddDecimal(double a, double b);
 
 // The code points of a UTF-8 text, and back.
 std::u32string ToCodePoints(std::string_view text);

@@ -38,19 +38,38 @@ Module GetModule(const std::string& moduleName) {
     return module;
 }
 
-int ModuleRight(const std::string& moduleName, int offset) {
+namespace {
+
+enum class Answer { Granted, Refused, NotInUse };
+
+Answer AskRight(const std::string& moduleName, int offset, int& result) {
+    result = 1;
     if (session.UserName.empty())
-        return 0;
+        return Answer::NotInUse;
     if (moduleName.empty())
-        return 1;
+        return Answer::Granted;
     const int serial = GetModule(moduleName).serial;
     if (serial == 0)
-        return 0;
-    if (serial != -1 && Val(MidText(session.myPower, serial + offset, 1)) == 0) {
+        return Answer::NotInUse;
+    if (serial != -1 && Val(MidText(session.myPower, serial + offset, 1)) == 0)
+        return Answer::Refused;
+    result = serial + offset;
+    return Answer::Granted;
+}
+
+} // namespace
+
+int ModuleRight(const std::string& moduleName, int offset) {
+    int result = 0;
+    const Answer answer = AskRight(moduleName, offset, result);
+    if (answer == Answer::Refused)
         Warn("", GetResStr(kMsgNoRight));
-        return 0;
-    }
-    return serial + offset;
+    return answer == Answer::Granted ? result : 0;
+}
+
+bool HasModuleRight(const std::string& moduleName, int offset) {
+    int result = 0;
+    return AskRight(moduleName, offset, result) == Answer::Granted;
 }
 
 } // namespace jxc

@@ -19,5 +19,7 @@ Module GetModule(const std::string& moduleName);
 // Not 0 when the user has the right `offset` digits behind the module's own. Without a user name, or for a module that
 // is not in use, the answer is 0 without a message; a digit "0" shows message 39.
 int ModuleRight(const std::string& moduleName, int offset);
+// The same without a message: for what is shown or disabled when a screen opens.
+bool HasModuleRight(const std::string& moduleName, int offset);
 
 } // namespace jxc

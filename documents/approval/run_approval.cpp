@@ -1,0 +1,171 @@
+#include "documents/approval/run_approval.h"
+
+#include <cstdlib>
+#include <functional>
+#include <vector>
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "documents/approval/stages.h"
+#include "documents/document_entry.h"
+#include "master/supplier_history.h"
+#include "session/book.h"
+#include "session/database/recordset.h"
+#include "session/database/routines.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+struct Stage {
+    std::string name;
+    std::function<void()> run;
+    bool failureMatters = true;
+};
+
+// The customer of the account entry: the chosen card, or the one that the list no longer offers.
+std::int64_t AccountCustomer(const frmDj02& s) {
+    return s.CustomerId() != 0 ? s.CustomerId() : static_cast<std::int64_t>(Val(s.txtKhSeek.tag));
+}
+
+void PostCustomerAccount(const frmDj02& s, bool reversal) {
+    const std::int64_t customer = AccountCustomer(s);
+    if (customer > 0)
+        PostAccountEntry(s, 0, s.type.fSetWlType == 1 ? 1 : 2, customer, reversal);
+}
+
+void PostMoneyAccount(const frmDj02& s, bool reversal) {
+    const auto account = static_cast<std::int64_t>(
+        Val(DbScalar("Select fZhID from tJXC_Ck Where fCkName='" + s.cboCkName.Chosen() + "'")));
+    if (account > 0)
+        PostAccountEntry(s, 1, s.type.fSetZjType == 3 ? 2 : 1, account, reversal);
+}
+
+void MarkApproved(const frmDj02& s, const std::string& stem, bool reversal) {
+    Conn().Execute("Update " + stem + "01 Set fInvSHR='" + (reversal ? "" : session.UserName) +
+                   "' Where fInvID=" + std::to_string(s.oldInvID));
+}
+
+// What the type's row says is to be done, in its fixed order.
+std::vector<Stage> StagesOf(const frmDj02& s, const std::string& stem, bool reversal) {
+    const TypeRow& type = s.type;
+    std::vector<Stage> stages;
+    if (!s.txtHtNo.text.empty() && s.invType != 31)
+        stages.push_back({"刷新原相关订单的结余数", [&s, reversal] { PostOrderBalance(s, reversal); }, !reversal});
+    if (type.fSetCkType1 >= 0 && !s.cboCkName.Chosen().empty())
+        stages.push_back({"更新仓库的产品“库存成本表”", [&s, reversal] { PostStock(s, reversal); }});
+    if (type.fSetTjType == 0 || type.fSetTjType == 1)
+        stages.push_back({"更新“整体成本价”", [&s, reversal] {
+                              PostOverallCost(s, reversal);
+                              if (s.invType == 1)
+                                  RefreshSupplierByDocument(s.Number(), reversal);
+                          }});
+    if (type.fSetTjType == 2 && !reversal)
+        stages.push_back({"读取“动态成本价”", [&s] { ReadCostPrice(s); }});
+    if (type.fSetWlType == 1 || type.fSetWlType == 2)
+        stages.push_back({"应收应付款自动挂入“客户往来帐户”", [&s, reversal] { PostCustomerAccount(s, reversal); }});
+    else if (type.fSetZjType == 3 || type.fSetZjType == 4)
+        stages.push_back({"实收实付款自动挂入“内部资金帐户”", [&s, reversal] { PostMoneyAccount(s, reversal); }});
+    stages.push_back({"单据审核标志处理", [&s, stem, reversal] { MarkApproved(s, stem, reversal); }});
+    return stages;
+}
+
+void RunStage(const Stage& stage) {
+    if (stage.failureMatters) {
+        stage.run();
+        Conn().Flush();
+        return;
+    }
+    try {
+        Conn().Tolerantly(stage.run);
+    } catch (const DatabaseError&) {
+        // The document is taken back all the same: an order that is gone has no balance to give back.
+    }
+}
+
+// Runs the stages in one transaction. The message for the user when nothing was done, "" on success.
+std::string Post(const frmDj02& s, bool reversal, const std::string& verb) {
+    const std::string stem = BookStem(s.invType, false);
+    std::string stageName = "单据审核标志处理";
+    try {
+        Transaction transaction(Conn());
+        const std::string refusal = ChangedMeanwhile(s, stem);
+        if (!refusal.empty())
+            return refusal;
+        const std::vector<Stage> stages = StagesOf(s, stem, reversal);
+        for (size_t i = 0; i < stages.size(); ++i) {
+            stageName = stages[i].name;
+            CurrentView().ShowProgress(stageName, static_cast<int>(i), static_cast<int>(stages.size()));
+            RunStage(stages[i]);
+        }
+        transaction.Commit();
+        return "";
+    } catch (const std::exception&) {
+        return stageName + "错误，" + verb + "操作未完成！";
+    }
+}
+
+void ShowApproval(frmDj02& s, const std::string& approver) {
+    s.cmdSave.enabled = false;
+    s.lblSHR.caption = approver;
+    s.lblSHR.visible = s.shpSHR.visible = !approver.empty();
+}
+
+// The check of the reversal against the host's funds module.
+bool AccountEntryIsOpen(frmDj02& s) {
+    const std::string date = Dialect(" And fDate=", " And Convert(varchar(10),fDate,120)=") + session.DateDelimiter +
+                             (session.IsJet() ? SlashText(*s.dtpInvDate.date) : IsoText(*s.dtpInvDate.date)) +
+                             session.DateDelimiter;
+    if (DbScalar("Select fChecker From tAccountDetail Where fInvID='" + s.Number() + "'" + date).empty())
+        return true;
+    Warn(s.title, "该单据所对应的“挂帐凭证”已经审核，不能进行单据反审核操作！\n\n"
+                  "须先在《资金管理系统》的 [客户往来帐]/[内部资金帐] 中，反审核该单据的“挂帐凭证”。");
+    return false;
+}
+
+} // namespace
+
+std::string ChangedMeanwhile(const frmDj02& s, const std::string& stem) {
+    if (s.InHand() == DocAction::New)
+        return "";
+    const std::string key = std::to_string(s.oldInvID);
+    const Recordset row(Conn(), "select fInvSHR from " + stem + "01 Where fInvID=" + key);
+    if (row.AtEnd())
+        return "该[单号]已不存在!";
+    const bool approved = !row["fInvSHR"].AsText().empty();
+    if (approved && s.InHand() != DocAction::Reverse)
+        return "该单据已经审核！";
+    if (!approved && s.InHand() == DocAction::Reverse)
+        return "该单据尚未审核！";
+    return StoredState(stem, s.oldInvID) == s.loadedState ? "" : "该单据已被其他用户修改，请重新打开！";
+}
+
+bool RunApproval(frmDj02& s, bool reversal, bool prompted) {
+    const std::string verb = reversal ? "反审核" : "审核";
+    const std::string effects = std::abs(s.invType) < 10 ? "系统将同时进行库存数刷新、往来帐处理等操作，" : "";
+    if (prompted && !AskOkCancel("单据" + verb, s.Number() + "：单据" + verb + "，" + effects + "确定？"))
+        return false;
+    const std::string failure = Post(s, reversal, verb);
+    CurrentView().ShowProgress("", 0, 0);
+    if (!failure.empty()) {
+        Warn(s.title, failure);
+        return false;
+    }
+    if (prompted)
+        Inform(s.title, s.Number() + "：单据" + verb + "完毕！");
+    ShowApproval(s, reversal ? "" : session.UserName);
+    return true;
+}
+
+void ReverseApproval(frmDj02& s) {
+    const std::string approver = s.lblSHR.caption;
+    if (session.UserName != session.ZgName && session.UserName != approver) {
+        Warn(s.title, "反审核：必须是“系统管理员”或者是该单据原“审核人”，才能够操作！");
+        return;
+    }
+    if (AccountEntryIsOpen(s))
+        RunApproval(s, true, true);
+}
+
+} // namespace jxc

@@ -1,0 +1,149 @@
+// The document's customer: search, choice, card fields, delivery addresses.
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "documents/document_entry.h"
+#include "session/database/recordset.h"
+#include "session/lists.h"
+#include "session/lookups.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+// The kind as messages name it; card kinds are those of the type row's fSetKhType.
+std::string KindText(std::int64_t kind) {
+    return kind == 1 ? "“供应商”" : kind == 2 ? "“销售商”" : kind == 3 ? "“代销商”" : "";
+}
+
+void FillAddresses(frmDj02& s, std::int64_t id) {
+    const std::string shown = s.cboKhAdd.text;
+    s.cboKhAdd.Clear();
+    if (id > 0) {
+        const std::string sql = "select fKhAdd from tJXC_KhAdd Where fKhID = " + std::to_string(id) + " Order by fKhAdd";
+        for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext())
+            s.cboKhAdd.items.push_back(row["fKhAdd"].AsText());
+    }
+    s.cboKhAdd.text = shown;
+}
+
+// The card's fields; false when there is no such card.
+bool FillCardFields(frmDj02& s, const Recordset& card) {
+    ClearCardFields(s);
+    if (card.AtEnd())
+        return false;
+    s.cboKhAdd.text = card["CompAdd"].AsText();
+    s.txtName.text = card["name"].AsText();
+    s.txtPostcode.text = card["postcode"].AsText();
+    s.txtTelphone.text = card["telphone"].AsText();
+    s.txtHandphone.text = card["handphone"].AsText();
+    s.txtFax.text = card["fax"].AsText();
+    s.txtE_mail.text = card["E_mail"].AsText();
+    s.txtHttp.text = card["http"].AsText();
+    return true;
+}
+
+Recordset CardOf(std::int64_t id) {
+    return Recordset(Conn(), "select fID,name,compname,CompAdd,postcode,CompCode,telphone,handphone,fax,E_mail,http,fType0 "
+                             "from cards where fID=" + std::to_string(id));
+}
+
+bool ConfirmAddress(const frmDj02& s, const char* verb, const std::string& address) {
+    return AskOkCancel(s.title, CustomerNameOf(s.cboKhList.Chosen()) + "：" + verb + "该" + s.lblKh.caption +
+                                    s.lblKhAdd.caption + "\n\n" + address + " ？");
+}
+
+Recordset StoredAddress(std::int64_t id, const std::string& address) {
+    return Recordset(Conn(),
+                     "select distinct fKhID,fKhAdd from tJXC_KhAdd Where fKhID = " + std::to_string(id) +
+                         " And fKhAdd='" + address + "'",
+                     Access::Write);
+}
+
+} // namespace
+
+void ClearCardFields(frmDj02& s) {
+    s.cboKhAdd.text.clear();
+    for (TextBox* box : {&s.txtName, &s.txtPostcode, &s.txtTelphone, &s.txtHandphone, &s.txtFax, &s.txtE_mail, &s.txtHttp})
+        box->text.clear();
+}
+
+void SeekCustomer(frmDj02& s) {
+    if (Trim(s.txtKhSeek.text).empty() || !IsEditing(s.InHand()))
+        return;
+    if (FindCustomerCard(s.cboKhList, s.txtKhSeek.text) == 0) {
+        Warn(s.title, "未有符合条件的" + s.lblKh.caption + "资料！");
+        ClearCardFields(s);
+        return;
+    }
+    RefreshCustomer(s);
+    s.MoveFocus(&s.cboKhList);
+}
+
+void RefreshCustomer(frmDj02& s) {
+    s.txtKhSeek.tag.clear();
+    const std::int64_t id = s.CustomerId();
+    const Recordset card = CardOf(id);
+    FillCardFields(s, card);
+    FillAddresses(s, id);
+    if (card.AtEnd())
+        return;
+    const std::int64_t kind = card["fType0"].AsLong();
+    if (kind != 0 && kind != s.type.fSetKhType) {
+        Warn(s.title, "提示：客户类型不符。\n\n[" + card["compname"].AsText() + "] 是 " + KindText(kind) + "！");
+        ClearCardFields(s);
+    }
+}
+
+void ShowCustomer(frmDj02& s, std::int64_t id) {
+    s.cboKhList.Clear();
+    s.txtKhSeek.text.clear();
+    s.txtKhSeek.tag.clear();
+    ClearCardFields(s);
+    if (id <= 0)
+        return;
+    const Recordset row(Conn(), "select fID,CompCode,compname from cards Where fID = " + std::to_string(id));
+    if (row.AtEnd()) {
+        s.txtKhSeek.tag = std::to_string(id);
+        s.txtKhSeek.text = "(" + std::to_string(id) + ") - Error";
+        return;
+    }
+    s.cboKhList.items.push_back(CustomerRow(row["compname"].AsText(), id));
+    s.cboKhList.SetIndex(0);
+    FillCardFields(s, CardOf(id));
+    FillAddresses(s, id);
+}
+
+void SaveAddress(frmDj02& s) {
+    const std::int64_t id = s.CustomerId();
+    const std::string address = Trim(s.cboKhAdd.text);
+    if (id < 1 || address.empty() || ComboIndexByText(s.cboKhAdd, address) >= 0)
+        return;
+    if (!s.cboKhAdd.items.empty() && !ConfirmAddress(s, "保存", address))
+        return;
+    Recordset stored = StoredAddress(id, address);
+    if (stored.AtEnd()) {
+        stored.AddNew();
+        stored.Set("fKhID", id);
+        stored.Set("fKhAdd", address);
+        stored.Update();
+    }
+    s.cboKhAdd.items.insert(s.cboKhAdd.items.begin(), address);
+    s.cboKhAdd.SetIndex(0);
+}
+
+void DeleteAddress(frmDj02& s) {
+    const std::int64_t id = s.CustomerId();
+    const std::string address = Trim(s.cboKhAdd.text);
+    const int at = ComboIndexByText(s.cboKhAdd, address);
+    if (id < 1 || address.empty() || at < 0 || !ConfirmAddress(s, "删除", address))
+        return;
+    Recordset stored = StoredAddress(id, address);
+    if (!stored.AtEnd())
+        stored.Delete();
+    s.cboKhAdd.items.erase(s.cboKhAdd.items.begin() + at);
+    s.cboKhAdd.SetIndex(s.cboKhAdd.items.empty() ? -1 : 0);
+}
+
+} // namespace jxc

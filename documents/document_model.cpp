@@ -1,0 +1,153 @@
+#include "documents/document_model.h"
+
+#include <cstdlib>
+
+#include "controls/text.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr Color kRed = 255;
+constexpr int kMemoBytes = 50;
+
+GridColumn Number(const char* caption, int decimals, double width = 10) {
+    return {.caption = caption, .type = CellType::Number, .decimals = decimals, .width = width, .alignment = Alignment::Right};
+}
+
+std::vector<GridColumn> LineColumns(const TypeRow& type, const Parameters& parameters) {
+    const bool stocktake = type.IsStocktake();
+    std::vector<GridColumn> columns{
+        {.caption = "编码", .width = 12},
+        {.caption = "品名规格", .width = 28},
+        {.caption = "单位", .width = 6},
+        Number(stocktake ? "帐面数" : "库存数", parameters.quantityDecimals),
+        Number("实盘数", parameters.quantityDecimals),
+        Number(stocktake ? "盈亏数" : "数量", parameters.quantityDecimals),
+        Number("参考价", parameters.priceDecimals),
+        Number("折扣率", 4),
+        Number("单价", parameters.priceDecimals),
+        Number("金额", 2, 12),
+        Number("税率", 4, 8),
+        Number("税额", 2),
+        {.caption = parameters.memo1, .width = 14, .maxBytes = kMemoBytes},
+        {.caption = parameters.memo2, .width = 14, .maxBytes = kMemoBytes},
+        Number("结余数", parameters.quantityDecimals),
+        Number("fID", 0),
+    };
+    return columns;
+}
+
+void HideColumns(Grid& grid, const TypeRow& type, const Parameters& parameters, DocAction action) {
+    const auto hide = [&](int column, bool hidden) { grid.Column(column).hidden = hidden; };
+    const bool noTax = !type.fSetHbSl_ || parameters.taxWay == TaxWay::None;
+    hide(line::kStock, !type.fSetKc_ && !type.IsStocktake());
+    hide(line::kCounted, !type.IsStocktake());
+    hide(line::kReference, type.fSetDjType1 == -1);
+    hide(line::kDiscount, true);
+    hide(line::kTaxRate, noTax);
+    hide(line::kTax, noTax);
+    hide(line::kMemo1, parameters.memo1.empty());
+    hide(line::kMemo2, parameters.memo2.empty());
+    hide(line::kBalance, !type.fSetJy_ || action == DocAction::New);
+    hide(line::kProduct, true);
+}
+
+void SetFormulas(Grid& grid, const TypeRow& type, const Parameters& parameters, DocAction action) {
+    if (!IsEditing(action)) {
+        if (type.IsStocktake())
+            grid.SetFormula(line::kCounted, "F#+D#");
+        return;
+    }
+    grid.SetFormula(line::kAmount, "F#*I#");
+    if (type.fSetDjType2 == 5)
+        grid.SetFormula(line::kPrice, "G#*H#");
+    if (type.IsStocktake())
+        grid.SetFormula(line::kQuantity, "E#-D#");
+    if (parameters.taxWay == TaxWay::OnTop)
+        grid.SetFormula(line::kTax, "J#*K#");
+    else if (parameters.taxWay == TaxWay::Contained)
+        grid.SetFormula(line::kTax, "J#*K#/(1+K#)");
+}
+
+} // namespace
+
+std::string ActionWord(DocAction action) {
+    static const char* const words[] = {"查询", "新增", "修改", "删除", "审核", "反审核"};
+    return words[static_cast<int>(action)];
+}
+
+void SetUpLineGrid(Grid& grid, const TypeRow& type, const Parameters& parameters, DocAction action) {
+    grid.SetColumns(LineColumns(type, parameters));
+    HideColumns(grid, type, parameters, action);
+    SetFormulas(grid, type, parameters, action);
+    for (const int column : {line::kUnit, line::kStock, line::kReference, line::kAmount, line::kTax})
+        grid.Column(column).locked = true;
+    grid.Column(line::kQuantity).locked = type.IsStocktake();
+    grid.Column(line::kQuantity).textColor = type.fSetDjBack_ ? kRed : kNormalColor;
+    grid.readOnly = !IsEditing(action);
+}
+
+double ShownNumber(const Grid& grid, int row, int column) {
+    return RoundDecimal(grid.Number(row, column), grid.Column(column).decimals);
+}
+
+double DocumentTotal(const Grid& grid) {
+    double total = 0;
+    for (int row = 1; row <= grid.RowCount(); ++row)
+        total += ShownNumber(grid, row, line::kAmount);
+    return RoundDecimal(total, 2);
+}
+
+double ReferenceTotal(const Grid& grid) {
+    double total = 0;
+    for (int row = 1; row <= grid.RowCount(); ++row)
+        total += grid.Number(row, line::kQuantity) * grid.Number(row, line::kReference);
+    return total;
+}
+
+int DirectionOfFirstRow(const TypeRow& type) {
+    return type.IsKit() || type.fSetCrType1 > 0 ? type.fSetCrType1 : -1;
+}
+
+int DirectionOfSecondRow(const TypeRow& type) {
+    if (!type.IsKit() && type.fSetCrType1 <= 0)
+        return -1;
+    return type.fSetCrType1 == 2 ? 1 : 2;
+}
+
+std::string PriceField(int priceKind) {
+    return priceKind >= 1 && priceKind <= 4 ? "fCpPrice" + std::to_string(priceKind - 1) : "";
+}
+
+std::string NameAndSpec(const std::string& name, const std::string& spec) {
+    return spec.empty() ? name : spec + "/" + name;
+}
+
+std::string CustomerCaption(const TypeRow& type) {
+    return type.fSetKhType == 1 ? "供应商" : type.fSetKhType == 2 ? "销售商" : "客户";
+}
+
+std::string AddressCaption(const TypeRow& type) {
+    const bool incoming = std::abs(type.fSetNo) == 1 || type.fSetNo == 23 || type.fSetNo == 21;
+    return incoming ? "发货地址" : "送货地址";
+}
+
+std::string PaymentCaption(const TypeRow& type) {
+    return type.fSetCrType1 == 2 ? "实收金额" : type.fSetCrType1 == 1 ? "实付金额" : "";
+}
+
+std::string FirstWarehouseCaption(const TypeRow& type) { return type.fSetCkName1.empty() ? "仓库" : type.fSetCkName1; }
+std::string SecondWarehouseCaption(const TypeRow& type) { return type.fSetCkName2.empty() ? "入库" : type.fSetCkName2; }
+
+int OrderTypeFor(int type) {
+    switch (std::abs(type)) {
+    case 1: return 23;
+    case 2:
+    case 6:
+    case 31: return 24;
+    default: return 0;
+    }
+}
+
+} // namespace jxc

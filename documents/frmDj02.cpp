@@ -1,0 +1,120 @@
+#include "documents/frmDj02.h"
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "documents/document_entry.h"
+#include "session/edit_filter.h"
+#include "session/lookups.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kNumberBytes = 20;
+
+void WireHead(frmDj02& s) {
+    for (Control* control : std::initializer_list<Control*>{
+             &s.cboInvType, &s.dtpInvDate, &s.txtNo, &s.txtHtNo, &s.cboCkName, &s.cboCkName2, &s.txtKhSeek, &s.cboKhList,
+             &s.cboKhAdd, &s.mnuKhAddDelete, &s.cboInvHb, &s.txtInvHbDl, &s.txtTaxRate, &s.txtZkl, &s.cboInvMemo,
+             &s.cboInvJbr, &s.chkFlag, &s.chkTh})
+        control->frame = &s.fraHead;
+    for (Control* control : std::initializer_list<Control*>{&s.txtName, &s.txtPostcode, &s.txtTelphone, &s.txtHandphone,
+                                                            &s.txtFax, &s.txtE_mail, &s.txtHttp})
+        control->frame = &s.fraKh2;
+
+    FilterKeys(s.txtNo, kNumberBytes);
+    FilterKeys(s.txtHtNo, kNumberBytes);
+    FilterKeys(s.txtInvHbDl, 12, true);
+    FilterKeys(s.txtTaxRate, 8, true);
+    FilterKeys(s.txtZkl, 8, true);
+    for (TextBox* box : {&s.txtNo, &s.txtHtNo, &s.txtKhSeek})
+        box->onLeave = [box] { return CheckNoQuote(box->text); };
+    for (ListBox* box : {&s.cboInvMemo, &s.cboInvJbr})
+        box->onLeave = [box] { return CheckNoQuote(box->text); };
+
+    s.dtpInvDate.onLeave = [&s] { return LeaveDate(s); };
+    s.cboCkName.onChoose = [&s] { ChooseWarehouse(s, false); };
+    s.cboCkName2.onChoose = [&s] { ChooseWarehouse(s, true); };
+    s.cboInvHb.onChoose = [&s] { ChooseCurrency(s); };
+    s.txtKhSeek.onKey = [&s](const std::string& key) {
+        if (key == "Enter")
+            SeekCustomer(s);
+    };
+    s.cboKhList.visibleText = CustomerNameOf;
+    s.cboKhList.onChoose = [&s] { RefreshCustomer(s); };
+    s.cboKhAdd.onLeave = [&s] {
+        if (!CheckNoQuote(s.cboKhAdd.text))
+            return false;
+        SaveAddress(s);
+        return true;
+    };
+    s.mnuKhAddDelete.onClick = [&s] { DeleteAddress(s); };
+    s.txtInvHbDl.onLeave = [&s] {
+        s.txtInvHbDl.text = FormatFixed(Val(s.txtInvHbDl.text), 4);
+        return true;
+    };
+    s.txtTaxRate.onLeave = [&s] {
+        SpreadTaxRate(s);
+        return true;
+    };
+    s.txtZkl.onLeave = [&s] {
+        SpreadDiscount(s);
+        return true;
+    };
+    s.chkTh.onChange = [&s] { SetReturnSign(s); };
+    s.cmdLoadKh2.onClick = [&s] { s.fraKh2.visible = !s.fraKh2.visible; };
+}
+
+void WireLinesAndFoot(frmDj02& s) {
+    s.Grid2.onEnter = [&s] { EnterGrid(s); };
+    s.Grid2.onEnterKey = [&s] { AppendLine(s); };
+    s.Grid2.onCellLeave = [&s](int row, int column) { LeaveCell(s, row, column); };
+    s.cmdAddRow.onClick = [&s] { InsertLine(s); };
+    s.cmdDeleteRow.onClick = [&s] { DeleteLine(s); };
+    s.txtSum.locked = true;
+    s.txtSum2.locked = true;
+    s.txtSsSf.onLeave = [&s] {
+        FormatPayment(s);
+        return true;
+    };
+    s.cmdPrevious.onClick = [&s] { StepToDocument(s, false); };
+    s.cmdNext.onClick = [&s] { StepToDocument(s, true); };
+    s.cmdNew.onClick = [&s] { ResetDocument(s); };
+    s.cmdSave.onClick = [&s] { SaveDocument(s); };
+    s.cmdQuit.onClick = [&s] { s.Close(); };
+}
+
+} // namespace
+
+frmDj02::frmDj02() : Screen("frmDj02") {
+    AddNumberProperty("Action", Action);
+    AddNumberProperty("invType", invType);
+    AddNumberProperty("OldType", OldType);
+    AddNumberProperty("oldInvID", oldInvID);
+    AddNumberProperty("JzState", JzState);
+    WireHead(*this);
+    WireLinesAndFoot(*this);
+}
+
+void frmDj02::Open() {
+    if (Action < 0 || Action > 5)
+        throw ScreenError("frmDj02 的 Action 须为 0 至 5。");
+    SetUpDocument(*this);
+    const bool fromSource = InHand() == DocAction::New && OldType > 0 && oldInvID > 0;
+    if (InHand() == DocAction::New && !fromSource) {
+        oldInvID = 0;
+        ResetDocument(*this);
+        return;
+    }
+    if (oldInvID > 0 && !LoadDocument(*this, fromSource ? OldType : invType, oldInvID))
+        return Close();
+    MoveFocus(IsEditing(InHand()) ? static_cast<Control*>(&dtpInvDate) : &cmdSave);
+}
+
+std::int64_t frmDj02::CustomerId() const { return CustomerIdOf(cboKhList.Chosen()); }
+
+void RegisterDocumentScreens() {
+    RegisterScreen("frmDj02", [] { return std::make_unique<frmDj02>(); });
+}
+
+} // namespace jxc

@@ -1,0 +1,103 @@
+// The entry screen of all document types. What a type shows and does follows from its row in the type table and from the
+// system parameters; see document_model.h. An opener sets Action, invType, OldType, oldInvID and JzState by name.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "controls/grid.h"
+#include "controls/screen.h"
+#include "documents/document_model.h"
+
+namespace jxc {
+
+struct frmDj02 : Screen {
+    frmDj02();
+    void Open() override;
+
+    // The upper panel: the document's header.
+    Frame fraHead{*this, "fraHead"};
+    ListBox cboInvType{*this, "cboInvType"};        // number in 3 characters, name behind
+    DateBox dtpInvDate{*this, "dtpInvDate"};
+    TextBox txtNo{*this, "txtNo"};                  // its tag keeps the number as loaded
+    Label lblHtNo{*this, "lblHtNo", "订单号"};
+    TextBox txtHtNo{*this, "txtHtNo"};
+    Label lblCkName{*this, "lblCkName", "仓库"};
+    ListBox cboCkName{*this, "cboCkName"};
+    Label lblCkName2{*this, "lblCkName2", "入库"};
+    ListBox cboCkName2{*this, "cboCkName2"};
+    Label lblKh{*this, "lblKh", "客户"};
+    TextBox txtKhSeek{*this, "txtKhSeek"};          // its tag keeps a card that the list cannot show
+    ListBox cboKhList{*this, "cboKhList"};          // name in 80 characters, card number behind
+    Label lblKhAdd{*this, "lblKhAdd", "送货地址"};
+    ListBox cboKhAdd{*this, "cboKhAdd", true};
+    MenuItem mnuKhAddDelete{*this, "mnuKhAddDelete", "删除该地址"};
+    Label lblInvHb{*this, "lblInvHb", "货币"};
+    ListBox cboInvHb{*this, "cboInvHb"};
+    TextBox txtInvHbDl{*this, "txtInvHbDl", "1.0000"};
+    Label lblTaxRate{*this, "lblTaxRate", "税率"};
+    TextBox txtTaxRate{*this, "txtTaxRate", "0"};
+    Label lblZkl{*this, "lblZkl", "单价=参考价ｘ折扣"};
+    TextBox txtZkl{*this, "txtZkl"};
+    ListBox cboInvMemo{*this, "cboInvMemo", true};
+    ListBox cboInvJbr{*this, "cboInvJbr", true};
+    CheckBox chkFlag{*this, "chkFlag", "中止！"};
+    CheckBox chkTh{*this, "chkTh", "退货"};
+    Label lblTh{*this, "lblTh", "退货"};
+    Frame shpTh{*this, "shpTh"};
+
+    // The customer's card.
+    Button cmdLoadKh2{*this, "cmdLoadKh2", "客户资料(&K)"};
+    Frame fraKh2{*this, "fraKh2", "客户资料"};
+    TextBox txtName{*this, "txtName"};
+    TextBox txtPostcode{*this, "txtPostcode"};
+    TextBox txtTelphone{*this, "txtTelphone"};
+    TextBox txtHandphone{*this, "txtHandphone"};
+    TextBox txtFax{*this, "txtFax"};
+    TextBox txtE_mail{*this, "txtE_mail"};
+    TextBox txtHttp{*this, "txtHttp"};
+
+    // The lines.
+    Grid Grid2{*this, "Grid2"};
+    Button cmdAddRow{*this, "cmdAddRow", "增行(&I)"};
+    Button cmdDeleteRow{*this, "cmdDeleteRow", "删行(&D)"};
+
+    // The foot.
+    Label lblSum{*this, "lblSum", "金额合计"};
+    TextBox txtSum{*this, "txtSum", "0.00"};
+    Label lblSum2{*this, "lblSum2", "参考金额"};
+    TextBox txtSum2{*this, "txtSum2", "0.00"};
+    Label lblSsSf{*this, "lblSsSf"};
+    TextBox txtSsSf{*this, "txtSsSf", "0.00"};
+    TextBox txtMemo{*this, "txtMemo"};              // printed, not stored
+    Frame shpSHR{*this, "shpSHR"};
+    Label lblSHR{*this, "lblSHR"};                  // the approver
+    Button cmdPrevious{*this, "cmdPrevious", "上一张(&P)"};
+    Button cmdNext{*this, "cmdNext", "下一张(&N)"};
+    Button cmdNew{*this, "cmdNew", "新单(&W)"};
+    Button cmdSave{*this, "cmdSave", "存盘(&S)"};
+    Button cmdQuit{*this, "cmdQuit", "退出(&Q)"};
+
+    // Set by the opener.
+    int Action = 0;
+    int invType = 0;
+    int OldType = 0;          // the source's type when a new document is made from one
+    std::int32_t oldInvID = 0; // the document in hand, 0 for none
+    int JzState = 0;          // 1 reads the closed book
+
+    // Read at opening.
+    TypeRow type;
+    Parameters parameters;
+    // The stored document as it was loaded; approval, change and deletion go on only while it is still so.
+    std::string loadedState;
+
+    DocAction InHand() const { return static_cast<DocAction>(Action); }
+    std::string Number() const { return txtNo.text; }
+    // Card number behind the chosen customer, 0 for none.
+    std::int64_t CustomerId() const;
+};
+
+void RegisterDocumentScreens();
+
+} // namespace jxc

@@ -1,0 +1,190 @@
+// A stored document into the entry screen.
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "documents/document_entry.h"
+#include "session/book.h"
+#include "session/database/recordset.h"
+#include "session/database/routines.h"
+#include "session/lists.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+// The order that a new document made from a source refers to: the source itself when it is a fitting order, the source's
+// own order when the new document is its return.
+std::string OrderNumber(const frmDj02& s, int sourceType, const Recordset& header) {
+    if (s.InHand() != DocAction::New)
+        return header["fHtNo"].AsText();
+    if (s.invType != 31 && OrderTypeFor(s.invType) == sourceType && sourceType != 0)
+        return header["fInvNo"].AsText();
+    const bool returnOfSource = (sourceType == 1 || sourceType == 2 || sourceType == 6) && s.invType == -sourceType;
+    return returnOfSource ? header["fHtNo"].AsText() : "";
+}
+
+// A list shows the stored text, also one that it no longer offers.
+void ShowText(ListBox& list, const std::string& text) {
+    if (text.empty())
+        return list.SetIndex(-1);
+    int at = ComboIndexByText(list, text);
+    if (at < 0 && !list.editable) {
+        list.items.push_back(text);
+        at = static_cast<int>(list.items.size()) - 1;
+    }
+    list.SetIndex(at);
+    list.text = text;
+}
+
+void ShowApprover(frmDj02& s, const std::string& approver) {
+    s.lblSHR.caption = approver;
+    s.lblSHR.visible = s.shpSHR.visible = !approver.empty();
+}
+
+void LoadHeader(frmDj02& s, int sourceType, const Recordset& header) {
+    const auto text = [&](const char* field) { return header[field].AsText(); };
+    s.txtHtNo.text = OrderNumber(s, sourceType, header);
+    s.txtNo.text = s.txtNo.tag = text("fInvNo");
+    s.dtpInvDate.date = ParseDate(text("fInvDate"));
+    ShowText(s.cboInvHb, text("fInvHb"));
+    s.txtInvHbDl.text = FormatFixed(header["fInvHbDl"].AsDouble(), 4);
+    s.txtSum.text = FormatFixed(header["fInvJE"].AsDouble(), 2);
+    ShowText(s.cboInvMemo, text("fInvMemo"));
+    ShowText(s.cboInvJbr, text("fInvJbr"));
+    ShowApprover(s, text("fInvSHR"));
+    if (s.InHand() == DocAction::Approve)
+        s.cmdSave.enabled = text("fInvSHR").empty();
+    s.chkFlag.value = header["fFlag"].AsLong() == 1;
+    s.chkFlag.visible = s.chkFlag.value || s.InHand() == DocAction::Change;
+    ShowCustomer(s, header["fKhID"].AsLong());
+    s.cboKhAdd.text = text("fKhAdd");
+    ShowText(s.cboCkName, text("fCkName"));
+    ShowText(s.cboCkName2, text("fCkName2"));
+}
+
+// The discount of a stored line follows from its price.
+double DiscountOf(double price, double reference) { return reference == 0 ? 0 : price / reference; }
+
+void LoadLine(frmDj02& s, int row, const Recordset& stored) {
+    Grid& grid = s.Grid2;
+    const auto fill = [&](int column, const char* field) { grid.FillCell(row, column, stored[field]); };
+    fill(line::kProduct, "fCpID");
+    fill(line::kCode, "fCpCode");
+    grid.FillCell(row, line::kName, NameAndSpec(stored["fCpName"].AsText(), stored["fCpGG"].AsText()));
+    fill(line::kUnit, "fCpUnit");
+    fill(line::kQuantity, "fInvSL");
+    fill(line::kPrice, "fInvDJ");
+    fill(line::kAmount, "fInvJE");
+    fill(line::kTaxRate, "fInvTaxRate");
+    fill(line::kTax, "fInvTax");
+    fill(line::kMemo1, "fInvOther1");
+    fill(line::kMemo2, "fInvOther2");
+    fill(line::kBalance, "fInvSL2");
+    if (s.type.IsStocktake()) {
+        fill(line::kStock, "fInvSL2");
+        grid.FillCell(row, line::kCounted, stored["fInvSL"].AsDouble() + stored["fInvSL2"].AsDouble());
+    }
+}
+
+// Stock and reference prices are today's; the book quantity of a stocktake stays the stored one.
+void CompleteLine(frmDj02& s, int row) {
+    Grid& grid = s.Grid2;
+    const double price = grid.Number(row, line::kPrice);
+    const Value book = grid.Cell(row, line::kStock);
+    RefreshRowStock(s, row);
+    if (s.type.IsStocktake())
+        grid.FillCell(row, line::kStock, book);
+    if (IsEditing(s.InHand()) && s.type.fSetDjType2 == 5)
+        grid.FillCell(row, line::kDiscount, DiscountOf(price, grid.Number(row, line::kReference)));
+}
+
+void LoadLines(frmDj02& s, const std::string& stem, std::int32_t key) {
+    Grid& grid = s.Grid2;
+    Recordset stored(Conn(), "Select a.*,b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit from " + stem + "02 a" +
+                                 " Left Join tJXC_Cp b On a.fCpID =b.fCpID " + " Where a.fInvID = " + std::to_string(key) +
+                                 " And fInv1 = 0" + " Order By a.fRowID");
+    grid.SetRowCount(0);
+    grid.SetRowCount(static_cast<int>(stored.RecordCount()));
+    for (int row = 1; !stored.AtEnd(); stored.MoveNext(), ++row) {
+        LoadLine(s, row, stored);
+        CompleteLine(s, row);
+    }
+    grid.Recalculate();
+    grid.selectedRow = grid.RowCount() > 0 ? 1 : 0;
+    const std::string total = s.txtSum.text;
+    RefreshTotals(s);
+    if (!IsEditing(s.InHand()))
+        s.txtSum.text = total;
+}
+
+// A new document from a source: today's, under a number of its own, not approved, not stopped.
+void StartFromSource(frmDj02& s) {
+    s.txtNo.text.clear();
+    s.txtNo.tag.clear();
+    s.dtpInvDate.date = Today();
+    s.chkFlag.value = false;
+    s.chkFlag.visible = false;
+    ShowApprover(s, "");
+    if (s.cboCkName2.items.size() == 1)
+        s.cboCkName2.SetIndex(0);
+    if (s.type.fSetDjBack_)
+        SetReturnSign(s);
+    RefreshGridStock(s);
+}
+
+} // namespace
+
+bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
+    const std::string stem = BookStem(sourceType, s.JzState == 1);
+    try {
+        if (DbCount(stem + "01", "fInvID = " + std::to_string(key)) < 1) {
+            Warn(s.title, "该[单号]已不存在!");
+            return false;
+        }
+        const Recordset header(Conn(), "select * from " + stem + "01 Where fInvID=" + std::to_string(key));
+        LoadHeader(s, sourceType, header);
+        LoadLines(s, stem, key);
+        s.oldInvID = key;
+        if (s.InHand() == DocAction::New)
+            StartFromSource(s);
+        else
+            s.loadedState = StoredState(stem, key);
+        return true;
+    } catch (const DatabaseError&) {
+        Warn(s.title, "系统数据错误，操作已经取消！");
+        return false;
+    }
+}
+
+std::string StoredState(const std::string& stem, std::int32_t key) {
+    std::string state;
+    const std::string where = " Where fInvID=" + std::to_string(key);
+    for (const std::string& sql :
+         {"select * from " + stem + "01" + where, "select * from " + stem + "02" + where + " Order By fInv1,fRowID"}) {
+        const Rows rows = Conn().Query(sql);
+        if (rows.Count() == 0 && state.empty())
+            return "";
+        for (const Value& cell : rows.cells)
+            state += cell.AsText() + '\x1f';
+        state += '\n';
+    }
+    return state;
+}
+
+void StepToDocument(frmDj02& s, bool next) {
+    const std::string stem = BookStem(s.invType, s.JzState == 1);
+    const std::string hit = DbScalar(
+        "Select Top 1 fInvID From " + stem + "01 " + " Where fInvType=" + std::to_string(s.invType) +
+        (s.InHand() == DocAction::Change ? " And fInvShr=''" : "") + " And fInvNo" + (next ? ">" : "<") + "'" + s.Number() +
+        "'" + " Order By fInvNo" + (next ? "" : " Desc"));
+    if (hit.empty()) {
+        (next ? s.cmdNext : s.cmdPrevious).enabled = false;
+        (next ? s.cmdPrevious : s.cmdNext).enabled = true;
+        return;
+    }
+    LoadDocument(s, s.invType, static_cast<std::int32_t>(Val(hit)));
+    s.cmdNext.enabled = s.cmdPrevious.enabled = true;
+}
+
+} // namespace jxc

@@ -1,0 +1,237 @@
+// The save command: checks in a fixed order, then a new, changed, deleted, approved or reversed document.
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "documents/approval/run_approval.h"
+#include "documents/document_entry.h"
+#include "documents/write_document.h"
+#include "session/book.h"
+#include "session/database/recordset.h"
+#include "session/database/routines.h"
+#include "session/grid_routines.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kMemoBytes = 20;
+constexpr int kAddressBytes = 50;
+
+// Shows why saving stops and puts the focus on the field.
+bool Refuse(frmDj02& s, const std::string& text, Control* field = nullptr) {
+    Warn(s.title, text);
+    if (field && field->IsUsable())
+        s.MoveFocus(field);
+    return false;
+}
+
+bool DocumentInHand(frmDj02& s) {
+    if (s.oldInvID != 0)
+        return true;
+    const char* const verbs[] = {"", "", "修改", "删除", "审核", ""};
+    const std::string verb = verbs[s.Action];
+    if (verb.empty())
+        return true;
+    Warn(s.title, "请选择" + verb + "单据！");
+    s.Close();
+    return false;
+}
+
+bool DateAndNumberGiven(frmDj02& s) {
+    if (!s.dtpInvDate.date || *s.dtpInvDate.date < s.parameters.periodStart)
+        return Refuse(s, "单据日期：不能小于本期起始日期 " + IsoText(s.parameters.periodStart) + "！", &s.dtpInvDate);
+    if (s.Number().empty())
+        return Refuse(s, "请输入单号！", &s.txtNo);
+    return true;
+}
+
+bool WarehousesGiven(frmDj02& s) {
+    const bool first = s.type.HasFirstWarehouse();
+    const bool second = s.type.HasSecondWarehouse();
+    if (first && s.cboCkName.Chosen().empty())
+        return Refuse(s, "请输入[" + s.lblCkName.caption + "] ！", &s.cboCkName);
+    if (second && s.cboCkName2.Chosen().empty() && s.InHand() != DocAction::Reverse)
+        return Refuse(s, "请输入[" + s.lblCkName2.caption + "] ！", &s.cboCkName2);
+    if (first && second && s.cboCkName.Chosen() == s.cboCkName2.Chosen() && !s.type.IsKit())
+        return Refuse(s, "出入仓库名称不能相同！", &s.cboCkName2);
+    return true;
+}
+
+bool CustomerGiven(frmDj02& s) {
+    if (!s.type.HasCustomer() || s.CustomerId() != 0)
+        return true;
+    const std::string caption = s.lblKh.caption;
+    if (s.invType == 20) {
+        Warn(s.title, "注意：您未有输入[" + caption + "]，系统将根据产品的[入库单]资料动态产生。继续？");
+        return true;
+    }
+    if (s.InHand() == DocAction::Reverse) {
+        Warn(s.title, "注意：" + caption + "错误！");
+        return true;
+    }
+    return Refuse(s, "请输入" + caption + "！", &s.txtKhSeek);
+}
+
+bool OrderFits(frmDj02& s) {
+    const std::string number = s.txtHtNo.text;
+    if (s.InHand() == DocAction::Delete || s.InHand() == DocAction::Reverse || number.empty())
+        return true;
+    if (DbCount("tJXC_CkHt01", "fInvNo='" + number + "'") < 1)
+        return Refuse(s, "订单号 " + number + " 不存在 ！", &s.txtHtNo);
+    const int orderType =
+        static_cast<int>(Val(DbScalar("Select fInvType From tJXC_CkHt01 Where fInvNo='" + number + "'")));
+    if (orderType == OrderTypeFor(s.invType))
+        return true;
+    return Refuse(s, s.title + "，不能对应 " + (orderType == 23 ? "采购" : "销售") + "订单 " + number + " ！", &s.txtHtNo);
+}
+
+void CutLongTexts(frmDj02& s) {
+    if (!IsEditing(s.InHand()))
+        return;
+    s.txtNo.text = TruncateToBytes(s.txtNo.text, s.txtNo.maxBytes);
+    s.txtHtNo.text = TruncateToBytes(s.txtHtNo.text, s.txtHtNo.maxBytes);
+    s.cboInvMemo.text = TruncateToBytes(s.cboInvMemo.text, kMemoBytes);
+    s.cboKhAdd.text = TruncateToBytes(s.cboKhAdd.text, kAddressBytes);
+}
+
+// Why the number cannot be used in the book: `taken` when it is there, or that the check could not be made. "" when free.
+std::string NumberRefusal(const frmDj02& s, const std::string& stem, const std::string& taken) {
+    const int count = DbCount(stem + "01", "fInvNo = '" + s.Number() + "'");
+    if (count < 0)
+        return "无法检查该[单号]是否已有存在，操作已经取消！";
+    return count > 0 ? taken : "";
+}
+
+bool NumberIsFree(frmDj02& s, const std::string& stem, const std::string& taken) {
+    const std::string refusal = NumberRefusal(s, stem, taken);
+    return refusal.empty() || Refuse(s, refusal, &s.txtNo);
+}
+
+// The checks of every Action, up to the point where approval and reversal part.
+bool MayGoOn(frmDj02& s, const std::string& stem) {
+    if (!DocumentInHand(s) || !DateAndNumberGiven(s) || !WarehousesGiven(s) || !CustomerGiven(s) || !OrderFits(s))
+        return false;
+    CutLongTexts(s);
+    const bool renumbered = s.InHand() == DocAction::Change && s.Number() != s.txtNo.tag;
+    return !renumbered || NumberIsFree(s, stem, s.Number() + "：该[单号]已另有存在!");
+}
+
+bool LinesGiven(frmDj02& s) {
+    RemoveBlankRows(s.Grid2, line::kQuantity);
+    RefreshTotals(s);
+    if (s.Grid2.RowCount() > 0 || s.InHand() == DocAction::Delete)
+        return true;
+    return Refuse(s, "请输入单据内容清单！", &s.Grid2);
+}
+
+// Runs the writing of a document in one transaction. `write` gives the reason why the document cannot be written after
+// all, "" when it was; a reason or a failure undoes everything and is told, and the input stays. Nothing is asked while
+// the transaction is open: other users wait for it.
+bool InTransaction(frmDj02& s, const std::function<std::string()>& write) {
+    std::string refusal;
+    try {
+        Transaction transaction(Conn());
+        refusal = write();
+        if (refusal.empty())
+            transaction.Commit();
+    } catch (const std::exception&) {
+        refusal = "系统存盘错误，操作已经取消！";
+    }
+    return refusal.empty() || Refuse(s, refusal);
+}
+
+const std::string kNumberTaken = "该[单号]已有存在!";
+
+// Key and number are taken inside the transaction, where no other user can come between.
+std::string WriteNew(frmDj02& s, const std::string& stem) {
+    const std::string refusal = NumberRefusal(s, stem, kNumberTaken);
+    if (!refusal.empty())
+        return refusal;
+    s.oldInvID = DbMax(stem + "01", "fInvID") + 1;
+    WriteHeader(s, stem);
+    WriteLines(s, stem);
+    return "";
+}
+
+void SaveNew(frmDj02& s, const std::string& stem) {
+    if (!NumberIsFree(s, stem, kNumberTaken))
+        return;
+    if (!AskOkCancel(s.title, s.title + "：" + s.Number() + "，确定？"))
+        return;
+    if (!InTransaction(s, [&] { return WriteNew(s, stem); })) {
+        s.oldInvID = 0;
+        return;
+    }
+    if (s.parameters.approveOnSave)
+        RunApproval(s, false, false);
+    if (s.parameters.printOnSave || AskYesNo(s.title, "单据新增完毕。打印本张单据？"))
+        PrintDocument(s);
+    s.oldInvID = 0;
+    ResetDocument(s);
+}
+
+void SaveChange(frmDj02& s, const std::string& stem) {
+    const std::string number = s.txtNo.tag;
+    if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
+        return;
+    const auto write = [&] {
+        const std::string refusal = ChangedMeanwhile(s, stem);
+        if (!refusal.empty())
+            return refusal;
+        WriteHeader(s, stem);
+        Conn().Execute("Delete From " + stem + "02 Where fInvID=" + std::to_string(s.oldInvID));
+        WriteLines(s, stem);
+        return std::string();
+    };
+    if (!InTransaction(s, write))
+        return;
+    Inform(s.title, number + "：单据修改完毕！");
+    s.cmdSave.enabled = false;
+    if (AskOkCancel(s.title, "打印本张单据？"))
+        PrintDocument(s);
+    s.Close();
+}
+
+void DeleteStored(frmDj02& s, const std::string& stem) {
+    const std::string number = s.Number();
+    if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
+        return;
+    const auto write = [&] {
+        const std::string refusal = ChangedMeanwhile(s, stem);
+        if (refusal.empty() && !DeleteDocumentRows(stem, "fInvID=" + std::to_string(s.oldInvID)))
+            throw DatabaseError("删除单据失败。");
+        return refusal;
+    };
+    if (!InTransaction(s, write))
+        return;
+    Inform(s.title, number + "：单据删除完毕！");
+    s.cmdSave.enabled = false;
+    s.Close();
+}
+
+} // namespace
+
+void SaveDocument(frmDj02& s) {
+    const std::string stem = BookStem(s.invType, false);
+    if (!MayGoOn(s, stem))
+        return;
+    if (s.InHand() == DocAction::Approve) {
+        RunApproval(s, false, true);
+        return;
+    }
+    if (s.InHand() == DocAction::Reverse) {
+        ReverseApproval(s);
+        return;
+    }
+    if (!LinesGiven(s))
+        return;
+    switch (s.InHand()) {
+    case DocAction::New: return SaveNew(s, stem);
+    case DocAction::Change: return SaveChange(s, stem);
+    case DocAction::Delete: return DeleteStored(s, stem);
+    default: return;
+    }
+}
+
+} // namespace jxc

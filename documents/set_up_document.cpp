@@ -1,0 +1,146 @@
+// The entry screen as its type wants it: lists, captions, what is shown, what may be changed.
+
+#include <cstdlib>
+
+#include "controls/text.h"
+#include "documents/document_entry.h"
+#include "session/grid_routines.h"
+#include "session/lists.h"
+#include "session/lookups.h"
+#include "session/period.h"
+#include "session/rights.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+const std::string kSummaries = "2010"; // the code list of document summaries
+
+void FillWarehouses(ListBox& list, int kind) {
+    if (kind == -1)
+        return list.Clear();
+    FillCombo(WarehouseFilter(kind, "Select fCkName,0 as aaa from tJXC_Ck") + " Order By fCkCode", list);
+}
+
+void FillLists(frmDj02& s) {
+    FillCombo("Select fSetNo, fSetName from tJXC_InvSet Where fSetNo<50 And fSetNoUse_<>1 Order By fRowID", s.cboInvType, 3,
+              true);
+    s.cboInvType.SetIndex(ComboIndexByLeftValue(s.cboInvType, s.invType, 3));
+    FillWarehouses(s.cboCkName, s.type.fSetCkType1);
+    FillWarehouses(s.cboCkName2, s.type.fSetCkType2);
+    s.cboInvMemo.Clear();
+    FillBriefCombo(s.cboInvMemo, kSummaries, false);
+    FillCombo("Select MoneyCode,0 as aa from Moneys Order By MoneyType desc", s.cboInvHb);
+    FillCombo("Select fName,0 as aa from " +
+                  std::string(s.parameters.handlersFromSalespeople ? "tJXC_Yj_Jbr" : "tRsBasic") + " Order By fCode",
+              s.cboInvJbr);
+}
+
+void Show(bool shown, std::initializer_list<Control*> controls) {
+    for (Control* control : controls)
+        control->visible = shown;
+}
+
+// Whether a received or paid amount may be entered: at the moment of approval.
+bool OffersPayment(const frmDj02& s) {
+    const bool approving = s.InHand() == DocAction::Approve || (s.InHand() == DocAction::New && s.parameters.approveOnSave);
+    return !PaymentCaption(s.type).empty() && s.type.fSetWlType > 0 && s.type.HasCustomer() && s.parameters.quickPayment &&
+           approving;
+}
+
+void ShapeByType(frmDj02& s) {
+    const TypeRow& type = s.type;
+    s.lblCkName.caption = FirstWarehouseCaption(type);
+    s.lblCkName2.caption = SecondWarehouseCaption(type);
+    s.lblKh.caption = CustomerCaption(type);
+    s.lblKhAdd.caption = AddressCaption(type);
+    s.lblSsSf.caption = PaymentCaption(type);
+    Show(type.HasFirstWarehouse(), {&s.lblCkName, &s.cboCkName});
+    Show(type.HasSecondWarehouse(), {&s.lblCkName2, &s.cboCkName2});
+    Show(type.HasCustomer(), {&s.lblKh, &s.txtKhSeek, &s.cboKhList, &s.lblKhAdd, &s.cboKhAdd, &s.mnuKhAddDelete, &s.txtMemo,
+                              &s.cmdLoadKh2});
+    s.fraKh2.visible = false;
+    Show(type.fSetHb_, {&s.lblInvHb, &s.cboInvHb, &s.txtInvHbDl});
+    Show(type.fSetDjDd_, {&s.lblHtNo, &s.txtHtNo});
+    Show(type.fSetHbSl_ && s.parameters.taxWay != TaxWay::None, {&s.lblTaxRate, &s.txtTaxRate});
+    Show(type.fSetDjType2 == 5, {&s.lblZkl, &s.txtZkl});
+    Show(type.fSetDjType1 != -1, {&s.lblSum2, &s.txtSum2});
+    Show(type.fSetDjBack_, {&s.chkTh, &s.lblTh, &s.shpTh});
+    Show(OffersPayment(s), {&s.lblSsSf, &s.txtSsSf});
+    s.chkTh.value = type.fSetDjBack_;
+    if (!type.fSetDjDd_)
+        s.txtHtNo.text.clear();
+}
+
+void AllowByAction(frmDj02& s) {
+    const bool editing = IsEditing(s.InHand());
+    s.fraHead.enabled = editing;
+    s.cboInvType.enabled = false; // the type was chosen when the screen was opened
+    s.cmdAddRow.enabled = s.cmdDeleteRow.enabled = editing;
+    s.cmdNew.visible = s.InHand() == DocAction::New;
+    s.cmdPrevious.visible = s.cmdNext.visible = s.InHand() != DocAction::New;
+    s.cmdPrevious.enabled = s.cmdNext.enabled = true;
+    s.cmdSave.enabled = s.InHand() != DocAction::Query;
+    s.cmdLoadKh2.enabled = !s.type.HasCustomer() || HasModuleRight("mnuCardAdd", 0);
+}
+
+void SetStartingValues(frmDj02& s) {
+    s.txtTaxRate.text = s.parameters.taxWay == TaxWay::None ? "0" : FormatFixed(s.parameters.taxRate, 4);
+    s.txtZkl.text = s.InHand() == DocAction::New ? "1.00" : "0.00";
+    s.txtSsSf.text = "0.00";
+    s.txtMemo.text.clear();
+    s.chkFlag.visible = s.InHand() == DocAction::Change;
+    s.chkFlag.value = false;
+    s.lblSHR.caption.clear();
+    Show(false, {&s.lblSHR, &s.shpSHR});
+    s.loadedState.clear();
+}
+
+void ChooseOnly(ListBox& list) { list.SetIndex(list.items.size() == 1 ? 0 : -1); }
+
+} // namespace
+
+void SetUpDocument(frmDj02& s) {
+    const auto type = ReadTypeRow(s.invType);
+    if (!type)
+        throw ScreenError("没有单据类型 " + std::to_string(s.invType) + "。");
+    s.type = *type;
+    s.parameters = ReadParameters();
+    LoadPeriodSettings();
+    s.title = s.type.fSetName + "：" + ActionWord(s.InHand());
+    FillLists(s);
+    ShapeByType(s);
+    AllowByAction(s);
+    SetStartingValues(s);
+    SetUpLineGrid(s.Grid2, s.type, s.parameters, s.InHand());
+}
+
+void ResetDocument(frmDj02& s) {
+    s.dtpInvDate.date = s.invType == 0 ? s.parameters.periodStart : Today();
+    for (TextBox* box : {&s.txtNo, &s.txtHtNo, &s.txtKhSeek}) {
+        box->text.clear();
+        box->tag.clear();
+    }
+    s.cboInvMemo.SetIndex(-1);
+    s.cboInvJbr.SetIndex(-1);
+    s.cboKhList.Clear();
+    s.cboKhAdd.Clear();
+    ClearCardFields(s);
+    ChooseOnly(s.cboCkName);
+    ChooseOnly(s.cboCkName2);
+    s.cboInvHb.SetIndex(s.cboInvHb.items.empty() ? -1 : 0);
+    ChooseCurrency(s);
+    s.chkFlag.value = false;
+    s.lblSHR.caption.clear();
+    Show(false, {&s.lblSHR, &s.shpSHR});
+    s.Grid2.Clear();
+    AppendLine(s);
+    s.txtSsSf.text = "0.00";
+    RefreshTotals(s);
+    s.loadedState.clear();
+    s.cmdSave.enabled = true;
+    s.MoveFocus(&s.dtpInvDate);
+}
+
+} // namespace jxc

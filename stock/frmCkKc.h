@@ -1,0 +1,51 @@
+// Stock, alarm and cost query: what lies in stock, where it leaves its limits, what it and the period's sales cost. It
+// reads the running counters, never the documents.
+#pragma once
+
+#include "controls/grid.h"
+#include "controls/screen.h"
+
+namespace jxc {
+
+// The questions, by myState.
+enum class StockQuery { Stock = 0, Alarm = 1, Cost = 2 };
+
+struct frmCkKc : Screen {
+    frmCkKc();
+    void Open() override;
+
+    CheckBox chkCk{*this, "chkCk", "限定仓库"};
+    ListBox cboCk{*this, "cboCk"};
+    CheckBox chkCpCode{*this, "chkCpCode", "产品编码"};
+    TextBox txtCpCode{*this, "txtCpCode"};
+    CheckBox chkCpName{*this, "chkCpName", "品名/规格"};
+    TextBox txtCpName{*this, "txtCpName"};
+    CheckBox chkKcBj{*this, "chkKcBj", "超限查询"};
+    CheckBox chkNeg{*this, "chkNeg", "负库存查询"};
+    CheckBox chkDetail{*this, "chkDetail", "详情列示", true};
+    CheckBox chkPrice{*this, "chkPrice", "[单价与金额]", true};
+    Label lblPrice{*this, "lblPrice", "调库单/盘点单的单价取值："};
+    OptionButton optPrice0{*this, "optPrice(0)", "optPrice", "成本价"};
+    OptionButton optPrice1{*this, "optPrice(1)", "optPrice", "批发价"};
+    OptionButton optPrice2{*this, "optPrice(2)", "optPrice", "代销价"};
+    OptionButton optPrice3{*this, "optPrice(3)", "optPrice", "零售价", true};
+    CheckBox chkDate{*this, "chkDate", "截止日期"};
+    DateBox DTPicker1{*this, "DTPicker1"};
+
+    Grid Grid1{*this, "Grid1"};
+
+    Button cmdQuery{*this, "cmdQuery", "查询(&Q)"};
+    Button cmdRefresh{*this, "cmdRefresh", "库存成本刷新(&R)"};
+    Button cmdPrint{*this, "cmdPrint", "打印(&P)"};
+    Button cmdQuit{*this, "cmdQuit", "退出(&C)"};
+
+    int myState = 0; // set by the opener
+
+    StockQuery Question() const { return static_cast<StockQuery>(myState); }
+    // The option chosen, 0 to 3: the price that values transfers and stocktakes.
+    int ChosenPrice() const;
+};
+
+void RegisterStockScreens();
+
+} // namespace jxc
