@@ -15,10 +15,10 @@ enum class CompanyKind {
 };
 
 // Creates the company's database and fills it. `dialect` 0: the file `path`, which must not exist yet. Any
-// other value: the PostgreSQL database of the URI `path`, which must hold none of the system's tables. The books
-// begin on the first of the current month (Today()).
-// Tables come first, then all rows in one transaction; `observer` is told of each statement that fills them (see
-// Connection::SetObserver). Throws DatabaseError; whatever fails, no file and no table of the company is left.
+// other value: the PostgreSQL database of the URI `path`, which must hold none of the system's tables. The
+// books begin on the first of the current month (Today()). Tables come first, then all rows in one
+// transaction; `observer` is told of each statement that fills them (see Connection::SetObserver). Throws
+// DatabaseError; whatever fails, no file and no table of the company is left.
 void CreateCompany(int dialect, const std::string& path, CompanyKind kind,
                    std::function<void(std::string_view)> observer = nullptr);
 
