@@ -3,11 +3,14 @@
 // parameters, rewrites, the cache of prepared statements) is told in translation.h.
 //
 // Failures are DatabaseError. A failed statement leaves the connection usable outside a transaction; inside one, only
-// statements run through Tolerantly() may fail without forcing the roll-back.
+// statements run through Tolerantly() may fail without forcing the roll-back: after any other failure every statement
+// and the commit fail with the same text until RollbackTrans.
 #pragma once
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -18,6 +21,8 @@
 namespace jxc {
 
 class Engine;
+class StatementCache;
+struct CachedStatement;
 
 // What the database, or the translation of a statement for it, refused. what() is text for people.
 class DatabaseError : public std::runtime_error {
@@ -80,11 +85,27 @@ class Connection {
     Engine& EngineInUse();
 
   private:
+    friend class Recordset;
+
+    // What a Recordset that writes needs: a select whose rows carry their address in the first column, and statements
+    // on single rows, prepared like any other. With `address` the row must still be there.
+    Rows QueryRows(std::string_view sql, std::string& table);
+    void RunOnRow(const std::string& text, std::span<const Value> values, const std::shared_ptr<Value>& address);
+
     void Announce(std::string_view sql);
+    template <typename Work> auto Guarded(std::string_view sql, Work work);
+    void RequireUsable() const;
+    void NoteFailure(const DatabaseError& error);
+    CachedStatement& Prepared(std::string_view sql, bool editRows);
+    std::span<const Value> Bound(const CachedStatement& statement);
 
     std::unique_ptr<Engine> engine_;
+    std::unique_ptr<StatementCache> cache_; // its statements die before their engine
     std::function<void(std::string_view)> observer_;
     bool inTransaction_ = false;
+    int depth_ = 0;                      // of nested Tolerantly() inside the transaction
+    std::optional<std::string> failure_; // why the open transaction can only be rolled back
+    int failureDepth_ = 0;
 };
 
 // Begins a transaction and rolls it back when it goes out of scope without Commit(). Only Commit() commits.

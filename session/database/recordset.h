@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "session/database/connection.h"
+#include "session/database/schema.h"
 
 namespace jxc {
 
@@ -20,10 +21,11 @@ class Recordset {
     Recordset(Connection& connection, std::string_view sql, Access access = Access::Read);
 
     bool AtEnd() const { return row_ >= RecordCount(); }
-    void MoveNext() { ++row_; }
+    // Assigned fields must have been written by Update before; otherwise a DatabaseError.
+    void MoveNext();
     size_t RecordCount() const { return rows_.Count(); }
 
-    // A field of the current row, by name in any case or by ordinal from 0. An unknown name, or a read past the end,
+    // A field of the current or new row, as last assigned, by name in any case or by ordinal from 0. An unknown name, or a read past the end,
     // is a DatabaseError.
     const Value& operator[](std::string_view name) const { return Field(OrdinalOf(name)); }
     const Value& operator[](size_t ordinal) const { return Field(ordinal); }
@@ -31,7 +33,8 @@ class Recordset {
     size_t FieldCount() const { return rows_.names.size(); }
     const std::string& FieldName(size_t ordinal) const { return rows_.names[ordinal]; }
 
-    // Starts a new row; the fields assigned until Update make it. Fields not assigned are null.
+    // Starts a new row; the fields assigned until Update make it. Fields not assigned are null. Once written, the new
+    // row is not among the rows of this recordset.
     void AddNew();
     // Assigns a field of the current or new row. Money fields round to four decimals; a date field takes
     // 'yyyy-mm-dd' or null, a number field no text but a numeric one. A wrong kind is a DatabaseError.
@@ -45,14 +48,23 @@ class Recordset {
 
   private:
     const Value& Field(size_t ordinal) const;
+    const FieldDef& Definition(size_t ordinal) const;
+    void RequireRow() const;
+    Value& Cell(size_t ordinal);
+    void ReadRows(std::string_view sql);
+    std::vector<std::string> NamesToWrite() const;
+    std::vector<Value> ValuesToWrite();
+    std::shared_ptr<Value> AddressToWrite();
 
     Connection& connection_;
     Rows rows_;
     size_t row_ = 0;
     bool adding_ = false;
-    std::string table_;                          // Write: the table
-    std::vector<Value> keys_;                    // Write: the engine's row address of each row
-    std::vector<std::pair<size_t, Value>> set_;  // assigned since AddNew or the last Update
+    std::vector<Value> newRow_;
+    std::vector<size_t> assigned_;                  // ordinals, since AddNew or the last Update
+    std::string tableName_;                         // Write: the table
+    const TableDef* table_ = nullptr;               // Write: its definition
+    std::vector<std::shared_ptr<Value>> addresses_; // Write: the engine's address of each row; null for a deleted row
 };
 
 } // namespace jxc

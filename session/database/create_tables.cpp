@@ -1,0 +1,68 @@
+#include "session/database/create_tables.h"
+
+#include <unistd.h>
+
+#include "controls/text.h"
+#include "session/database/postgres_engine.h"
+#include "session/database/sqlite_engine.h"
+
+namespace jxc {
+
+namespace {
+
+std::string TableScript(const Engine& engine, const TableDef& table) {
+    const std::string name(table.name);
+    std::string sql = "create table " + name + " (";
+    for (size_t i = 0; i < table.fields.size(); ++i)
+        sql += (i > 0 ? ", " : "") + engine.ColumnDefinition(table.fields[i]);
+    sql += ")" + engine.TableSuffix() + ";\n";
+    for (size_t i = 0; i < table.indexes.size(); ++i) {
+        const IndexDef& index = table.indexes[i];
+        std::string columns;
+        for (const std::string& field : Split(index.fields, ','))
+            columns += (columns.empty() ? "" : ", ") + engine.IndexedColumn(field);
+        sql += std::string(index.unique ? "create unique index " : "create index ") + name + "_" + std::to_string(i + 1) +
+               " on " + name + " (" + columns + ");\n";
+    }
+    return sql;
+}
+
+void CreateIn(Connection& connection, std::unique_ptr<Engine> engine) {
+    engine->Begin();
+    try {
+        engine->ExecuteScript(CompanyTablesScript(*engine));
+        engine->Commit();
+    } catch (const DatabaseError&) {
+        engine->Rollback();
+        throw;
+    }
+    connection.Open(std::move(engine));
+}
+
+} // namespace
+
+std::string CompanyTablesScript(const Engine& engine) {
+    std::string sql = engine.ScriptPrologue();
+    for (const TableDef& table : AllTables())
+        sql += TableScript(engine, table);
+    return sql;
+}
+
+void CreateCompanyTables(int dialect, Connection& connection, const std::string& path, const std::string& password,
+                         const std::string& user, const std::string& defaultName) {
+    connection.Close();
+    if (dialect != 0) {
+        CreateIn(connection, std::make_unique<PostgresEngine>(ServerAddress{path, password, user, defaultName}));
+        return;
+    }
+    auto engine = std::make_unique<SqliteEngine>(path, true);
+    try {
+        CreateIn(connection, std::move(engine));
+    } catch (const DatabaseError&) {
+        for (const char* suffix : {"", "-wal", "-shm"})
+            unlink((path + suffix).c_str());
+        throw;
+    }
+}
+
+} // namespace jxc

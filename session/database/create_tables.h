@@ -1,0 +1,13 @@
+// The DDL of a company, rendered from the schema for an engine.
+#pragma once
+
+#include <string>
+
+#include "session/database/engine.h"
+
+namespace jxc {
+
+// All tables and indexes, as one script without transaction commands.
+std::string CompanyTablesScript(const Engine& engine);
+
+} // namespace jxc

@@ -1,0 +1,68 @@
+// A database engine: it prepares statements that were written for it and runs them. Connection stands before it with
+// the statements' texts, the cache and the state of the transaction; nothing else uses an engine.
+//
+// All operations throw DatabaseError. An engine may hold back Execute, Change and the commands of a transaction while
+// one is open, and report a failure at the next Flush, Query or Commit; DepthOfFailure tells in which savepoint the
+// statement that failed stood.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "session/database/connection.h"
+#include "session/database/parameters.h"
+#include "session/database/translation.h"
+
+namespace jxc {
+
+// A statement that an engine has prepared. Must not outlive its engine.
+class EngineStatement {
+  public:
+    virtual ~EngineStatement() = default;
+};
+
+// Where a row stands, kept up to date by the engine that moves rows when they change. Null: not known yet, because the
+// statement that moved the row was held back; Flush makes it known.
+using RowAddress = std::shared_ptr<Value>;
+
+class Engine {
+  public:
+    virtual ~Engine() = default;
+
+    virtual std::unique_ptr<StatementWriter> NewWriter() const = 0;
+    virtual std::unique_ptr<EngineStatement> Prepare(const std::string& sql,
+                                                     const std::vector<ParameterType>& types) = 0;
+    virtual void Execute(EngineStatement& statement, std::span<const Value> values) = 0;
+    virtual Rows Query(EngineStatement& statement, std::span<const Value> values) = 0;
+    virtual std::vector<std::string> Plan(const std::string& sql, const std::vector<ParameterType>& types,
+                                          std::span<const Value> values) = 0;
+    virtual void Flush() {}
+
+    // Changes or deletes the row at `address`, the last of `values`; a row that is gone is a ConflictError. `sql` as
+    // ChangeText or DeleteText gives it.
+    virtual void Change(EngineStatement& statement, std::span<const Value> values, const RowAddress& address) = 0;
+    virtual std::string ChangeText(const std::string& table, std::span<const std::string> fields) const = 0;
+    virtual std::string DeleteText(const std::string& table) const = 0;
+    virtual std::string InsertText(const std::string& table, std::span<const std::string> fields) const = 0;
+
+    // Begin waits for other writers of the company. Savepoints are numbered from 1, the outermost.
+    virtual void Begin() = 0;
+    virtual void Commit() = 0;
+    virtual void Rollback() noexcept = 0;
+    virtual void Savepoint(int depth) = 0;
+    virtual void Release(int depth) = 0;
+    virtual void RollbackTo(int depth) = 0;
+    virtual int DepthOfFailure() const = 0;
+
+    // DDL of the schema, several statements at once, outside the language of the business routines.
+    virtual void ExecuteScript(const std::string& sql) = 0;
+    virtual std::string ColumnDefinition(const FieldDef& field) const = 0;
+    virtual std::string ScriptPrologue() const { return ""; }
+    virtual std::string TableSuffix() const { return ""; }
+    virtual std::string IndexedColumn(const std::string& field) const { return field; }
+};
+
+} // namespace jxc

@@ -1,0 +1,16 @@
+#include "session/database/postgres_writer.h"
+
+#include "session/database/connection.h"
+
+namespace jxc {
+
+std::string PostgresWriter::IsNumeric(const std::string& text) const {
+    return "(case when cast(" + text +
+           " as text) ~ '^[ \\t\\r\\n]*[+-]?([0-9]+[.]?[0-9]*|[.][0-9]+)([eE][+-]?[0-9]+)?[ \\t\\r\\n]*$' then 1 else 0 end)";
+}
+
+std::string PostgresWriter::Currency(const std::string&) const {
+    throw DatabaseError("SQL 语句有误：函数“ccur”不属于 SQL Server 的语句，应为 convert(money, ...)。");
+}
+
+} // namespace jxc

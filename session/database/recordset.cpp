@@ -1,0 +1,152 @@
+#include "session/database/recordset.h"
+
+#include "controls/text.h"
+#include "session/database/engine.h"
+#include "session/database/field_values.h"
+
+namespace jxc {
+
+Recordset::Recordset(Connection& connection, std::string_view sql, Access access) : connection_(connection) {
+    if (access == Access::Read)
+        rows_ = connection_.Query(sql);
+    else
+        ReadRows(sql);
+}
+
+// Takes the rows' addresses, the first column, off the result.
+void Recordset::ReadRows(std::string_view sql) {
+    Rows found = connection_.QueryRows(sql, tableName_);
+    table_ = FindTable(tableName_);
+    if (!table_)
+        throw DatabaseError("数据库没有表 " + tableName_ + "。");
+    const size_t columns = found.names.size();
+    addresses_.reserve(found.Count());
+    rows_.cells.reserve(found.cells.size());
+    for (size_t i = 0; i < found.cells.size(); ++i) {
+        if (i % columns == 0)
+            addresses_.push_back(std::make_shared<Value>(std::move(found.cells[i])));
+        else
+            rows_.cells.push_back(std::move(found.cells[i]));
+    }
+    rows_.names.assign(found.names.begin() + 1, found.names.end());
+}
+
+void Recordset::MoveNext() {
+    if (!assigned_.empty() || adding_)
+        throw DatabaseError("记录尚未存盘。");
+    ++row_;
+}
+
+size_t Recordset::OrdinalOf(std::string_view name) const {
+    for (size_t i = 0; i < rows_.names.size(); ++i)
+        if (EqualsNoCase(rows_.names[i], name))
+            return i;
+    throw DatabaseError("没有字段 " + std::string(name) + "。");
+}
+
+void Recordset::RequireRow() const {
+    if (!adding_ && AtEnd())
+        throw DatabaseError("没有当前记录。");
+}
+
+const Value& Recordset::Field(size_t ordinal) const {
+    RequireRow();
+    if (ordinal >= rows_.names.size())
+        throw DatabaseError("没有第 " + std::to_string(ordinal) + " 个字段。");
+    return adding_ ? newRow_[ordinal] : rows_.At(row_, ordinal);
+}
+
+Value& Recordset::Cell(size_t ordinal) {
+    return adding_ ? newRow_[ordinal] : rows_.cells[row_ * rows_.names.size() + ordinal];
+}
+
+const FieldDef& Recordset::Definition(size_t ordinal) const {
+    if (!table_)
+        throw DatabaseError("该记录集是只读的。");
+    const FieldDef* field = ordinal < rows_.names.size() ? FindField(*table_, rows_.names[ordinal]) : nullptr;
+    if (!field)
+        throw DatabaseError("没有第 " + std::to_string(ordinal) + " 个字段。");
+    return *field;
+}
+
+void Recordset::AddNew() {
+    if (!table_)
+        throw DatabaseError("该记录集是只读的。");
+    if (!assigned_.empty())
+        throw DatabaseError("记录尚未存盘。");
+    adding_ = true;
+    newRow_.assign(rows_.names.size(), Value());
+}
+
+void Recordset::Set(std::string_view name, Value value) { Set(OrdinalOf(name), std::move(value)); }
+
+void Recordset::Set(size_t ordinal, Value value) {
+    const FieldDef& field = Definition(ordinal);
+    RequireRow();
+    Cell(ordinal) = FieldValue(field, std::move(value));
+    if (std::find(assigned_.begin(), assigned_.end(), ordinal) == assigned_.end())
+        assigned_.push_back(ordinal);
+}
+
+std::vector<std::string> Recordset::NamesToWrite() const {
+    std::vector<std::string> names;
+    names.reserve(assigned_.size());
+    for (size_t ordinal : assigned_)
+        names.push_back(rows_.names[ordinal]);
+    return names;
+}
+
+std::vector<Value> Recordset::ValuesToWrite() {
+    std::vector<Value> values;
+    values.reserve(assigned_.size() + 1);
+    for (size_t ordinal : assigned_)
+        values.push_back(Cell(ordinal));
+    return values;
+}
+
+// An engine that moves rows as they change may not have told the new place yet.
+std::shared_ptr<Value> Recordset::AddressToWrite() {
+    RequireRow();
+    const std::shared_ptr<Value>& address = addresses_[row_];
+    if (!address)
+        throw DatabaseError("该记录已经删除。");
+    if (address->IsNull())
+        connection_.Flush();
+    return address;
+}
+
+void Recordset::Update() {
+    if (!table_)
+        throw DatabaseError("该记录集是只读的。");
+    Engine& engine = connection_.EngineInUse();
+    if (adding_) {
+        if (assigned_.empty())
+            assigned_.push_back(0);
+        const std::vector<Value> values = ValuesToWrite();
+        const std::string text = engine.InsertText(tableName_, NamesToWrite());
+        adding_ = false;
+        assigned_.clear();
+        connection_.RunOnRow(text, values, nullptr);
+        return;
+    }
+    if (assigned_.empty())
+        return;
+    const std::shared_ptr<Value> address = AddressToWrite();
+    std::vector<Value> values = ValuesToWrite();
+    values.push_back(*address);
+    const std::string text = engine.ChangeText(tableName_, NamesToWrite());
+    assigned_.clear();
+    connection_.RunOnRow(text, values, address);
+}
+
+void Recordset::Delete() {
+    if (!table_)
+        throw DatabaseError("该记录集是只读的。");
+    const std::shared_ptr<Value> address = AddressToWrite();
+    const Value values[] = {*address};
+    assigned_.clear();
+    connection_.RunOnRow(connection_.EngineInUse().DeleteText(tableName_), values, address);
+    addresses_[row_].reset();
+}
+
+} // namespace jxc

@@ -1,0 +1,60 @@
+#include "session/database/routines.h"
+
+#include <limits>
+
+#include "controls/text.h"
+#include "session/session.h"
+
+namespace jxc {
+
+int DbCount(std::string_view table, std::string_view where) {
+    std::string sql = "select count(*) from " + std::string(table);
+    if (!where.empty())
+        sql.append(" Where ").append(where);
+    std::int64_t count = -1;
+    try {
+        Conn().Tolerantly([&] { count = Conn().Query(sql).At(0, 0).AsLong(); });
+    } catch (const DatabaseError&) {
+        return -1;
+    }
+    return count > std::numeric_limits<std::int16_t>::max() ? -1 : static_cast<int>(count);
+}
+
+std::int32_t DbMax(std::string_view table, std::string_view field) {
+    const Rows rows = Conn().Query("select max(" + std::string(field) + ") from " + std::string(table));
+    if (rows.Count() == 0 || rows.At(0, 0).IsNull())
+        return 1;
+    return static_cast<std::int32_t>(rows.At(0, 0).AsLong());
+}
+
+std::string DbScalar(std::string_view sql) {
+    std::string text;
+    try {
+        Conn().Tolerantly([&] {
+            const Rows rows = Conn().Query(sql);
+            text = rows.Count() > 0 ? rows.At(0, 0).AsText() : "";
+        });
+    } catch (const DatabaseError&) {
+        return "";
+    }
+    return text;
+}
+
+std::string LikePattern(std::string_view text) {
+    std::string pattern = Trim(text);
+    const auto replace = [](char& c) {
+        if (c == '*')
+            c = '%';
+        else if (c == '#')
+            c = '_';
+    };
+    if (!pattern.empty()) {
+        replace(pattern.front());
+        replace(pattern.back());
+        if (pattern.find_first_of("_%") == std::string::npos)
+            pattern = "%" + pattern + "%";
+    }
+    return pattern;
+}
+
+} // namespace jxc

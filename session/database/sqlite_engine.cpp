@@ -1,0 +1,262 @@
+#include "session/database/sqlite_engine.h"
+
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <cstring>
+
+#include "session/database/sqlite_functions.h"
+#include "session/database/sqlite_writer.h"
+
+namespace jxc {
+
+namespace {
+
+[[noreturn]] void Fail(sqlite3* db) {
+    switch (sqlite3_errcode(db)) {
+    case SQLITE_BUSY:
+        throw DatabaseError("数据库正被其他用户写入，等待超时。");
+    case SQLITE_NOTADB:
+        throw DatabaseError("该文件不是数据库，或者已经损坏。");
+    case SQLITE_FULL:
+        throw DatabaseError("磁盘空间不足，数据未能写入。");
+    case SQLITE_READONLY:
+        throw DatabaseError("数据库文件是只读的。");
+    default:
+        throw DatabaseError(std::string("数据库错误：") + sqlite3_errmsg(db));
+    }
+}
+
+class SqliteStatement : public EngineStatement {
+  public:
+    SqliteStatement(sqlite3* db, const std::string& sql) : db_(db) {
+        if (sqlite3_prepare_v3(db, sql.c_str(), static_cast<int>(sql.size()) + 1, SQLITE_PREPARE_PERSISTENT,
+                               &statement_, nullptr) != SQLITE_OK)
+            Fail(db);
+    }
+    ~SqliteStatement() override { sqlite3_finalize(statement_); }
+    SqliteStatement(const SqliteStatement&) = delete;
+    SqliteStatement& operator=(const SqliteStatement&) = delete;
+
+    void Run(std::span<const Value> values) {
+        const Reset reset{statement_};
+        Bind(values);
+        while (Step()) {
+        }
+    }
+
+    Rows Read(std::span<const Value> values) {
+        const Reset reset{statement_};
+        Bind(values);
+        Rows rows;
+        while (Step()) {
+            const int columns = sqlite3_column_count(statement_);
+            for (int i = 0; i < columns; ++i)
+                rows.cells.push_back(Cell(i));
+        }
+        // Behind the first step: a statement that had to be prepared again may have other columns.
+        for (int i = 0; i < sqlite3_column_count(statement_); ++i)
+            rows.names.emplace_back(sqlite3_column_name(statement_, i));
+        return rows;
+    }
+
+  private:
+    // An open statement blocks changes of the schema and the next use of itself.
+    struct Reset {
+        sqlite3_stmt* statement;
+        ~Reset() { sqlite3_reset(statement); }
+    };
+
+    bool Step() {
+        switch (sqlite3_step(statement_)) {
+        case SQLITE_ROW:
+            return true;
+        case SQLITE_DONE:
+            return false;
+        default:
+            Fail(db_);
+        }
+    }
+
+    void Bind(std::span<const Value> values) {
+        for (size_t i = 0; i < values.size(); ++i) {
+            const int at = static_cast<int>(i) + 1;
+            const Value& value = values[i];
+            if (value.IsText()) {
+                const std::string text = value.AsText();
+                sqlite3_bind_text(statement_, at, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+            } else if (value.IsLong()) {
+                sqlite3_bind_int64(statement_, at, value.AsLong());
+            } else if (value.IsDouble()) {
+                sqlite3_bind_double(statement_, at, value.AsDouble());
+            } else {
+                sqlite3_bind_null(statement_, at);
+            }
+        }
+    }
+
+    Value Cell(int column) const {
+        switch (sqlite3_column_type(statement_, column)) {
+        case SQLITE_INTEGER:
+            return Value(static_cast<std::int64_t>(sqlite3_column_int64(statement_, column)));
+        case SQLITE_FLOAT:
+            return Value(sqlite3_column_double(statement_, column));
+        case SQLITE_NULL:
+            return Value();
+        default: {
+            const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
+            return Value(std::string(text, static_cast<size_t>(sqlite3_column_bytes(statement_, column))));
+        }
+        }
+    }
+
+    sqlite3* db_;
+    sqlite3_stmt* statement_ = nullptr;
+};
+
+SqliteStatement& Own(EngineStatement& statement) { return static_cast<SqliteStatement&>(statement); }
+
+// The log and its index take over the file's mode.
+void CreatePrivateFile(const std::string& path) {
+    const int file = open(path.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0600);
+    if (file < 0)
+        throw DatabaseError("不能创建数据库文件 " + path + "：" + std::strerror(errno));
+    close(file);
+}
+
+constexpr int kWaitMilliseconds = 30000;
+constexpr const char* kSettings = "pragma journal_mode = wal;"
+                                  "pragma synchronous = full;"
+                                  "pragma temp_store = memory;"
+                                  "pragma cache_size = -65536;";
+
+} // namespace
+
+SqliteEngine::SqliteEngine(const std::string& path, bool create) {
+    if (create)
+        CreatePrivateFile(path);
+    if (sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+        const std::string reason = sqlite3_errmsg(db_);
+        sqlite3_close(db_);
+        throw DatabaseError("不能打开数据库文件 " + path + "：" + reason);
+    }
+    try {
+        sqlite3_busy_timeout(db_, kWaitMilliseconds);
+        ExecuteScript(kSettings);
+        AddSqliteFunctions(db_);
+        begin_ = std::make_unique<SqliteStatement>(db_, "begin immediate");
+        commit_ = std::make_unique<SqliteStatement>(db_, "commit");
+        rollback_ = std::make_unique<SqliteStatement>(db_, "rollback");
+    } catch (const DatabaseError&) {
+        begin_.reset();
+        commit_.reset();
+        sqlite3_close(db_);
+        throw;
+    }
+}
+
+SqliteEngine::~SqliteEngine() {
+    begin_.reset();
+    commit_.reset();
+    rollback_.reset();
+    sqlite3_close(db_);
+}
+
+std::unique_ptr<StatementWriter> SqliteEngine::NewWriter() const { return std::make_unique<SqliteWriter>(); }
+
+std::unique_ptr<EngineStatement> SqliteEngine::Prepare(const std::string& sql, const std::vector<ParameterType>&) {
+    return std::make_unique<SqliteStatement>(db_, sql);
+}
+
+void SqliteEngine::Execute(EngineStatement& statement, std::span<const Value> values) { Own(statement).Run(values); }
+
+Rows SqliteEngine::Query(EngineStatement& statement, std::span<const Value> values) {
+    return Own(statement).Read(values);
+}
+
+std::vector<std::string> SqliteEngine::Plan(const std::string& sql, const std::vector<ParameterType>&,
+                                            std::span<const Value> values) {
+    const Rows rows = SqliteStatement(db_, "explain query plan " + sql).Read(values);
+    std::vector<std::string> steps;
+    for (size_t row = 0; row < rows.Count(); ++row)
+        steps.push_back(rows.At(row, 3).AsText());
+    return steps;
+}
+
+void SqliteEngine::Change(EngineStatement& statement, std::span<const Value> values, const RowAddress&) {
+    Own(statement).Run(values);
+    if (sqlite3_changes(db_) == 0)
+        throw ConflictError("该记录已被其他用户修改或删除。");
+}
+
+std::string SqliteEngine::ChangeText(const std::string& table, std::span<const std::string> fields) const {
+    std::string sql = "update " + table;
+    const char* separator = " set ";
+    for (const std::string& field : fields) {
+        sql.append(separator).append(field).append(" = ?");
+        separator = ", ";
+    }
+    return sql + " where rowid = ?";
+}
+
+std::string SqliteEngine::DeleteText(const std::string& table) const {
+    return "delete from " + table + " where rowid = ?";
+}
+
+std::string SqliteEngine::InsertText(const std::string& table, std::span<const std::string> fields) const {
+    std::string columns, values;
+    for (const std::string& field : fields) {
+        columns.append(columns.empty() ? "" : ", ").append(field);
+        values.append(values.empty() ? "?" : ", ?");
+    }
+    return "insert into " + table + " (" + columns + ") values (" + values + ")";
+}
+
+void SqliteEngine::Begin() { Own(*begin_).Run({}); }
+
+void SqliteEngine::Commit() { Own(*commit_).Run({}); }
+
+// Some failures, such as a full disk, have rolled the transaction back already.
+void SqliteEngine::Rollback() noexcept {
+    if (sqlite3_get_autocommit(db_))
+        return;
+    try {
+        Own(*rollback_).Run({});
+    } catch (const DatabaseError&) {
+        // Without a commit nothing of the transaction stays.
+    }
+}
+
+void SqliteEngine::Savepoint(int depth) { ExecuteScript("savepoint s" + std::to_string(depth)); }
+
+void SqliteEngine::Release(int depth) { ExecuteScript("release s" + std::to_string(depth)); }
+
+void SqliteEngine::RollbackTo(int depth) {
+    const std::string name = "s" + std::to_string(depth);
+    ExecuteScript("rollback to " + name + "; release " + name);
+}
+
+void SqliteEngine::ExecuteScript(const std::string& sql) {
+    if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        Fail(db_);
+}
+
+std::string SqliteEngine::ColumnDefinition(const FieldDef& field) const {
+    const std::string name(field.name);
+    switch (field.type) {
+    case FieldType::Long:
+    case FieldType::Short:
+        return name + " integer";
+    case FieldType::Double:
+    case FieldType::Money:
+        return name + " real";
+    case FieldType::Date:
+        return name + " text";
+    case FieldType::Text:
+        break;
+    }
+    return name + " text collate nocase";
+}
+
+} // namespace jxc
