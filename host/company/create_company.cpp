@@ -33,11 +33,12 @@ void RemoveCompany(int dialect, Connection& connection, const std::string& path)
             std::remove((path + ending).c_str());
         return;
     }
-    std::string tables;
+    std::string drop = "drop table ";
     for (const TableDef& table : AllTables())
-        tables += (tables.empty() ? "" : ",") + std::string(table.name);
+        drop.append(table.name).append(",");
+    drop.pop_back();
     try {
-        connection.EngineInUse().ExecuteScript("drop table " + tables);
+        connection.EngineInUse().ExecuteScript(drop);
     } catch (const DatabaseError&) {
     }
 }

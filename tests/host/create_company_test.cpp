@@ -14,44 +14,44 @@
 #include "session/database/open_connection.h"
 #include "session/database/recordset.h"
 #include "session/database/schema.h"
-#include "settings/document_types.h"
+#include "tests/support/test_company.h"
 
 namespace jxc {
 
 namespace {
 
+using test::EngineKind;
+
 // A place for one company: a file, or an empty database of the test server. Gone afterwards.
-class NewCompany : public testing::TestWithParam<int> {
+class NewCompany : public testing::TestWithParam<EngineKind> {
   protected:
     void SetUp() override {
-        if (GetParam() == 0) {
-            const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-            std::string file = std::string("jxc_") + test->name() + "_" + std::to_string(getpid()) + ".db";
-            std::replace(file.begin(), file.end(), '/', '_');
-            path = std::filesystem::temp_directory_path() / file;
+        if (const std::string reason = test::WhyUnavailable(GetParam()); !reason.empty())
+            GTEST_SKIP() << reason;
+        const std::string name = "jxc_new_company_" + std::to_string(getpid());
+        if (Dialect() == 0) {
+            path = std::filesystem::temp_directory_path() / (name + ".db");
             return;
         }
-        const char* server = std::getenv("JXC_TEST_PG");
-        if (!server)
-            GTEST_SKIP() << "JXC_TEST_PG names no PostgreSQL";
-        server_ = server;
-        const std::string database = "jxc_new_company";
-        OnServer("drop database if exists " + database);
-        OnServer("create database " + database);
-        path = server_ + (server_.find('?') == std::string::npos ? "?" : "&") + "dbname=" + database;
+        const std::string server = std::getenv("JXC_TEST_PG");
+        OnServer("create database " + name);
+        path = server + (server.find('?') == std::string::npos ? "?" : "&") + "dbname=" + name;
     }
     void TearDown() override {
         connection.Close();
-        if (GetParam() == 0) {
+        if (path.empty())
+            return;
+        if (Dialect() == 0) {
             for (const char* ending : {"", "-wal", "-shm"})
                 std::filesystem::remove(path + ending);
-        } else if (!server_.empty()) {
-            OnServer("drop database if exists jxc_new_company");
+        } else {
+            OnServer("drop database jxc_new_company_" + std::to_string(getpid()));
         }
     }
+    int Dialect() const { return GetParam() == EngineKind::Sqlite ? 0 : 1; }
     void Create(CompanyKind kind) {
-        CreateCompany(GetParam(), path, kind);
-        OpenConnection(GetParam(), connection, path, "", "", "");
+        CreateCompany(Dialect(), path, kind);
+        OpenConnection(Dialect(), connection, path, "", "", "");
     }
     std::string Scalar(const std::string& sql) { return Recordset(connection, sql)[size_t{0}].AsText(); }
     int Count(const std::string& fromWhere) {
@@ -64,17 +64,15 @@ class NewCompany : public testing::TestWithParam<int> {
 
   private:
     void OnServer(const std::string& sql) {
-        PGconn* server = PQconnectdb(server_.c_str());
+        PGconn* server = PQconnectdb(std::getenv("JXC_TEST_PG"));
         PGresult* result = PQexec(server, sql.c_str());
         EXPECT_EQ(PQresultStatus(result), PGRES_COMMAND_OK) << PQerrorMessage(server);
         PQclear(result);
         PQfinish(server);
     }
-    std::string server_;
 };
 
-INSTANTIATE_TEST_SUITE_P(Engines, NewCompany, testing::Values(0, 1),
-                         [](const auto& engine) { return engine.param == 0 ? "SQLite" : "PostgreSQL"; });
+ON_BOTH_ENGINES(NewCompany);
 
 TEST_P(NewCompany, HoldsTheDocumentTypes) {
     Create(CompanyKind::Default);
@@ -221,9 +219,9 @@ TEST_P(NewCompany, LeavesNothingWhenFillingFails) {
         if (sql.find("tJXC_Yj_SetJb") != std::string_view::npos)
             throw DatabaseError("no space left");
     };
-    EXPECT_THROW(CreateCompany(GetParam(), path, CompanyKind::Sample, failAtTheLastTable), DatabaseError);
+    EXPECT_THROW(CreateCompany(Dialect(), path, CompanyKind::Sample, failAtTheLastTable), DatabaseError);
     EXPECT_GT(statements, 1);
-    if (GetParam() == 0) {
+    if (Dialect() == 0) {
         EXPECT_FALSE(std::filesystem::exists(path));
     }
     // So the same place serves the next attempt.
@@ -233,7 +231,7 @@ TEST_P(NewCompany, LeavesNothingWhenFillingFails) {
 
 TEST_P(NewCompany, RefusesAPlaceThatIsTaken) {
     Create(CompanyKind::Sample);
-    EXPECT_THROW(CreateCompany(GetParam(), path, CompanyKind::Default), DatabaseError);
+    EXPECT_THROW(CreateCompany(Dialect(), path, CompanyKind::Default), DatabaseError);
     EXPECT_EQ(Count("cards"), 20);
 }
 
