@@ -102,9 +102,11 @@ TestCompany::~TestCompany() {
 
 int TestCompany::Dialect() const { return kind_ == EngineKind::Sqlite ? 0 : 1; }
 
-std::vector<std::string> RowsOf(const std::string& sql) {
+void Do(const std::string& sql) { Conn().Execute(sql); }
+
+Lines RowsOf(const std::string& sql) {
     const Rows rows = Conn().Query(sql);
-    std::vector<std::string> lines;
+    Lines lines;
     for (size_t row = 0; row < rows.Count(); ++row) {
         std::string line;
         for (size_t column = 0; column < rows.names.size(); ++column) {
@@ -115,5 +117,12 @@ std::vector<std::string> RowsOf(const std::string& sql) {
     }
     return lines;
 }
+
+std::string One(const std::string& sql) {
+    const Lines rows = RowsOf(sql);
+    return rows.size() == 1 ? rows[0] : std::to_string(rows.size()) + " rows";
+}
+
+std::string Day(const std::string& slashDate) { return session.DateDelimiter + slashDate + session.DateDelimiter; }
 
 } // namespace jxc::test

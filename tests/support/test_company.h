@@ -53,8 +53,15 @@ inline std::string EngineName(const testing::TestParamInfo<EngineKind>& info) {
     return info.param == EngineKind::Sqlite ? "Sqlite" : "Postgres";
 }
 
-// The rows of a select on the session's connection: cells joined by "|", a null as "null".
-std::vector<std::string> RowsOf(const std::string& sql);
+using Lines = std::vector<std::string>;
+
+// On the session's connection: a statement without rows; the rows of a select, cells joined by "|", a null as "null";
+// the only row, or how many there are instead.
+void Do(const std::string& sql);
+Lines RowsOf(const std::string& sql);
+std::string One(const std::string& sql);
+// A date mm/dd/yyyy as a statement of the session's dialect writes it.
+std::string Day(const std::string& slashDate);
 
 } // namespace jxc::test
 
