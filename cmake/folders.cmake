@@ -3,6 +3,7 @@
 if(NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE Release)
 endif()
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG") # -O3 compiles half as fast again, and the databases set the pace anyway
 find_program(CCACHE ccache)
 if(CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER
@@ -12,7 +13,7 @@ endif()
 
 add_library(jxc_options INTERFACE)
 # g++ 12 warns of impossible overflows inside std::string's operator+ when it is inlined.
-target_compile_options(jxc_options INTERFACE -Wall -Wextra -Wno-stringop-overflow -Wno-restrict
+target_compile_options(jxc_options INTERFACE -Wall -Wextra -Wno-stringop-overflow -Wno-restrict -Wno-array-bounds
                                              $<$<BOOL:${JXC_WERROR}>:-Werror>
                                              $<$<BOOL:${CCACHE}>:-fpch-preprocess>)
 target_include_directories(jxc_options INTERFACE ${PROJECT_SOURCE_DIR})

@@ -77,7 +77,8 @@ RowFormula::RowFormula(std::string_view text) : compiled_(std::make_unique<Compi
     try {
         DefineLanguage(compiled_->parser);
         compiled_->parser.SetExpr(formula);
-        for (const auto& [name, unused] : compiled_->parser.GetUsedVar()) {
+        const mu::varmap_type used = compiled_->parser.GetUsedVar(); // a copy: defining a variable empties the parser's own
+        for (const auto& [name, unused] : used) {
             const int column = ColumnOf(name);
             if (column == 0)
                 throw FormulaError("公式 " + formula + " 有误：不认识 " + name + "。");

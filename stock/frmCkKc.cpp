@@ -28,6 +28,18 @@ const char* TitleOf(StockQuery question) {
     return "库存统计";
 }
 
+// Every opening starts with the options as they are described, whatever the last one left.
+void ResetOptions(frmCkKc& s) {
+    for (CheckBox* box : {&s.chkCk, &s.chkCpCode, &s.chkCpName, &s.chkNeg, &s.chkDate})
+        box->value = false;
+    s.chkDetail.value = true;
+    s.txtCpCode.text.clear();
+    s.txtCpName.text.clear();
+    for (OptionButton* option : {&s.optPrice0, &s.optPrice1, &s.optPrice2})
+        option->value = false;
+    s.optPrice3.value = true;
+}
+
 void ShapeByQuestion(frmCkKc& s) {
     const bool alarm = s.Question() == StockQuery::Alarm;
     const bool cost = s.Question() == StockQuery::Cost;
@@ -100,6 +112,7 @@ void frmCkKc::Open() {
     if (myState < 0 || myState > 2)
         throw ScreenError("frmCkKc 的 myState 须为 0 至 2。");
     LoadPeriodSettings();
+    ResetOptions(*this);
     ShapeByQuestion(*this);
     OfferDate(*this);
     OfferWarehouses(*this);

@@ -1,0 +1,92 @@
+// The program jxc: makes companies, drives the screens by script, plays the tour, checks the books.
+
+#include <filesystem>
+#include <iostream>
+
+#include <CLI/CLI.hpp>
+
+#include "host/check.h"
+#include "host/company/create_company.h"
+#include "host/company_address.h"
+#include "host/robot.h"
+#include "host/screens.h"
+#include "host/tour.h"
+
+namespace {
+
+using namespace jxc;
+
+int Create(const std::string& company, bool sample, bool bare) {
+    const CompanyKind kind = sample ? CompanyKind::Sample : bare ? CompanyKind::Bare : CompanyKind::Default;
+    CreateCompany(DialectOf(company), company, kind);
+    std::cout << "帐套已建立：" << company << std::endl;
+    return 0;
+}
+
+int Drive(const std::string& company, const std::string& user, const std::vector<std::string>& settings) {
+    RegisterAllScreens();
+    lzJxc control;
+    UseCompany(control, company);
+    control.UserName(user);
+    for (const std::string& setting : settings) {
+        const size_t equals = setting.find('=');
+        if (equals == std::string::npos)
+            throw ScreenError("--set 须为 属性=值：" + setting);
+        control.SetProperty(setting.substr(0, equals), setting.substr(equals + 1));
+    }
+    JsonLines lines(std::cin, std::cout);
+    Robot(control, lines).Run();
+    return 0;
+}
+
+int Check(const std::string& company) {
+    const OpenCompany open(company);
+    const std::vector<std::string> violations = CheckCompany();
+    for (const std::string& violation : violations)
+        std::cout << violation << "\n";
+    if (violations.empty())
+        std::cout << "帐套检查：全部相符。" << std::endl;
+    return violations.empty() ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    CLI::App app{"lzJxc 进销存 — 采购、销售、库存", "jxc"};
+    app.require_subcommand(1);
+    std::string company;
+    std::string user;
+    std::vector<std::string> settings;
+    bool sample = false;
+    bool bare = false;
+
+    CLI::App* create = app.add_subcommand("create", "建立帐套");
+    create->add_option("COMPANY", company, "文件，或 postgresql://... 地址")->required();
+    CLI::Option* sampleFlag = create->add_flag("--sample", sample, "带一个电脑配件商行的资料");
+    create->add_flag("--bare", bare, "只建表")->excludes(sampleFlag);
+
+    CLI::App* drive = app.add_subcommand("drive", "以 JSON 行驱动各窗口：每行一个请求，每个请求一个回答");
+    drive->add_option("COMPANY", company, "文件，或 postgresql://... 地址")->required();
+    drive->add_option("--user", user, "登录用户");
+    drive->add_option("--set", settings, "lzJxc 的属性，PROPERTY=VALUE")->take_all()->allow_extra_args(false);
+
+    CLI::App* tour = app.add_subcommand("tour", "演示：录入、审核、查询库存，并打印结果");
+    tour->add_option("COMPANY", company, "文件（没有则以样例资料建立），或空的 postgresql://... 数据库");
+
+    CLI::App* check = app.add_subcommand("check", "检查帐套，每处不符一行");
+    check->add_option("COMPANY", company, "文件，或 postgresql://... 地址")->required();
+
+    CLI11_PARSE(app, argc, argv);
+    try {
+        if (*create)
+            return Create(company, sample, bare);
+        if (*drive)
+            return Drive(company, user, settings);
+        if (*tour)
+            return PlayTour(company);
+        return Check(company);
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << std::endl;
+        return 2;
+    }
+}
