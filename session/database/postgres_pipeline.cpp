@@ -216,7 +216,8 @@ void PostgresPipeline::RunScript(const std::string& sql) {
     PQexitPipelineMode(connection_);
     const Result result(PQexec(connection_, sql.c_str()));
     PQenterPipelineMode(connection_);
-    if (PQresultStatus(result.get()) != PGRES_COMMAND_OK) {
+    const ExecStatusType status = PQresultStatus(result.get());
+    if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) {
         NoteFailure(result.get(), 0);
         throw DatabaseError(failure_->text);
     }

@@ -29,6 +29,10 @@ void Recordset::ReadRows(std::string_view sql) {
             rows_.cells.push_back(std::move(found.cells[i]));
     }
     rows_.names.assign(found.names.begin() + 1, found.names.end());
+    for (size_t i = 0; i < rows_.names.size(); ++i) {
+        const bool inOrder = i < table_->fields.size() && EqualsNoCase(table_->fields[i].name, rows_.names[i]);
+        fields_.push_back(inOrder ? &table_->fields[i] : FindField(*table_, rows_.names[i]));
+    }
 }
 
 void Recordset::MoveNext() {
@@ -37,10 +41,15 @@ void Recordset::MoveNext() {
     ++row_;
 }
 
+// Fields are mostly taken in their order: the search begins behind the last one found.
 size_t Recordset::OrdinalOf(std::string_view name) const {
-    for (size_t i = 0; i < rows_.names.size(); ++i)
-        if (EqualsNoCase(rows_.names[i], name))
-            return i;
+    const size_t count = rows_.names.size();
+    for (size_t tried = 0; tried < count; ++tried) {
+        if (next_ >= count)
+            next_ = 0;
+        if (EqualsNoCase(rows_.names[next_++], name))
+            return next_ - 1;
+    }
     throw DatabaseError("没有字段 " + std::string(name) + "。");
 }
 
@@ -63,10 +72,9 @@ Value& Recordset::Cell(size_t ordinal) {
 const FieldDef& Recordset::Definition(size_t ordinal) const {
     if (!table_)
         throw DatabaseError("该记录集是只读的。");
-    const FieldDef* field = ordinal < rows_.names.size() ? FindField(*table_, rows_.names[ordinal]) : nullptr;
-    if (!field)
+    if (ordinal >= fields_.size() || !fields_[ordinal])
         throw DatabaseError("没有第 " + std::to_string(ordinal) + " 个字段。");
-    return *field;
+    return *fields_[ordinal];
 }
 
 void Recordset::AddNew() {

@@ -59,11 +59,13 @@ class Recordset {
     Connection& connection_;
     Rows rows_;
     size_t row_ = 0;
+    mutable size_t next_ = 0; // where OrdinalOf begins to search
     bool adding_ = false;
     std::vector<Value> newRow_;
     std::vector<size_t> assigned_;                  // ordinals, since AddNew or the last Update
     std::string tableName_;                         // Write: the table
     const TableDef* table_ = nullptr;               // Write: its definition
+    std::vector<const FieldDef*> fields_;           // Write: the definition of each column
     std::vector<std::shared_ptr<Value>> addresses_; // Write: the engine's address of each row; null for a deleted row
 };
 

@@ -136,7 +136,7 @@ constexpr const char* kSettings = "pragma journal_mode = wal;"
 SqliteEngine::SqliteEngine(const std::string& path, bool create) {
     if (create)
         CreatePrivateFile(path);
-    if (sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+    if (sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
         const std::string reason = sqlite3_errmsg(db_);
         sqlite3_close(db_);
         throw DatabaseError("不能打开数据库文件 " + path + "：" + reason);
@@ -145,21 +145,14 @@ SqliteEngine::SqliteEngine(const std::string& path, bool create) {
         sqlite3_busy_timeout(db_, kWaitMilliseconds);
         ExecuteScript(kSettings);
         AddSqliteFunctions(db_);
-        begin_ = std::make_unique<SqliteStatement>(db_, "begin immediate");
-        commit_ = std::make_unique<SqliteStatement>(db_, "commit");
-        rollback_ = std::make_unique<SqliteStatement>(db_, "rollback");
     } catch (const DatabaseError&) {
-        begin_.reset();
-        commit_.reset();
         sqlite3_close(db_);
         throw;
     }
 }
 
 SqliteEngine::~SqliteEngine() {
-    begin_.reset();
-    commit_.reset();
-    rollback_.reset();
+    commands_.clear();
     sqlite3_close(db_);
 }
 
@@ -213,28 +206,35 @@ std::string SqliteEngine::InsertText(const std::string& table, std::span<const s
     return "insert into " + table + " (" + columns + ") values (" + values + ")";
 }
 
-void SqliteEngine::Begin() { Own(*begin_).Run({}); }
+void SqliteEngine::Begin() { Command("begin immediate"); }
 
-void SqliteEngine::Commit() { Own(*commit_).Run({}); }
+void SqliteEngine::Commit() { Command("commit"); }
 
 // Some failures, such as a full disk, have rolled the transaction back already.
 void SqliteEngine::Rollback() noexcept {
     if (sqlite3_get_autocommit(db_))
         return;
     try {
-        Own(*rollback_).Run({});
+        Command("rollback");
     } catch (const DatabaseError&) {
         // Without a commit nothing of the transaction stays.
     }
 }
 
-void SqliteEngine::Savepoint(int depth) { ExecuteScript("savepoint s" + std::to_string(depth)); }
+void SqliteEngine::Command(const std::string& sql) {
+    std::unique_ptr<EngineStatement>& command = commands_[sql];
+    if (!command)
+        command = std::make_unique<SqliteStatement>(db_, sql);
+    Own(*command).Run({});
+}
 
-void SqliteEngine::Release(int depth) { ExecuteScript("release s" + std::to_string(depth)); }
+void SqliteEngine::Savepoint(int depth) { Command("savepoint s" + std::to_string(depth)); }
+
+void SqliteEngine::Release(int depth) { Command("release s" + std::to_string(depth)); }
 
 void SqliteEngine::RollbackTo(int depth) {
-    const std::string name = "s" + std::to_string(depth);
-    ExecuteScript("rollback to " + name + "; release " + name);
+    Command("rollback to s" + std::to_string(depth));
+    Command("release s" + std::to_string(depth));
 }
 
 void SqliteEngine::ExecuteScript(const std::string& sql) {

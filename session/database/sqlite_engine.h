@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_map>
 
 #include "session/database/engine.h"
 
@@ -42,8 +43,10 @@ class SqliteEngine : public Engine {
     std::string TableSuffix() const override { return " strict"; }
 
   private:
+    void Command(const std::string& sql); // of a transaction; each is prepared once
+
     sqlite3* db_ = nullptr;
-    std::unique_ptr<EngineStatement> begin_, commit_, rollback_;
+    std::unordered_map<std::string, std::unique_ptr<EngineStatement>> commands_;
 };
 
 } // namespace jxc

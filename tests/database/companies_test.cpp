@@ -1,0 +1,155 @@
+// Creating and opening companies: what is refused and how it is said, older databases, and whose the file is.
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "session/database/engine.h"
+#include "session/database/late_columns.h"
+#include "session/database/open_connection.h"
+#include "session/database/routines.h"
+#include "session/database/schema.h"
+#include "session/session.h"
+#include "tests/support/test_company.h"
+
+namespace jxc::test {
+
+namespace {
+
+std::string WhyNot(int dialect, const std::string& path, const std::string& database = "") {
+    Connection connection;
+    try {
+        OpenConnection(dialect, connection, path, "", "", database);
+    } catch (const DatabaseError& error) {
+        EXPECT_FALSE(connection.IsOpen());
+        return error.what();
+    }
+    return "";
+}
+
+class Companies : public OnBothEngines {};
+ON_BOTH_ENGINES(Companies);
+
+TEST_P(Companies, AreFoundAgain) {
+    Do("Insert Into tJXC_Ck (fCkName) Values ('总仓')");
+    EXPECT_EQ(WhyNot(company->Dialect(), company->Path(), company->Database()), "");
+    EXPECT_EQ(OpenConnection(company->Dialect(), Conn(), company->Path(), "", "", company->Database()), 0);
+    EXPECT_EQ(One("Select fCkName From tJXC_Ck"), "总仓");
+}
+
+TEST_P(Companies, AreNotCreatedTwice) {
+    Connection connection;
+    EXPECT_THROW(CreateCompanyTables(company->Dialect(), connection, company->Path(), "", "", company->Database()), DatabaseError);
+    EXPECT_FALSE(connection.IsOpen());
+    EXPECT_EQ(WhyNot(company->Dialect(), company->Path(), company->Database()), "");
+}
+
+TEST_P(Companies, HaveEveryTableOfTheSystem) {
+    EXPECT_EQ(One("Select count(*) From tJXC_InvSys"), "0");
+    Conn().EngineInUse().ExecuteScript("drop table tJXC_InvSys");
+    EXPECT_EQ(WhyNot(company->Dialect(), company->Path(), company->Database()), "该数据库不是公司帐套：缺少表 tJXC_InvSys。");
+}
+
+// The books that are copied with "Select *" have one layout; the types' columns 10 and 22 are reached by place.
+TEST_P(Companies, KeepTheOrderOfColumnsThatCopiesRelyOn) {
+    const auto names = [](const std::string& table) {
+        return Conn().Query("Select * From " + table).names;
+    };
+    for (const char* half : {"01", "02"})
+        for (const char* book : {"tJXC_CkDj_Bak", "tJXC_CkDj_Tmp"})
+            EXPECT_EQ(names(std::string(book) + half), names(std::string("tJXC_CkDj") + half));
+    EXPECT_EQ(names("tJXC_CkTj_Bak"), names("tJXC_CkTj"));
+    EXPECT_EQ(names("tJXC_Yj_Data_Bak"), names("tJXC_Yj_Data"));
+    EXPECT_STRCASEEQ(names("tJXC_InvSet")[10].c_str(), "fSetTestNo");
+    EXPECT_STRCASEEQ(names("tJXC_InvSet")[22].c_str(), "fSetDefaultNo");
+    EXPECT_EQ(names("tJXC_InvSet").size(), 24u);
+}
+
+TEST_P(Companies, OfOlderVersionsGainTheirLateColumns) {
+    Conn().EngineInUse().ExecuteScript("alter table tJXC_Ck drop column fKhID");
+    Conn().EngineInUse().ExecuteScript("alter table tJXC_CpTj02 drop column fCpPjMemo");
+    OpenConnection(company->Dialect(), Conn(), company->Path(), "", "", company->Database());
+    Do("Insert Into tJXC_Ck (fCkName) Values ('A')");
+    EXPECT_EQ(DbCount("tJXC_Ck", "fKhID=0"), -1);
+    EXPECT_EQ(Conn().Query("Select * From tJXC_Ck").names.size(), 9u);
+    for (int time = 0; time < 2; ++time) {
+        EnsureLateColumn("tJXC_Ck", "fKhID");
+        EnsureLateColumn("tJXC_CpTj02", "fCpPjMemo");
+        EXPECT_EQ(Conn().Query("Select * From tJXC_Ck").names.size(), 10u);
+    }
+    EXPECT_EQ(DbCount("tJXC_Ck", "fKhID=0"), 0);
+    Do("Insert Into tJXC_CpTj02 (fTjID,fCpPjMemo) Values (1,'Left')");
+    EXPECT_EQ(One("Select fTjID From tJXC_CpTj02 Where fCpPjMemo='lEFT'"), "1");
+    EXPECT_THROW(EnsureLateColumn("tJXC_Ck", "fMore"), DatabaseError);
+}
+
+// Another user's program adds the column while this one has its "select *" prepared.
+TEST_P(Companies, MayGrowAColumnUnderOneWhoReads) {
+    EXPECT_EQ(Conn().Query("Select * From tJXC_KhAdd").names.size(), 2u);
+    Connection other;
+    OpenConnection(company->Dialect(), other, company->Path(), "", "", company->Database());
+    other.Execute("ALTER TABLE tJXC_KhAdd ADD fMore Int NULL");
+    EXPECT_EQ(Conn().Query("Select * From tJXC_KhAdd").names.size(), 3u);
+}
+
+} // namespace
+
+TEST(CompanyFiles, BelongToTheirOwnerOnly) {
+    const mode_t before = umask(0);
+    const TestCompany company(EngineKind::Sqlite);
+    umask(before);
+    Do("Insert Into tJXC_Ck (fCkName) Values ('A')");
+    for (const char* suffix : {"", "-wal", "-shm"}) {
+        struct stat file {};
+        ASSERT_EQ(stat((company.Path() + suffix).c_str(), &file), 0) << suffix;
+        EXPECT_EQ(file.st_mode & 0777, 0600u) << suffix;
+    }
+}
+
+TEST(CompanyFiles, ThatAreNoneAreRefused) {
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / ("jxc_no_company_" + std::to_string(getpid()));
+    std::filesystem::create_directory(folder);
+    const std::string path = folder / "company.db";
+    EXPECT_EQ(WhyNot(0, path), "数据库文件 " + path + " 不存在。");
+    EXPECT_EQ(WhyNot(0, folder), folder.string() + " 不是数据库文件。");
+    std::ofstream(path) << std::string(5000, 'x');
+    EXPECT_EQ(WhyNot(0, path), "该文件不是数据库，或者已经损坏。");
+    std::ofstream(path, std::ios::trunc).close();
+    EXPECT_TRUE(WhyNot(0, path).starts_with("该数据库不是公司帐套：缺少表"));
+    std::filesystem::remove_all(folder);
+}
+
+TEST(CompanyServers, ThatDoNotAnswerAreNamed) {
+    EXPECT_TRUE(WhyNot(1, "/tmp/no_server_is_here", "x").starts_with("不能连接数据库服务器："));
+    if (const std::string reason = WhyUnavailable(EngineKind::Postgres); !reason.empty())
+        GTEST_SKIP() << reason;
+    const std::string why = WhyNot(1, std::getenv("JXC_TEST_PG"), "jxc_no_such_database");
+    EXPECT_NE(why.find("jxc_no_such_database"), std::string::npos) << why;
+    EXPECT_TRUE(WhyNot(1, std::getenv("JXC_TEST_PG")).starts_with("该数据库不是公司帐套"));
+}
+
+TEST(CompanyServers, ThatGoAwayAreNoticed) {
+    if (const std::string reason = WhyUnavailable(EngineKind::Postgres); !reason.empty())
+        GTEST_SKIP() << reason;
+    const TestCompany company(EngineKind::Postgres);
+    Conn().BeginTrans();
+    Do("Insert Into tJXC_Ck (fCkName) Values ('A')");
+    Conn().Flush();
+    Connection other;
+    OpenConnection(1, other, company.Path(), "", "", company.Database());
+    other.EngineInUse().ExecuteScript("select pg_terminate_backend(pid) from pg_stat_activity where datname = "
+                                      "current_database() and pid <> pg_backend_pid()");
+    for (int time = 0; time < 2; ++time)
+        try {
+            One("Select count(*) From tJXC_Ck");
+            ADD_FAILURE() << "the line is cut";
+        } catch (const DatabaseError& error) {
+            EXPECT_TRUE(std::string(error.what()).starts_with("与数据库服务器的连接已经中断")) << error.what();
+        }
+    EXPECT_THROW(Conn().CommitTrans(), DatabaseError);
+    Conn().RollbackTrans();
+    EXPECT_EQ(other.Query("Select count(*) From tJXC_Ck").At(0, 0).AsLong(), 0);
+}
+
+} // namespace jxc::test
