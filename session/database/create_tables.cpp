@@ -14,13 +14,13 @@ std::string TableScript(const Engine& engine, const TableDef& table) {
     const std::string name(table.name);
     std::string sql = "create table " + name + " (";
     for (size_t i = 0; i < table.fields.size(); ++i)
-        sql += (i > 0 ? ", " : "") + engine.ColumnDefinition(table.fields[i]);
-    sql += ")" + engine.TableSuffix() + ";\n";
+        sql.append(i > 0 ? ", " : "").append(engine.ColumnDefinition(table.fields[i]));
+    sql.append(")").append(engine.TableSuffix()).append(";\n");
     for (size_t i = 0; i < table.indexes.size(); ++i) {
         const IndexDef& index = table.indexes[i];
         std::string columns;
         for (const std::string& field : Split(index.fields, ','))
-            columns += (columns.empty() ? "" : ", ") + engine.IndexedColumn(field);
+            columns.append(columns.empty() ? "" : ", ").append(engine.IndexedColumn(field));
         sql += std::string(index.unique ? "create unique index " : "create index ") + name + "_" + std::to_string(i + 1) +
                " on " + name + " (" + columns + ");\n";
     }
@@ -36,6 +36,7 @@ void CreateIn(Connection& connection, std::unique_ptr<Engine> engine) {
         engine->Rollback();
         throw;
     }
+    engine->Adopt();
     connection.Open(std::move(engine));
 }
 

@@ -44,7 +44,11 @@ class Engine {
     // Changes or deletes the row at `address`, the last of `values`; a row that is gone is a ConflictError. `sql` as
     // ChangeText or DeleteText gives it.
     virtual void Change(EngineStatement& statement, std::span<const Value> values, const RowAddress& address) = 0;
-    virtual std::string ChangeText(const std::string& table, std::span<const std::string> fields) const = 0;
+    // With `unchanged` the row must still hold the values of these fields, which come between the new values and the
+    // address; an engine that moves changed rows knows without them, and is given none.
+    virtual bool MovesChangedRows() const = 0;
+    virtual std::string ChangeText(const std::string& table, std::span<const std::string> fields,
+                                   std::span<const std::string> unchanged) const = 0;
     virtual std::string DeleteText(const std::string& table) const = 0;
     virtual std::string InsertText(const std::string& table, std::span<const std::string> fields) const = 0;
 
@@ -56,6 +60,9 @@ class Engine {
     virtual void Release(int depth) = 0;
     virtual void RollbackTo(int depth) = 0;
     virtual int DepthOfFailure() const = 0;
+
+    // Called once the database has proven to be a company's: settings that stay with it.
+    virtual void Adopt() {}
 
     // DDL of the schema, several statements at once, outside the language of the business routines.
     virtual void ExecuteScript(const std::string& sql) = 0;

@@ -113,7 +113,10 @@ class Scanner {
         }
         if (c == ';')
             throw DatabaseError("SQL 语句有误：一次只能执行一条语句，不能含有分号。");
-        throw DatabaseError("SQL 语句有误：不能识别的字符“" + std::string(1, c) + "”。");
+        size_t end = start + 1; // of a character of several bytes
+        while (end < sql_.size() && (static_cast<unsigned char>(sql_[end]) & 0xC0) == 0x80)
+            ++end;
+        throw DatabaseError("SQL 语句有误：不能识别的字符“" + std::string(sql_.substr(start, end - start)) + "”。");
     }
 
     std::string_view sql_;

@@ -47,6 +47,7 @@ int OpenConnection(int dialect, Connection& connection, const std::string& path,
     }
     try {
         RequireTables(connection);
+        connection.EngineInUse().Adopt();
     } catch (const DatabaseError&) {
         connection.Close();
         throw;

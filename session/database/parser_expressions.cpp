@@ -36,10 +36,10 @@ NodePtr ExpressionParser::Negation() {
 
 NodePtr ExpressionParser::Comparison() {
     NodePtr left = Sum();
-    for (const char* op : {"=", "<>", "<=", ">=", "<", ">"}) {
+    for (const std::string_view op : {"=", "<>", "<=", ">=", "<", ">"}) {
         if (TakeSymbol(op)) {
             NodePtr node = MakeNode(Form::Comparison, std::move(left), Sum());
-            node->text = op;
+            node->text += op;
             return node;
         }
     }

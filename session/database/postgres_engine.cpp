@@ -34,7 +34,7 @@ std::vector<Oid> TypesOf(const std::vector<ParameterType>& types) {
     return oids;
 }
 
-std::string Numbered(size_t number) { return "$" + std::to_string(number); }
+std::string Numbered(size_t number) { return std::string("$").append(std::to_string(number)); }
 
 } // namespace
 
@@ -74,7 +74,7 @@ std::unique_ptr<StatementWriter> PostgresEngine::NewWriter() const { return std:
 
 std::shared_ptr<ServerStatement> PostgresEngine::NewStatement(const std::string& sql, std::vector<Oid> types) {
     auto statement = std::make_shared<ServerStatement>();
-    statement->name = "q" + std::to_string(++named_);
+    statement->name.append("q").append(std::to_string(++named_));
     statement->sql = sql;
     statement->types = std::move(types);
     return statement;
@@ -154,7 +154,8 @@ void PostgresEngine::Flush() {
         line_.Settle();
 }
 
-std::string PostgresEngine::ChangeText(const std::string& table, std::span<const std::string> fields) const {
+std::string PostgresEngine::ChangeText(const std::string& table, std::span<const std::string> fields,
+                                       std::span<const std::string>) const {
     std::string sql = "update " + table;
     const char* separator = " set ";
     size_t number = 0;

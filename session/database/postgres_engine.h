@@ -27,7 +27,9 @@ class PostgresEngine : public Engine {
     void Flush() override;
 
     void Change(EngineStatement& statement, std::span<const Value> values, const RowAddress& address) override;
-    std::string ChangeText(const std::string& table, std::span<const std::string> fields) const override;
+    bool MovesChangedRows() const override { return true; }
+    std::string ChangeText(const std::string& table, std::span<const std::string> fields,
+                           std::span<const std::string> unchanged) const override;
     std::string DeleteText(const std::string& table) const override;
     std::string InsertText(const std::string& table, std::span<const std::string> fields) const override;
 

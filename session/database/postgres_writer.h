@@ -11,7 +11,9 @@ namespace jxc {
 
 class PostgresWriter : public StatementWriter {
   protected:
-    std::string Placeholder(size_t number) const override { return "$" + std::to_string(number); }
+    std::string Placeholder(size_t number) const override {
+        return std::string("$").append(std::to_string(number));
+    }
     std::string RowAddress() const override { return "ctid"; }
     std::string ColumnType(bool text) const override { return text ? "citext collate \"C\"" : "integer"; }
     std::string TextResult(const std::string& text) const override { return "cast(" + text + " as citext)"; }

@@ -91,6 +91,10 @@ void Recordset::Set(std::string_view name, Value value) { Set(OrdinalOf(name), s
 void Recordset::Set(size_t ordinal, Value value) {
     const FieldDef& field = Definition(ordinal);
     RequireRow();
+    if (assigned_.empty() && !adding_) {
+        const auto row = rows_.cells.begin() + static_cast<std::ptrdiff_t>(row_ * rows_.names.size());
+        before_.assign(row, row + static_cast<std::ptrdiff_t>(rows_.names.size()));
+    }
     Cell(ordinal) = FieldValue(field, std::move(value));
     if (std::find(assigned_.begin(), assigned_.end(), ordinal) == assigned_.end())
         assigned_.push_back(ordinal);
@@ -137,12 +141,25 @@ void Recordset::Update() {
         connection_.RunOnRow(text, values, nullptr);
         return;
     }
-    if (assigned_.empty())
-        return;
+    if (!assigned_.empty())
+        ChangeRow(engine);
+}
+
+// Inside a transaction nobody else writes. Outside one, an engine whose rows keep their place when they change must
+// compare the row with what was read.
+bool Recordset::MustCompare(const Engine& engine) const {
+    return !engine.MovesChangedRows() && !connection_.InTransaction();
+}
+
+void Recordset::ChangeRow(Engine& engine) {
     const std::shared_ptr<Value> address = AddressToWrite();
+    const bool compare = MustCompare(engine);
     std::vector<Value> values = ValuesToWrite();
+    if (compare)
+        values.insert(values.end(), before_.begin(), before_.end());
     values.push_back(*address);
-    const std::string text = engine.ChangeText(tableName_, NamesToWrite());
+    const std::vector<std::string> unchanged = compare ? rows_.names : std::vector<std::string>();
+    const std::string text = engine.ChangeText(tableName_, NamesToWrite(), unchanged);
     assigned_.clear();
     connection_.RunOnRow(text, values, address);
 }

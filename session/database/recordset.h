@@ -54,6 +54,8 @@ class Recordset {
     void ReadRows(std::string_view sql);
     std::vector<std::string> NamesToWrite() const;
     std::vector<Value> ValuesToWrite();
+    void ChangeRow(Engine& engine);
+    bool MustCompare(const Engine& engine) const;
     std::shared_ptr<Value> AddressToWrite();
 
     Connection& connection_;
@@ -63,6 +65,7 @@ class Recordset {
     bool adding_ = false;
     std::vector<Value> newRow_;
     std::vector<size_t> assigned_;                  // ordinals, since AddNew or the last Update
+    std::vector<Value> before_;                     // the current row before the first of them
     std::string tableName_;                         // Write: the table
     const TableDef* table_ = nullptr;               // Write: its definition
     std::vector<const FieldDef*> fields_;           // Write: the definition of each column

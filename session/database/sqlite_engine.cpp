@@ -126,8 +126,7 @@ void CreatePrivateFile(const std::string& path) {
 }
 
 constexpr int kWaitMilliseconds = 30000;
-constexpr const char* kSettings = "pragma journal_mode = wal;"
-                                  "pragma synchronous = full;"
+constexpr const char* kSettings = "pragma synchronous = full;"
                                   "pragma temp_store = memory;"
                                   "pragma cache_size = -65536;";
 
@@ -183,14 +182,20 @@ void SqliteEngine::Change(EngineStatement& statement, std::span<const Value> val
         throw ConflictError("该记录已被其他用户修改或删除。");
 }
 
-std::string SqliteEngine::ChangeText(const std::string& table, std::span<const std::string> fields) const {
+std::string SqliteEngine::ChangeText(const std::string& table, std::span<const std::string> fields,
+                                     std::span<const std::string> unchanged) const {
     std::string sql = "update " + table;
     const char* separator = " set ";
     for (const std::string& field : fields) {
         sql.append(separator).append(field).append(" = ?");
         separator = ", ";
     }
-    return sql + " where rowid = ?";
+    separator = " where ";
+    for (const std::string& field : unchanged) {
+        sql.append(separator).append(field).append(" is ?");
+        separator = " and ";
+    }
+    return sql + separator + "rowid = ?";
 }
 
 std::string SqliteEngine::DeleteText(const std::string& table) const {
@@ -241,6 +246,8 @@ void SqliteEngine::ExecuteScript(const std::string& sql) {
     if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
         Fail(db_);
 }
+
+void SqliteEngine::Adopt() { ExecuteScript("pragma journal_mode = wal"); }
 
 std::string SqliteEngine::ColumnDefinition(const FieldDef& field) const {
     const std::string name(field.name);

@@ -26,7 +26,9 @@ class SqliteEngine : public Engine {
                                   std::span<const Value> values) override;
 
     void Change(EngineStatement& statement, std::span<const Value> values, const RowAddress& address) override;
-    std::string ChangeText(const std::string& table, std::span<const std::string> fields) const override;
+    bool MovesChangedRows() const override { return false; }
+    std::string ChangeText(const std::string& table, std::span<const std::string> fields,
+                           std::span<const std::string> unchanged) const override;
     std::string DeleteText(const std::string& table) const override;
     std::string InsertText(const std::string& table, std::span<const std::string> fields) const override;
 
@@ -38,6 +40,7 @@ class SqliteEngine : public Engine {
     void RollbackTo(int depth) override;
     int DepthOfFailure() const override { return -1; }
 
+    void Adopt() override;
     void ExecuteScript(const std::string& sql) override;
     std::string ColumnDefinition(const FieldDef& field) const override;
     std::string TableSuffix() const override { return " strict"; }

@@ -10,7 +10,9 @@ namespace jxc {
 
 class SqliteWriter : public StatementWriter {
   protected:
-    std::string Placeholder(size_t number) const override { return "?" + std::to_string(number); }
+    std::string Placeholder(size_t number) const override {
+        return std::string("?").append(std::to_string(number));
+    }
     std::string RowAddress() const override { return "rowid"; }
     std::string ColumnType(bool text) const override { return text ? "text collate nocase" : "integer"; }
     std::string TextResult(const std::string& text) const override { return "(" + text + " collate nocase)"; }

@@ -118,6 +118,8 @@ class StatementWriter {
 
 // The expression below parentheses around it.
 const Node& Bare(const Node& node);
+// `inside` between `open` and a closing parenthesis.
+std::string Enclosed(std::string_view open, std::string_view inside);
 inline bool IsLifted(const Node& node) { return node.form == Node::Form::Literal && node.literal >= 0; }
 
 } // namespace jxc

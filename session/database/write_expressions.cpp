@@ -5,6 +5,13 @@ namespace jxc {
 
 using Form = Node::Form;
 
+std::string Enclosed(std::string_view open, std::string_view inside) {
+    std::string text(open);
+    text += inside;
+    text += ')';
+    return text;
+}
+
 const Node& Bare(const Node& node) { return node.form == Form::Parens ? Bare(*node.parts[0]) : node; }
 
 std::string StatementWriter::Expression(const Node& node) {
@@ -22,7 +29,7 @@ std::string StatementWriter::Expression(const Node& node) {
     case Form::Convert:
         return Convert(node);
     case Form::Negative:
-        return "(- " + Expression(*node.parts[0]) + ")";
+        return Enclosed("(- ", Expression(*node.parts[0]));
     case Form::Not:
         return "not " + Expression(*node.parts[0]);
     case Form::Arithmetic:
@@ -31,14 +38,14 @@ std::string StatementWriter::Expression(const Node& node) {
         return Comparison(node);
     case Form::Like: {
         const std::string like = Like(Expression(*node.parts[0]), Expression(*node.parts[1]));
-        return node.negated ? "not (" + like + ")" : like;
+        return node.negated ? Enclosed("not (", like) : like;
     }
     case Form::And:
         return Conjunction(node);
     case Form::Or:
         return Joined(node.parts, " or ");
     case Form::IsNull:
-        return "(" + Expression(*node.parts[0]) + (node.negated ? " is not null)" : " is null)");
+        return Enclosed("(", Expression(*node.parts[0]) + (node.negated ? " is not null" : " is null"));
     case Form::Between:
         return Between(node);
     case Form::In:
@@ -46,11 +53,11 @@ std::string StatementWriter::Expression(const Node& node) {
     case Form::Case:
         return Case(node);
     case Form::Exists:
-        return "exists (" + Select(*node.select) + ")";
+        return Enclosed("exists (", Select(*node.select));
     case Form::Select:
-        return "(" + Select(*node.select) + ")";
+        return Enclosed("(", Select(*node.select));
     case Form::Parens:
-        return "(" + Expression(*node.parts[0]) + ")";
+        return Enclosed("(", Expression(*node.parts[0]));
     }
     return "";
 }

@@ -96,7 +96,7 @@ std::string StatementWriter::From(const Source& source) {
     case Source::Form::Table:
         return source.table == source.alias ? source.table : source.table + " as " + source.alias;
     case Source::Form::Subselect:
-        return "(" + Select(*source.select) + ") as " + source.alias;
+        return Enclosed("(", Select(*source.select)) + " as " + source.alias;
     case Source::Form::List:
         return Joined(*source.left) + ", " + Joined(*source.right);
     case Source::Form::Join:
@@ -112,7 +112,7 @@ std::string StatementWriter::From(const Source& source) {
 
 // A join within a join stands in parentheses.
 std::string StatementWriter::Joined(const Source& source) {
-    return source.form == Source::Form::Join || source.form == Source::Form::List ? "(" + From(source) + ")"
+    return source.form == Source::Form::Join || source.form == Source::Form::List ? Enclosed("(", From(source))
                                                                                   : From(source);
 }
 
@@ -169,7 +169,7 @@ std::string StatementWriter::UpdateFrom(StatementTree& tree) {
     for (size_t i = 0; i < tree.assignments.size(); ++i) {
         const StatementTree::Assignment& assignment = tree.assignments[i];
         const FieldDef* target = tree.def ? FindField(*tree.def, assignment.column) : nullptr;
-        const std::string name = "v" + std::to_string(i);
+        const std::string name = std::string("v").append(std::to_string(i));
         assignments += (i > 0 ? ", " : "") + assignment.column + " = found." + name;
         values += ", max(" + Assigned(*assignment.value, target) + ") as " + name;
     }
@@ -178,8 +178,9 @@ std::string StatementWriter::UpdateFrom(StatementTree& tree) {
         found += " where " + Expression(*tree.where);
     found += " group by " + row;
     CloseScope();
-    return "update " + tree.table + " as changed set " + assignments + " from (" + found +
-           ") as found where changed." + RowAddress() + " = found.r";
+    std::string sql = "update ";
+    sql += tree.table + " as changed set " + assignments + " from " + Enclosed("(", found);
+    return sql + " as found where changed." + RowAddress() + " = found.r";
 }
 
 std::string StatementWriter::Delete(StatementTree& tree) {

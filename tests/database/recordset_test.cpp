@@ -75,6 +75,14 @@ TEST_P(Recordsets, DeleteTheCurrentRow) {
     EXPECT_EQ(One("Select fCpID,fKcSl From tJXC_CkTj"), "2|4");
 }
 
+TEST_P(Recordsets, TellARowThatAnotherChangedMeanwhile) {
+    Recordset rows = Open("fCpID=1");
+    Do("Update tJXC_CkTj Set fKcSl=6 Where fCpID=1");
+    rows.Set("fKcJe", 4);
+    EXPECT_THROW(rows.Update(), ConflictError);
+    EXPECT_EQ(One("Select fKcSl,fKcJe From tJXC_CkTj Where fCpID=1"), "6|null");
+}
+
 TEST_P(Recordsets, TellARowThatIsGone) {
     Recordset rows = Open("fCpID=1");
     Do("Delete From tJXC_CkTj Where fCpID=1");

@@ -111,7 +111,7 @@ Lines RowsOf(const std::string& sql) {
         std::string line;
         for (size_t column = 0; column < rows.names.size(); ++column) {
             const Value& cell = rows.At(row, column);
-            line += (column > 0 ? "|" : "") + (cell.IsNull() ? "null" : cell.AsText());
+            line.append(column > 0 ? "|" : "").append(cell.IsNull() ? "null" : cell.AsText());
         }
         lines.push_back(line);
     }

@@ -1,0 +1,35 @@
+// The sample company, fresh for each test: a copy of one that is made once per engine. Today is 5 November 2026 for all
+// tests, so the books' period is that month.
+#pragma once
+
+#include <string>
+
+#include "session/lzjxc.h"
+#include "tests/support/test_company.h"
+
+namespace jxc::test {
+
+class SampleCompany {
+  public:
+    explicit SampleCompany(EngineKind kind);
+    ~SampleCompany();
+    SampleCompany(const SampleCompany&) = delete;
+    SampleCompany& operator=(const SampleCompany&) = delete;
+
+    // As the command line and lzJxc's UserPath name it.
+    const std::string& Address() const { return address_; }
+    // A control that points at the company, signed in as a clerk who is also the supervisor, with every right.
+    lzJxc SignedIn() const;
+
+  private:
+    EngineKind kind_;
+    std::string name_;
+    std::string address_;
+};
+
+// Rows of a statement on a connection of its own, so that it also works between screens.
+Rows QueryCompany(const std::string& address, const std::string& sql);
+// A statement without rows, the same way.
+void ExecuteOnCompany(const std::string& address, const std::string& sql);
+
+} // namespace jxc::test
