@@ -29,7 +29,9 @@ Translation Translate(const Engine& engine, std::string_view sql, LiftedStatemen
 
 Connection::Connection() = default;
 
-Connection::~Connection() { Close(); }
+Connection::~Connection() {
+    Close();
+}
 
 void Connection::Open(std::unique_ptr<Engine> engine) {
     Close();
@@ -43,11 +45,17 @@ void Connection::Close() {
     engine_.reset();
 }
 
-bool Connection::IsOpen() const { return engine_ != nullptr; }
+bool Connection::IsOpen() const {
+    return engine_ != nullptr;
+}
 
-bool Connection::InTransaction() const { return inTransaction_; }
+bool Connection::InTransaction() const {
+    return inTransaction_;
+}
 
-void Connection::SetObserver(std::function<void(std::string_view)> observer) { observer_ = std::move(observer); }
+void Connection::SetObserver(std::function<void(std::string_view)> observer) {
+    observer_ = std::move(observer);
+}
 
 void Connection::Announce(std::string_view sql) {
     if (observer_)
@@ -75,7 +83,8 @@ void Connection::NoteFailure(const DatabaseError& error) {
     failure_ = error.what();
 }
 
-template <typename Work> auto Connection::Guarded(std::string_view sql, Work work) {
+template <typename Work>
+auto Connection::Guarded(std::string_view sql, Work work) {
     RequireUsable();
     try {
         Announce(sql);

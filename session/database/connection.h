@@ -1,10 +1,10 @@
-// The one road to the company's database. Every statement is a text in one of the system's two dialects, word for
-// word as the business routines build it; what stands between that text and the engine (literals lifted to bound
-// parameters, rewrites, the cache of prepared statements) is told in translation.h.
+// The one road to the company's database. Every statement is a text in one of the system's two dialects, word
+// for word as the business routines build it; what stands between that text and the engine (literals lifted
+// to bound parameters, rewrites, the cache of prepared statements) is told in translation.h.
 //
-// Failures are DatabaseError. A failed statement leaves the connection usable outside a transaction; inside one, only
-// statements run through Tolerantly() may fail without forcing the roll-back: after any other failure every statement
-// and the commit fail with the same text until RollbackTrans.
+// Failures are DatabaseError. A failed statement leaves the connection usable outside a transaction; inside
+// one, only statements run through Tolerantly() may fail without forcing the roll-back: after any other
+// failure every statement and the commit fail with the same text until RollbackTrans.
 #pragma once
 
 #include <functional>
@@ -56,30 +56,32 @@ class Connection {
     bool IsOpen() const;
 
     // Runs a statement that gives no rows: Insert, Update, Delete, ALTER TABLE. On a database server inside a
-    // transaction it may be sent together with the statements behind it; its failure then shows at the next Flush,
-    // Query or CommitTrans at the latest.
+    // transaction it may be sent together with the statements behind it; its failure then shows at the next
+    // Flush, Query or CommitTrans at the latest.
     void Execute(std::string_view sql);
     // Runs a statement that gives rows.
     Rows Query(std::string_view sql);
     // Waits until everything sent so far has succeeded, or throws the first failure.
     void Flush();
 
-    // One transaction at a time, no nesting. Writers of one company wait for each other at BeginTrans, so a routine
-    // that reads, computes and writes inside a transaction is never overtaken.
+    // One transaction at a time, no nesting. Writers of one company wait for each other at BeginTrans, so a
+    // routine that reads, computes and writes inside a transaction is never overtaken.
     void BeginTrans();
     void CommitTrans();
     void RollbackTrans() noexcept;
     bool InTransaction() const;
 
-    // Runs `work` so that a DatabaseError inside it undoes only `work` and leaves an open transaction usable; the
-    // error is thrown on. Routines that swallow errors by design run their statements so.
+    // Runs `work` so that a DatabaseError inside it undoes only `work` and leaves an open transaction usable;
+    // the error is thrown on. Routines that swallow errors by design run their statements so.
     void Tolerantly(const std::function<void()>& work);
 
-    // The engine's plan of a statement, a line per step, as EXPLAIN gives it: the proof that no table is scanned.
+    // The engine's plan of a statement, a line per step, as EXPLAIN gives it: the proof that no table is
+    // scanned.
     std::vector<std::string> Plan(std::string_view sql);
 
-    // Called with each statement's text before it is sent, transaction commands among them ("begin", "commit",
-    // "rollback" is not announced). It may throw DatabaseError: that is how faults are injected. Null for none.
+    // Called with each statement's text before it is sent, transaction commands among them ("begin",
+    // "commit", "rollback" is not announced). It may throw DatabaseError: that is how faults are injected.
+    // Null for none.
     void SetObserver(std::function<void(std::string_view)> observer);
 
     Engine& EngineInUse();
@@ -87,13 +89,15 @@ class Connection {
   private:
     friend class Recordset;
 
-    // What a Recordset that writes needs: a select whose rows carry their address in the first column, and statements
-    // on single rows, prepared like any other. With `address` the row must still be there.
+    // What a Recordset that writes needs: a select whose rows carry their address in the first column, and
+    // statements on single rows, prepared like any other. With `address` the row must still be there.
     Rows QueryRows(std::string_view sql, std::string& table);
-    void RunOnRow(const std::string& text, std::span<const Value> values, const std::shared_ptr<Value>& address);
+    void RunOnRow(const std::string& text, std::span<const Value> values,
+                  const std::shared_ptr<Value>& address);
 
     void Announce(std::string_view sql);
-    template <typename Work> auto Guarded(std::string_view sql, Work work);
+    template <typename Work>
+    auto Guarded(std::string_view sql, Work work);
     void RequireUsable() const;
     void NoteFailure(const DatabaseError& error);
     CachedStatement& Prepared(std::string_view sql, bool editRows);

@@ -21,8 +21,8 @@ std::string TableScript(const Engine& engine, const TableDef& table) {
         std::string columns;
         for (const std::string& field : Split(index.fields, ','))
             columns.append(columns.empty() ? "" : ", ").append(engine.IndexedColumn(field));
-        sql += std::string(index.unique ? "create unique index " : "create index ") + name + "_" + std::to_string(i + 1) +
-               " on " + name + " (" + columns + ");\n";
+        sql += std::string(index.unique ? "create unique index " : "create index ") + name + "_" +
+               std::to_string(i + 1) + " on " + name + " (" + columns + ");\n";
     }
     return sql;
 }
@@ -49,11 +49,13 @@ std::string CompanyTablesScript(const Engine& engine) {
     return sql;
 }
 
-void CreateCompanyTables(int dialect, Connection& connection, const std::string& path, const std::string& password,
-                         const std::string& user, const std::string& defaultName) {
+void CreateCompanyTables(int dialect, Connection& connection, const std::string& path,
+                         const std::string& password, const std::string& user,
+                         const std::string& defaultName) {
     connection.Close();
     if (dialect != 0) {
-        CreateIn(connection, std::make_unique<PostgresEngine>(ServerAddress{path, password, user, defaultName}));
+        CreateIn(connection,
+                 std::make_unique<PostgresEngine>(ServerAddress{path, password, user, defaultName}));
         return;
     }
     auto engine = std::make_unique<SqliteEngine>(path, true);

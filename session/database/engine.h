@@ -1,9 +1,9 @@
-// A database engine: it prepares statements that were written for it and runs them. Connection stands before it with
-// the statements' texts, the cache and the state of the transaction; nothing else uses an engine.
+// A database engine: it prepares statements that were written for it and runs them. Connection stands before
+// it with the statements' texts, the cache and the state of the transaction; nothing else uses an engine.
 //
-// All operations throw DatabaseError. An engine may hold back Execute, Change and the commands of a transaction while
-// one is open, and report a failure at the next Flush, Query or Commit; DepthOfFailure tells in which savepoint the
-// statement that failed stood.
+// All operations throw DatabaseError. An engine may hold back Execute, Change and the commands of a
+// transaction while one is open, and report a failure at the next Flush, Query or Commit; DepthOfFailure
+// tells in which savepoint the statement that failed stood.
 #pragma once
 
 #include <functional>
@@ -24,8 +24,8 @@ class EngineStatement {
     virtual ~EngineStatement() = default;
 };
 
-// Where a row stands, kept up to date by the engine that moves rows when they change. Null: not known yet, because the
-// statement that moved the row was held back; Flush makes it known.
+// Where a row stands, kept up to date by the engine that moves rows when they change. Null: not known yet,
+// because the statement that moved the row was held back; Flush makes it known.
 using RowAddress = std::shared_ptr<Value>;
 
 class Engine {
@@ -41,11 +41,12 @@ class Engine {
                                           std::span<const Value> values) = 0;
     virtual void Flush() {}
 
-    // Changes or deletes the row at `address`, the last of `values`; a row that is gone is a ConflictError. `sql` as
-    // ChangeText or DeleteText gives it.
-    virtual void Change(EngineStatement& statement, std::span<const Value> values, const RowAddress& address) = 0;
-    // With `unchanged` the row must still hold the values of these fields, which come between the new values and the
-    // address; an engine that moves changed rows knows without them, and is given none.
+    // Changes or deletes the row at `address`, the last of `values`; a row that is gone is a ConflictError.
+    // `sql` as ChangeText or DeleteText gives it.
+    virtual void Change(EngineStatement& statement, std::span<const Value> values,
+                        const RowAddress& address) = 0;
+    // With `unchanged` the row must still hold the values of these fields, which come between the new values
+    // and the address; an engine that moves changed rows knows without them, and is given none.
     virtual bool MovesChangedRows() const = 0;
     virtual std::string ChangeText(const std::string& table, std::span<const std::string> fields,
                                    std::span<const std::string> unchanged) const = 0;

@@ -23,7 +23,8 @@ double Number(const FieldDef& field, const Value& value) {
     return number;
 }
 
-template <typename Whole> Value WholeNumber(const FieldDef& field, const Value& value) {
+template <typename Whole>
+Value WholeNumber(const FieldDef& field, const Value& value) {
     const double number = Number(field, value);
     if (number < std::numeric_limits<Whole>::min() || number > std::numeric_limits<Whole>::max())
         throw DatabaseError("字段 " + std::string(field.name) + " 的数值超出范围。");

@@ -71,8 +71,8 @@ bool HoldsOneOf(const Source& source, const Aliases& aliases) {
     return aliases.contains(LowerCase(source.alias));
 }
 
-// What an inner join demands of a table may make a join below it inner. The optional side of an outer join demands
-// nothing of the rest, and is left as it is.
+// What an inner join demands of a table may make a join below it inner. The optional side of an outer join
+// demands nothing of the rest, and is left as it is.
 void MakeInner(Source& source, Aliases& required) {
     if (!source.left)
         return;

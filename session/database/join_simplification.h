@@ -1,5 +1,6 @@
-// An outer join keeps rows whose partner is missing, with nulls in its place. A condition that no null satisfies throws
-// those rows away again; the join may then as well be an inner one, which an engine can start from either side.
+// An outer join keeps rows whose partner is missing, with nulls in its place. A condition that no null
+// satisfies throws those rows away again; the join may then as well be an inner one, which an engine can
+// start from either side.
 #pragma once
 
 #include "session/database/statement_tree.h"

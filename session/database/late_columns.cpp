@@ -17,7 +17,8 @@ struct LateColumn {
 };
 
 constexpr LateColumn kLateColumns[] = {
-    {"tJXC_Ck", "fKhID", "fKhID=0", "ALTER TABLE tJXC_Ck ADD fKhID Int NULL", "ALTER TABLE tJXC_Ck ADD fKhID Int NULL"},
+    {"tJXC_Ck", "fKhID", "fKhID=0", "ALTER TABLE tJXC_Ck ADD fKhID Int NULL",
+     "ALTER TABLE tJXC_Ck ADD fKhID Int NULL"},
     {"tJXC_CpTj02", "fCpPjMemo", "fCpPjMemo=''", "ALTER TABLE tJXC_CpTj02 ADD fCpPjMemo varchar(50) Null",
      "ALTER TABLE tJXC_CpTj02 ADD fCpPjMemo nvarchar(50) Null"},
 };

@@ -7,9 +7,15 @@ namespace jxc {
 
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'; }
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+bool IsLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+}
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 
 class Scanner {
   public:
@@ -65,11 +71,13 @@ class Scanner {
             if (at_ < sql_.size() && (sql_[at_] == '+' || sql_[at_] == '-'))
                 ++at_;
             if (at_ == sql_.size() || !IsDigit(sql_[at_]))
-                throw DatabaseError("SQL 语句有误：数值“" + std::string(sql_.substr(start, at_ - start)) + "”不完整。");
+                throw DatabaseError("SQL 语句有误：数值“" + std::string(sql_.substr(start, at_ - start)) +
+                                    "”不完整。");
             SkipDigits();
         }
         if (at_ < sql_.size() && IsLetter(sql_[at_]))
-            throw DatabaseError("SQL 语句有误：“" + std::string(sql_.substr(start, at_ + 1 - start)) + "”既非数值亦非名称。");
+            throw DatabaseError("SQL 语句有误：“" + std::string(sql_.substr(start, at_ + 1 - start)) +
+                                "”既非数值亦非名称。");
         return Take(kind, start, at_);
     }
 
@@ -116,7 +124,8 @@ class Scanner {
         size_t end = start + 1; // of a character of several bytes
         while (end < sql_.size() && (static_cast<unsigned char>(sql_[end]) & 0xC0) == 0x80)
             ++end;
-        throw DatabaseError("SQL 语句有误：不能识别的字符“" + std::string(sql_.substr(start, end - start)) + "”。");
+        throw DatabaseError("SQL 语句有误：不能识别的字符“" + std::string(sql_.substr(start, end - start)) +
+                            "”。");
     }
 
     std::string_view sql_;
@@ -232,8 +241,8 @@ void Lift(std::string_view sql, LiftedStatement& lifted, std::vector<Token>* tok
 }
 
 bool IsDateMask(std::string_view text) {
-    return EqualsNoCase(text, "yyyy-mm") || EqualsNoCase(text, "yyyymm") || EqualsNoCase(text, "yyyy-mm-dd") ||
-           EqualsNoCase(text, "yyyymmdd");
+    return EqualsNoCase(text, "yyyy-mm") || EqualsNoCase(text, "yyyymm") ||
+           EqualsNoCase(text, "yyyy-mm-dd") || EqualsNoCase(text, "yyyymmdd");
 }
 
 std::string UnquotedText(std::string_view insideQuotes) {

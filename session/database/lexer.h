@@ -1,6 +1,7 @@
-// Reads the text of a statement. One pass does what every call needs: it refuses what may not be sent (a second
-// statement, a quote left open, characters the language does not have), lifts the literals out, and leaves a key under
-// which the prepared statement is cached. Statements that differ only in their literals share a key.
+// Reads the text of a statement. One pass does what every call needs: it refuses what may not be sent (a
+// second statement, a quote left open, characters the language does not have), lifts the literals out, and
+// leaves a key under which the prepared statement is cached. Statements that differ only in their literals
+// share a key.
 //
 // The language has no comments: "a--5" is a minus a negative number.
 #pragma once
@@ -13,8 +14,8 @@ namespace jxc {
 
 enum class TokenKind { Word, Integer, Decimal, Text, Date, Symbol, End };
 
-// A literal as the statement's text holds it: digits, what stands between the quotes ('' not yet undone), what stands
-// between the two #.
+// A literal as the statement's text holds it: digits, what stands between the quotes ('' not yet undone),
+// what stands between the two #.
 struct Literal {
     TokenKind kind;
     std::string_view text;
@@ -23,7 +24,8 @@ struct Literal {
 struct Token {
     TokenKind kind = TokenKind::End;
     std::string_view text;
-    int literal = -1; // the place in LiftedStatement::literals; -1 for a word, a symbol or a literal left in the text
+    int literal =
+        -1; // the place in LiftedStatement::literals; -1 for a word, a symbol or a literal left in the text
 };
 
 // Valid as long as the statement's text is.
@@ -32,9 +34,9 @@ struct LiftedStatement {
     std::vector<Literal> literals;
 };
 
-// Lifts `sql` into `lifted`, whose memory is used again; collects the tokens too when asked. Literals that shape the
-// statement stay in it: the n of Top, lengths and styles of Convert, masks of Format, and whatever stands in Group By,
-// Order By or an ALTER TABLE. Throws DatabaseError.
+// Lifts `sql` into `lifted`, whose memory is used again; collects the tokens too when asked. Literals that
+// shape the statement stay in it: the n of Top, lengths and styles of Convert, masks of Format, and whatever
+// stands in Group By, Order By or an ALTER TABLE. Throws DatabaseError.
 void Lift(std::string_view sql, LiftedStatement& lifted, std::vector<Token>* tokens = nullptr);
 
 // Whether the text is a mask of Format, such as yyyy-mm.

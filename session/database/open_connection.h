@@ -9,12 +9,13 @@
 namespace jxc {
 
 // Opens `connection` on the company's database.
-// `dialect` 0: statements come in the Jet form and run on the SQLite file `path` (which must exist; see schema.h for a
-// new one); `password`, `user` and `defaultName` are not needed. Any other value: the SQL Server form on PostgreSQL;
-// `path` is a libpq URI ("postgresql://...") or a host or socket directory, `defaultName` the database, `user` and
-// `password` the log-in (empty ones leave the URI's).
-// Returns 0. A file that is missing, unreadable or no database, a server that does not answer or refuses the log-in, or
-// a database without the system's tables throws DatabaseError with a text for people and leaves `connection` closed.
+// `dialect` 0: statements come in the Jet form and run on the SQLite file `path` (which must exist; see
+// schema.h for a new one); `password`, `user` and `defaultName` are not needed. Any other value: the SQL
+// Server form on PostgreSQL; `path` is a libpq URI ("postgresql://...") or a host or socket directory,
+// `defaultName` the database, `user` and `password` the log-in (empty ones leave the URI's). Returns 0. A
+// file that is missing, unreadable or no database, a server that does not answer or refuses the log-in, or a
+// database without the system's tables throws DatabaseError with a text for people and leaves `connection`
+// closed.
 int OpenConnection(int dialect, Connection& connection, const std::string& path, const std::string& password,
                    const std::string& user, const std::string& defaultName);
 

@@ -84,8 +84,8 @@ std::string MomentText(const Moment& moment) {
     std::string text = IsoText(moment.day);
     if (moment.seconds != 0) {
         char time[16];
-        std::snprintf(time, sizeof time, " %02d:%02d:%02d", moment.seconds / 3600 % 24, moment.seconds / 60 % 60,
-                      moment.seconds % 60);
+        std::snprintf(time, sizeof time, " %02d:%02d:%02d", moment.seconds / 3600 % 24,
+                      moment.seconds / 60 % 60, moment.seconds % 60);
         text += time;
     }
     return text;
@@ -107,7 +107,8 @@ std::string DayEnd(const Moment& moment) {
 Date MonthOf(const Literal& year, const Literal& month) {
     const int y = static_cast<int>(Val(year.text)), m = static_cast<int>(Val(month.text));
     if (y < 100 || y > 9999 || m < 1 || m > 12)
-        throw DatabaseError("SQL 语句有误：没有 " + std::string(year.text) + " 年 " + std::string(month.text) + " 月。");
+        throw DatabaseError("SQL 语句有误：没有 " + std::string(year.text) + " 年 " +
+                            std::string(month.text) + " 月。");
     return MakeDate(y, m, 1);
 }
 
@@ -140,7 +141,8 @@ Value BindParameter(const Parameter& parameter, const std::vector<Literal>& lite
     case Derivation::MonthStart:
         return Value(IsoText(MonthOf(literal, literals[static_cast<size_t>(parameter.second)])));
     case Derivation::MonthEnd:
-        return Value(IsoText(AddMonths(MonthOf(literal, literals[static_cast<size_t>(parameter.second)]), 1)));
+        return Value(
+            IsoText(AddMonths(MonthOf(literal, literals[static_cast<size_t>(parameter.second)]), 1)));
     }
     return {};
 }

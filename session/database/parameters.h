@@ -1,5 +1,5 @@
-// The parameters of a prepared statement: each is worked out from the literals of the text at hand, every time the
-// statement runs.
+// The parameters of a prepared statement: each is worked out from the literals of the text at hand, every
+// time the statement runs.
 #pragma once
 
 #include <vector>
@@ -32,8 +32,8 @@ struct Parameter {
 // Throws DatabaseError when a date is none.
 Value BindParameter(const Parameter& parameter, const std::vector<Literal>& literals);
 
-// "yyyy-mm-dd" or "mm/dd/yyyy", a time "hh:mm:ss" behind it allowed, as the engines hold it: "yyyy-mm-dd", with
-// " hh:mm:ss" only when it is not midnight. "" when it is no date.
+// "yyyy-mm-dd" or "mm/dd/yyyy", a time "hh:mm:ss" behind it allowed, as the engines hold it: "yyyy-mm-dd",
+// with " hh:mm:ss" only when it is not midnight. "" when it is no date.
 std::string NormalDate(std::string_view text);
 
 } // namespace jxc

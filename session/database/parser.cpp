@@ -149,8 +149,8 @@ class StatementParser : public ExpressionParser {
             return ExpectName();
         if (Here().kind != TokenKind::Word)
             return otherwise;
-        for (const char* reserved : {"where", "left", "right", "inner", "join", "on", "group", "order", "having", "set",
-                                     "from", "values", "select", "union", "and", "or"})
+        for (const char* reserved : {"where", "left", "right", "inner", "join", "on", "group", "order",
+                                     "having", "set", "from", "values", "select", "union", "and", "or"})
             if (AtWord(reserved))
                 return otherwise;
         return ExpectName();
@@ -222,7 +222,8 @@ class StatementParser : public ExpressionParser {
     // The source that an update changes: named by its alias, or by its table.
     static void ChooseTarget(StatementTree& tree, const Source& source, std::string_view name) {
         if (source.form == Source::Form::Table) {
-            if (tree.table.empty() && (EqualsNoCase(source.alias, name) || EqualsNoCase(source.table, name))) {
+            if (tree.table.empty() &&
+                (EqualsNoCase(source.alias, name) || EqualsNoCase(source.table, name))) {
                 tree.table = source.table;
                 tree.alias = source.alias;
                 tree.def = source.def;
@@ -266,6 +267,8 @@ class StatementParser : public ExpressionParser {
 
 } // namespace
 
-StatementTree ParseStatement(std::span<const Token> tokens) { return StatementParser(tokens).Statement(); }
+StatementTree ParseStatement(std::span<const Token> tokens) {
+    return StatementParser(tokens).Statement();
+}
 
 } // namespace jxc

@@ -1,4 +1,5 @@
-// From the tokens of a statement to its tree. What the language does not have is refused with the place it stands at.
+// From the tokens of a statement to its tree. What the language does not have is refused with the place it
+// stands at.
 #pragma once
 
 #include <span>

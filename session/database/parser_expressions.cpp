@@ -154,8 +154,9 @@ NodePtr ExpressionParser::Parenthesised() {
 }
 
 NodePtr ExpressionParser::Named() {
-    for (const char* reserved : {"select", "from", "where", "group", "order", "having", "and", "or", "on", "set", "by",
-                                 "join", "values", "then", "else", "end", "when", "union", "as", "between", "like", "in"})
+    for (const char* reserved :
+         {"select", "from",   "where", "group", "order", "having", "and",   "or", "on",      "set",  "by",
+          "join",   "values", "then",  "else",  "end",   "when",   "union", "as", "between", "like", "in"})
         if (AtWord(reserved))
             Refuse();
     if (TakeWord("null"))

@@ -11,7 +11,8 @@ namespace {
 constexpr size_t kSentAhead = 200;
 // The lock that a company's writers share: an arbitrary number, the same for all.
 constexpr const char* kWriterLock = "select pg_advisory_xact_lock(7400631)";
-constexpr const char* kResultChanged = "0A000"; // a prepared "select *" of a table that has got a column since
+constexpr const char* kResultChanged =
+    "0A000"; // a prepared "select *" of a table that has got a column since
 
 Oid TypeOf(ParameterType type) {
     switch (type) {
@@ -34,7 +35,9 @@ std::vector<Oid> TypesOf(const std::vector<ParameterType>& types) {
     return oids;
 }
 
-std::string Numbered(size_t number) { return std::string("$").append(std::to_string(number)); }
+std::string Numbered(size_t number) {
+    return std::string("$").append(std::to_string(number));
+}
 
 } // namespace
 
@@ -64,15 +67,20 @@ class PostgresStatement : public EngineStatement {
 
 namespace {
 
-PostgresStatement& Own(EngineStatement& statement) { return static_cast<PostgresStatement&>(statement); }
+PostgresStatement& Own(EngineStatement& statement) {
+    return static_cast<PostgresStatement&>(statement);
+}
 
 } // namespace
 
 PostgresEngine::PostgresEngine(const ServerAddress& address) : line_(address) {}
 
-std::unique_ptr<StatementWriter> PostgresEngine::NewWriter() const { return std::make_unique<PostgresWriter>(); }
+std::unique_ptr<StatementWriter> PostgresEngine::NewWriter() const {
+    return std::make_unique<PostgresWriter>();
+}
 
-std::shared_ptr<ServerStatement> PostgresEngine::NewStatement(const std::string& sql, std::vector<Oid> types) {
+std::shared_ptr<ServerStatement> PostgresEngine::NewStatement(const std::string& sql,
+                                                              std::vector<Oid> types) {
     auto statement = std::make_shared<ServerStatement>();
     statement->name.append("q").append(std::to_string(++named_));
     statement->sql = sql;
@@ -114,7 +122,8 @@ void PostgresEngine::Execute(EngineStatement& statement, std::span<const Value> 
     EndCall();
 }
 
-void PostgresEngine::Change(EngineStatement& statement, std::span<const Value> values, const RowAddress& address) {
+void PostgresEngine::Change(EngineStatement& statement, std::span<const Value> values,
+                            const RowAddress& address) {
     StartCall();
     line_.Send(Own(statement).OnServer(), values, depth_, address);
     *address = Value();

@@ -1,6 +1,6 @@
-// PostgreSQL: the company is a database of a server. Outside a transaction every statement is waited for. Inside one,
-// statements without rows, changes of rows and the savepoints of Tolerantly are sent ahead and waited for together, at
-// the next Query, Flush or Commit; a document of many lines takes a few round trips.
+// PostgreSQL: the company is a database of a server. Outside a transaction every statement is waited for.
+// Inside one, statements without rows, changes of rows and the savepoints of Tolerantly are sent ahead and
+// waited for together, at the next Query, Flush or Commit; a document of many lines takes a few round trips.
 //
 // Writers of a company wait for each other on one lock of the database, taken with the transaction's begin.
 #pragma once
@@ -19,14 +19,16 @@ class PostgresEngine : public Engine {
     explicit PostgresEngine(const ServerAddress& address);
 
     std::unique_ptr<StatementWriter> NewWriter() const override;
-    std::unique_ptr<EngineStatement> Prepare(const std::string& sql, const std::vector<ParameterType>& types) override;
+    std::unique_ptr<EngineStatement> Prepare(const std::string& sql,
+                                             const std::vector<ParameterType>& types) override;
     void Execute(EngineStatement& statement, std::span<const Value> values) override;
     Rows Query(EngineStatement& statement, std::span<const Value> values) override;
     std::vector<std::string> Plan(const std::string& sql, const std::vector<ParameterType>& types,
                                   std::span<const Value> values) override;
     void Flush() override;
 
-    void Change(EngineStatement& statement, std::span<const Value> values, const RowAddress& address) override;
+    void Change(EngineStatement& statement, std::span<const Value> values,
+                const RowAddress& address) override;
     bool MovesChangedRows() const override { return true; }
     std::string ChangeText(const std::string& table, std::span<const std::string> fields,
                            std::span<const std::string> unchanged) const override;
@@ -56,8 +58,8 @@ class PostgresEngine : public Engine {
     void DropRetired();
 
     PostgresPipeline line_;
-    size_t named_ = 0;                                               // statements named so far
-    std::vector<std::string> retired_;                               // names of statements no longer used
+    size_t named_ = 0;                 // statements named so far
+    std::vector<std::string> retired_; // names of statements no longer used
     std::unordered_map<std::string, std::shared_ptr<ServerStatement>> commands_;
     bool inTransaction_ = false;
     int depth_ = 0;

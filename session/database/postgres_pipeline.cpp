@@ -42,8 +42,8 @@ PGconn* Connect(const ServerAddress& address) {
     return PQconnectdbParams(names.data(), values.data(), 1);
 }
 
-// Dates in the form that the system writes; waiting for another writer ends as it does on a file; the small statements
-// of documents gain nothing from compiling.
+// Dates in the form that the system writes; waiting for another writer ends as it does on a file; the small
+// statements of documents gain nothing from compiling.
 constexpr const char* kSettings = "set datestyle to 'ISO, MDY';"
                                   "set lock_timeout to '30s';"
                                   "set standard_conforming_strings to on;"
@@ -58,9 +58,11 @@ PostgresPipeline::PostgresPipeline(const ServerAddress& address) : connection_(C
         const bool refused = PQconnectionNeedsPassword(connection_) || PQconnectionUsedPassword(connection_);
         const std::string reason = Trimmed(PQerrorMessage(connection_));
         PQfinish(connection_);
-        throw DatabaseError((refused ? "数据库服务器拒绝登录，请检查用户名和密码：" : "不能连接数据库服务器：") + reason);
+        throw DatabaseError(
+            (refused ? "数据库服务器拒绝登录，请检查用户名和密码：" : "不能连接数据库服务器：") + reason);
     }
-    PQsetNoticeProcessor(connection_, [](void*, const char*) {}, nullptr);
+    PQsetNoticeProcessor(
+        connection_, [](void*, const char*) {}, nullptr);
     const Result settings(PQexec(connection_, kSettings));
     if (PQresultStatus(settings.get()) != PGRES_COMMAND_OK || !PQenterPipelineMode(connection_)) {
         const std::string reason = Trimmed(PQerrorMessage(connection_));
@@ -69,7 +71,9 @@ PostgresPipeline::PostgresPipeline(const ServerAddress& address) : connection_(C
     }
 }
 
-PostgresPipeline::~PostgresPipeline() { PQfinish(connection_); }
+PostgresPipeline::~PostgresPipeline() {
+    PQfinish(connection_);
+}
 
 void PostgresPipeline::Lost() {
     for (const Sent& sent : sent_)
@@ -103,15 +107,15 @@ void PostgresPipeline::Send(const std::shared_ptr<ServerStatement>& statement, s
         statement->state = ServerStatement::State::Sent;
         sent_.push_back({Sent::Kind::Prepare, statement, depth, nullptr});
     }
-    Require(PQsendQueryPrepared(connection_, statement->name.c_str(), static_cast<int>(values.size()), encoded, nullptr,
-                                nullptr, 0));
+    Require(PQsendQueryPrepared(connection_, statement->name.c_str(), static_cast<int>(values.size()),
+                                encoded, nullptr, nullptr, 0));
     sent_.push_back({address ? Sent::Kind::Change : Sent::Kind::Run, statement, depth, address});
 }
 
-void PostgresPipeline::SendText(const std::string& sql, const std::vector<Oid>& types, std::span<const Value> values,
-                                int depth) {
-    Require(PQsendQueryParams(connection_, sql.c_str(), static_cast<int>(types.size()), types.data(), Encode(values),
-                              nullptr, nullptr, 0));
+void PostgresPipeline::SendText(const std::string& sql, const std::vector<Oid>& types,
+                                std::span<const Value> values, int depth) {
+    Require(PQsendQueryParams(connection_, sql.c_str(), static_cast<int>(types.size()), types.data(),
+                              Encode(values), nullptr, nullptr, 0));
     sent_.push_back({Sent::Kind::Run, nullptr, depth, nullptr});
 }
 

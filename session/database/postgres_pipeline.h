@@ -1,5 +1,5 @@
-// The line to a PostgreSQL server. Statements are sent without waiting for their results; Settle waits until all are
-// in. Behind a statement that failed the server skips the rest up to the next settling.
+// The line to a PostgreSQL server. Statements are sent without waiting for their results; Settle waits until
+// all are in. Behind a statement that failed the server skips the rest up to the next settling.
 //
 // Depths are those of savepoints, 0 outside of all. A failure is kept, with its depth, until it is forgotten.
 #pragma once
@@ -17,7 +17,8 @@
 
 namespace jxc {
 
-// Where the database is and who logs in: `path` a libpq URI or a host or socket directory; the others may be empty.
+// Where the database is and who logs in: `path` a libpq URI or a host or socket directory; the others may be
+// empty.
 struct ServerAddress {
     std::string path, password, user, database;
 };
@@ -38,12 +39,13 @@ class PostgresPipeline {
     PostgresPipeline(const PostgresPipeline&) = delete;
     PostgresPipeline& operator=(const PostgresPipeline&) = delete;
 
-    // Sends a statement, preparing it first where that is still to be done. With `address` it must touch one row,
-    // whose new place is noted; none is a conflict.
+    // Sends a statement, preparing it first where that is still to be done. With `address` it must touch one
+    // row, whose new place is noted; none is a conflict.
     void Send(const std::shared_ptr<ServerStatement>& statement, std::span<const Value> values, int depth,
               const RowAddress& address = nullptr);
     // Sends a text that is not worth preparing.
-    void SendText(const std::string& sql, const std::vector<Oid>& types, std::span<const Value> values, int depth);
+    void SendText(const std::string& sql, const std::vector<Oid>& types, std::span<const Value> values,
+                  int depth);
     // Waits for all results and gives the rows and the command of the last one. Throws the first failure.
     Rows Settle();
     // Waits for all results; what failed is noted only.

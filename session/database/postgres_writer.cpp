@@ -6,7 +6,8 @@ namespace jxc {
 
 std::string PostgresWriter::IsNumeric(const std::string& text) const {
     return "(case when cast(" + text +
-           " as text) ~ '^[ \\t\\r\\n]*[+-]?([0-9]+[.]?[0-9]*|[.][0-9]+)([eE][+-]?[0-9]+)?[ \\t\\r\\n]*$' then 1 else 0 end)";
+           " as text) ~ '^[ \\t\\r\\n]*[+-]?([0-9]+[.]?[0-9]*|[.][0-9]+)([eE][+-]?[0-9]+)?[ \\t\\r\\n]*$' "
+           "then 1 else 0 end)";
 }
 
 std::string PostgresWriter::Currency(const std::string&) const {

@@ -1,8 +1,8 @@
 // How statements are written for PostgreSQL.
 //
-// Texts are citext, which compares without case; functions and operators give plain text, so computed texts are cast
-// back. Text parameters have no type of their own and take that of what they meet. Nulls come first, as they do on
-// SQLite, and the backslash of a pattern is a character like any other.
+// Texts are citext, which compares without case; functions and operators give plain text, so computed texts
+// are cast back. Text parameters have no type of their own and take that of what they meet. Nulls come first,
+// as they do on SQLite, and the backslash of a pattern is a character like any other.
 #pragma once
 
 #include "session/database/translation.h"
@@ -17,7 +17,9 @@ class PostgresWriter : public StatementWriter {
     std::string RowAddress() const override { return "ctid"; }
     std::string ColumnType(bool text) const override { return text ? "citext collate \"C\"" : "integer"; }
     std::string TextResult(const std::string& text) const override { return "cast(" + text + " as citext)"; }
-    std::string SelectedText(const std::string& parameter) const override { return "cast(" + parameter + " as citext)"; }
+    std::string SelectedText(const std::string& parameter) const override {
+        return "cast(" + parameter + " as citext)";
+    }
     std::string Like(const std::string& value, const std::string& pattern) const override {
         return value + " like " + pattern + " escape ''";
     }
@@ -35,7 +37,9 @@ class PostgresWriter : public StatementWriter {
     }
     std::string IsNumeric(const std::string& text) const override;
     std::string Currency(const std::string& value) const override;
-    std::string Money(const std::string& value) const override { return "cast(" + value + " as numeric(19, 4))"; }
+    std::string Money(const std::string& value) const override {
+        return "cast(" + value + " as numeric(19, 4))";
+    }
     std::string StoredMoney(const std::string& value) const override { return value; }
     bool HasHashDates() const override { return false; }
 };

@@ -13,7 +13,8 @@ const Node* StatementWriter::DateColumnOf(const Node& node) const {
     return bare.form == Form::Column && KindOf(bare) == ValueKind::Date ? &bare : nullptr;
 }
 
-// A date compared means the whole day: what happened at three in the afternoon of the 31st is not after the 31st.
+// A date compared means the whole day: what happened at three in the afternoon of the 31st is not after the
+// 31st.
 std::string StatementWriter::DayComparison(std::string_view op, const Node& left, const Node& literal) {
     const Node* column = DateColumnOf(left);
     if (!column || (literal.literalKind != TokenKind::Text && literal.literalKind != TokenKind::Date))
@@ -44,8 +45,9 @@ std::string StatementWriter::DayBetween(const Node& node) {
 // left(f,n)='stem'
 std::string StatementWriter::StemComparison(std::string_view op, const Node& left, const Node& literal) {
     const Node& call = Bare(left);
-    if (op != "=" || literal.literalKind != TokenKind::Text || call.form != Form::Call || call.text != "left" ||
-        call.parts.size() != 2 || call.parts[0]->form != Form::Column || KindOf(*call.parts[0]) != ValueKind::Text)
+    if (op != "=" || literal.literalKind != TokenKind::Text || call.form != Form::Call ||
+        call.text != "left" || call.parts.size() != 2 || call.parts[0]->form != Form::Column ||
+        KindOf(*call.parts[0]) != ValueKind::Text)
         return "";
     const std::string field = Expression(*call.parts[0]);
     std::string sql = "(" + Expression(call) + " = " + Literal(literal);

@@ -29,10 +29,7 @@ void Recordset::ReadRows(std::string_view sql) {
             rows_.cells.push_back(std::move(found.cells[i]));
     }
     rows_.names.assign(found.names.begin() + 1, found.names.end());
-    for (size_t i = 0; i < rows_.names.size(); ++i) {
-        const bool inOrder = i < table_->fields.size() && EqualsNoCase(table_->fields[i].name, rows_.names[i]);
-        fields_.push_back(inOrder ? &table_->fields[i] : FindField(*table_, rows_.names[i]));
-    }
+    fields_.resize(rows_.names.size());
 }
 
 void Recordset::MoveNext() {
@@ -41,14 +38,17 @@ void Recordset::MoveNext() {
     ++row_;
 }
 
-// Fields are mostly taken in their order: the search begins behind the last one found.
+// Of columns with one name the first counts. The rows of one table have none, and their fields are mostly
+// taken in order: there the search begins behind the last one found.
 size_t Recordset::OrdinalOf(std::string_view name) const {
     const size_t count = rows_.names.size();
+    if (!table_)
+        next_ = 0;
     for (size_t tried = 0; tried < count; ++tried) {
-        if (next_ >= count)
-            next_ = 0;
-        if (EqualsNoCase(rows_.names[next_++], name))
-            return next_ - 1;
+        const size_t ordinal = next_ < count ? next_ : 0;
+        next_ = ordinal + 1;
+        if (rows_.names[ordinal] == name || EqualsNoCase(rows_.names[ordinal], name))
+            return ordinal;
     }
     throw DatabaseError("没有字段 " + std::string(name) + "。");
 }
@@ -69,11 +69,15 @@ Value& Recordset::Cell(size_t ordinal) {
     return adding_ ? newRow_[ordinal] : rows_.cells[row_ * rows_.names.size() + ordinal];
 }
 
-const FieldDef& Recordset::Definition(size_t ordinal) const {
+const FieldDef& Recordset::Definition(size_t ordinal) {
     if (!table_)
         throw DatabaseError("该记录集是只读的。");
-    if (ordinal >= fields_.size() || !fields_[ordinal])
+    if (ordinal >= fields_.size())
         throw DatabaseError("没有第 " + std::to_string(ordinal) + " 个字段。");
+    if (!fields_[ordinal])
+        fields_[ordinal] = FindField(*table_, rows_.names[ordinal]);
+    if (!fields_[ordinal])
+        throw DatabaseError("没有字段 " + rows_.names[ordinal] + "。");
     return *fields_[ordinal];
 }
 
@@ -86,7 +90,9 @@ void Recordset::AddNew() {
     newRow_.assign(rows_.names.size(), Value());
 }
 
-void Recordset::Set(std::string_view name, Value value) { Set(OrdinalOf(name), std::move(value)); }
+void Recordset::Set(std::string_view name, Value value) {
+    Set(OrdinalOf(name), std::move(value));
+}
 
 void Recordset::Set(size_t ordinal, Value value) {
     const FieldDef& field = Definition(ordinal);
@@ -112,7 +118,10 @@ std::vector<Value> Recordset::ValuesToWrite() {
     std::vector<Value> values;
     values.reserve(assigned_.size() + 1);
     for (size_t ordinal : assigned_)
-        values.push_back(Cell(ordinal));
+        if (adding_)
+            values.push_back(std::move(newRow_[ordinal]));
+        else
+            values.push_back(Cell(ordinal));
     return values;
 }
 
@@ -135,18 +144,21 @@ void Recordset::Update() {
         if (assigned_.empty())
             assigned_.push_back(0);
         const std::vector<Value> values = ValuesToWrite();
-        const std::string text = engine.InsertText(tableName_, NamesToWrite());
+        if (insertText_.empty() || inserted_ != assigned_) {
+            insertText_ = engine.InsertText(tableName_, NamesToWrite());
+            inserted_ = assigned_;
+        }
         adding_ = false;
         assigned_.clear();
-        connection_.RunOnRow(text, values, nullptr);
+        connection_.RunOnRow(insertText_, values, nullptr);
         return;
     }
     if (!assigned_.empty())
         ChangeRow(engine);
 }
 
-// Inside a transaction nobody else writes. Outside one, an engine whose rows keep their place when they change must
-// compare the row with what was read.
+// Inside a transaction nobody else writes. Outside one, an engine whose rows keep their place when they
+// change must compare the row with what was read.
 bool Recordset::MustCompare(const Engine& engine) const {
     return !engine.MovesChangedRows() && !connection_.InTransaction();
 }

@@ -7,15 +7,16 @@
 
 namespace jxc {
 
-// Rows of `table` that satisfy `where` ("" for all), as a 16-bit count; -1 on any failure: a missing column, or more than
-// 32767 rows. Callers that guard with it must treat -1 as "could not be checked".
+// Rows of `table` that satisfy `where` ("" for all), as a 16-bit count; -1 on any failure: a missing column,
+// or more than 32767 rows. Callers that guard with it must treat -1 as "could not be checked".
 int DbCount(std::string_view table, std::string_view where);
-// The largest value of `field`; 1 when there is none, so that the first key handed out (DbMax + 1) is 2. Errors are thrown.
+// The largest value of `field`; 1 when there is none, so that the first key handed out (DbMax + 1) is 2.
+// Errors are thrown.
 std::int32_t DbMax(std::string_view table, std::string_view field);
 // The first field of the first row as text; "" when there is no row or on any failure.
 std::string DbScalar(std::string_view sql);
-// The LIKE pattern of what a user typed: "*" and "#" at the ends become "%" and "_"; a text without wildcards is wrapped
-// in "%".
+// The LIKE pattern of what a user typed: "*" and "#" at the ends become "%" and "_"; a text without wildcards
+// is wrapped in "%".
 std::string LikePattern(std::string_view text);
 
 } // namespace jxc

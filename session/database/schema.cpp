@@ -26,7 +26,9 @@ const Schema& TheSchema() {
 
 } // namespace
 
-std::span<const TableDef> AllTables() { return TheSchema().tables; }
+std::span<const TableDef> AllTables() {
+    return TheSchema().tables;
+}
 
 const TableDef* FindTable(std::string_view name) {
     const auto found = TheSchema().byName.find(LowerCase(name));

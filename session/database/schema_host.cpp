@@ -7,18 +7,41 @@ using enum FieldType;
 
 void AddHostTables(std::vector<TableDef>& tables) {
     tables.push_back({"cards",
-                      {{"fID", Long},       {"CompCode", Text},  {"CompName", Text}, {"name", Text},
-                       {"telphone", Text},  {"homephone", Text}, {"handphone", Text}, {"fax", Text},
-                       {"E_mail", Text},    {"HomeEmail", Text}, {"http", Text},     {"HomeHttp", Text},
-                       {"CompAdd", Text},   {"postcode", Text},  {"fType0", Short}},
+                      {{"fID", Long},
+                       {"CompCode", Text},
+                       {"CompName", Text},
+                       {"name", Text},
+                       {"telphone", Text},
+                       {"homephone", Text},
+                       {"handphone", Text},
+                       {"fax", Text},
+                       {"E_mail", Text},
+                       {"HomeEmail", Text},
+                       {"http", Text},
+                       {"HomeHttp", Text},
+                       {"CompAdd", Text},
+                       {"postcode", Text},
+                       {"fType0", Short}},
                       {{"fID", true}, {"CompCode"}, {"CompName"}}});
     tables.push_back({"Moneys", {{"MoneyCode", Text}, {"MoneyType", Short}, {"MoneyRate", Double}}, {}});
     tables.push_back({"tAccounts", {{"compname", Text}, {"compCode", Text}}, {}});
     tables.push_back({"tAccountDetail",
-                      {{"fAcntNo", Text},   {"fDate", Date},      {"fCompID", Long},     {"fType1", Short},
-                       {"fType2", Short},   {"fMoneyA", Money},   {"fMoneyB", Money},    {"fInit", Money},
-                       {"fBrief", Text},    {"fInvID", Text},     {"fOrderID", Text},    {"fUser", Text},
-                       {"fDoneman", Text},  {"fChecker", Text},   {"fID2", Text},        {"fMoneyCode", Text},
+                      {{"fAcntNo", Text},
+                       {"fDate", Date},
+                       {"fCompID", Long},
+                       {"fType1", Short},
+                       {"fType2", Short},
+                       {"fMoneyA", Money},
+                       {"fMoneyB", Money},
+                       {"fInit", Money},
+                       {"fBrief", Text},
+                       {"fInvID", Text},
+                       {"fOrderID", Text},
+                       {"fUser", Text},
+                       {"fDoneman", Text},
+                       {"fChecker", Text},
+                       {"fID2", Text},
+                       {"fMoneyCode", Text},
                        {"fMoneyRate", Double}},
                       {{"fAcntNo"}, {"fInvID"}}});
     tables.push_back({"myCompany",
@@ -46,7 +69,8 @@ void AddHostTables(std::vector<TableDef>& tables) {
                        {"NoUse_", Short}},
                       {}});
     tables.push_back({"Brief", {{"BriefType", Text}, {"BriefTypeName", Text}}, {}});
-    tables.push_back({"briefDetail", {{"briefType", Text}, {"BriefCode", Text}, {"BriefName", Text}}, {{"briefType"}}});
+    tables.push_back(
+        {"briefDetail", {{"briefType", Text}, {"BriefCode", Text}, {"BriefName", Text}}, {{"briefType"}}});
     tables.push_back({"rptListDetail",
                       {{"ftable", Text},
                        {"fieldID", Long},

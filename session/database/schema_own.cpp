@@ -10,10 +10,10 @@ using Fields = std::vector<FieldDef>;
 
 // A document's head. Books that the close moves carry the month they were closed in.
 Fields HeaderFields(bool closable) {
-    Fields fields = {{"fInvID", Long},  {"fInvType", Short},  {"fHtNo", Text},   {"fInvNo", Text},
-                     {"fInvDate", Date}, {"fKhID", Long},     {"fKhAdd", Text},  {"fCkName", Text},
+    Fields fields = {{"fInvID", Long},   {"fInvType", Short}, {"fHtNo", Text},      {"fInvNo", Text},
+                     {"fInvDate", Date}, {"fKhID", Long},     {"fKhAdd", Text},     {"fCkName", Text},
                      {"fCkName2", Text}, {"fInvHb", Text},    {"fInvHbDl", Double}, {"fInvJE", Double},
-                     {"fInvMemo", Text}, {"fInvDLR", Text},   {"fInvJbr", Text}, {"fInvSHR", Text},
+                     {"fInvMemo", Text}, {"fInvDLR", Text},   {"fInvJbr", Text},    {"fInvSHR", Text},
                      {"fFlag", Short}};
     if (closable)
         fields.push_back({"fMonth", Date});
@@ -21,27 +21,31 @@ Fields HeaderFields(bool closable) {
 }
 
 Fields LineFields(bool closable) {
-    Fields fields = {{"fInvID", Long},    {"fInv1", Short},      {"fRowID", Short},    {"fInvInOut", Short},
-                     {"fInvNo", Text},    {"fInvDate", Date},    {"fKhID", Long},      {"fCkName", Text},
-                     {"fCpID", Long},     {"fInvSL", Double},    {"fInvSL2", Double},  {"fInvDJ", Double},
-                     {"fInvDJ2", Double}, {"fInvJE", Double},    {"fInvHb", Text},     {"fInvHbDl", Double},
-                     {"fInvTaxRate", Double}, {"fInvTax", Double}, {"fInvOther1", Text}, {"fInvOther2", Text}};
+    Fields fields = {
+        {"fInvID", Long},        {"fInv1", Short},    {"fRowID", Short},    {"fInvInOut", Short},
+        {"fInvNo", Text},        {"fInvDate", Date},  {"fKhID", Long},      {"fCkName", Text},
+        {"fCpID", Long},         {"fInvSL", Double},  {"fInvSL2", Double},  {"fInvDJ", Double},
+        {"fInvDJ2", Double},     {"fInvJE", Double},  {"fInvHb", Text},     {"fInvHbDl", Double},
+        {"fInvTaxRate", Double}, {"fInvTax", Double}, {"fInvOther1", Text}, {"fInvOther2", Text}};
     if (closable)
         fields.push_back({"fMonth", Date});
     return fields;
 }
 
-// What an open book is asked for: by key, by number, by number within a type (previous and next document), by date.
-const std::vector<IndexDef> kHeaderIndexes = {{"fInvID", true}, {"fInvNo"}, {"fInvType,fInvNo"}, {"fInvDate"}};
+// What an open book is asked for: by key, by number, by number within a type (previous and next document), by
+// date.
+const std::vector<IndexDef> kHeaderIndexes = {
+    {"fInvID", true}, {"fInvNo"}, {"fInvType,fInvNo"}, {"fInvDate"}};
 const std::vector<IndexDef> kLineIndexes = {{"fInvID"}, {"fInvNo"}};
-// Order lines are also asked for by product: a delivery lowers its order's balance, a plan sums what is on order.
+// Order lines are also asked for by product: a delivery lowers its order's balance, a plan sums what is on
+// order.
 const std::vector<IndexDef> kOrderLineIndexes = {{"fInvID,fCpID"}, {"fInvNo"}, {"fCpID"}};
 // Closed months lie side by side and are replaced slice by slice; keys may repeat between them.
 const std::vector<IndexDef> kClosedHeaderIndexes = {{"fInvID"}, {"fInvNo"}, {"fInvDate"}, {"fMonth"}};
 const std::vector<IndexDef> kClosedLineIndexes = {{"fInvID"}, {"fInvNo"}, {"fMonth"}};
 
 Fields StockFields() {
-    return {{"fCpID", Long},  {"fCkName", Text}, {"fQcSl", Double}, {"fQcJe", Double}, {"fRkSl", Double},
+    return {{"fCpID", Long},   {"fCkName", Text}, {"fQcSl", Double}, {"fQcJe", Double}, {"fRkSl", Double},
             {"fRkJe", Double}, {"fCkSl", Double}, {"fCkJe", Double}, {"fCkCb", Double}, {"fDkSl", Double},
             {"fPdSl", Double}, {"fKcSl", Double}, {"fKcDj", Double}, {"fKcJe", Double}, {"fMonth", Date}};
 }
@@ -53,23 +57,25 @@ Fields PerformanceFields() {
 }
 
 void AddSettings(std::vector<TableDef>& tables) {
-    Fields system = {{"fSysDate", Date},     {"fSysDay", Short},      {"fSysTaxWay", Short}, {"fSysTaxRate", Double},
-                     {"fSysCostWay", Short}, {"fSysDeciSl", Double},  {"fSysDeciDj", Double}, {"fSysMaxRow", Double},
-                     {"fSysDjBz1", Text},    {"fSysDjBz2", Text},     {"fSysYjTj", Short},   {"fSysAuto1", Short},
-                     {"fSysAuto2", Short},   {"fSysAuto3", Short},    {"fSysAuto4", Short},  {"fSysFun0", Short},
-                     {"fSysFun1", Short},    {"fSysFun2", Short},     {"fSysFun3", Short},   {"fSysFun4", Short},
-                     {"fSysFun5", Short},    {"fSysFun6", Short},     {"fSysFun7", Short},   {"fSysFun8", Short},
-                     {"fSysFun9", Short},    {"fSysFun10", Short}};
+    Fields system = {
+        {"fSysDate", Date},     {"fSysDay", Short},     {"fSysTaxWay", Short},  {"fSysTaxRate", Double},
+        {"fSysCostWay", Short}, {"fSysDeciSl", Double}, {"fSysDeciDj", Double}, {"fSysMaxRow", Double},
+        {"fSysDjBz1", Text},    {"fSysDjBz2", Text},    {"fSysYjTj", Short},    {"fSysAuto1", Short},
+        {"fSysAuto2", Short},   {"fSysAuto3", Short},   {"fSysAuto4", Short},   {"fSysFun0", Short},
+        {"fSysFun1", Short},    {"fSysFun2", Short},    {"fSysFun3", Short},    {"fSysFun4", Short},
+        {"fSysFun5", Short},    {"fSysFun6", Short},    {"fSysFun7", Short},    {"fSysFun8", Short},
+        {"fSysFun9", Short},    {"fSysFun10", Short}};
     tables.push_back({"tJXC_InvSys", std::move(system), {}});
     // Read and written by column position.
-    tables.push_back({"tJXC_InvSet",
-                      {{"fRowID", Short},      {"fSetNo", Short},      {"fSetName", Text},     {"fSetTjType", Short},
-                       {"fSetKhType", Short},  {"fSetWlType", Short},  {"fSetZjType", Short},  {"fSetDjBack_", Short},
-                       {"fSetDjDd_", Short},   {"fSetAutoNo", Text},   {"fSetTestNo", Text},   {"fSetCkName1", Text},
-                       {"fSetCkType1", Short}, {"fSetCrType1", Short}, {"fSetCkName2", Text},  {"fSetCkType2", Short},
-                       {"fSetDjType1", Short}, {"fSetDjType2", Short}, {"fSetHb_", Short},     {"fSetHbSl_", Short},
-                       {"fSetKc_", Short},     {"fSetJy_", Short},     {"fSetDefaultNo", Text}, {"fSetNoUse_", Short}},
-                      {{"fSetNo"}}});
+    tables.push_back(
+        {"tJXC_InvSet",
+         {{"fRowID", Short},      {"fSetNo", Short},      {"fSetName", Text},      {"fSetTjType", Short},
+          {"fSetKhType", Short},  {"fSetWlType", Short},  {"fSetZjType", Short},   {"fSetDjBack_", Short},
+          {"fSetDjDd_", Short},   {"fSetAutoNo", Text},   {"fSetTestNo", Text},    {"fSetCkName1", Text},
+          {"fSetCkType1", Short}, {"fSetCrType1", Short}, {"fSetCkName2", Text},   {"fSetCkType2", Short},
+          {"fSetDjType1", Short}, {"fSetDjType2", Short}, {"fSetHb_", Short},      {"fSetHbSl_", Short},
+          {"fSetKc_", Short},     {"fSetJy_", Short},     {"fSetDefaultNo", Text}, {"fSetNoUse_", Short}},
+         {{"fSetNo"}}});
     tables.push_back({"tJXC_rptListDetail",
                       {{"fieldID", Long},
                        {"FieldName", Text},
@@ -92,13 +98,14 @@ void AddMasterData(std::vector<TableDef>& tables) {
                        {"fZhID", Long},
                        {"fKhID", Long}},
                       {{"fCkName"}}});
-    tables.push_back({"tJXC_Cp",
-                      {{"fCpID", Long},      {"fCpCode", Text},     {"fCpName", Text},     {"fCpGG", Text},
-                       {"fCpUnit", Text},    {"fCpBarCode", Text},  {"fCpPrice0", Double}, {"fCpPrice1", Double},
-                       {"fCpPrice2", Double}, {"fCpPrice3", Double}, {"fCpSlMin", Double},  {"fCpSlMax", Double},
-                       {"fCkName", Text},    {"fCpCw", Text},       {"fCpZy", Text},       {"fCpCd", Text},
-                       {"fKhName", Text},    {"fKhID", Long},       {"fCpPicture", Text},  {"fCpFlag", Short}},
-                      {{"fCpID", true}, {"fCpCode"}, {"fCpBarCode"}}});
+    tables.push_back(
+        {"tJXC_Cp",
+         {{"fCpID", Long},       {"fCpCode", Text},     {"fCpName", Text},     {"fCpGG", Text},
+          {"fCpUnit", Text},     {"fCpBarCode", Text},  {"fCpPrice0", Double}, {"fCpPrice1", Double},
+          {"fCpPrice2", Double}, {"fCpPrice3", Double}, {"fCpSlMin", Double},  {"fCpSlMax", Double},
+          {"fCkName", Text},     {"fCpCw", Text},       {"fCpZy", Text},       {"fCpCd", Text},
+          {"fKhName", Text},     {"fKhID", Long},       {"fCpPicture", Text},  {"fCpFlag", Short}},
+         {{"fCpID", true}, {"fCpCode"}, {"fCpBarCode"}}});
     tables.push_back({"tJXC_CpTj01",
                       {{"fTjID", Long},
                        {"fTjCode", Text},
@@ -108,9 +115,10 @@ void AddMasterData(std::vector<TableDef>& tables) {
                        {"fCpID", Long},
                        {"fTjFlag", Short}},
                       {{"fTjID"}, {"fTjCode"}, {"fCpID"}}});
-    tables.push_back({"tJXC_CpTj02",
-                      {{"fTjID", Long}, {"fRowID", Long}, {"fCpPjID", Long}, {"fCpPjSL", Double}, {"fCpPjMemo", Text}},
-                      {{"fTjID"}, {"fCpPjID"}}});
+    tables.push_back(
+        {"tJXC_CpTj02",
+         {{"fTjID", Long}, {"fRowID", Long}, {"fCpPjID", Long}, {"fCpPjSL", Double}, {"fCpPjMemo", Text}},
+         {{"fTjID"}, {"fCpPjID"}}});
     tables.push_back({"tJXC_KhAdd", {{"fKhID", Long}, {"fKhAdd", Text}}, {{"fKhID"}}});
     tables.push_back({"tJXC_CpGys",
                       {{"fCpID", Long},
@@ -155,10 +163,22 @@ void AddStockStatistics(std::vector<TableDef>& tables) {
 
 void AddPerformance(std::vector<TableDef>& tables) {
     tables.push_back({"tJXC_Yj_Jbr",
-                      {{"fCode", Text},      {"fName", Text},      {"fName2", Text},  {"fMemo", Text},
-                       {"fFloor", Short},    {"fFlag", Short},     {"fJbCode", Long}, {"fCardID", Text},
-                       {"fAcntID", Text},    {"fCompadd", Text},   {"fPostcode", Text}, {"fTelephone", Text},
-                       {"fHomephone", Text}, {"fHandphone", Text}, {"fFax", Text},    {"fEmail", Text}},
+                      {{"fCode", Text},
+                       {"fName", Text},
+                       {"fName2", Text},
+                       {"fMemo", Text},
+                       {"fFloor", Short},
+                       {"fFlag", Short},
+                       {"fJbCode", Long},
+                       {"fCardID", Text},
+                       {"fAcntID", Text},
+                       {"fCompadd", Text},
+                       {"fPostcode", Text},
+                       {"fTelephone", Text},
+                       {"fHomephone", Text},
+                       {"fHandphone", Text},
+                       {"fFax", Text},
+                       {"fEmail", Text}},
                       {{"fName"}, {"fName2"}, {"fFloor"}}});
     tables.push_back({"tJXC_Yj_SetJb",
                       {{"fJbCode", Long},

@@ -79,13 +79,15 @@ class SqliteStatement : public EngineStatement {
         }
     }
 
+    // The engine reads the texts where they lie until the statement is reset.
     void Bind(std::span<const Value> values) {
+        texts_.resize(values.size());
         for (size_t i = 0; i < values.size(); ++i) {
             const int at = static_cast<int>(i) + 1;
             const Value& value = values[i];
             if (value.IsText()) {
-                const std::string text = value.AsText();
-                sqlite3_bind_text(statement_, at, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+                const std::string& text = texts_[i] = value.AsText();
+                sqlite3_bind_text(statement_, at, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
             } else if (value.IsLong()) {
                 sqlite3_bind_int64(statement_, at, value.AsLong());
             } else if (value.IsDouble()) {
@@ -113,9 +115,12 @@ class SqliteStatement : public EngineStatement {
 
     sqlite3* db_;
     sqlite3_stmt* statement_ = nullptr;
+    std::vector<std::string> texts_;
 };
 
-SqliteStatement& Own(EngineStatement& statement) { return static_cast<SqliteStatement&>(statement); }
+SqliteStatement& Own(EngineStatement& statement) {
+    return static_cast<SqliteStatement&>(statement);
+}
 
 // The log and its index take over the file's mode.
 void CreatePrivateFile(const std::string& path) {
@@ -135,7 +140,8 @@ constexpr const char* kSettings = "pragma synchronous = full;"
 SqliteEngine::SqliteEngine(const std::string& path, bool create) {
     if (create)
         CreatePrivateFile(path);
-    if (sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
+    if (sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) !=
+        SQLITE_OK) {
         const std::string reason = sqlite3_errmsg(db_);
         sqlite3_close(db_);
         throw DatabaseError("不能打开数据库文件 " + path + "：" + reason);
@@ -155,13 +161,18 @@ SqliteEngine::~SqliteEngine() {
     sqlite3_close(db_);
 }
 
-std::unique_ptr<StatementWriter> SqliteEngine::NewWriter() const { return std::make_unique<SqliteWriter>(); }
+std::unique_ptr<StatementWriter> SqliteEngine::NewWriter() const {
+    return std::make_unique<SqliteWriter>();
+}
 
-std::unique_ptr<EngineStatement> SqliteEngine::Prepare(const std::string& sql, const std::vector<ParameterType>&) {
+std::unique_ptr<EngineStatement> SqliteEngine::Prepare(const std::string& sql,
+                                                       const std::vector<ParameterType>&) {
     return std::make_unique<SqliteStatement>(db_, sql);
 }
 
-void SqliteEngine::Execute(EngineStatement& statement, std::span<const Value> values) { Own(statement).Run(values); }
+void SqliteEngine::Execute(EngineStatement& statement, std::span<const Value> values) {
+    Own(statement).Run(values);
+}
 
 Rows SqliteEngine::Query(EngineStatement& statement, std::span<const Value> values) {
     return Own(statement).Read(values);
@@ -211,9 +222,13 @@ std::string SqliteEngine::InsertText(const std::string& table, std::span<const s
     return "insert into " + table + " (" + columns + ") values (" + values + ")";
 }
 
-void SqliteEngine::Begin() { Command("begin immediate"); }
+void SqliteEngine::Begin() {
+    Command("begin immediate");
+}
 
-void SqliteEngine::Commit() { Command("commit"); }
+void SqliteEngine::Commit() {
+    Command("commit");
+}
 
 // Some failures, such as a full disk, have rolled the transaction back already.
 void SqliteEngine::Rollback() noexcept {
@@ -233,9 +248,13 @@ void SqliteEngine::Command(const std::string& sql) {
     Own(*command).Run({});
 }
 
-void SqliteEngine::Savepoint(int depth) { Command("savepoint s" + std::to_string(depth)); }
+void SqliteEngine::Savepoint(int depth) {
+    Command("savepoint s" + std::to_string(depth));
+}
 
-void SqliteEngine::Release(int depth) { Command("release s" + std::to_string(depth)); }
+void SqliteEngine::Release(int depth) {
+    Command("release s" + std::to_string(depth));
+}
 
 void SqliteEngine::RollbackTo(int depth) {
     Command("rollback to s" + std::to_string(depth));
@@ -247,7 +266,9 @@ void SqliteEngine::ExecuteScript(const std::string& sql) {
         Fail(db_);
 }
 
-void SqliteEngine::Adopt() { ExecuteScript("pragma journal_mode = wal"); }
+void SqliteEngine::Adopt() {
+    ExecuteScript("pragma journal_mode = wal");
+}
 
 std::string SqliteEngine::ColumnDefinition(const FieldDef& field) const {
     const std::string name(field.name);

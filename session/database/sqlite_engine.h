@@ -1,5 +1,5 @@
-// SQLite: the company is one file. Write-ahead log with every commit on disk (synchronous FULL); writers wait up to 30
-// seconds for each other at BeginTrans. Statements run at once, nothing is held back.
+// SQLite: the company is one file. Write-ahead log with every commit on disk (synchronous FULL); writers wait
+// up to 30 seconds for each other at BeginTrans. Statements run at once, nothing is held back.
 #pragma once
 
 #include <memory>
@@ -14,18 +14,21 @@ namespace jxc {
 
 class SqliteEngine : public Engine {
   public:
-    // Opens the file `path`; with `create` a new one, which only its owner may read and write. Throws DatabaseError.
+    // Opens the file `path`; with `create` a new one, which only its owner may read and write. Throws
+    // DatabaseError.
     SqliteEngine(const std::string& path, bool create);
     ~SqliteEngine() override;
 
     std::unique_ptr<StatementWriter> NewWriter() const override;
-    std::unique_ptr<EngineStatement> Prepare(const std::string& sql, const std::vector<ParameterType>& types) override;
+    std::unique_ptr<EngineStatement> Prepare(const std::string& sql,
+                                             const std::vector<ParameterType>& types) override;
     void Execute(EngineStatement& statement, std::span<const Value> values) override;
     Rows Query(EngineStatement& statement, std::span<const Value> values) override;
     std::vector<std::string> Plan(const std::string& sql, const std::vector<ParameterType>& types,
                                   std::span<const Value> values) override;
 
-    void Change(EngineStatement& statement, std::span<const Value> values, const RowAddress& address) override;
+    void Change(EngineStatement& statement, std::span<const Value> values,
+                const RowAddress& address) override;
     bool MovesChangedRows() const override { return false; }
     std::string ChangeText(const std::string& table, std::span<const std::string> fields,
                            std::span<const std::string> unchanged) const override;

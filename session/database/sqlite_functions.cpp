@@ -10,10 +10,12 @@ namespace {
 
 std::string_view TextOf(sqlite3_value* value) {
     const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-    return text ? std::string_view(text, static_cast<size_t>(sqlite3_value_bytes(value))) : std::string_view();
+    return text ? std::string_view(text, static_cast<size_t>(sqlite3_value_bytes(value)))
+                : std::string_view();
 }
 
-template <Halves halves> void RoundToMoney(sqlite3_context* context, int, sqlite3_value** values) {
+template <Halves halves>
+void RoundToMoney(sqlite3_context* context, int, sqlite3_value** values) {
     switch (sqlite3_value_type(values[0])) {
     case SQLITE_NULL:
         sqlite3_result_null(context);
@@ -39,8 +41,10 @@ void IsNumeric(sqlite3_context* context, int, sqlite3_value** values) {
 
 void AddSqliteFunctions(sqlite3* db) {
     constexpr int kFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
-    sqlite3_create_function(db, "jxc_ccur", 1, kFlags, nullptr, RoundToMoney<Halves::ToEven>, nullptr, nullptr);
-    sqlite3_create_function(db, "jxc_money", 1, kFlags, nullptr, RoundToMoney<Halves::AwayFromZero>, nullptr, nullptr);
+    sqlite3_create_function(db, "jxc_ccur", 1, kFlags, nullptr, RoundToMoney<Halves::ToEven>, nullptr,
+                            nullptr);
+    sqlite3_create_function(db, "jxc_money", 1, kFlags, nullptr, RoundToMoney<Halves::AwayFromZero>, nullptr,
+                            nullptr);
     sqlite3_create_function(db, "jxc_isnumeric", 1, kFlags, nullptr, IsNumeric, nullptr, nullptr);
 }
 

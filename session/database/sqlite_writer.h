@@ -1,7 +1,8 @@
 // How statements are written for SQLite.
 //
-// Dates are texts 'yyyy-mm-dd', with ' hh:mm:ss' only when it is not midnight, so their parts are parts of the text and
-// comparing them as texts is comparing dates. Functions lose the collation of their argument: computed texts name it.
+// Dates are texts 'yyyy-mm-dd', with ' hh:mm:ss' only when it is not midnight, so their parts are parts of
+// the text and comparing them as texts is comparing dates. Functions lose the collation of their argument:
+// computed texts name it.
 #pragma once
 
 #include "session/database/translation.h"
@@ -23,8 +24,12 @@ class SqliteWriter : public StatementWriter {
     std::string Ordered(const std::string& value, bool descending) const override {
         return descending ? value + " desc" : value;
     }
-    std::string Year(const std::string& date) const override { return "cast(substr(" + date + ", 1, 4) as integer)"; }
-    std::string Month(const std::string& date) const override { return "cast(substr(" + date + ", 6, 2) as integer)"; }
+    std::string Year(const std::string& date) const override {
+        return "cast(substr(" + date + ", 1, 4) as integer)";
+    }
+    std::string Month(const std::string& date) const override {
+        return "cast(substr(" + date + ", 6, 2) as integer)";
+    }
     std::string DateText(const std::string& date, std::string_view mask) const override;
     std::string IsNumeric(const std::string& text) const override { return "jxc_isnumeric(" + text + ")"; }
     std::string Currency(const std::string& value) const override { return "jxc_ccur(" + value + ")"; }

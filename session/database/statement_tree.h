@@ -1,4 +1,5 @@
-// A statement of the system's language, taken apart. The parser builds it, a dialect writes it down for its engine.
+// A statement of the system's language, taken apart. The parser builds it, a dialect writes it down for its
+// engine.
 #pragma once
 
 #include <memory>
@@ -99,15 +100,19 @@ struct StatementTree {
     std::string table;                  // Insert, Update, Delete, AddColumn
     std::string alias;                  // Update, Delete; "" for none
     const TableDef* def = nullptr;
-    std::vector<std::string> columns;   // Insert; "" columns: all; AddColumn: the one
-    std::vector<NodePtr> values;        // Insert .. Values
+    std::vector<std::string> columns; // Insert; "" columns: all; AddColumn: the one
+    std::vector<NodePtr> values;      // Insert .. Values
     std::vector<Assignment> assignments;
-    SourcePtr from;                     // Update from a second table: all its sources, the changed one among them
+    SourcePtr from; // Update from a second table: all its sources, the changed one among them
     NodePtr where;
-    bool columnIsText = false;          // AddColumn
+    bool columnIsText = false; // AddColumn
 };
 
-inline bool IsColumn(const Node& node) { return node.form == Node::Form::Column; }
-inline bool IsLiteral(const Node& node) { return node.form == Node::Form::Literal; }
+inline bool IsColumn(const Node& node) {
+    return node.form == Node::Form::Column;
+}
+inline bool IsLiteral(const Node& node) {
+    return node.form == Node::Form::Literal;
+}
 
 } // namespace jxc

@@ -1,13 +1,14 @@
-// What stands between a statement's text and an engine. A text is lifted (lexer.h), parsed (parser.h) and written down
-// again for its engine by a StatementWriter. The base writes everything that the engines have in common; each engine's
-// writer (sqlite_writer.cpp, postgres_writer.cpp) holds only what differs there, one function per difference.
+// What stands between a statement's text and an engine. A text is lifted (lexer.h), parsed (parser.h) and
+// written down again for its engine by a StatementWriter. The base writes everything that the engines have in
+// common; each engine's writer (sqlite_writer.cpp, postgres_writer.cpp) holds only what differs there, one
+// function per difference.
 //
 // Three rewrites make the texts fast on indexes without changing their meaning (ranges.cpp):
-//   left(f,n)='stem'                         keeps its test and adds the range of texts that begin with the stem
-//   Year(f)=y And Month(f)=m                 becomes the range of the month
-//   Convert(varchar(10),f,120) <= 'd', f<=#d#  become ranges of whole dates
-// An update from a second table (update_from.cpp) always takes its values grouped by the changed row, so that several
-// matches give one value, the largest.
+//   left(f,n)='stem'                         keeps its test and adds the range of texts that begin with the
+//   stem Year(f)=y And Month(f)=m                 becomes the range of the month Convert(varchar(10),f,120)
+//   <= 'd', f<=#d#  become ranges of whole dates
+// An update from a second table (update_from.cpp) always takes its values grouped by the changed row, so that
+// several matches give one value, the largest.
 #pragma once
 
 #include <string>
@@ -37,30 +38,31 @@ class StatementWriter {
   public:
     virtual ~StatementWriter() = default;
 
-    // For EditRows the statement must be a select from one table; the engine's row address comes as the first column.
-    // Throws DatabaseError for what the language or the engine does not have.
+    // For EditRows the statement must be a select from one table; the engine's row address comes as the first
+    // column. Throws DatabaseError for what the language or the engine does not have.
     Translation Write(StatementTree& tree, Purpose purpose);
 
   protected:
     // The differences between the engines. Arguments are expressions already written.
     virtual std::string Placeholder(size_t number) const = 0;
-    virtual std::string RowAddress() const = 0;                                // "rowid", "ctid"
-    virtual std::string ColumnType(bool text) const = 0;                       // of a column added at run time
-    virtual std::string TextResult(const std::string& text) const = 0;         // a computed text, compared without case
-    virtual std::string SelectedText(const std::string& parameter) const = 0;  // a text literal as a column
+    virtual std::string RowAddress() const = 0;          // "rowid", "ctid"
+    virtual std::string ColumnType(bool text) const = 0; // of a column added at run time
+    virtual std::string
+    TextResult(const std::string& text) const = 0; // a computed text, compared without case
+    virtual std::string SelectedText(const std::string& parameter) const = 0; // a text literal as a column
     virtual std::string Like(const std::string& value, const std::string& pattern) const = 0;
     virtual std::string Ordered(const std::string& value, bool descending) const = 0;
     virtual std::string Year(const std::string& date) const = 0;
     virtual std::string Month(const std::string& date) const = 0;
-    virtual std::string DateText(const std::string& date, std::string_view mask) const = 0; // mask in lower case
-    virtual std::string IsNumeric(const std::string& text) const = 0;          // 1 or 0
-    virtual std::string Currency(const std::string& value) const = 0;          // ccur: halves to even
-    virtual std::string Money(const std::string& value) const = 0;             // convert(money): halves away from zero
-    virtual std::string StoredMoney(const std::string& value) const = 0;       // assigned to a money field
+    virtual std::string DateText(const std::string& date,
+                                 std::string_view mask) const = 0;    // mask in lower case
+    virtual std::string IsNumeric(const std::string& text) const = 0; // 1 or 0
+    virtual std::string Currency(const std::string& value) const = 0; // ccur: halves to even
+    virtual std::string Money(const std::string& value) const = 0;    // convert(money): halves away from zero
+    virtual std::string StoredMoney(const std::string& value) const = 0; // assigned to a money field
     virtual bool HasHashDates() const = 0;
     // A chance to bring a From and its Where into a form that the engine plans well.
     virtual void Simplify(SourcePtr&, const NodePtr&) const {}
-
 
   private:
     using Targets = std::vector<const FieldDef*>;
@@ -97,7 +99,8 @@ class StatementWriter {
     std::string MonthRange(const Node& year, const Node& month);
     const Node* DateColumnOf(const Node& node) const;
 
-    std::string Lifted(Derivation derivation, ParameterType type, const Node& literal, const Node* second = nullptr);
+    std::string Lifted(Derivation derivation, ParameterType type, const Node& literal,
+                       const Node* second = nullptr);
     std::string DateLiteral(const Node& literal, Derivation derivation);
 
     ValueKind KindOf(const Node& node) const;
@@ -120,6 +123,8 @@ class StatementWriter {
 const Node& Bare(const Node& node);
 // `inside` between `open` and a closing parenthesis.
 std::string Enclosed(std::string_view open, std::string_view inside);
-inline bool IsLifted(const Node& node) { return node.form == Node::Form::Literal && node.literal >= 0; }
+inline bool IsLifted(const Node& node) {
+    return node.form == Node::Form::Literal && node.literal >= 0;
+}
 
 } // namespace jxc

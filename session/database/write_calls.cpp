@@ -15,12 +15,15 @@ struct Function {
 };
 
 constexpr Function kFunctions[] = {
-    {"count", 1, 1, ValueKind::Integer}, {"sum", 1, 1, ValueKind::Unknown},      {"max", 1, 1, ValueKind::Unknown},
-    {"min", 1, 1, ValueKind::Unknown},   {"avg", 1, 1, ValueKind::Number},       {"abs", 1, 1, ValueKind::Unknown},
-    {"left", 2, 2, ValueKind::Text},     {"mid", 2, 3, ValueKind::Text},         {"substring", 3, 3, ValueKind::Text},
-    {"lcase", 1, 1, ValueKind::Text},    {"lower", 1, 1, ValueKind::Text},       {"isnull", 1, 1, ValueKind::Integer},
-    {"iif", 3, 3, ValueKind::Unknown},   {"isnumeric", 1, 1, ValueKind::Integer}, {"year", 1, 1, ValueKind::Integer},
-    {"month", 1, 1, ValueKind::Integer}, {"format", 2, 2, ValueKind::Text},      {"ccur", 1, 1, ValueKind::Money},
+    {"count", 1, 1, ValueKind::Integer},  {"sum", 1, 1, ValueKind::Unknown},
+    {"max", 1, 1, ValueKind::Unknown},    {"min", 1, 1, ValueKind::Unknown},
+    {"avg", 1, 1, ValueKind::Number},     {"abs", 1, 1, ValueKind::Unknown},
+    {"left", 2, 2, ValueKind::Text},      {"mid", 2, 3, ValueKind::Text},
+    {"substring", 3, 3, ValueKind::Text}, {"lcase", 1, 1, ValueKind::Text},
+    {"lower", 1, 1, ValueKind::Text},     {"isnull", 1, 1, ValueKind::Integer},
+    {"iif", 3, 3, ValueKind::Unknown},    {"isnumeric", 1, 1, ValueKind::Integer},
+    {"year", 1, 1, ValueKind::Integer},   {"month", 1, 1, ValueKind::Integer},
+    {"format", 2, 2, ValueKind::Text},    {"ccur", 1, 1, ValueKind::Money},
 };
 
 const Function& FunctionNamed(const Node& call) {
@@ -113,7 +116,8 @@ ValueKind StatementWriter::KindOf(const Node& node) const {
         const ValueKind left = KindOf(*node.parts[0]), right = KindOf(*node.parts[1]);
         if (node.text == "&" || (node.text == "+" && (left == ValueKind::Text || right == ValueKind::Text)))
             return ValueKind::Text;
-        return left == ValueKind::Integer && right == ValueKind::Integer ? ValueKind::Integer : ValueKind::Number;
+        return left == ValueKind::Integer && right == ValueKind::Integer ? ValueKind::Integer
+                                                                         : ValueKind::Number;
     }
     default:
         return ValueKind::Unknown;

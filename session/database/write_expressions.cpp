@@ -12,7 +12,9 @@ std::string Enclosed(std::string_view open, std::string_view inside) {
     return text;
 }
 
-const Node& Bare(const Node& node) { return node.form == Form::Parens ? Bare(*node.parts[0]) : node; }
+const Node& Bare(const Node& node) {
+    return node.form == Form::Parens ? Bare(*node.parts[0]) : node;
+}
 
 std::string StatementWriter::Expression(const Node& node) {
     switch (node.form) {
@@ -93,7 +95,8 @@ std::string StatementWriter::Literal(const Node& node) {
 std::string StatementWriter::ExpressionAs(const Node& node, ValueKind wanted) {
     const Node& bare = Bare(node);
     if (IsLifted(bare)) {
-        const bool isNumber = bare.literalKind == TokenKind::Integer || bare.literalKind == TokenKind::Decimal;
+        const bool isNumber =
+            bare.literalKind == TokenKind::Integer || bare.literalKind == TokenKind::Decimal;
         if (wanted == ValueKind::Date && !isNumber)
             return DateLiteral(bare, Derivation::Date);
         if (wanted == ValueKind::Text && isNumber)
@@ -104,7 +107,7 @@ std::string StatementWriter::ExpressionAs(const Node& node, ValueKind wanted) {
 
 // An expression as a column of a result, which may become the field `target`.
 std::string StatementWriter::Assigned(const Node& node, const FieldDef* target) {
-    const ValueKind wanted = !target                            ? ValueKind::Unknown
+    const ValueKind wanted = !target                           ? ValueKind::Unknown
                              : target->type == FieldType::Date ? ValueKind::Date
                              : target->type == FieldType::Text ? ValueKind::Text
                                                                : ValueKind::Number;

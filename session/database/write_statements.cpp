@@ -48,7 +48,8 @@ std::string StatementWriter::EditableSelect(StatementTree& tree) {
     return Select(*tree.select, {}, tree.select->from->alias + "." + RowAddress());
 }
 
-std::string StatementWriter::Select(SelectTree& select, const Targets& targets, const std::string& firstColumn) {
+std::string StatementWriter::Select(SelectTree& select, const Targets& targets,
+                                    const std::string& firstColumn) {
     if (select.from)
         Simplify(select.from, select.where);
     OpenScope(select.from.get());
@@ -112,8 +113,9 @@ std::string StatementWriter::From(const Source& source) {
 
 // A join within a join stands in parentheses.
 std::string StatementWriter::Joined(const Source& source) {
-    return source.form == Source::Form::Join || source.form == Source::Form::List ? Enclosed("(", From(source))
-                                                                                  : From(source);
+    return source.form == Source::Form::Join || source.form == Source::Form::List
+               ? Enclosed("(", From(source))
+               : From(source);
 }
 
 std::string StatementWriter::Insert(StatementTree& tree) {
@@ -159,8 +161,8 @@ std::string StatementWriter::Update(StatementTree& tree) {
     return sql;
 }
 
-// update T as changed set f = found.v0 from (select a.<row> as r, max(..) as v0 from .. where .. group by a.<row>) as
-// found where changed.<row> = found.r. Several matches of a row give the largest value.
+// update T as changed set f = found.v0 from (select a.<row> as r, max(..) as v0 from .. where .. group by
+// a.<row>) as found where changed.<row> = found.r. Several matches of a row give the largest value.
 std::string StatementWriter::UpdateFrom(StatementTree& tree) {
     Simplify(tree.from, tree.where);
     OpenScope(tree.from.get());
@@ -193,7 +195,8 @@ std::string StatementWriter::Delete(StatementTree& tree) {
 }
 
 std::string StatementWriter::AddColumn(const StatementTree& tree) {
-    return "alter table " + tree.table + " add column " + tree.columns[0] + " " + ColumnType(tree.columnIsText);
+    return "alter table " + tree.table + " add column " + tree.columns[0] + " " +
+           ColumnType(tree.columnIsText);
 }
 
 void StatementWriter::OpenScope(const Source* source) {

@@ -39,7 +39,9 @@ TEST_P(Companies, AreFoundAgain) {
 
 TEST_P(Companies, AreNotCreatedTwice) {
     Connection connection;
-    EXPECT_THROW(CreateCompanyTables(company->Dialect(), connection, company->Path(), "", "", company->Database()), DatabaseError);
+    EXPECT_THROW(
+        CreateCompanyTables(company->Dialect(), connection, company->Path(), "", "", company->Database()),
+        DatabaseError);
     EXPECT_FALSE(connection.IsOpen());
     EXPECT_EQ(WhyNot(company->Dialect(), company->Path(), company->Database()), "");
 }
@@ -47,14 +49,14 @@ TEST_P(Companies, AreNotCreatedTwice) {
 TEST_P(Companies, HaveEveryTableOfTheSystem) {
     EXPECT_EQ(One("Select count(*) From tJXC_InvSys"), "0");
     Conn().EngineInUse().ExecuteScript("drop table tJXC_InvSys");
-    EXPECT_EQ(WhyNot(company->Dialect(), company->Path(), company->Database()), "该数据库不是公司帐套：缺少表 tJXC_InvSys。");
+    EXPECT_EQ(WhyNot(company->Dialect(), company->Path(), company->Database()),
+              "该数据库不是公司帐套：缺少表 tJXC_InvSys。");
 }
 
-// The books that are copied with "Select *" have one layout; the types' columns 10 and 22 are reached by place.
+// The books that are copied with "Select *" have one layout; the types' columns 10 and 22 are reached by
+// place.
 TEST_P(Companies, KeepTheOrderOfColumnsThatCopiesRelyOn) {
-    const auto names = [](const std::string& table) {
-        return Conn().Query("Select * From " + table).names;
-    };
+    const auto names = [](const std::string& table) { return Conn().Query("Select * From " + table).names; };
     for (const char* half : {"01", "02"})
         for (const char* book : {"tJXC_CkDj_Bak", "tJXC_CkDj_Tmp"})
             EXPECT_EQ(names(std::string(book) + half), names(std::string("tJXC_CkDj") + half));
@@ -138,14 +140,16 @@ TEST(CompanyServers, ThatGoAwayAreNoticed) {
     Conn().Flush();
     Connection other;
     OpenConnection(1, other, company.Path(), "", "", company.Database());
-    other.EngineInUse().ExecuteScript("select pg_terminate_backend(pid) from pg_stat_activity where datname = "
-                                      "current_database() and pid <> pg_backend_pid()");
+    other.EngineInUse().ExecuteScript(
+        "select pg_terminate_backend(pid) from pg_stat_activity where datname = "
+        "current_database() and pid <> pg_backend_pid()");
     for (int time = 0; time < 2; ++time)
         try {
             One("Select count(*) From tJXC_Ck");
             ADD_FAILURE() << "the line is cut";
         } catch (const DatabaseError& error) {
-            EXPECT_TRUE(std::string(error.what()).starts_with("与数据库服务器的连接已经中断")) << error.what();
+            EXPECT_TRUE(std::string(error.what()).starts_with("与数据库服务器的连接已经中断"))
+                << error.what();
         }
     EXPECT_THROW(Conn().CommitTrans(), DatabaseError);
     Conn().RollbackTrans();

@@ -114,9 +114,16 @@ TEST_P(Recordsets, HoldEachFieldToItsKind) {
     entry.Set("fDate", "2004-02-29 00:00:00");
     entry.Set("fInvID", "it's 100%");
     entry.Set("fUser", Value());
-    for (const auto& [field, value] : std::initializer_list<std::pair<const char*, Value>>{
-             {"fDate", "2003-02-29"}, {"fDate", 37000}, {"fDate", ""}, {"fMoneyA", "x"}, {"fMoneyA", ""},
-             {"fType1", 40000}, {"fCompID", 3e9}, {"fMoneyRate", std::nan("")}, {"fNoSuchField", 1}})
+    for (const auto& [field, value] :
+         std::initializer_list<std::pair<const char*, Value>>{{"fDate", "2003-02-29"},
+                                                              {"fDate", 37000},
+                                                              {"fDate", ""},
+                                                              {"fMoneyA", "x"},
+                                                              {"fMoneyA", ""},
+                                                              {"fType1", 40000},
+                                                              {"fCompID", 3e9},
+                                                              {"fMoneyRate", std::nan("")},
+                                                              {"fNoSuchField", 1}})
         EXPECT_THROW(entry.Set(field, value), DatabaseError) << field << " " << value.AsText();
     entry.Update();
     EXPECT_EQ(One("Select fAcntNo,fMoneyA,fMoneyB,fType1,fDate,fInvID,fUser From tAccountDetail"),

@@ -46,7 +46,8 @@ TEST_P(StatementTexts, KeepTheirLiterals) {
         Do(std::string("Insert Into tJXC_KhAdd (fKhID,fKhAdd) Values (1,'") + text + "')");
         EXPECT_EQ(One("Select fKhAdd From tJXC_KhAdd"), UnquotedText(text));
         EXPECT_EQ(One(std::string("Select fKhID From tJXC_KhAdd Where fKhAdd='") + text + "'"), "1") << text;
-        EXPECT_EQ(One(std::string("Select fKhID From tJXC_KhAdd Where fKhAdd Like '") + text + "'"), "1") << text;
+        EXPECT_EQ(One(std::string("Select fKhID From tJXC_KhAdd Where fKhAdd Like '") + text + "'"), "1")
+            << text;
     }
     EXPECT_EQ(UnquotedText("it''s"), "it's");
 }
@@ -65,13 +66,16 @@ TEST_P(StatementTexts, MinusANegativeNumberAdds) {
 TEST_P(StatementTexts, CompareTextsWithoutCase) {
     for (const char* row : {"1,'Abc','X'", "2,'aBD',null", "3,null,'y'"})
         Do("Insert Into tJXC_Cp (fCpID,fCpName,fCpGG) Values (" + std::string(row) + ")");
-    for (const char* where : {"fCpName='aBC'", "fCpName Like 'AB_' And fCpGG='x'", "left(fCpName,3)='abC'",
-                              "fCpName In ('zzz','ABC')", "fCpName + '/' + fCpGG='abc/x'", "fCpName & fCpGG='ABCX'",
-                              "fCpName Between 'ABB' And 'abcz'", "not fCpName Like 'ab[d]' And fCpName<'ABd'"})
+    for (const char* where :
+         {"fCpName='aBC'", "fCpName Like 'AB_' And fCpGG='x'", "left(fCpName,3)='abC'",
+          "fCpName In ('zzz','ABC')", "fCpName + '/' + fCpGG='abc/x'", "fCpName & fCpGG='ABCX'",
+          "fCpName Between 'ABB' And 'abcz'", "not fCpName Like 'ab[d]' And fCpName<'ABd'"})
         EXPECT_EQ(One(std::string("Select fCpID From tJXC_Cp Where ") + where), "1") << where;
     // Joining with nothing gives nothing.
-    EXPECT_EQ(RowsOf("Select fCpName + '/' + fCpGG From tJXC_Cp Order By fCpID"), (Lines{"Abc/X", "null", "null"}));
-    EXPECT_EQ(RowsOf("Select distinct 'K' + fCpGG as fK From tJXC_Cp Where fCpID<>2 Order By fK"), (Lines{"KX", "Ky"}));
+    EXPECT_EQ(RowsOf("Select fCpName + '/' + fCpGG From tJXC_Cp Order By fCpID"),
+              (Lines{"Abc/X", "null", "null"}));
+    EXPECT_EQ(RowsOf("Select distinct 'K' + fCpGG as fK From tJXC_Cp Where fCpID<>2 Order By fK"),
+              (Lines{"KX", "Ky"}));
 }
 
 TEST_P(StatementTexts, PutNothingFirst) {
@@ -79,11 +83,13 @@ TEST_P(StatementTexts, PutNothingFirst) {
         Do("Insert Into tJXC_KhAdd (fKhID,fKhAdd) Values (" + std::string(row) + ")");
     EXPECT_EQ(RowsOf("Select fKhID From tJXC_KhAdd Order By fKhAdd"), (Lines{"2", "3", "1"}));
     EXPECT_EQ(RowsOf("Select Top 2 fKhID From tJXC_KhAdd Order By fKhAdd Desc"), (Lines{"1", "3"}));
-    EXPECT_EQ(RowsOf("Select fKhID From tJXC_KhAdd Where fKhID In (Select Top 1 fKhID From tJXC_KhAdd Order By fKhID Desc)"),
+    EXPECT_EQ(RowsOf("Select fKhID From tJXC_KhAdd Where fKhID In (Select Top 1 fKhID From tJXC_KhAdd Order "
+                     "By fKhID Desc)"),
               (Lines{"3"}));
 }
 
-// Stock of product 1 in an own, a consignment and an unknown warehouse; product 2 only on consignment; 3 nowhere.
+// Stock of product 1 in an own, a consignment and an unknown warehouse; product 2 only on consignment; 3
+// nowhere.
 TEST_P(StatementTexts, JoinOnBothSides) {
     Do("Insert Into tJXC_Ck (fCkName,fCkType2,fCkType3) Values ('A',0,0)");
     Do("Insert Into tJXC_Ck (fCkName,fCkType2,fCkType3) Values ('B',1,0)");
@@ -91,14 +97,17 @@ TEST_P(StatementTexts, JoinOnBothSides) {
         Do("Insert Into tJXC_CkTj (fCpID,fCkName,fKcSl) Values (" + std::string(stock) + ")");
     for (const char* product : {"1", "2", "3"})
         Do("Insert Into tJXC_CkDj02 (fInvID,fCpID,fInvSL) Values (9," + std::string(product) + ",-2)");
-    const std::string source = " (tJXC_CkTj b Left Join tJXC_Ck c On c.fCkName=b.fCkName) Right Join tJXC_CkDj02 a On "
-                               "a.fCpID=b.fCpID Where a.fInvID=9";
+    const std::string source =
+        " (tJXC_CkTj b Left Join tJXC_Ck c On c.fCkName=b.fCkName) Right Join tJXC_CkDj02 a On "
+        "a.fCpID=b.fCpID Where a.fInvID=9";
     const std::string tail = " Group By a.fCpID,a.fInvSL Order By a.fCpID";
-    EXPECT_EQ(RowsOf("select a.fCpID,a.fInvSL,sum(b.fKcSl) as fKcSl from" + source + " And (c.fCkType2=0 and c.fCkType3=0)" + tail),
+    EXPECT_EQ(RowsOf("select a.fCpID,a.fInvSL,sum(b.fKcSl) as fKcSl from" + source +
+                     " And (c.fCkType2=0 and c.fCkType3=0)" + tail),
               (Lines{"1|-2|5"}));
     EXPECT_EQ(RowsOf("select a.fCpID,a.fInvSL,sum(b.fKcSl) as fKcSl from" + source + tail),
               (Lines{"1|-2|975", "2|-2|4", "3|-2|null"}));
-    EXPECT_EQ(RowsOf("select a.fCpID,a.fInvSL,sum(b.fKcSl) as fKcSl from" + source + " And c.fCkName is null" + tail),
+    EXPECT_EQ(RowsOf("select a.fCpID,a.fInvSL,sum(b.fKcSl) as fKcSl from" + source +
+                     " And c.fCkName is null" + tail),
               (Lines{"1|-2|900", "3|-2|null"}));
     EXPECT_EQ(RowsOf("select a.fCpID,a.fInvSL,sum(b.fKcSl) as fKcSl from" + source +
                      " And (c.fCkType2=1 Or b.fKcSl>800)" + tail),
@@ -120,7 +129,8 @@ TEST(LiftedTexts, ThatDifferInLiteralsShareAKey) {
                               "Select Top 1 f From t Where a=1 And b=2 And c=#07/31/2003#"})
         EXPECT_NE(key, keyOf(other)) << other;
     EXPECT_NE(keyOf("Select Format(f,'yyyy-mm') From t"), keyOf("Select Format(f,'yyyymm') From t"));
-    EXPECT_NE(keyOf("Select convert(varchar(7),f,120) From t"), keyOf("Select convert(varchar(10),f,120) From t"));
+    EXPECT_NE(keyOf("Select convert(varchar(7),f,120) From t"),
+              keyOf("Select convert(varchar(10),f,120) From t"));
     EXPECT_NE(keyOf("Select f From t Order By 1"), keyOf("Select f From t Order By 2"));
 }
 

@@ -179,8 +179,15 @@ TEST_P(Transactions, CountAndMaximum) {
 } // namespace
 
 TEST(LikePattern, OfWhatAUserTyped) {
-    for (const auto& [typed, pattern] : {std::pair{"abc", "%abc%"}, {"abc*", "abc%"}, {"#bc", "_bc"}, {"a*c", "%a*c%"},
-                                         {" ", ""}, {"*", "%"}, {"#", "_"}, {"a%", "a%"}, {" x ", "%x%"}})
+    for (const auto& [typed, pattern] : {std::pair{"abc", "%abc%"},
+                                         {"abc*", "abc%"},
+                                         {"#bc", "_bc"},
+                                         {"a*c", "%a*c%"},
+                                         {" ", ""},
+                                         {"*", "%"},
+                                         {"#", "_"},
+                                         {"a%", "a%"},
+                                         {" x ", "%x%"}})
         EXPECT_EQ(LikePattern(typed), pattern);
 }
 

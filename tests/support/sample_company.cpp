@@ -16,7 +16,9 @@ namespace {
 
 const char* const kToday = "2026-11-05";
 
-std::string Server() { return std::getenv("JXC_TEST_PG"); }
+std::string Server() {
+    return std::getenv("JXC_TEST_PG");
+}
 
 std::string DatabaseAddress(const std::string& database) {
     return Server() + (Server().find('?') == std::string::npos ? "?" : "&") + "dbname=" + database;

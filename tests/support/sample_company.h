@@ -1,5 +1,5 @@
-// The sample company, fresh for each test: a copy of one that is made once per engine. Today is 5 November 2026 for all
-// tests, so the books' period is that month.
+// The sample company, fresh for each test: a copy of one that is made once per engine. Today is 5 November
+// 2026 for all tests, so the books' period is that month.
 #pragma once
 
 #include <string>
@@ -18,7 +18,8 @@ class SampleCompany {
 
     // As the command line and lzJxc's UserPath name it.
     const std::string& Address() const { return address_; }
-    // A control that points at the company, signed in as a clerk who is also the supervisor, with every right.
+    // A control that points at the company, signed in as a clerk who is also the supervisor, with every
+    // right.
     lzJxc SignedIn() const;
 
   private:

@@ -100,9 +100,13 @@ TestCompany::~TestCompany() {
     }
 }
 
-int TestCompany::Dialect() const { return kind_ == EngineKind::Sqlite ? 0 : 1; }
+int TestCompany::Dialect() const {
+    return kind_ == EngineKind::Sqlite ? 0 : 1;
+}
 
-void Do(const std::string& sql) { Conn().Execute(sql); }
+void Do(const std::string& sql) {
+    Conn().Execute(sql);
+}
 
 Lines RowsOf(const std::string& sql) {
     const Rows rows = Conn().Query(sql);
@@ -123,6 +127,8 @@ std::string One(const std::string& sql) {
     return rows.size() == 1 ? rows[0] : std::to_string(rows.size()) + " rows";
 }
 
-std::string Day(const std::string& slashDate) { return session.DateDelimiter + slashDate + session.DateDelimiter; }
+std::string Day(const std::string& slashDate) {
+    return session.DateDelimiter + slashDate + session.DateDelimiter;
+}
 
 } // namespace jxc::test

@@ -1,8 +1,8 @@
-// A company of its own for each test: empty tables in a new file or a new database of the test server, opened as the
-// session's connection and removed at the end.
+// A company of its own for each test: empty tables in a new file or a new database of the test server, opened
+// as the session's connection and removed at the end.
 //
-// The server is named by JXC_TEST_PG, a libpq URI of its maintenance database whose user may create databases; without
-// it the tests of that engine skip and say so.
+// The server is named by JXC_TEST_PG, a libpq URI of its maintenance database whose user may create
+// databases; without it the tests of that engine skip and say so.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -55,8 +55,8 @@ inline std::string EngineName(const testing::TestParamInfo<EngineKind>& info) {
 
 using Lines = std::vector<std::string>;
 
-// On the session's connection: a statement without rows; the rows of a select, cells joined by "|", a null as "null";
-// the only row, or how many there are instead.
+// On the session's connection: a statement without rows; the rows of a select, cells joined by "|", a null as
+// "null"; the only row, or how many there are instead.
 void Do(const std::string& sql);
 Lines RowsOf(const std::string& sql);
 std::string One(const std::string& sql);
@@ -65,7 +65,7 @@ std::string Day(const std::string& slashDate);
 
 } // namespace jxc::test
 
-#define ON_BOTH_ENGINES(suite)                                                                                         \
-    INSTANTIATE_TEST_SUITE_P(Engines, suite,                                                                           \
-                             testing::Values(jxc::test::EngineKind::Sqlite, jxc::test::EngineKind::Postgres),          \
-                             jxc::test::EngineName)
+#define ON_BOTH_ENGINES(suite)                                                                               \
+    INSTANTIATE_TEST_SUITE_P(                                                                                \
+        Engines, suite, testing::Values(jxc::test::EngineKind::Sqlite, jxc::test::EngineKind::Postgres),     \
+        jxc::test::EngineName)
