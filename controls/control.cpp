@@ -15,18 +15,30 @@ constexpr int kPaste = 22;
 
 std::string_view KindName(ControlKind kind) {
     switch (kind) {
-    case ControlKind::Text: return "text";
-    case ControlKind::Label: return "label";
-    case ControlKind::Button: return "button";
-    case ControlKind::Check: return "check";
-    case ControlKind::Option: return "option";
-    case ControlKind::List: return "list";
-    case ControlKind::Date: return "date";
-    case ControlKind::Grid: return "grid";
-    case ControlKind::Tree: return "tree";
-    case ControlKind::Tabs: return "tabs";
-    case ControlKind::Frame: return "frame";
-    case ControlKind::Menu: return "menu";
+    case ControlKind::Text:
+        return "text";
+    case ControlKind::Label:
+        return "label";
+    case ControlKind::Button:
+        return "button";
+    case ControlKind::Check:
+        return "check";
+    case ControlKind::Option:
+        return "option";
+    case ControlKind::List:
+        return "list";
+    case ControlKind::Date:
+        return "date";
+    case ControlKind::Grid:
+        return "grid";
+    case ControlKind::Tree:
+        return "tree";
+    case ControlKind::Tabs:
+        return "tabs";
+    case ControlKind::Frame:
+        return "frame";
+    case ControlKind::Menu:
+        return "menu";
     }
     return "";
 }

@@ -1,5 +1,6 @@
-// Control models: what a person sees and touches on a screen, as plain state with events, without a toolkit. Each
-// registers itself in its screen by name. Operations change models; a view shows what the models say afterwards.
+// Control models: what a person sees and touches on a screen, as plain state with events, without a toolkit.
+// Each registers itself in its screen by name. Operations change models; a view shows what the models say
+// afterwards.
 #pragma once
 
 #include <functional>
@@ -42,7 +43,7 @@ struct Control {
     Control* frame = nullptr; // the frame or panel that holds it
 
     std::function<void()> onEnter;
-    std::function<bool()> onLeave;                // false keeps the focus here
+    std::function<bool()> onLeave;                 // false keeps the focus here
     std::function<void(const std::string&)> onKey; // a named key: "Enter", "Delete", "F5" ...
 };
 
@@ -95,7 +96,8 @@ struct CheckBox : Toggle {
 };
 
 struct OptionButton : Toggle {
-    OptionButton(Screen& screen, std::string name, std::string group, std::string caption = "", bool chosen = false)
+    OptionButton(Screen& screen, std::string name, std::string group, std::string caption = "",
+                 bool chosen = false)
         : Toggle(screen, std::move(name), ControlKind::Option, std::move(caption)), group(std::move(group)) {
         value = chosen;
     }
@@ -107,7 +109,7 @@ struct OptionButton : Toggle {
 // Anything with text that is edited key by key.
 struct EditBox : Control {
     std::string text;
-    int selStart = 0;  // in characters
+    int selStart = 0; // in characters
     int selLength = 0;
     bool locked = false;
     // A key before it takes effect: its code point, 22 for a paste. Setting it to 0 refuses the key.

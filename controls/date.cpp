@@ -53,7 +53,9 @@ std::string SlashText(Date date) {
     return text;
 }
 
-Date AddDays(Date date, int count) { return Date{sys_days{date} + days{count}}; }
+Date AddDays(Date date, int count) {
+    return Date{sys_days{date} + days{count}};
+}
 
 Date AddMonths(Date date, int count) {
     Date moved = date + months{count};
@@ -62,8 +64,14 @@ Date AddMonths(Date date, int count) {
     return moved;
 }
 
-int YearOf(Date date) { return static_cast<int>(date.year()); }
-int MonthOf(Date date) { return static_cast<int>(static_cast<unsigned>(date.month())); }
-int DayOf(Date date) { return static_cast<int>(static_cast<unsigned>(date.day())); }
+int YearOf(Date date) {
+    return static_cast<int>(date.year());
+}
+int MonthOf(Date date) {
+    return static_cast<int>(static_cast<unsigned>(date.month()));
+}
+int DayOf(Date date) {
+    return static_cast<int>(static_cast<unsigned>(date.day()));
+}
 
 } // namespace jxc

@@ -16,8 +16,8 @@ Date Today();
 // "yyyy-mm-dd", a time behind it is ignored; nothing when it is no date of the calendar.
 std::optional<Date> ParseDate(std::string_view text);
 
-std::string IsoText(Date date);      // yyyy-mm-dd
-std::string SlashText(Date date);    // mm/dd/yyyy, the form of a date written into a statement
+std::string IsoText(Date date);   // yyyy-mm-dd
+std::string SlashText(Date date); // mm/dd/yyyy, the form of a date written into a statement
 Date AddDays(Date date, int days);
 Date AddMonths(Date date, int months); // a day beyond the month's end becomes its last day
 int YearOf(Date date);

@@ -54,7 +54,8 @@ Value TypedValue(const GridColumn& column, const std::string& text) {
     return number;
 }
 
-// Types the whole new text key by key over the selected old one. When a key is refused the old text comes back.
+// Types the whole new text key by key over the selected old one. When a key is refused the old text comes
+// back.
 void ReplaceText(EditBox& box, const std::string& text) {
     const std::string before = box.text;
     box.SelectAll();

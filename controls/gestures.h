@@ -1,9 +1,10 @@
-// What a person does to a control, event by event: the focus leaves one control and enters the next, keys pass the
-// filter, cells are entered and left. Views, scripts and tests all come through here, so they meet the same rules.
+// What a person does to a control, event by event: the focus leaves one control and enters the next, keys
+// pass the filter, cells are entered and left. Views, scripts and tests all come through here, so they meet
+// the same rules.
 //
-// A gesture that a person could not make (a control that is hidden, disabled or of another kind, a row that is not
-// there, a text that the keys refuse) throws GestureRefused and changes nothing. An error inside a screen's own routines
-// is shown in a message box and leaves the screen open.
+// A gesture that a person could not make (a control that is hidden, disabled or of another kind, a row that
+// is not there, a text that the keys refuse) throws GestureRefused and changes nothing. An error inside a
+// screen's own routines is shown in a message box and leaves the screen open.
 #pragma once
 
 #include <stdexcept>
@@ -20,8 +21,8 @@ class GestureRefused : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// Moves the focus as Tab or a mouse click would. False when the control that has it keeps it, or the new one's screen
-// sent it elsewhere; a message has told the person then.
+// Moves the focus as Tab or a mouse click would. False when the control that has it keeps it, or the new
+// one's screen sent it elsewhere; a message has told the person then.
 bool GoTo(Screen& screen, Control& control);
 // Takes the focus away from every control; false when the one that has it keeps it.
 bool LeaveFocus(Screen& screen);
@@ -38,7 +39,8 @@ void Click(Screen& screen, Command& command);
 // Presses a named key in a control: "Enter", "Delete", "F5" ...
 void PressKey(Screen& screen, Control& control, const std::string& key);
 
-// Goes to the cell, types, leaves it. A row one past the last is appended by Enter on the last row where the screen does so.
+// Goes to the cell, types, leaves it. A row one past the last is appended by Enter on the last row where the
+// screen does so.
 void TypeCell(Screen& screen, Grid& grid, int row, int column, const std::string& text);
 void SelectRow(Screen& screen, Grid& grid, int row);
 void DoubleClickRow(Screen& screen, Grid& grid, int row);

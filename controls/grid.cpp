@@ -38,13 +38,15 @@ void Grid::SetFormula(int column, std::string_view formula) {
     for (const int read : formulas_.back().compiled.Reads())
         if (read > ColumnCount()) {
             formulas_.pop_back();
-            throw FormulaError("公式 " + std::string(formula) + " 有误：没有第 " + std::to_string(read) + " 列。");
+            throw FormulaError("公式 " + std::string(formula) + " 有误：没有第 " + std::to_string(read) +
+                               " 列。");
         }
     OrderFormulas();
 }
 
 bool Grid::HasFormula(int column) const {
-    return std::any_of(formulas_.begin(), formulas_.end(), [&](const Formula& f) { return f.column == column; });
+    return std::any_of(formulas_.begin(), formulas_.end(),
+                       [&](const Formula& f) { return f.column == column; });
 }
 
 void Grid::OrderFormulas() {
@@ -117,7 +119,8 @@ void Grid::RemoveRow(int row) {
 
 void Grid::CheckPlace(int row, int column) const {
     if (row < 1 || row > RowCount() || column < 1 || column > ColumnCount())
-        throw ScreenError(name + " 没有第 " + std::to_string(row) + " 行第 " + std::to_string(column) + " 列。");
+        throw ScreenError(name + " 没有第 " + std::to_string(row) + " 行第 " + std::to_string(column) +
+                          " 列。");
 }
 
 const Value& Grid::Cell(int row, int column) const {

@@ -1,5 +1,6 @@
-// A grid: columns with captions, types and formulas, rows of values, colours, a selected cell. Rows and columns count
-// from 1. Numbers are kept as numbers and shown with the column's decimals and thousands separators.
+// A grid: columns with captions, types and formulas, rows of values, colours, a selected cell. Rows and
+// columns count from 1. Numbers are kept as numbers and shown with the column's decimals and thousands
+// separators.
 #pragma once
 
 #include <optional>
@@ -14,13 +15,16 @@ namespace jxc {
 enum class CellType { Text, Number, Check };
 enum class Alignment { Left, Right, Center };
 
-// Red, green and blue as 0x00BBGGRR, the order in which the highlight colours are given; -1 is the normal colour.
+// Red, green and blue as 0x00BBGGRR, the order in which the highlight colours are given; -1 is the normal
+// colour.
 using Color = int;
 constexpr Color kNormalColor = -1;
-constexpr Color Rgb(int red, int green, int blue) { return red | green << 8 | blue << 16; }
+constexpr Color Rgb(int red, int green, int blue) {
+    return red | green << 8 | blue << 16;
+}
 
 struct GridColumn {
-    std::string caption;
+    std::string caption = {};
     CellType type = CellType::Text;
     int decimals = 2;
     bool thousands = true;
@@ -58,7 +62,8 @@ struct Grid : Control {
     std::string Text(int row, int column) const { return Cell(row, column).AsText(); }
     // The cell as shown: numbers with decimals and separators, an empty cell as "".
     std::string ShownText(int row, int column) const;
-    // Sets a cell and works out the row's formulas that depend on it. onCellChange is told of each cell that changed.
+    // Sets a cell and works out the row's formulas that depend on it. onCellChange is told of each cell that
+    // changed.
     void SetCell(int row, int column, Value value);
     // Fills a cell without formulas or events: for loading; Recalculate afterwards if formulas are set.
     void FillCell(int row, int column, Value value);

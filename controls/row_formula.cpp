@@ -9,20 +9,48 @@ namespace jxc {
 namespace {
 
 // muParser's own "=" assigns, so all operators are the formula's own.
-double Add(double a, double b) { return a + b; }
-double Subtract(double a, double b) { return a - b; }
-double Multiply(double a, double b) { return a * b; }
-double Divide(double a, double b) { return a / b; }
-double Power(double a, double b) { return std::pow(a, b); }
-double Negative(double a) { return -a; }
-double Positive(double a) { return a; }
-double Equal(double a, double b) { return a == b; }
-double Unequal(double a, double b) { return a != b; }
-double Less(double a, double b) { return a < b; }
-double LessEqual(double a, double b) { return a <= b; }
-double Greater(double a, double b) { return a > b; }
-double GreaterEqual(double a, double b) { return a >= b; }
-double If(double condition, double then, double otherwise) { return condition != 0 ? then : otherwise; }
+double Add(double a, double b) {
+    return a + b;
+}
+double Subtract(double a, double b) {
+    return a - b;
+}
+double Multiply(double a, double b) {
+    return a * b;
+}
+double Divide(double a, double b) {
+    return a / b;
+}
+double Power(double a, double b) {
+    return std::pow(a, b);
+}
+double Negative(double a) {
+    return -a;
+}
+double Positive(double a) {
+    return a;
+}
+double Equal(double a, double b) {
+    return a == b;
+}
+double Unequal(double a, double b) {
+    return a != b;
+}
+double Less(double a, double b) {
+    return a < b;
+}
+double LessEqual(double a, double b) {
+    return a <= b;
+}
+double Greater(double a, double b) {
+    return a > b;
+}
+double GreaterEqual(double a, double b) {
+    return a >= b;
+}
+double If(double condition, double then, double otherwise) {
+    return condition != 0 ? then : otherwise;
+}
 
 void DefineLanguage(mu::Parser& parser) {
     parser.EnableBuiltInOprt(false);
@@ -77,7 +105,8 @@ RowFormula::RowFormula(std::string_view text) : compiled_(std::make_unique<Compi
     try {
         DefineLanguage(compiled_->parser);
         compiled_->parser.SetExpr(formula);
-        const mu::varmap_type used = compiled_->parser.GetUsedVar(); // a copy: defining a variable empties the parser's own
+        const mu::varmap_type used =
+            compiled_->parser.GetUsedVar(); // a copy: defining a variable empties the parser's own
         for (const auto& [name, unused] : used) {
             const int column = ColumnOf(name);
             if (column == 0)
@@ -91,8 +120,8 @@ RowFormula::RowFormula(std::string_view text) : compiled_(std::make_unique<Compi
         if (results != 1)
             throw FormulaError("公式 " + formula + " 有误：只能有一个结果。");
     } catch (const mu::Parser::exception_type& error) {
-        throw FormulaError("公式 " + formula + " 有误：第 " + std::to_string(error.GetPos() + 1) + " 个字符处 " +
-                           error.GetToken() + "（" + error.GetMsg() + "）。");
+        throw FormulaError("公式 " + formula + " 有误：第 " + std::to_string(error.GetPos() + 1) +
+                           " 个字符处 " + error.GetToken() + "（" + error.GetMsg() + "）。");
     }
 }
 
@@ -100,7 +129,9 @@ RowFormula::~RowFormula() = default;
 RowFormula::RowFormula(RowFormula&&) noexcept = default;
 RowFormula& RowFormula::operator=(RowFormula&&) noexcept = default;
 
-const std::vector<int>& RowFormula::Reads() const { return compiled_->reads; }
+const std::vector<int>& RowFormula::Reads() const {
+    return compiled_->reads;
+}
 
 double RowFormula::Evaluate(const std::function<double(int)>& cell) const {
     for (size_t i = 0; i < compiled_->reads.size(); ++i)

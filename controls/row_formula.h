@@ -27,7 +27,8 @@ class RowFormula {
 
     // The columns it reads, from 1.
     const std::vector<int>& Reads() const;
-    // The value for a row, whose cells `cell(column)` gives; 0 where arithmetic has no finite answer (a division by 0).
+    // The value for a row, whose cells `cell(column)` gives; 0 where arithmetic has no finite answer (a
+    // division by 0).
     double Evaluate(const std::function<double(int column)>& cell) const;
 
   private:

@@ -27,10 +27,12 @@ Control* Screen::Find(std::string_view control) const {
 }
 
 void Screen::AddTextProperty(std::string property, std::string& text) {
-    AddProperty(std::move(property), [&text](const Value& v) { text = v.AsText(); }, [&text] { return Value(text); });
+    AddProperty(
+        std::move(property), [&text](const Value& v) { text = v.AsText(); }, [&text] { return Value(text); });
 }
 
-void Screen::AddProperty(std::string property, std::function<void(const Value&)> set, std::function<Value()> get) {
+void Screen::AddProperty(std::string property, std::function<void(const Value&)> set,
+                         std::function<Value()> get) {
     properties_[std::move(property)] = {std::move(set), std::move(get)};
 }
 
@@ -41,8 +43,12 @@ const Screen::Property& Screen::FindProperty(std::string_view property) const {
     return found->second;
 }
 
-void Screen::SetProperty(std::string_view property, const Value& value) { FindProperty(property).set(value); }
-Value Screen::GetProperty(std::string_view property) const { return FindProperty(property).get(); }
+void Screen::SetProperty(std::string_view property, const Value& value) {
+    FindProperty(property).set(value);
+}
+Value Screen::GetProperty(std::string_view property) const {
+    return FindProperty(property).get();
+}
 
 void ShowModal(Screen& screen) {
     if (screen.IsOpen())

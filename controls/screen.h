@@ -1,5 +1,6 @@
-// A screen: named controls, a title, public properties that openers set by name, and whether it is open. Screens are
-// single instances in the table of screens, so a lower floor opens a higher one's screen by name without including it.
+// A screen: named controls, a title, public properties that openers set by name, and whether it is open.
+// Screens are single instances in the table of screens, so a lower floor opens a higher one's screen by name
+// without including it.
 #pragma once
 
 #include <functional>
@@ -45,8 +46,9 @@ struct Screen {
     // Public properties, for openers and scripts.
     template <typename Number>
     void AddNumberProperty(std::string property, Number& number) {
-        properties_[std::move(property)] = {[&number](const Value& v) { number = static_cast<Number>(v.AsLong()); },
-                                            [&number] { return Value(static_cast<std::int64_t>(number)); }};
+        properties_[std::move(property)] = {
+            [&number](const Value& v) { number = static_cast<Number>(v.AsLong()); },
+            [&number] { return Value(static_cast<std::int64_t>(number)); }};
     }
     void AddTextProperty(std::string property, std::string& text);
     void AddProperty(std::string property, std::function<void(const Value&)> set, std::function<Value()> get);
@@ -70,8 +72,8 @@ struct Screen {
     bool open_ = false;
 };
 
-// Opens the screen over those that are open and returns when it has been closed. A screen whose data cannot be loaded
-// shows the reason in a message box and does not open.
+// Opens the screen over those that are open and returns when it has been closed. A screen whose data cannot
+// be loaded shows the reason in a message box and does not open.
 void ShowModal(Screen& screen);
 
 // The table of screens. An instance is made on first use and kept.

@@ -1,5 +1,5 @@
-// A view for unit tests: message boxes are answered from a list, screens are driven by a routine per name, and
-// everything shown is recorded.
+// A view for unit tests: message boxes are answered from a list, screens are driven by a routine per name,
+// and everything shown is recorded.
 #pragma once
 
 #include <deque>
@@ -15,15 +15,17 @@ namespace jxc {
 class ScriptedView : public View {
   public:
     // What to do when a screen of that name opens; it is closed when the routine returns.
-    void OnScreen(const std::string& name, std::function<void(Screen&)> routine) { routines_[name] = std::move(routine); }
+    void OnScreen(const std::string& name, std::function<void(Screen&)> routine) {
+        routines_[name] = std::move(routine);
+    }
     // The answers to the boxes to come. Without one, a box is answered by its first button.
     void Answer(BoxButton button) { answers_.push_back(button); }
 
-    std::vector<MessageBox> boxes;        // shown so far
-    std::vector<std::string> screens;     // opened so far
+    std::vector<MessageBox> boxes;    // shown so far
+    std::vector<std::string> screens; // opened so far
     std::vector<std::string> notices;
     std::vector<std::string> addresses;
-    std::vector<std::string> steps;       // of progress
+    std::vector<std::string> steps; // of progress
     std::string clipboard;
 
     void RunModal(Screen& screen) override;

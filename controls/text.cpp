@@ -10,8 +10,12 @@ namespace jxc {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // The length of the number at the start of `text`, 0 when there is none. No blanks are skipped.
 size_t NumberLength(std::string_view text) {
@@ -244,7 +248,9 @@ std::string MidText(std::string_view text, int start, int count) {
     return FromCodePoints(points.substr(from, count < 0 ? std::u32string::npos : static_cast<size_t>(count)));
 }
 
-int CharacterCount(std::string_view text) { return static_cast<int>(ToCodePoints(text).size()); }
+int CharacterCount(std::string_view text) {
+    return static_cast<int>(ToCodePoints(text).size());
+}
 
 std::vector<std::string> Split(std::string_view text, char separator) {
     std::vector<std::string> parts;

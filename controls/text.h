@@ -1,5 +1,5 @@
-// Texts as users type and read them: UTF-8, leading-number conversion, display of numbers, lengths in bytes of the
-// local code page (where a Chinese character counts 2).
+// Texts as users type and read them: UTF-8, leading-number conversion, display of numbers, lengths in bytes
+// of the local code page (where a Chinese character counts 2).
 #pragma once
 
 #include <string>
@@ -21,14 +21,15 @@ bool EqualsNoCase(std::string_view a, std::string_view b);
 
 // The shortest decimal text that reads back as `number`, without exponent between 1e-7 and 1e15.
 std::string NumberText(double number);
-// `number` with exactly `decimals` decimals, halves away from zero on its decimal text; "," between thousands on request.
-// A value that rounds to zero shows no minus sign.
+// `number` with exactly `decimals` decimals, halves away from zero on its decimal text; "," between thousands
+// on request. A value that rounds to zero shows no minus sign.
 std::string FormatFixed(double number, int decimals, bool thousands = false);
-// Rounds to `decimals` decimals through the number's 15-digit decimal text, so that 0.00015 rounds as a person expects.
+// Rounds to `decimals` decimals through the number's 15-digit decimal text, so that 0.00015 rounds as a
+// person expects.
 enum class Halves { ToEven, AwayFromZero };
 double RoundDecimal(double number, int decimals, Halves halves = Halves::AwayFromZero);
-// a + b as a person adds decimal figures: without binary residue, so that 0.1 + 0.2 - 0.3 is 0 and what was added can be
-// taken away again. Twelve decimals and 15 digits are kept.
+// a + b as a person adds decimal figures: without binary residue, so that 0.1 + 0.2 - 0.3 is 0 and what was
+// added can be taken away again. Twelve decimals and 15 digits are kept.
 double AddDecimal(double a, double b);
 
 // The code points of a UTF-8 text, and back.

@@ -25,7 +25,8 @@ struct Tree : Control {
 
     int DepthOf(int node) const {
         int depth = 0;
-        for (int at = nodes[static_cast<size_t>(node)].parent; at >= 0; at = nodes[static_cast<size_t>(at)].parent)
+        for (int at = nodes[static_cast<size_t>(node)].parent; at >= 0;
+             at = nodes[static_cast<size_t>(at)].parent)
             ++depth;
         return depth;
     }

@@ -1,6 +1,6 @@
-// A cell's or a field's value: nothing, a whole number, a number or a text. Grids and recordsets share it, so rows
-// go from the database to the screen without conversion. Dates are texts 'yyyy-mm-dd' (with ' hh:mm:ss' when the
-// time is not midnight).
+// A cell's or a field's value: nothing, a whole number, a number or a text. Grids and recordsets share it, so
+// rows go from the database to the screen without conversion. Dates are texts 'yyyy-mm-dd' (with ' hh:mm:ss'
+// when the time is not midnight).
 #pragma once
 
 #include <cstdint>

@@ -8,19 +8,26 @@ View* inUse = nullptr;
 
 std::string_view ButtonName(BoxButton button) {
     switch (button) {
-    case BoxButton::OK: return "OK";
-    case BoxButton::Cancel: return "Cancel";
-    case BoxButton::Yes: return "Yes";
-    case BoxButton::No: return "No";
+    case BoxButton::OK:
+        return "OK";
+    case BoxButton::Cancel:
+        return "Cancel";
+    case BoxButton::Yes:
+        return "Yes";
+    case BoxButton::No:
+        return "No";
     }
     return "";
 }
 
 std::string_view IconName(BoxIcon icon) {
     switch (icon) {
-    case BoxIcon::Information: return "information";
-    case BoxIcon::Warning: return "warning";
-    case BoxIcon::Question: return "question";
+    case BoxIcon::Information:
+        return "information";
+    case BoxIcon::Warning:
+        return "warning";
+    case BoxIcon::Question:
+        return "question";
     }
     return "";
 }
@@ -31,8 +38,12 @@ View& CurrentView() {
     return *inUse;
 }
 
-ViewInUse::ViewInUse(View& view) : before_(inUse) { inUse = &view; }
-ViewInUse::~ViewInUse() { inUse = before_; }
+ViewInUse::ViewInUse(View& view) : before_(inUse) {
+    inUse = &view;
+}
+ViewInUse::~ViewInUse() {
+    inUse = before_;
+}
 
 void Warn(const std::string& title, const std::string& text) {
     CurrentView().ShowBox({title, text, BoxIcon::Warning, {BoxButton::OK}});

@@ -1,4 +1,5 @@
-// What shows the screens: windows for people, JSON lines for programs, a script for tests. One view is in use at a time.
+// What shows the screens: windows for people, JSON lines for programs, a script for tests. One view is in use
+// at a time.
 #pragma once
 
 #include <string>

@@ -21,7 +21,8 @@ void FillAddresses(frmDj02& s, std::int64_t id) {
     const std::string shown = s.cboKhAdd.text;
     s.cboKhAdd.Clear();
     if (id > 0) {
-        const std::string sql = "select fKhAdd from tJXC_KhAdd Where fKhID = " + std::to_string(id) + " Order by fKhAdd";
+        const std::string sql =
+            "select fKhAdd from tJXC_KhAdd Where fKhID = " + std::to_string(id) + " Order by fKhAdd";
         for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext())
             s.cboKhAdd.items.push_back(row["fKhAdd"].AsText());
     }
@@ -45,8 +46,11 @@ bool FillCardFields(frmDj02& s, const Recordset& card) {
 }
 
 Recordset CardOf(std::int64_t id) {
-    return Recordset(Conn(), "select fID,name,compname,CompAdd,postcode,CompCode,telphone,handphone,fax,E_mail,http,fType0 "
-                             "from cards where fID=" + std::to_string(id));
+    return Recordset(
+        Conn(),
+        "select fID,name,compname,CompAdd,postcode,CompCode,telphone,handphone,fax,E_mail,http,fType0 "
+        "from cards where fID=" +
+            std::to_string(id));
 }
 
 bool ConfirmAddress(const frmDj02& s, const char* verb, const std::string& address) {
@@ -65,7 +69,8 @@ Recordset StoredAddress(std::int64_t id, const std::string& address) {
 
 void ClearCardFields(frmDj02& s) {
     s.cboKhAdd.text.clear();
-    for (TextBox* box : {&s.txtName, &s.txtPostcode, &s.txtTelphone, &s.txtHandphone, &s.txtFax, &s.txtE_mail, &s.txtHttp})
+    for (TextBox* box :
+         {&s.txtName, &s.txtPostcode, &s.txtTelphone, &s.txtHandphone, &s.txtFax, &s.txtE_mail, &s.txtHttp})
         box->text.clear();
 }
 
@@ -91,7 +96,8 @@ void RefreshCustomer(frmDj02& s) {
         return;
     const std::int64_t kind = card["fType0"].AsLong();
     if (kind != 0 && kind != s.type.fSetKhType) {
-        Warn(s.title, "提示：客户类型不符。\n\n[" + card["compname"].AsText() + "] 是 " + KindText(kind) + "！");
+        Warn(s.title,
+             "提示：客户类型不符。\n\n[" + card["compname"].AsText() + "] 是 " + KindText(kind) + "！");
         ClearCardFields(s);
     }
 }

@@ -1,5 +1,5 @@
-// The operations of the entry screen, grouped by what the user does. Each works on the screen's state; those that write
-// to the database say so.
+// The operations of the entry screen, grouped by what the user does. Each works on the screen's state; those
+// that write to the database say so.
 #pragma once
 
 #include <string>
@@ -17,34 +17,35 @@ void ResetDocument(frmDj02& s);
 // -- load_document.cpp: a stored document into the screen
 // Shows "该[单号]已不存在!" when it is gone, "系统数据错误，操作已经取消！" on any error; false then.
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key);
-// Header and lines of the stored document as one text, to see whether another user changed it; "" when it is gone.
+// Header and lines of the stored document as one text, to see whether another user changed it; "" when it is
+// gone.
 std::string StoredState(const std::string& stem, std::int32_t key);
 // The document before or after the one shown; no hit disables that direction.
 void StepToDocument(frmDj02& s, bool next);
 
 // -- customer_panel.cpp
-void SeekCustomer(frmDj02& s);    // by the text in txtKhSeek
-void RefreshCustomer(frmDj02& s); // after a choice: card fields, kind check, addresses
+void SeekCustomer(frmDj02& s);                  // by the text in txtKhSeek
+void RefreshCustomer(frmDj02& s);               // after a choice: card fields, kind check, addresses
 void ShowCustomer(frmDj02& s, std::int64_t id); // of a loaded document, without checks
 void ClearCardFields(frmDj02& s);
-void SaveAddress(frmDj02& s);     // writes tJXC_KhAdd
-void DeleteAddress(frmDj02& s);   // writes tJXC_KhAdd
+void SaveAddress(frmDj02& s);   // writes tJXC_KhAdd
+void DeleteAddress(frmDj02& s); // writes tJXC_KhAdd
 
 // -- line_entry.cpp
-void AppendLine(frmDj02& s);                 // by Enter on the last filled row
+void AppendLine(frmDj02& s); // by Enter on the last filled row
 void InsertLine(frmDj02& s);
 void DeleteLine(frmDj02& s);
 void EnterGrid(frmDj02& s);
 void LeaveCell(frmDj02& s, int row, int column);
-void RefreshGridStock(frmDj02& s);           // stock and reference price of all rows
+void RefreshGridStock(frmDj02& s); // stock and reference price of all rows
 void RefreshRowStock(frmDj02& s, int row);
 void RefreshTotals(frmDj02& s);
-void SetReturnSign(frmDj02& s);              // after chkTh changed
-void SpreadTaxRate(frmDj02& s);              // the rate field into every row
-void SpreadDiscount(frmDj02& s);             // the discount field into every row, unless it is 0
+void SetReturnSign(frmDj02& s);  // after chkTh changed
+void SpreadTaxRate(frmDj02& s);  // the rate field into every row
+void SpreadDiscount(frmDj02& s); // the discount field into every row, unless it is 0
 
 // -- header_fields.cpp
-bool LeaveDate(frmDj02& s);                  // not before the period; in Action 1 the number follows
+bool LeaveDate(frmDj02& s); // not before the period; in Action 1 the number follows
 void ChooseWarehouse(frmDj02& s, bool second);
 void ChooseCurrency(frmDj02& s);
 void FormatPayment(frmDj02& s);

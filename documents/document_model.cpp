@@ -12,7 +12,11 @@ constexpr Color kRed = 255;
 constexpr int kMemoBytes = 50;
 
 GridColumn Number(const char* caption, int decimals, double width = 10) {
-    return {.caption = caption, .type = CellType::Number, .decimals = decimals, .width = width, .alignment = Alignment::Right};
+    return {.caption = caption,
+            .type = CellType::Number,
+            .decimals = decimals,
+            .width = width,
+            .alignment = Alignment::Right};
 }
 
 std::vector<GridColumn> LineColumns(const TypeRow& type, const Parameters& parameters) {
@@ -137,16 +141,23 @@ std::string PaymentCaption(const TypeRow& type) {
     return type.fSetCrType1 == 2 ? "实收金额" : type.fSetCrType1 == 1 ? "实付金额" : "";
 }
 
-std::string FirstWarehouseCaption(const TypeRow& type) { return type.fSetCkName1.empty() ? "仓库" : type.fSetCkName1; }
-std::string SecondWarehouseCaption(const TypeRow& type) { return type.fSetCkName2.empty() ? "入库" : type.fSetCkName2; }
+std::string FirstWarehouseCaption(const TypeRow& type) {
+    return type.fSetCkName1.empty() ? "仓库" : type.fSetCkName1;
+}
+std::string SecondWarehouseCaption(const TypeRow& type) {
+    return type.fSetCkName2.empty() ? "入库" : type.fSetCkName2;
+}
 
 int OrderTypeFor(int type) {
     switch (std::abs(type)) {
-    case 1: return 23;
+    case 1:
+        return 23;
     case 2:
     case 6:
-    case 31: return 24;
-    default: return 0;
+    case 31:
+        return 24;
+    default:
+        return 0;
     }
 }
 

@@ -14,12 +14,13 @@ constexpr int kNumberBytes = 20;
 
 void WireHead(frmDj02& s) {
     for (Control* control : std::initializer_list<Control*>{
-             &s.cboInvType, &s.dtpInvDate, &s.txtNo, &s.txtHtNo, &s.cboCkName, &s.cboCkName2, &s.txtKhSeek, &s.cboKhList,
-             &s.cboKhAdd, &s.mnuKhAddDelete, &s.cboInvHb, &s.txtInvHbDl, &s.txtTaxRate, &s.txtZkl, &s.cboInvMemo,
-             &s.cboInvJbr, &s.chkFlag, &s.chkTh})
+             &s.cboInvType, &s.dtpInvDate, &s.txtNo, &s.txtHtNo, &s.cboCkName, &s.cboCkName2, &s.txtKhSeek,
+             &s.cboKhList, &s.cboKhAdd, &s.mnuKhAddDelete, &s.cboInvHb, &s.txtInvHbDl, &s.txtTaxRate,
+             &s.txtZkl, &s.cboInvMemo, &s.cboInvJbr, &s.chkFlag, &s.chkTh})
         control->frame = &s.fraHead;
-    for (Control* control : std::initializer_list<Control*>{&s.txtName, &s.txtPostcode, &s.txtTelphone, &s.txtHandphone,
-                                                            &s.txtFax, &s.txtE_mail, &s.txtHttp})
+    for (Control* control :
+         std::initializer_list<Control*>{&s.txtName, &s.txtPostcode, &s.txtTelphone, &s.txtHandphone,
+                                         &s.txtFax, &s.txtE_mail, &s.txtHttp})
         control->frame = &s.fraKh2;
 
     FilterKeys(s.txtNo, kNumberBytes);
@@ -111,7 +112,9 @@ void frmDj02::Open() {
     MoveFocus(IsEditing(InHand()) ? static_cast<Control*>(&dtpInvDate) : &cmdSave);
 }
 
-std::int64_t frmDj02::CustomerId() const { return CustomerIdOf(cboKhList.Chosen()); }
+std::int64_t frmDj02::CustomerId() const {
+    return CustomerIdOf(cboKhList.Chosen());
+}
 
 void RegisterDocumentScreens() {
     RegisterScreen("frmDj02", [] { return std::make_unique<frmDj02>(); });

@@ -1,5 +1,6 @@
-// The entry screen of all document types. What a type shows and does follows from its row in the type table and from the
-// system parameters; see document_model.h. An opener sets Action, invType, OldType, oldInvID and JzState by name.
+// The entry screen of all document types. What a type shows and does follows from its row in the type table
+// and from the system parameters; see document_model.h. An opener sets Action, invType, OldType, oldInvID and
+// JzState by name.
 #pragma once
 
 #include <cstdint>
@@ -18,9 +19,9 @@ struct frmDj02 : Screen {
 
     // The upper panel: the document's header.
     Frame fraHead{*this, "fraHead"};
-    ListBox cboInvType{*this, "cboInvType"};        // number in 3 characters, name behind
+    ListBox cboInvType{*this, "cboInvType"}; // number in 3 characters, name behind
     DateBox dtpInvDate{*this, "dtpInvDate"};
-    TextBox txtNo{*this, "txtNo"};                  // its tag keeps the number as loaded
+    TextBox txtNo{*this, "txtNo"}; // its tag keeps the number as loaded
     Label lblHtNo{*this, "lblHtNo", "订单号"};
     TextBox txtHtNo{*this, "txtHtNo"};
     Label lblCkName{*this, "lblCkName", "仓库"};
@@ -28,8 +29,8 @@ struct frmDj02 : Screen {
     Label lblCkName2{*this, "lblCkName2", "入库"};
     ListBox cboCkName2{*this, "cboCkName2"};
     Label lblKh{*this, "lblKh", "客户"};
-    TextBox txtKhSeek{*this, "txtKhSeek"};          // its tag keeps a card that the list cannot show
-    ListBox cboKhList{*this, "cboKhList"};          // name in 80 characters, card number behind
+    TextBox txtKhSeek{*this, "txtKhSeek"}; // its tag keeps a card that the list cannot show
+    ListBox cboKhList{*this, "cboKhList"}; // name in 80 characters, card number behind
     Label lblKhAdd{*this, "lblKhAdd", "送货地址"};
     ListBox cboKhAdd{*this, "cboKhAdd", true};
     MenuItem mnuKhAddDelete{*this, "mnuKhAddDelete", "删除该地址"};
@@ -70,9 +71,9 @@ struct frmDj02 : Screen {
     TextBox txtSum2{*this, "txtSum2", "0.00"};
     Label lblSsSf{*this, "lblSsSf"};
     TextBox txtSsSf{*this, "txtSsSf", "0.00"};
-    TextBox txtMemo{*this, "txtMemo"};              // printed, not stored
+    TextBox txtMemo{*this, "txtMemo"}; // printed, not stored
     Frame shpSHR{*this, "shpSHR"};
-    Label lblSHR{*this, "lblSHR"};                  // the approver
+    Label lblSHR{*this, "lblSHR"}; // the approver
     Button cmdPrevious{*this, "cmdPrevious", "上一张(&P)"};
     Button cmdNext{*this, "cmdNext", "下一张(&N)"};
     Button cmdNew{*this, "cmdNew", "新单(&W)"};
@@ -82,9 +83,9 @@ struct frmDj02 : Screen {
     // Set by the opener.
     int Action = 0;
     int invType = 0;
-    int OldType = 0;          // the source's type when a new document is made from one
+    int OldType = 0;           // the source's type when a new document is made from one
     std::int32_t oldInvID = 0; // the document in hand, 0 for none
-    int JzState = 0;          // 1 reads the closed book
+    int JzState = 0;           // 1 reads the closed book
 
     // Read at opening.
     TypeRow type;

@@ -24,7 +24,9 @@ void FollowConsignee(frmDj02& s, const std::string& warehouse) {
 
 void WarnOfSecondOpening(const frmDj02& s, const std::string& warehouse) {
     if (DbCount("tJXC_CkDj01", "fInvType=0 And fCkName='" + warehouse + "'") > 0)
-        Warn(s.title, "注意：每个仓库最好设置一张[期初单]！\n\n该仓库的[期初单]已有存在，建议您选择原[期初单]的修改。");
+        Warn(
+            s.title,
+            "注意：每个仓库最好设置一张[期初单]！\n\n该仓库的[期初单]已有存在，建议您选择原[期初单]的修改。");
 }
 
 } // namespace

@@ -21,7 +21,9 @@ std::string StockWarehouse(const frmDj02& s) {
 }
 
 // Prices come into the cells as people write them, with two decimals.
-double PriceAsShown(double price) { return Val(FormatFixed(price, 2)); }
+double PriceAsShown(double price) {
+    return Val(FormatFixed(price, 2));
+}
 
 void ClearRow(Grid& grid, int row) {
     for (int column = 1; column <= grid.ColumnCount(); ++column)
@@ -119,7 +121,8 @@ void DeleteLine(frmDj02& s) {
 }
 
 void EnterGrid(frmDj02& s) {
-    if (!IsEditing(s.InHand()) || !s.type.HasFirstWarehouse() || !s.cboCkName.IsShown() || s.cboCkName.Index() >= 0)
+    if (!IsEditing(s.InHand()) || !s.type.HasFirstWarehouse() || !s.cboCkName.IsShown() ||
+        s.cboCkName.Index() >= 0)
         return;
     Warn(s.title, "请选择“" + s.lblCkName.caption + "”！");
     s.MoveFocus(&s.cboCkName);
@@ -142,7 +145,8 @@ void RefreshRowStock(frmDj02& s, int row) {
     const std::string field = PriceField(s.type.fSetDjType1);
     if (field.empty())
         return;
-    const std::string price = DbScalar("Select " + field + " From tJXC_Cp Where fCpID=" + std::to_string(product));
+    const std::string price =
+        DbScalar("Select " + field + " From tJXC_Cp Where fCpID=" + std::to_string(product));
     grid.SetCell(row, line::kReference, Val(price));
 }
 

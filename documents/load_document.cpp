@@ -13,14 +13,15 @@ namespace jxc {
 
 namespace {
 
-// The order that a new document made from a source refers to: the source itself when it is a fitting order, the source's
-// own order when the new document is its return.
+// The order that a new document made from a source refers to: the source itself when it is a fitting order,
+// the source's own order when the new document is its return.
 std::string OrderNumber(const frmDj02& s, int sourceType, const Recordset& header) {
     if (s.InHand() != DocAction::New)
         return header["fHtNo"].AsText();
     if (s.invType != 31 && OrderTypeFor(s.invType) == sourceType && sourceType != 0)
         return header["fInvNo"].AsText();
-    const bool returnOfSource = (sourceType == 1 || sourceType == 2 || sourceType == 6) && s.invType == -sourceType;
+    const bool returnOfSource =
+        (sourceType == 1 || sourceType == 2 || sourceType == 6) && s.invType == -sourceType;
     return returnOfSource ? header["fHtNo"].AsText() : "";
 }
 
@@ -64,7 +65,9 @@ void LoadHeader(frmDj02& s, int sourceType, const Recordset& header) {
 }
 
 // The discount of a stored line follows from its price.
-double DiscountOf(double price, double reference) { return reference == 0 ? 0 : price / reference; }
+double DiscountOf(double price, double reference) {
+    return reference == 0 ? 0 : price / reference;
+}
 
 void LoadLine(frmDj02& s, int row, const Recordset& stored) {
     Grid& grid = s.Grid2;
@@ -102,8 +105,8 @@ void CompleteLine(frmDj02& s, int row) {
 void LoadLines(frmDj02& s, const std::string& stem, std::int32_t key) {
     Grid& grid = s.Grid2;
     Recordset stored(Conn(), "Select a.*,b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit from " + stem + "02 a" +
-                                 " Left Join tJXC_Cp b On a.fCpID =b.fCpID " + " Where a.fInvID = " + std::to_string(key) +
-                                 " And fInv1 = 0" + " Order By a.fRowID");
+                                 " Left Join tJXC_Cp b On a.fCpID =b.fCpID " + " Where a.fInvID = " +
+                                 std::to_string(key) + " And fInv1 = 0" + " Order By a.fRowID");
     grid.SetRowCount(0);
     grid.SetRowCount(static_cast<int>(stored.RecordCount()));
     for (int row = 1; !stored.AtEnd(); stored.MoveNext(), ++row) {
@@ -160,8 +163,8 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
 std::string StoredState(const std::string& stem, std::int32_t key) {
     std::string state;
     const std::string where = " Where fInvID=" + std::to_string(key);
-    for (const std::string& sql :
-         {"select * from " + stem + "01" + where, "select * from " + stem + "02" + where + " Order By fInv1,fRowID"}) {
+    for (const std::string& sql : {"select * from " + stem + "01" + where,
+                                   "select * from " + stem + "02" + where + " Order By fInv1,fRowID"}) {
         const Rows rows = Conn().Query(sql);
         if (rows.Count() == 0 && state.empty())
             return "";
@@ -174,10 +177,10 @@ std::string StoredState(const std::string& stem, std::int32_t key) {
 
 void StepToDocument(frmDj02& s, bool next) {
     const std::string stem = BookStem(s.invType, s.JzState == 1);
-    const std::string hit = DbScalar(
-        "Select Top 1 fInvID From " + stem + "01 " + " Where fInvType=" + std::to_string(s.invType) +
-        (s.InHand() == DocAction::Change ? " And fInvShr=''" : "") + " And fInvNo" + (next ? ">" : "<") + "'" + s.Number() +
-        "'" + " Order By fInvNo" + (next ? "" : " Desc"));
+    const std::string hit =
+        DbScalar("Select Top 1 fInvID From " + stem + "01 " + " Where fInvType=" + std::to_string(s.invType) +
+                 (s.InHand() == DocAction::Change ? " And fInvShr=''" : "") + " And fInvNo" +
+                 (next ? ">" : "<") + "'" + s.Number() + "'" + " Order By fInvNo" + (next ? "" : " Desc"));
     if (hit.empty()) {
         (next ? s.cmdNext : s.cmdPrevious).enabled = false;
         (next ? s.cmdPrevious : s.cmdNext).enabled = true;

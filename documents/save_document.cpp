@@ -40,7 +40,8 @@ bool DocumentInHand(frmDj02& s) {
 
 bool DateAndNumberGiven(frmDj02& s) {
     if (!s.dtpInvDate.date || *s.dtpInvDate.date < s.parameters.periodStart)
-        return Refuse(s, "单据日期：不能小于本期起始日期 " + IsoText(s.parameters.periodStart) + "！", &s.dtpInvDate);
+        return Refuse(s, "单据日期：不能小于本期起始日期 " + IsoText(s.parameters.periodStart) + "！",
+                      &s.dtpInvDate);
     if (s.Number().empty())
         return Refuse(s, "请输入单号！", &s.txtNo);
     return true;
@@ -83,7 +84,8 @@ bool OrderFits(frmDj02& s) {
         static_cast<int>(Val(DbScalar("Select fInvType From tJXC_CkHt01 Where fInvNo='" + number + "'")));
     if (orderType == OrderTypeFor(s.invType))
         return true;
-    return Refuse(s, s.title + "，不能对应 " + (orderType == 23 ? "采购" : "销售") + "订单 " + number + " ！", &s.txtHtNo);
+    return Refuse(s, s.title + "，不能对应 " + (orderType == 23 ? "采购" : "销售") + "订单 " + number + " ！",
+                  &s.txtHtNo);
 }
 
 void CutLongTexts(frmDj02& s) {
@@ -95,7 +97,8 @@ void CutLongTexts(frmDj02& s) {
     s.cboKhAdd.text = TruncateToBytes(s.cboKhAdd.text, kAddressBytes);
 }
 
-// Why the number cannot be used in the book: `taken` when it is there, or that the check could not be made. "" when free.
+// Why the number cannot be used in the book: `taken` when it is there, or that the check could not be made.
+// "" when free.
 std::string NumberRefusal(const frmDj02& s, const std::string& stem, const std::string& taken) {
     const int count = DbCount(stem + "01", "fInvNo = '" + s.Number() + "'");
     if (count < 0)
@@ -110,7 +113,8 @@ bool NumberIsFree(frmDj02& s, const std::string& stem, const std::string& taken)
 
 // The checks of every Action, up to the point where approval and reversal part.
 bool MayGoOn(frmDj02& s, const std::string& stem) {
-    if (!DocumentInHand(s) || !DateAndNumberGiven(s) || !WarehousesGiven(s) || !CustomerGiven(s) || !OrderFits(s))
+    if (!DocumentInHand(s) || !DateAndNumberGiven(s) || !WarehousesGiven(s) || !CustomerGiven(s) ||
+        !OrderFits(s))
         return false;
     CutLongTexts(s);
     const bool renumbered = s.InHand() == DocAction::Change && s.Number() != s.txtNo.tag;
@@ -125,9 +129,9 @@ bool LinesGiven(frmDj02& s) {
     return Refuse(s, "请输入单据内容清单！", &s.Grid2);
 }
 
-// Runs the writing of a document in one transaction. `write` gives the reason why the document cannot be written after
-// all, "" when it was; a reason or a failure undoes everything and is told, and the input stays. Nothing is asked while
-// the transaction is open: other users wait for it.
+// Runs the writing of a document in one transaction. `write` gives the reason why the document cannot be
+// written after all, "" when it was; a reason or a failure undoes everything and is told, and the input
+// stays. Nothing is asked while the transaction is open: other users wait for it.
 bool InTransaction(frmDj02& s, const std::function<std::string()>& write) {
     std::string refusal;
     try {
@@ -227,10 +231,14 @@ void SaveDocument(frmDj02& s) {
     if (!LinesGiven(s))
         return;
     switch (s.InHand()) {
-    case DocAction::New: return SaveNew(s, stem);
-    case DocAction::Change: return SaveChange(s, stem);
-    case DocAction::Delete: return DeleteStored(s, stem);
-    default: return;
+    case DocAction::New:
+        return SaveNew(s, stem);
+    case DocAction::Change:
+        return SaveChange(s, stem);
+    case DocAction::Delete:
+        return DeleteStored(s, stem);
+    default:
+        return;
     }
 }
 

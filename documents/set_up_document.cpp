@@ -24,8 +24,8 @@ void FillWarehouses(ListBox& list, int kind) {
 }
 
 void FillLists(frmDj02& s) {
-    FillCombo("Select fSetNo, fSetName from tJXC_InvSet Where fSetNo<50 And fSetNoUse_<>1 Order By fRowID", s.cboInvType, 3,
-              true);
+    FillCombo("Select fSetNo, fSetName from tJXC_InvSet Where fSetNo<50 And fSetNoUse_<>1 Order By fRowID",
+              s.cboInvType, 3, true);
     s.cboInvType.SetIndex(ComboIndexByLeftValue(s.cboInvType, s.invType, 3));
     FillWarehouses(s.cboCkName, s.type.fSetCkType1);
     FillWarehouses(s.cboCkName2, s.type.fSetCkType2);
@@ -33,7 +33,8 @@ void FillLists(frmDj02& s) {
     FillBriefCombo(s.cboInvMemo, kSummaries, false);
     FillCombo("Select MoneyCode,0 as aa from Moneys Order By MoneyType desc", s.cboInvHb);
     FillCombo("Select fName,0 as aa from " +
-                  std::string(s.parameters.handlersFromSalespeople ? "tJXC_Yj_Jbr" : "tRsBasic") + " Order By fCode",
+                  std::string(s.parameters.handlersFromSalespeople ? "tJXC_Yj_Jbr" : "tRsBasic") +
+                  " Order By fCode",
               s.cboInvJbr);
 }
 
@@ -44,9 +45,10 @@ void Show(bool shown, std::initializer_list<Control*> controls) {
 
 // Whether a received or paid amount may be entered: at the moment of approval.
 bool OffersPayment(const frmDj02& s) {
-    const bool approving = s.InHand() == DocAction::Approve || (s.InHand() == DocAction::New && s.parameters.approveOnSave);
-    return !PaymentCaption(s.type).empty() && s.type.fSetWlType > 0 && s.type.HasCustomer() && s.parameters.quickPayment &&
-           approving;
+    const bool approving =
+        s.InHand() == DocAction::Approve || (s.InHand() == DocAction::New && s.parameters.approveOnSave);
+    return !PaymentCaption(s.type).empty() && s.type.fSetWlType > 0 && s.type.HasCustomer() &&
+           s.parameters.quickPayment && approving;
 }
 
 void ShapeByType(frmDj02& s) {
@@ -58,8 +60,8 @@ void ShapeByType(frmDj02& s) {
     s.lblSsSf.caption = PaymentCaption(type);
     Show(type.HasFirstWarehouse(), {&s.lblCkName, &s.cboCkName});
     Show(type.HasSecondWarehouse(), {&s.lblCkName2, &s.cboCkName2});
-    Show(type.HasCustomer(), {&s.lblKh, &s.txtKhSeek, &s.cboKhList, &s.lblKhAdd, &s.cboKhAdd, &s.mnuKhAddDelete, &s.txtMemo,
-                              &s.cmdLoadKh2});
+    Show(type.HasCustomer(), {&s.lblKh, &s.txtKhSeek, &s.cboKhList, &s.lblKhAdd, &s.cboKhAdd,
+                              &s.mnuKhAddDelete, &s.txtMemo, &s.cmdLoadKh2});
     s.fraKh2.visible = false;
     Show(type.fSetHb_, {&s.lblInvHb, &s.cboInvHb, &s.txtInvHbDl});
     Show(type.fSetDjDd_, {&s.lblHtNo, &s.txtHtNo});
@@ -97,7 +99,9 @@ void SetStartingValues(frmDj02& s) {
     s.loadedState.clear();
 }
 
-void ChooseOnly(ListBox& list) { list.SetIndex(list.items.size() == 1 ? 0 : -1); }
+void ChooseOnly(ListBox& list) {
+    list.SetIndex(list.items.size() == 1 ? 0 : -1);
+}
 
 } // namespace
 

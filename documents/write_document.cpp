@@ -29,7 +29,8 @@ void SetFigures(const frmDj02& s, Recordset& row, int at) {
     row.Set("fInvOther2", s.Grid2.Text(at, line::kMemo2));
 }
 
-void SetPlace(const frmDj02& s, Recordset& row, int inv1, int rowId, int direction, const std::string& warehouse) {
+void SetPlace(const frmDj02& s, Recordset& row, int inv1, int rowId, int direction,
+              const std::string& warehouse) {
     row.Set("fInv1", inv1);
     row.Set("fRowID", rowId);
     row.Set("fInvID", std::int64_t{s.oldInvID});
@@ -40,11 +41,14 @@ void SetPlace(const frmDj02& s, Recordset& row, int inv1, int rowId, int directi
 // A new order's balance is its full quantity, a changed order keeps the balance that the user sees.
 void SetBalance(const frmDj02& s, Recordset& row, int at) {
     if (s.type.fSetJy_)
-        row.Set("fInvSL2", s.Grid2.Number(at, s.InHand() == DocAction::New ? line::kQuantity : line::kBalance));
+        row.Set("fInvSL2",
+                s.Grid2.Number(at, s.InHand() == DocAction::New ? line::kQuantity : line::kBalance));
 }
 
 void WriteOrdinaryRows(const frmDj02& s, Recordset& row, bool second) {
-    const std::string warehouse = second ? s.cboCkName2.Chosen() : s.type.HasFirstWarehouse() ? s.cboCkName.Chosen() : "";
+    const std::string warehouse = second                       ? s.cboCkName2.Chosen()
+                                  : s.type.HasFirstWarehouse() ? s.cboCkName.Chosen()
+                                                               : "";
     const int direction = second ? DirectionOfSecondRow(s.type) : DirectionOfFirstRow(s.type);
     for (int at = 1; at <= s.Grid2.RowCount(); ++at) {
         row.AddNew();
@@ -63,7 +67,8 @@ void WriteOrdinaryRows(const frmDj02& s, Recordset& row, bool second) {
 } // namespace
 
 void WriteHeader(const frmDj02& s, const std::string& stem) {
-    Recordset row(Conn(), "select * from " + stem + "01 Where fInvID=" + std::to_string(s.oldInvID), Access::Write);
+    Recordset row(Conn(), "select * from " + stem + "01 Where fInvID=" + std::to_string(s.oldInvID),
+                  Access::Write);
     if (row.AtEnd()) {
         row.AddNew();
         row.Set("fInvID", std::int64_t{s.oldInvID});
@@ -85,7 +90,8 @@ void WriteHeader(const frmDj02& s, const std::string& stem) {
 }
 
 void WriteLines(const frmDj02& s, const std::string& stem) {
-    Recordset row(Conn(), "select * from " + stem + "02 Where fInvID = " + std::to_string(s.oldInvID), Access::Write);
+    Recordset row(Conn(), "select * from " + stem + "02 Where fInvID = " + std::to_string(s.oldInvID),
+                  Access::Write);
     WriteOrdinaryRows(s, row, false);
     if (s.type.HasSecondWarehouse())
         WriteOrdinaryRows(s, row, true);

@@ -8,9 +8,9 @@
 
 namespace jxc {
 
-// Checks on the open session connection, which it only reads: stock counters against a recount of the approved lines,
-// numbers and keys used twice, lines without a header, pairs without a partner, account entries without their document.
-// A line per violation.
+// Checks on the open session connection, which it only reads: stock counters against a recount of the
+// approved lines, numbers and keys used twice, lines without a header, pairs without a partner, account
+// entries without their document. A line per violation.
 std::vector<std::string> CheckCompany();
 
 } // namespace jxc

@@ -18,9 +18,12 @@ OpenCompany::OpenCompany(const std::string& company) {
     lzJxc control;
     UseCompany(control, company);
     session.Conn = std::make_unique<Connection>();
-    OpenConnection(session.SQLData, *session.Conn, session.UserPath, session.Password, session.UserID, session.Default);
+    OpenConnection(session.SQLData, *session.Conn, session.UserPath, session.Password, session.UserID,
+                   session.Default);
 }
 
-OpenCompany::~OpenCompany() { session.Conn.reset(); }
+OpenCompany::~OpenCompany() {
+    session.Conn.reset();
+}
 
 } // namespace jxc

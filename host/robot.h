@@ -1,8 +1,9 @@
-// The robot: drives every screen by JSON requests, one object a request, one reply each. A reply is given when the
-// program next waits for input, so a click that raises a message box is answered with that box.
+// The robot: drives every screen by JSON requests, one object a request, one reply each. A reply is given
+// when the program next waits for input, so a click that raises a message box is answered with that box.
 //
-// Requests: property, refresh (between screens); controls, get, set, choose, type, click, dblclick, select, menu, key,
-// tab, heading, drop, close (on a screen); answer (in a message box). A request that does not fit is answered with
+// Requests: property, refresh (between screens); controls, get, set, choose, type, click, dblclick, select,
+// menu, key, tab, heading, drop, close (on a screen); answer (in a message box). A request that does not fit
+// is answered with
 // {"ok":false,"error":...} and changes nothing. At the end of the requests all screens close without saving.
 #pragma once
 
@@ -22,7 +23,8 @@ namespace jxc {
 class RequestSource {
   public:
     virtual ~RequestSource() = default;
-    // The next request; nothing at the end. Text that is no JSON object is answered by Reply before the next is read.
+    // The next request; nothing at the end. Text that is no JSON object is answered by Reply before the next
+    // is read.
     virtual std::optional<nlohmann::json> Next() = 0;
     virtual void Reply(const nlohmann::json& reply) = 0;
 };
@@ -63,8 +65,8 @@ class Robot : public View {
 
     lzJxc& control_;
     RequestSource& source_;
-    std::vector<Screen*> screens_;               // open, the current one last
-    std::optional<nlohmann::json> pending_;      // the reply to be completed at the next wait
+    std::vector<Screen*> screens_;          // open, the current one last
+    std::optional<nlohmann::json> pending_; // the reply to be completed at the next wait
     bool ended_ = false;
     std::string clipboard_;
 };

@@ -140,7 +140,8 @@ void ChooseListItem(Screen& screen, const json& request) {
 
 void DropOnNode(Screen& screen, const json& request) {
     auto& tree = ControlOfKind<Tree>(screen, request, "树");
-    DropNode(screen, tree, tree.FindCaption(TextOf(request, "node")), tree.FindCaption(TextOf(request, "onto")));
+    DropNode(screen, tree, tree.FindCaption(TextOf(request, "node")),
+             tree.FindCaption(TextOf(request, "onto")));
 }
 
 void SelectRowOrNode(Screen& screen, const json& request) {
@@ -165,11 +166,14 @@ const std::map<std::string, Gesture>& Gestures() {
              TypeCell(screen, ControlOfKind<Grid>(screen, r, "表格"), PlaceOf(r, "row"), PlaceOf(r, "col"),
                       ValueOf(r, "value").AsText());
          }},
-        {"click", [](Screen& screen, const json& r) { Click(screen, ControlOfKind<Button>(screen, r, "按钮")); }},
-        {"menu", [](Screen& screen, const json& r) { Click(screen, ControlOfKind<MenuItem>(screen, r, "菜单项")); }},
+        {"click",
+         [](Screen& screen, const json& r) { Click(screen, ControlOfKind<Button>(screen, r, "按钮")); }},
+        {"menu",
+         [](Screen& screen, const json& r) { Click(screen, ControlOfKind<MenuItem>(screen, r, "菜单项")); }},
         {"dblclick", DoubleClickControl},
         {"select", SelectRowOrNode},
-        {"key", [](Screen& screen, const json& r) { PressKey(screen, ControlOf(screen, r), TextOf(r, "key")); }},
+        {"key",
+         [](Screen& screen, const json& r) { PressKey(screen, ControlOf(screen, r), TextOf(r, "key")); }},
         {"tab",
          [](Screen& screen, const json& r) {
              ChooseTab(screen, ControlOfKind<Tabs>(screen, r, "选项卡"), PlaceOf(r, "index"));
@@ -215,7 +219,9 @@ Value ValueOf(const json& request, const std::string& part) {
     throw RequestError(part + " 须为文本、数字、true、false 或 null。");
 }
 
-bool EqualsButton(const std::string& name, BoxButton button) { return EqualsNoCase(name, ButtonName(button)); }
+bool EqualsButton(const std::string& name, BoxButton button) {
+    return EqualsNoCase(name, ButtonName(button));
+}
 
 json ServeScreen(Screen& screen, const json& request) {
     const std::string operation = TextOf(request, "op");

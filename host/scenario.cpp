@@ -95,7 +95,14 @@ std::string WithLineEnds(std::string text) {
     return text;
 }
 
-int DisplayWidth(const std::string& text) { return AnsiByteLength(text); }
+int DisplayWidth(const std::string& text) {
+    return AnsiByteLength(text);
+}
+
+bool IsShownNumber(std::string text) {
+    std::erase(text, ',');
+    return IsNumericText(text);
+}
 
 } // namespace
 
@@ -111,13 +118,15 @@ Scenario::Scenario(const std::string& name, const std::string& text, Query query
 }
 
 void Scenario::Fail(const std::string& what) {
-    failures_.push_back(name_ + ":" + std::to_string(current_.number) + ": " + what + "   （" + current_.text + "）");
+    failures_.push_back(name_ + ":" + std::to_string(current_.number) + ": " + what + "   （" +
+                        current_.text + "）");
 }
 
 std::string Scenario::Substituted(const std::string& text) const {
     std::string result = text;
     for (const auto& [name, value] : kept_)
-        for (size_t at = result.find("${" + name + "}"); at != std::string::npos; at = result.find("${" + name + "}"))
+        for (size_t at = result.find("${" + name + "}"); at != std::string::npos;
+             at = result.find("${" + name + "}"))
             result.replace(at, name.size() + 3, value);
     return result;
 }
@@ -164,8 +173,8 @@ std::optional<json> Scenario::Perform(const Line& line) {
         ExpectRows(RestAfter(line.text, 1));
     else if (verb == "let")
         kept_[words.at(1)] = query_(RestAfter(line.text, 2)).At(0, 0).AsText();
-    else if (verb == "value" || verb == "caption" || verb == "enabled" || verb == "visible" || verb == "grid" ||
-             verb == "table" || verb == "keep")
+    else if (verb == "value" || verb == "caption" || verb == "enabled" || verb == "visible" ||
+             verb == "grid" || verb == "table" || verb == "keep")
         return AskControl(words);
     else if (verb == "property")
         return json{{"op", verb}, {"name", words.at(1)}, {"value", words.size() > 2 ? words[2] : ""}};
@@ -177,7 +186,8 @@ std::optional<json> Scenario::Perform(const Line& line) {
         }
         return json{{"op", verb}, {"action", std::stoi(words.at(1))}, {"properties", properties}};
     } else if (verb == "set")
-        return json{{"op", verb}, {"control", words.at(1)}, {"value", TypedValue(words.size() > 2 ? words[2] : "")}};
+        return json{
+            {"op", verb}, {"control", words.at(1)}, {"value", TypedValue(words.size() > 2 ? words[2] : "")}};
     else if (verb == "choose") {
         json request{{"op", verb}, {"control", words.at(1)}};
         if (words.at(2)[0] == '#')
@@ -350,7 +360,7 @@ void Scenario::ShowTable(const json& grid) {
             for (const auto& other : table)
                 width = std::max(width, DisplayWidth(other[i]));
             const std::string gap(static_cast<size_t>(width - DisplayWidth(row[i])), ' ');
-            const bool number = &row != &table[0] && IsNumericText(row[i]);
+            const bool number = &row != &table[0] && IsShownNumber(row[i]);
             text += "  " + (number ? gap + row[i] : row[i] + gap);
         }
         tell_(text);

@@ -6,11 +6,12 @@
 namespace jxc {
 
 bool RefreshSupplierByDocument(const std::string& number, bool reversal) {
-    const std::string statement =
-        reversal ? "Delete From tJXC_CpGys Where fInvNo ='" + number + "' "
-                 : "Insert INTO tJXC_CpGys (fCpID,fKhID,fCpSl,fCpPrice,fInvDate,fInvNo)"
-                   " SELECT fCpID,fKhID,fInvSl,fInvDJ,fInvDate,fInvNo From tJXC_CkDj02 "
-                   "Where fInvNo ='" + number + "'";
+    const std::string statement = reversal
+                                      ? "Delete From tJXC_CpGys Where fInvNo ='" + number + "' "
+                                      : "Insert INTO tJXC_CpGys (fCpID,fKhID,fCpSl,fCpPrice,fInvDate,fInvNo)"
+                                        " SELECT fCpID,fKhID,fInvSl,fInvDJ,fInvDate,fInvNo From tJXC_CkDj02 "
+                                        "Where fInvNo ='" +
+                                            number + "'";
     try {
         Conn().Tolerantly([&] { Conn().Execute(statement); });
         return true;

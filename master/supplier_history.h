@@ -5,8 +5,8 @@
 
 namespace jxc {
 
-// Adds an approved receipt's lines to the history, or with `reversal` takes them out. Inside the caller's transaction,
-// which stays usable when this fails: the failure is told to the user and gives false.
+// Adds an approved receipt's lines to the history, or with `reversal` takes them out. Inside the caller's
+// transaction, which stays usable when this fails: the failure is told to the user and gives false.
 bool RefreshSupplierByDocument(const std::string& number, bool reversal);
 
 } // namespace jxc

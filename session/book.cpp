@@ -15,13 +15,18 @@ std::string BookStem(int type, bool closed) {
     case 15:
     case 17:
     case 31:
-    case 32: return "tJXC_CkDj";
-    case 20: return "tJXC_CkJh";
+    case 32:
+        return "tJXC_CkDj";
+    case 20:
+        return "tJXC_CkJh";
     case 21:
-    case 22: return "tJXC_CkXjBj";
+    case 22:
+        return "tJXC_CkXjBj";
     case 23:
-    case 24: return "tJXC_CkHt";
-    default: return "";
+    case 24:
+        return "tJXC_CkHt";
+    default:
+        return "";
     }
 }
 

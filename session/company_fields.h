@@ -3,8 +3,8 @@
 
 namespace jxc {
 
-// Appends the company's name, addresses, numbers and accounts to the session's CompanyFieldList, alternating key and
-// value, keys as "<text>" in the session's language. Without a company row nothing is added.
+// Appends the company's name, addresses, numbers and accounts to the session's CompanyFieldList, alternating
+// key and value, keys as "<text>" in the session's language. Without a company row nothing is added.
 void CompanyFields();
 
 } // namespace jxc

@@ -1,5 +1,6 @@
-// Four services that the host suite's own components give: a code list editor, a printer of grids and templates, a
-// printer of trees and a notice window. A host puts its own in their place; the ones built in work without a window.
+// Four services that the host suite's own components give: a code list editor, a printer of grids and
+// templates, a printer of trees and a notice window. A host puts its own in their place; the ones built in
+// work without a window.
 #pragma once
 
 #include <memory>
@@ -14,9 +15,10 @@ namespace jxc {
 
 // What the code list editor is opened for.
 enum class BriefKind {
-    ChooseList = 1,    // picks one of the code lists; the answer is its number
-    EditEntries = 2,   // maintains one list's entries; the answer is the entry chosen
-    SelectColumns = 5, // selects and orders the dictionary's columns of a table; a non-empty answer: they changed
+    ChooseList = 1,  // picks one of the code lists; the answer is its number
+    EditEntries = 2, // maintains one list's entries; the answer is the entry chosen
+    SelectColumns =
+        5, // selects and orders the dictionary's columns of a table; a non-empty answer: they changed
 };
 
 class CodeListEditor {

@@ -14,22 +14,38 @@ namespace jxc {
 
 namespace {
 
-bool Always() { return true; }
-bool IsClose() { return session.myType == 1; }
-bool IsReverseClose() { return session.myType != 1; }
-bool IsTree() { return session.myType == 0; }
-bool IsList() { return session.myType != 0; }
+bool Always() {
+    return true;
+}
+bool IsClose() {
+    return session.myType == 1;
+}
+bool IsReverseClose() {
+    return session.myType != 1;
+}
+bool IsTree() {
+    return session.myType == 0;
+}
+bool IsList() {
+    return session.myType != 0;
+}
 
 using Prepare = void (*)(Screen&);
 
 void Nothing(Screen&) {}
-void CpNoEditOff(Screen& screen) { screen.SetProperty("CpNoEdit", 0); }
-void CpTjSelectOff(Screen& screen) { screen.SetProperty("CpTjSelect", 0); }
+void CpNoEditOff(Screen& screen) {
+    screen.SetProperty("CpNoEdit", 0);
+}
+void CpTjSelectOff(Screen& screen) {
+    screen.SetProperty("CpTjSelect", 0);
+}
 template <int State>
 void FixedState(Screen& screen) {
     screen.SetProperty("myState", State);
 }
-void StateOfType(Screen& screen) { screen.SetProperty("myState", session.myType); }
+void StateOfType(Screen& screen) {
+    screen.SetProperty("myState", session.myType);
+}
 void Untick(Screen& screen, const char* box) {
     if (auto* toggle = dynamic_cast<Toggle*>(screen.Find(box)))
         toggle->value = false;

@@ -67,7 +67,9 @@ void EditKeyFilter(EditBox& box, int& keyCode, int maxBytes, bool numeric) {
 
 void FilterKeys(TextBox& box, int maxBytes, bool numeric) {
     box.maxBytes = maxBytes;
-    box.onKeyPress = [&box, maxBytes, numeric](int& keyCode) { EditKeyFilter(box, keyCode, maxBytes, numeric); };
+    box.onKeyPress = [&box, maxBytes, numeric](int& keyCode) {
+        EditKeyFilter(box, keyCode, maxBytes, numeric);
+    };
 }
 
 bool CheckNoQuote(const std::string& text) {

@@ -13,11 +13,14 @@ namespace jxc {
 
 namespace {
 
-std::string CaptionField() { return "FieldName_" + std::to_string(session.Language); }
+std::string CaptionField() {
+    return "FieldName_" + std::to_string(session.Language);
+}
 
 void FillLists(frmBrief& s) {
     s.title = "代码表";
-    s.Grid1.SetColumns({{.caption = "编号", .width = 12, .locked = true}, {.caption = "名称", .width = 24, .locked = true}});
+    s.Grid1.SetColumns(
+        {{.caption = "编号", .width = 12, .locked = true}, {.caption = "名称", .width = 24, .locked = true}});
     const std::string sql = "select BriefType,BriefTypeName from Brief Order By BriefType";
     for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
         s.Grid1.SetRowCount(s.Grid1.RowCount() + 1);
@@ -29,7 +32,8 @@ void FillLists(frmBrief& s) {
 void FillEntries(frmBrief& s) {
     s.title = "代码表：" + s.code;
     s.Grid1.SetColumns({{.caption = "编号", .width = 12}, {.caption = "名称", .width = 24}});
-    const std::string sql = "select BriefCode,BriefName from briefDetail where briefType='" + s.code + "' Order By BriefCode";
+    const std::string sql =
+        "select BriefCode,BriefName from briefDetail where briefType='" + s.code + "' Order By BriefCode";
     for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
         s.Grid1.SetRowCount(s.Grid1.RowCount() + 1);
         s.Grid1.FillCell(s.Grid1.RowCount(), 1, row["BriefCode"].AsText());
@@ -42,8 +46,9 @@ void FillColumns(frmBrief& s) {
     s.Grid1.SetColumns({{.caption = "显示", .type = CellType::Number, .decimals = 0},
                         {.caption = "名称", .width = 24, .locked = true},
                         {.caption = "FieldName", .hidden = true}});
-    const std::string sql = "select FieldName," + CaptionField() + ",FieldSelected from rptListDetail where ftable='" +
-                            s.table + "' Order By fieldID";
+    const std::string sql = "select FieldName," + CaptionField() +
+                            ",FieldSelected from rptListDetail where ftable='" + s.table +
+                            "' Order By fieldID";
     for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
         s.Grid1.SetRowCount(s.Grid1.RowCount() + 1);
         const int at = s.Grid1.RowCount();
@@ -90,9 +95,9 @@ void SaveEntries(const frmBrief& s) {
 void SaveColumns(const frmBrief& s) {
     Transaction transaction(Conn());
     for (int row = 1; row <= s.Grid1.RowCount(); ++row)
-        Conn().Execute("Update rptListDetail Set fieldID=" + std::to_string(row) + ",FieldSelected=" +
-                       (s.Grid1.Number(row, 1) != 0 ? "1" : "0") + " Where ftable='" + s.table + "' And FieldName='" +
-                       s.Grid1.Text(row, 3) + "'");
+        Conn().Execute("Update rptListDetail Set fieldID=" + std::to_string(row) +
+                       ",FieldSelected=" + (s.Grid1.Number(row, 1) != 0 ? "1" : "0") + " Where ftable='" +
+                       s.table + "' And FieldName='" + s.Grid1.Text(row, 3) + "'");
     transaction.Commit();
 }
 

@@ -1,5 +1,6 @@
-// The built-in code list editor: a screen with one grid, in three kinds. Kind 1 lists the code lists to choose from,
-// kind 2 the entries of one list to change, kind 5 the dictionary's columns of a table to select and order.
+// The built-in code list editor: a screen with one grid, in three kinds. Kind 1 lists the code lists to
+// choose from, kind 2 the entries of one list to change, kind 5 the dictionary's columns of a table to select
+// and order.
 #pragma once
 
 #include "controls/grid.h"

@@ -7,9 +7,9 @@
 
 namespace jxc {
 
-// Mode 1: with the last row selected or an empty grid a row is added at the end, with another row selected one is
-// inserted below it, with none selected in a filled grid nothing happens. Other modes remove the selected row.
-// The new row, or the one that took the removed one's place, is selected.
+// Mode 1: with the last row selected or an empty grid a row is added at the end, with another row selected
+// one is inserted below it, with none selected in a filled grid nothing happens. Other modes remove the
+// selected row. The new row, or the one that took the removed one's place, is selected.
 void GridAppendRow(Grid& grid, int mode);
 double SumGridColumn(const Grid& grid, int column);
 // The first row other than `row` whose column 1 equals the text; 0 when there is none.
@@ -18,8 +18,8 @@ int GridHasValue(const Grid& grid, int row, const std::string& text);
 void RemoveBlankRows(Grid& grid, int column);
 // Selects and gives the row whose last, hidden column holds the number; 0 when there is none.
 int GridFindValue(Grid& grid, std::int64_t value);
-// Nothing with `skip`; otherwise sorts by the column, the same column again swaps the direction. The heading of the sorted column ends
-// in "↑" or "↓", the mark of the one before goes.
+// Nothing with `skip`; otherwise sorts by the column, the same column again swaps the direction. The heading
+// of the sorted column ends in "↑" or "↓", the mark of the one before goes.
 void GridSort(Grid& grid, int column, bool skip = false);
 
 } // namespace jxc

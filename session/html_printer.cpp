@@ -15,11 +15,20 @@ std::string Escaped(const std::string& text) {
     std::string escaped;
     for (const char c : text) {
         switch (c) {
-        case '&': escaped += "&amp;"; break;
-        case '<': escaped += "&lt;"; break;
-        case '>': escaped += "&gt;"; break;
-        case '"': escaped += "&quot;"; break;
-        default: escaped += c;
+        case '&':
+            escaped += "&amp;";
+            break;
+        case '<':
+            escaped += "&lt;";
+            break;
+        case '>':
+            escaped += "&gt;";
+            break;
+        case '"':
+            escaped += "&quot;";
+            break;
+        default:
+            escaped += c;
         }
     }
     return escaped;
@@ -59,7 +68,8 @@ std::string GridTable(const Grid& grid) {
             if (grid.Column(column).hidden)
                 continue;
             const bool number = grid.Column(column).type == CellType::Number;
-            html += (number ? "<td class=\"number\">" : "<td>") + Escaped(grid.ShownText(row, column)) + "</td>";
+            html +=
+                (number ? "<td class=\"number\">" : "<td>") + Escaped(grid.ShownText(row, column)) + "</td>";
         }
         html += "</tr>\n";
     }
@@ -67,8 +77,8 @@ std::string GridTable(const Grid& grid) {
 }
 
 std::filesystem::path SheetFolder() {
-    const std::filesystem::path base =
-        session.PowerPath.empty() ? std::filesystem::temp_directory_path() : std::filesystem::path(session.PowerPath);
+    const std::filesystem::path base = session.PowerPath.empty() ? std::filesystem::temp_directory_path()
+                                                                 : std::filesystem::path(session.PowerPath);
     const std::filesystem::path folder = base / "Sheet";
     std::filesystem::create_directories(folder);
     return folder;

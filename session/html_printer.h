@@ -1,5 +1,5 @@
-// Prints to an HTML file in the folder "Sheet" below PowerPath (the system's temporary folder when that is empty), and
-// opens it with the desktop's program.
+// Prints to an HTML file in the folder "Sheet" below PowerPath (the system's temporary folder when that is
+// empty), and opens it with the desktop's program.
 #pragma once
 
 #include "session/components.h"

@@ -14,11 +14,11 @@ void FillCombo(const std::string& sql, ListBox& list, int width, bool withKey) {
     }
 }
 
-void FillDistinctCombo(const std::string& table, ListBox& list, const std::string& fields, const std::string& where,
-                       const std::string& tail, bool twoColumns) {
+void FillDistinctCombo(const std::string& table, ListBox& list, const std::string& fields,
+                       const std::string& where, const std::string& tail, bool twoColumns) {
     list.Clear();
-    const std::string sql =
-        "select distinct " + fields + " from " + table + (where.empty() ? "" : " Where " + where) + " " + tail;
+    const std::string sql = "select distinct " + fields + " from " + table +
+                            (where.empty() ? "" : " Where " + where) + " " + tail;
     for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
         const std::string second = row[size_t{1}].AsText();
         list.items.push_back(twoColumns ? row[size_t{0}].AsText() + "\t" + second : second);
@@ -28,7 +28,8 @@ void FillDistinctCombo(const std::string& table, ListBox& list, const std::strin
 void FillBriefCombo(ListBox& list, const std::string& briefType, bool withCode) {
     if (briefType.empty())
         return;
-    const std::string sql = "select * from briefDetail where briefType='" + briefType + "' Order By briefcode";
+    const std::string sql =
+        "select * from briefDetail where briefType='" + briefType + "' Order By briefcode";
     for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
         const std::string name = row["BriefName"].AsText();
         list.items.push_back(withCode ? row["BriefCode"].AsText() + "\t" + name : name);

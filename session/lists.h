@@ -7,18 +7,18 @@
 
 namespace jxc {
 
-// Clears the list; each row adds its first field, or with `withKey` the first field in `width` characters and the second
-// directly behind it.
+// Clears the list; each row adds its first field, or with `withKey` the first field in `width` characters and
+// the second directly behind it.
 void FillCombo(const std::string& sql, ListBox& list, int width = 0, bool withKey = false);
-// Clears the list and fills it with the distinct values of `fields` (two of them): the second alone, or both with a tab
-// between.
-void FillDistinctCombo(const std::string& table, ListBox& list, const std::string& fields, const std::string& where,
-                       const std::string& tail, bool twoColumns);
+// Clears the list and fills it with the distinct values of `fields` (two of them): the second alone, or both
+// with a tab between.
+void FillDistinctCombo(const std::string& table, ListBox& list, const std::string& fields,
+                       const std::string& where, const std::string& tail, bool twoColumns);
 // Adds the entries of a code list: the name, or the code, a tab and the name. The list is not cleared.
 void FillBriefCombo(ListBox& list, const std::string& briefType, bool withCode);
 
-// The first item whose first `width` characters, or whose text from the character `start` on, count as the number; -1
-// when there is none.
+// The first item whose first `width` characters, or whose text from the character `start` on, count as the
+// number; -1 when there is none.
 int ComboIndexByLeftValue(const ListBox& list, std::int64_t value, int width);
 int ComboIndexByMidValue(const ListBox& list, std::int64_t value, int start); // 0 is never found
 // The first item equal to the text; -1 when there is none, or for "".

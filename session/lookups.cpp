@@ -12,8 +12,8 @@ namespace jxc {
 
 namespace {
 
-constexpr int kNameWidth = 80;    // of a customer list's row
-constexpr int kMostCards = 101;   // listed by one search
+constexpr int kNameWidth = 80;  // of a customer list's row
+constexpr int kMostCards = 101; // listed by one search
 
 const std::string kProducts =
     "select fCpID,fCpCode,fCpName,fCpGG,fCpUnit,fCpBarCode,fCpPrice0,fCpPrice1,fCpPrice2,fCpPrice3 "
@@ -55,7 +55,8 @@ std::optional<std::string> StatementByCode(const std::string& code) {
         return exact;
     const std::string pattern = LikePattern(code);
     const std::string count = "Select COUNT(*) "
-                              " From tJXC_Cp Where fCpFlag<>1 And fCpCode like '" + pattern + "'";
+                              " From tJXC_Cp Where fCpFlag<>1 And fCpCode like '" +
+                              pattern + "'";
     const auto hits = Recordset(Conn(), count)[size_t{0}].AsLong();
     if (hits == 0)
         return std::nullopt;
@@ -103,11 +104,12 @@ double GetStockQty(const std::string& warehouse, std::int32_t fCpID) {
     if (fCpID == 0)
         return 0;
     const std::string id = std::to_string(fCpID);
-    const std::string statement =
-        warehouse.empty() ? "select sum(a.fKcSl) as fKcSl from tJXC_CkTj a"
-                            " Left Join tJXC_Ck b On a.fCkName=b.fCkName"
-                            " Where a.fCpID=" + id + " And (b.fCkType2=0 Or b.fCkType2=1)"
-                          : "select fKcSl from tJXC_CkTj Where fCpID=" + id + " And fCkName='" + warehouse + "'";
+    const std::string statement = warehouse.empty() ? "select sum(a.fKcSl) as fKcSl from tJXC_CkTj a"
+                                                      " Left Join tJXC_Ck b On a.fCkName=b.fCkName"
+                                                      " Where a.fCpID=" +
+                                                          id + " And (b.fCkType2=0 Or b.fCkType2=1)"
+                                                    : "select fKcSl from tJXC_CkTj Where fCpID=" + id +
+                                                          " And fCkName='" + warehouse + "'";
     const Recordset row(Conn(), statement);
     return row.AtEnd() ? 0 : row["fKcSl"].AsDouble();
 }
@@ -124,7 +126,8 @@ int FindCustomerCard(ListBox& list, const std::string& text) {
     Recordset row(Conn(), "select fID,CompCode,compname,name,telphone,homephone,handphone,fax,"
                           "E_mail,HomeEmail,http,HomeHttp "
                           "from cards "
-                          " Where " + where + " Order by compname,name");
+                          " Where " +
+                              where + " Order by compname,name");
     list.Clear();
     for (; !row.AtEnd() && list.items.size() < kMostCards; row.MoveNext())
         list.items.push_back(CustomerRow(row["compname"].AsText(), row["fID"].AsLong()));
@@ -136,7 +139,9 @@ std::string CustomerRow(const std::string& companyName, std::int64_t id) {
     return PadRight(companyName.empty() ? "（空）" : companyName, kNameWidth) + std::to_string(id);
 }
 
-std::string CustomerNameOf(const std::string& row) { return Trim(MidText(row, 1, kNameWidth)); }
+std::string CustomerNameOf(const std::string& row) {
+    return Trim(MidText(row, 1, kNameWidth));
+}
 
 std::int64_t CustomerIdOf(const std::string& row) {
     return static_cast<std::int64_t>(Val(MidText(row, kNameWidth + 1)));

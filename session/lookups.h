@@ -10,25 +10,26 @@ namespace jxc {
 
 // What is asked about a product, and what is found of it.
 struct ProductSought {
-    std::string warehouse; // whose stock; "" for all together
-    std::string code;      // typed; with `name` empty the search goes by code
-    std::string name;      // typed; may hold two parts with a comma between, for name and specification
-    std::string spec;
-    std::string unit;
-    std::string barCode;
-    double stock = -1;     // negative: no stock figure is wanted
+    std::string warehouse = {}; // whose stock; "" for all together
+    std::string code = {};      // typed; with `name` empty the search goes by code
+    std::string name = {};      // typed; may hold two parts with a comma between, for name and specification
+    std::string spec = {};
+    std::string unit = {};
+    std::string barCode = {};
+    double stock = -1; // negative: no stock figure is wanted
     double price[4] = {0, 0, 0, 0};
 };
 
-// The product's fCpID, 0 when nothing was found; the fields of `sought` are filled on success. An exact code wins over
-// a pattern; several hits open the product picker. A stopped product is never found.
+// The product's fCpID, 0 when nothing was found; the fields of `sought` are filled on success. An exact code
+// wins over a pattern; several hits open the product picker. A stopped product is never found.
 std::int32_t FindProduct(ProductSought& sought);
 
 // Stock of a product in a warehouse, with "" in all warehouses of the table together.
 double GetStockQty(const std::string& warehouse, std::int32_t fCpID);
 
-// Fills `list` with the cards that the text finds, an exact code first, else a pattern over code and name, at most 101;
-// selects the first without firing its event. The number of rows; an empty text leaves the list alone and gives 0.
+// Fills `list` with the cards that the text finds, an exact code first, else a pattern over code and name, at
+// most 101; selects the first without firing its event. The number of rows; an empty text leaves the list
+// alone and gives 0.
 int FindCustomerCard(ListBox& list, const std::string& text);
 
 // A customer list's row: the name in 80 characters, directly followed by the card number.

@@ -37,34 +37,82 @@ Value KeptValue(const PropertyBag& bag, std::string_view key, Value otherwise) {
 
 } // namespace
 
-void lzJxc::CompName(std::string text) { session.CompName = std::move(text); }
-const std::string& lzJxc::UserPath() const { return session.UserPath; }
-void lzJxc::UserPath(std::string text) { session.UserPath = std::move(text); }
-const std::string& lzJxc::UserName() const { return session.UserName; }
-void lzJxc::UserName(std::string text) { session.UserName = std::move(text); }
-const std::string& lzJxc::OldName() const { return session.OldName; }
-void lzJxc::OldName(std::string text) { session.OldName = std::move(text); }
-const std::string& lzJxc::ZgName() const { return session.ZgName; }
-void lzJxc::ZgName(std::string text) { session.ZgName = std::move(text); }
-const std::string& lzJxc::myPower() const { return session.myPower; }
-void lzJxc::myPower(std::string digits) { session.myPower = std::move(digits); }
-std::int16_t lzJxc::myType() const { return session.myType; }
-void lzJxc::myType(std::int16_t type) { session.myType = type; }
+void lzJxc::CompName(std::string text) {
+    session.CompName = std::move(text);
+}
+const std::string& lzJxc::UserPath() const {
+    return session.UserPath;
+}
+void lzJxc::UserPath(std::string text) {
+    session.UserPath = std::move(text);
+}
+const std::string& lzJxc::UserName() const {
+    return session.UserName;
+}
+void lzJxc::UserName(std::string text) {
+    session.UserName = std::move(text);
+}
+const std::string& lzJxc::OldName() const {
+    return session.OldName;
+}
+void lzJxc::OldName(std::string text) {
+    session.OldName = std::move(text);
+}
+const std::string& lzJxc::ZgName() const {
+    return session.ZgName;
+}
+void lzJxc::ZgName(std::string text) {
+    session.ZgName = std::move(text);
+}
+const std::string& lzJxc::myPower() const {
+    return session.myPower;
+}
+void lzJxc::myPower(std::string digits) {
+    session.myPower = std::move(digits);
+}
+std::int16_t lzJxc::myType() const {
+    return session.myType;
+}
+void lzJxc::myType(std::int16_t type) {
+    session.myType = type;
+}
 void lzJxc::SQLData(std::int16_t dialect) {
     session.SQLData = dialect;
     session.DateDelimiter = dialect == 0 ? "#" : "'";
 }
-void lzJxc::Password(std::string text) { session.Password = std::move(text); }
-void lzJxc::Language(std::int16_t language) { session.Language = language; }
-std::string lzJxc::myModel() const { return ""; }
-void lzJxc::myModel(std::string preset) { session.myModel = std::move(preset); }
-bool lzJxc::CopyRight() const { return session.CopyRight; }
-void lzJxc::CopyRight(bool shown) { session.CopyRight = shown; }
-const std::string& lzJxc::UserID() const { return session.UserID; }
-void lzJxc::UserID(std::string text) { session.UserID = std::move(text); }
-const std::string& lzJxc::Default() const { return session.Default; }
-void lzJxc::Default(std::string text) { session.Default = std::move(text); }
-void lzJxc::PowerPath(std::string folder) { session.PowerPath = std::move(folder); }
+void lzJxc::Password(std::string text) {
+    session.Password = std::move(text);
+}
+void lzJxc::Language(std::int16_t language) {
+    session.Language = language;
+}
+std::string lzJxc::myModel() const {
+    return "";
+}
+void lzJxc::myModel(std::string preset) {
+    session.myModel = std::move(preset);
+}
+bool lzJxc::CopyRight() const {
+    return session.CopyRight;
+}
+void lzJxc::CopyRight(bool shown) {
+    session.CopyRight = shown;
+}
+const std::string& lzJxc::UserID() const {
+    return session.UserID;
+}
+void lzJxc::UserID(std::string text) {
+    session.UserID = std::move(text);
+}
+const std::string& lzJxc::Default() const {
+    return session.Default;
+}
+void lzJxc::Default(std::string text) {
+    session.Default = std::move(text);
+}
+void lzJxc::PowerPath(std::string folder) {
+    session.PowerPath = std::move(folder);
+}
 
 void lzJxc::SetProperty(std::string_view name, const Value& value) {
     using Setter = std::function<void(lzJxc&, std::string_view, const Value&)>;
@@ -75,14 +123,22 @@ void lzJxc::SetProperty(std::string_view name, const Value& value) {
         return [set](lzJxc& control, std::string_view n, const Value& v) { (control.*set)(ShortOf(n, v)); };
     };
     static const std::map<std::string, Setter, std::less<>> setters{
-        {"CompName", text(&lzJxc::CompName)},   {"UserPath", text(&lzJxc::UserPath)},
-        {"UserName", text(&lzJxc::UserName)},   {"OldName", text(&lzJxc::OldName)},
-        {"ZgName", text(&lzJxc::ZgName)},       {"myPower", text(&lzJxc::myPower)},
-        {"Password", text(&lzJxc::Password)},   {"UserID", text(&lzJxc::UserID)},
-        {"Default", text(&lzJxc::Default)},     {"PowerPath", text(&lzJxc::PowerPath)},
-        {"myModel", text(&lzJxc::myModel)},     {"myType", number(&lzJxc::myType)},
-        {"SQLData", number(&lzJxc::SQLData)},   {"Language", number(&lzJxc::Language)},
-        {"CopyRight", [](lzJxc& control, std::string_view n, const Value& v) { control.CopyRight(FlagOf(n, v)); }},
+        {"CompName", text(&lzJxc::CompName)},
+        {"UserPath", text(&lzJxc::UserPath)},
+        {"UserName", text(&lzJxc::UserName)},
+        {"OldName", text(&lzJxc::OldName)},
+        {"ZgName", text(&lzJxc::ZgName)},
+        {"myPower", text(&lzJxc::myPower)},
+        {"Password", text(&lzJxc::Password)},
+        {"UserID", text(&lzJxc::UserID)},
+        {"Default", text(&lzJxc::Default)},
+        {"PowerPath", text(&lzJxc::PowerPath)},
+        {"myModel", text(&lzJxc::myModel)},
+        {"myType", number(&lzJxc::myType)},
+        {"SQLData", number(&lzJxc::SQLData)},
+        {"Language", number(&lzJxc::Language)},
+        {"CopyRight",
+         [](lzJxc& control, std::string_view n, const Value& v) { control.CopyRight(FlagOf(n, v)); }},
     };
     const auto found = setters.find(name);
     if (found == setters.end())
@@ -108,7 +164,9 @@ void lzJxc::WriteProperties(PropertyBag& bag) const {
 }
 
 void lzJxc::ReadProperties(const PropertyBag& bag) {
-    const auto text = [&](std::string_view key, const char* otherwise) { return KeptValue(bag, key, otherwise).AsText(); };
+    const auto text = [&](std::string_view key, const char* otherwise) {
+        return KeptValue(bag, key, otherwise).AsText();
+    };
     const auto number = [&](std::string_view key, int otherwise) {
         return static_cast<std::int16_t>(KeptValue(bag, key, otherwise).AsLong());
     };

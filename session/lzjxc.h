@@ -1,5 +1,5 @@
-// The control that a host accounting suite embeds. The host sets the properties, then calls Refresh with a screen
-// number; several calls may follow each other, properties stay as set.
+// The control that a host accounting suite embeds. The host sets the properties, then calls Refresh with a
+// screen number; several calls may follow each other, properties stay as set.
 //
 //     lzJxc control;
 //     control.UserPath("company.db");
@@ -43,9 +43,9 @@ class lzJxc {
     std::int16_t myType() const;
     void myType(std::int16_t type);
 
-    // Opens the company, shows the screen of that number until it is closed, and closes the company. A number without a
-    // screen opens and closes only. A company that cannot be opened is told in a message box. `properties` are set on
-    // the screen after the number's own settings.
+    // Opens the company, shows the screen of that number until it is closed, and closes the company. A number
+    // without a screen opens and closes only. A company that cannot be opened is told in a message box.
+    // `properties` are set on the screen after the number's own settings.
     void Refresh(std::int16_t RAction, const ScreenProperties& properties = {});
 
     void SQLData(std::int16_t dialect); // sets the date delimiter too
@@ -61,11 +61,12 @@ class lzJxc {
     void Default(std::string text);
     void PowerPath(std::string folder);
 
-    // Sets a property by its name. An unknown name, or a value of the wrong kind, is a ScreenError and changes nothing.
+    // Sets a property by its name. An unknown name, or a value of the wrong kind, is a ScreenError and
+    // changes nothing.
     void SetProperty(std::string_view name, const Value& value);
 
-    // CompName, PowerPath and myModel are not kept. Reading leaves the date delimiter alone: a host sets SQLData through
-    // the property before each Refresh. A missing key takes the default.
+    // CompName, PowerPath and myModel are not kept. Reading leaves the date delimiter alone: a host sets
+    // SQLData through the property before each Refresh. A missing key takes the default.
     void WriteProperties(PropertyBag& bag) const;
     void ReadProperties(const PropertyBag& bag);
 };

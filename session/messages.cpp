@@ -110,6 +110,8 @@ const std::map<int, const char*>& Texts() {
 
 } // namespace
 
-std::string GetResStr(int id) { return Texts().at(session.Language * kSetDistance + id); }
+std::string GetResStr(int id) {
+    return Texts().at(session.Language * kSetDistance + id);
+}
 
 } // namespace jxc

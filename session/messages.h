@@ -1,5 +1,5 @@
-// The words that many screens share, in simplified and traditional Chinese. Messages of a single screen are literals of
-// that screen, in simplified characters only.
+// The words that many screens share, in simplified and traditional Chinese. Messages of a single screen are
+// literals of that screen, in simplified characters only.
 #pragma once
 
 #include <string>

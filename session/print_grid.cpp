@@ -5,7 +5,8 @@
 
 namespace jxc {
 
-void PrintGrid(const Grid& grid, const std::string& title, const std::string& typeName, const std::string& amount) {
+void PrintGrid(const Grid& grid, const std::string& title, const std::string& typeName,
+               const std::string& amount) {
     if (grid.RowCount() == 0)
         return;
     ComponentsInUse().printer->Print(GridPrintJob{session.CompanyFieldList, &grid, typeName, title, amount});

@@ -24,9 +24,10 @@ void OpenIfClosed() {
 Module GetModule(const std::string& moduleName) {
     OpenIfClosed();
     const std::string captionField = "Model_Name_" + std::to_string(session.Language);
-    const Recordset row(Conn(), "select SerialNo,model_Name," + captionField + ",SecondPass,password from tSysFunc" +
-                                    " Where NoUse_=0 And (Model_Name = '" + moduleName + "' or " + captionField +
-                                    " = '" + moduleName + "')");
+    const Recordset row(Conn(), "select SerialNo,model_Name," + captionField +
+                                    ",SecondPass,password from tSysFunc" +
+                                    " Where NoUse_=0 And (Model_Name = '" + moduleName + "' or " +
+                                    captionField + " = '" + moduleName + "')");
     if (row.AtEnd())
         return {};
     Module module;

@@ -1,5 +1,5 @@
-// The process-wide values that the host's properties fill, and the connection. Screens read them directly; there is one
-// thread, and modal screens give the only ordering needed.
+// The process-wide values that the host's properties fill, and the connection. Screens read them directly;
+// there is one thread, and modal screens give the only ordering needed.
 #pragma once
 
 #include <cstdint>
@@ -22,8 +22,8 @@ struct Session {
     std::int16_t SQLData = 0;  // 0: the Jet form of statements, any other value: the SQL Server form
     std::string DateDelimiter; // "#" or "'", set together with SQLData
     std::string CompName;
-    std::string UserName;      // the signed-in user: enters, approves
-    std::string ZgName;        // the supervisor
+    std::string UserName; // the signed-in user: enters, approves
+    std::string ZgName;   // the supervisor
     std::string OldName;
     std::string myPower = "0000"; // one digit per position, "0" no right
     std::int16_t myType = -1;
@@ -58,6 +58,8 @@ extern Session session;
 // The open connection; a DatabaseError when there is none.
 Connection& Conn();
 // One of the two dialect forms of a statement.
-inline const char* Dialect(const char* jet, const char* sqlServer) { return session.IsJet() ? jet : sqlServer; }
+inline const char* Dialect(const char* jet, const char* sqlServer) {
+    return session.IsJet() ? jet : sqlServer;
+}
 
 } // namespace jxc

@@ -41,7 +41,9 @@ std::string StemOf(Date date, const std::string& rule, size_t counterDigits) {
     return fixed;
 }
 
-std::string LastCharacters(const std::string& text, size_t count) { return text.substr(text.size() - count); }
+std::string LastCharacters(const std::string& text, size_t count) {
+    return text.substr(text.size() - count);
+}
 
 // The largest counter stored under the stem, "" when there is none.
 std::string LargestCounter(const std::string& stem, size_t counterDigits, int series) {
@@ -50,10 +52,11 @@ std::string LargestCounter(const std::string& stem, size_t counterDigits, int se
     const std::string field = account ? "fAcntNo" : "fInvNo";
     const std::string length = std::to_string(CharacterCount(stem));
     const std::string counter = std::string(Dialect("mid", "SUBSTRING")) + "(" + field + "," +
-                                std::to_string(CharacterCount(stem) + 1) + "," + std::to_string(counterDigits) + ")";
-    const Recordset row(Conn(), "select max(" + counter + ") as invID from " + table + " where left(" + field + "," +
-                                    length + ")='" + stem + "'" + " and IsNumeric(" + counter + ")" +
-                                    Dialect("", "=1"));
+                                std::to_string(CharacterCount(stem) + 1) + "," +
+                                std::to_string(counterDigits) + ")";
+    const Recordset row(Conn(), "select max(" + counter + ") as invID from " + table + " where left(" +
+                                    field + "," + length + ")='" + stem + "'" + " and IsNumeric(" + counter +
+                                    ")" + Dialect("", "=1"));
     return row.AtEnd() ? "" : row["invID"].AsText();
 }
 
@@ -71,7 +74,8 @@ std::string NextDocumentNo(Date date, std::string& rule, int series) {
     if (series != kSeriesTest) {
         const std::string largest = LargestCounter(stem, counterDigits, series);
         if (!largest.empty())
-            return stem + LastCharacters(zeros + "000000000000" + NumberText(Val(largest) + 1), counterDigits);
+            return stem +
+                   LastCharacters(zeros + "000000000000" + NumberText(Val(largest) + 1), counterDigits);
     }
     return stem + LastCharacters(zeros + "1", counterDigits);
 }

@@ -1,6 +1,6 @@
-// Automatic document numbers. A rule is an optional date token, fixed characters around it, and one or more "X" at its
-// end: "YYYYMMDDRKXXX" on 5 March 2003 gives "20030305RK001", then "20030305RK002". Numbers run on under each stem and
-// start again when the stem changes.
+// Automatic document numbers. A rule is an optional date token, fixed characters around it, and one or more
+// "X" at its end: "YYYYMMDDRKXXX" on 5 March 2003 gives "20030305RK001", then "20030305RK002". Numbers run on
+// under each stem and start again when the stem changes.
 #pragma once
 
 #include <string>
@@ -14,12 +14,14 @@ constexpr int kSeriesCustomerAccount = 51;
 constexpr int kSeriesMoneyAccount = 52;
 constexpr int kSeriesTest = 99; // never reads the database
 
-// The next number under the rule, "" when the rule ends in no "X". `rule` is upper-cased in place. `series` is the
-// document type, whose book's lines are searched for the largest number, or one of the series above. Nothing is
-// reserved: the caller stores the number, and saving tests that it is free. A counter that outgrows its digits wraps.
+// The next number under the rule, "" when the rule ends in no "X". `rule` is upper-cased in place. `series`
+// is the document type, whose book's lines are searched for the largest number, or one of the series above.
+// Nothing is reserved: the caller stores the number, and saving tests that it is free. A counter that
+// outgrows its digits wraps.
 std::string NextDocumentNo(Date date, std::string& rule, int series);
 
-// Whether a rule may be used: no quote or wildcard in it, and "XXX" at its end. Otherwise the rules are shown.
+// Whether a rule may be used: no quote or wildcard in it, and "XXX" at its end. Otherwise the rules are
+// shown.
 bool CheckNumberRule(const std::string& rule);
 
 } // namespace jxc

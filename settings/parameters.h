@@ -11,20 +11,20 @@ enum class TaxWay { None = 0, OnTop = 1, Contained = 2 };
 enum class CostMethod { WeightedAverage = 0, MovingAverage = 1, WholeMoving = 2 };
 
 struct Parameters {
-    bool approveOnSave = false;     // fSysAuto1
-    bool printOnSave = false;       // fSysAuto2
-    bool quickPayment = false;      // fSysAuto3
+    bool approveOnSave = false; // fSysAuto1
+    bool printOnSave = false;   // fSysAuto2
+    bool quickPayment = false;  // fSysAuto3
     CostMethod costMethod = CostMethod::WeightedAverage;
     Date periodStart = MakeDate(1900, 1, 1);
     Date periodEnd = MakeDate(1900, 1, 31);
     TaxWay taxWay = TaxWay::None;
-    double taxRate = 0;             // a fraction
+    double taxRate = 0; // a fraction
     int quantityDecimals = 0;
     int priceDecimals = 0;
-    int maxRows = 0;                // lines of a document, 0 for no limit
-    std::string memo1;              // captions of the two line memos, "" hides them
+    int maxRows = 0;   // lines of a document, 0 for no limit
+    std::string memo1; // captions of the two line memos, "" hides them
     std::string memo2;
-    bool kits = false;              // fSysFun3: kit templates are in use
+    bool kits = false;                    // fSysFun3: kit templates are in use
     bool handlersFromSalespeople = false; // fSysFun10
 };
 

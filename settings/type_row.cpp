@@ -10,7 +10,9 @@ std::optional<TypeRow> ReadTypeRow(int type) {
                                     " And fSetNoUse_<>1 Order by fRowID");
     if (row.AtEnd())
         return std::nullopt;
-    const auto choice = [&](const char* field) { return row[field].IsNull() ? -1 : static_cast<int>(row[field].AsLong()); };
+    const auto choice = [&](const char* field) {
+        return row[field].IsNull() ? -1 : static_cast<int>(row[field].AsLong());
+    };
     const auto flag = [&](const char* field) { return row[field].AsLong() == 1; };
     TypeRow read;
     read.fSetNo = type;

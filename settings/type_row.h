@@ -18,7 +18,8 @@ struct TypeRow {
     bool fSetDjDd_ = false;
     std::string fSetAutoNo;
     std::string fSetCkName1;
-    int fSetCkType1 = -1; // 0 any warehouse, 1 head office, 2 retail, 3 consignment, 4 production, 5 not consignment
+    int fSetCkType1 =
+        -1; // 0 any warehouse, 1 head office, 2 retail, 3 consignment, 4 production, 5 not consignment
     int fSetCrType1 = -1; // 1 in, 2 out
     std::string fSetCkName2;
     int fSetCkType2 = -1;

@@ -21,9 +21,12 @@ constexpr int kTextBytes = 50;
 
 const char* TitleOf(StockQuery question) {
     switch (question) {
-    case StockQuery::Alarm: return "库存报警";
-    case StockQuery::Cost: return "成本核算统计";
-    case StockQuery::Stock: break;
+    case StockQuery::Alarm:
+        return "库存报警";
+    case StockQuery::Cost:
+        return "成本核算统计";
+    case StockQuery::Stock:
+        break;
     }
     return "库存统计";
 }
@@ -46,8 +49,8 @@ void ShapeByQuestion(frmCkKc& s) {
     s.title = TitleOf(s.Question());
     s.chkPrice.value = cost;
     s.chkPrice.visible = false;
-    for (Control* control : std::initializer_list<Control*>{&s.lblPrice, &s.optPrice0, &s.optPrice1, &s.optPrice2,
-                                                            &s.optPrice3})
+    for (Control* control :
+         std::initializer_list<Control*>{&s.lblPrice, &s.optPrice0, &s.optPrice1, &s.optPrice2, &s.optPrice3})
         control->visible = cost;
     s.cmdRefresh.visible = !alarm;
     s.chkKcBj.visible = s.chkKcBj.value = alarm;
@@ -104,7 +107,8 @@ frmCkKc::frmCkKc() : Screen("frmCkKc") {
     cmdQuery.onClick = [this] { QueryStock(*this); };
     cmdPrint.onClick = [this] { Print(*this); };
     cmdQuit.onClick = [this] { Close(); };
-    // Rebuilding the statistics from all documents belongs to the month-end close, which this version does not have yet.
+    // Rebuilding the statistics from all documents belongs to the month-end close, which this version does
+    // not have yet.
     cmdRefresh.onClick = [this] { Inform(title, "本版本尚未提供该功能（库存成本刷新）。"); };
 }
 

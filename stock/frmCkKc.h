@@ -1,5 +1,5 @@
-// Stock, alarm and cost query: what lies in stock, where it leaves its limits, what it and the period's sales cost. It
-// reads the running counters, never the documents.
+// Stock, alarm and cost query: what lies in stock, where it leaves its limits, what it and the period's sales
+// cost. It reads the running counters, never the documents.
 #pragma once
 
 #include "controls/grid.h"

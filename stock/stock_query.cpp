@@ -9,7 +9,8 @@ namespace jxc {
 
 namespace {
 
-// Which figures a column shows: a stock field as it is, the issues' margin, or a quantity at the chosen price.
+// Which figures a column shows: a stock field as it is, the issues' margin, or a quantity at the chosen
+// price.
 enum class Figure { Field, Margin, AtPrice };
 
 struct StockColumn {
@@ -39,11 +40,26 @@ constexpr StockColumn kFigures[] = {
     {.caption = "入库金额 ", .field = "fRkJe", .width = 12, .money = true, .detail = true},
     {.caption = "出库数", .field = "fCkSl", .width = 10, .detail = true},
     {.caption = "出库金额", .field = "fCkJe", .width = 12, .money = true, .detail = true},
-    {.caption = "销售毛利", .field = "fCkJe", .width = 12, .money = true, .detail = true, .figure = Figure::Margin},
+    {.caption = "销售毛利",
+     .field = "fCkJe",
+     .width = 12,
+     .money = true,
+     .detail = true,
+     .figure = Figure::Margin},
     {.caption = "调库数", .field = "fDkSl", .width = 10, .detail = true},
-    {.caption = "调库金额", .field = "fDkSl", .width = 12, .money = true, .detail = true, .figure = Figure::AtPrice},
+    {.caption = "调库金额",
+     .field = "fDkSl",
+     .width = 12,
+     .money = true,
+     .detail = true,
+     .figure = Figure::AtPrice},
     {.caption = "盘点数", .field = "fPdSl", .width = 10, .detail = true},
-    {.caption = "盘点金额", .field = "fPdSl", .width = 12, .money = true, .detail = true, .figure = Figure::AtPrice},
+    {.caption = "盘点金额",
+     .field = "fPdSl",
+     .width = 12,
+     .money = true,
+     .detail = true,
+     .figure = Figure::AtPrice},
     {.caption = "下限", .field = "fCpSlMin", .width = 10, .limit = true},
     {.caption = "上限", .field = "fCpSlMax", .width = 10, .limit = true},
 };
@@ -79,9 +95,12 @@ std::string StockStatement(const frmCkKc& s) {
 
 Value FigureOf(const StockColumn& column, const Recordset& row) {
     switch (column.figure) {
-    case Figure::Margin: return row["fCkJe"].AsDouble() - row["fCkCb"].AsDouble();
-    case Figure::AtPrice: return row[column.field].AsDouble() * row["fCpPrice"].AsDouble();
-    case Figure::Field: break;
+    case Figure::Margin:
+        return row["fCkJe"].AsDouble() - row["fCkCb"].AsDouble();
+    case Figure::AtPrice:
+        return row[column.field].AsDouble() * row["fCpPrice"].AsDouble();
+    case Figure::Field:
+        break;
     }
     return row[column.field];
 }
@@ -94,7 +113,8 @@ void FillRow(frmCkKc& s, int at, const Recordset& row) {
     s.Grid1.FillCell(at, 4, row["fCkName"]);
     int column = kFirstFigure;
     for (const StockColumn& figure : kFigures) {
-        const bool wanted = figure.limit ? s.Question() == StockQuery::Alarm : !figure.money || s.chkPrice.value;
+        const bool wanted =
+            figure.limit ? s.Question() == StockQuery::Alarm : !figure.money || s.chkPrice.value;
         if (wanted)
             s.Grid1.FillCell(at, column, FigureOf(figure, row));
         ++column;

@@ -1,5 +1,5 @@
-// The host's ledger: approval places one entry for the document, marked "自动挂入", reversal takes it away. Amounts are in
-// document currency with their sign, so a return enters negative.
+// The host's ledger: approval places one entry for the document, marked "自动挂入", reversal takes it away.
+// Amounts are in document currency with their sign, so a return enters negative.
 
 #include "controls/text.h"
 #include "documents/approval/stages.h"
@@ -25,7 +25,8 @@ std::string Incremented(std::string number) {
     return number;
 }
 
-// A free number of the series. One that is already taken, because the counter has wrapped, gives way to the next.
+// A free number of the series. One that is already taken, because the counter has wrapped, gives way to the
+// next.
 std::string NextAccountNumber(const frmDj02& s, int series) {
     const auto rule = ReadTypeRow(series);
     std::string pattern = rule ? rule->fSetAutoNo : "";
@@ -66,8 +67,9 @@ void AddEntry(const frmDj02& s, int kind, int direction, std::int64_t company) {
 
 void RemoveEntry(const frmDj02& s) {
     const Date date = *s.dtpInvDate.date;
-    const std::string onDate = session.IsJet() ? " And fDate=#" + SlashText(date) + "#"
-                                               : " And Convert(varchar(10),fDate,120) ='" + IsoText(date) + "'";
+    const std::string onDate = session.IsJet()
+                                   ? " And fDate=#" + SlashText(date) + "#"
+                                   : " And Convert(varchar(10),fDate,120) ='" + IsoText(date) + "'";
     Conn().Execute("Delete From tAccountDetail Where fInvID='" + s.Number() + "'" + onDate);
 }
 

@@ -1,5 +1,5 @@
-// Two cost prices are kept whatever the cost method: the warehouse's (PostStock) and the product's over all warehouses,
-// which each receipt moves. The method decides which of them an issue's lines take.
+// Two cost prices are kept whatever the cost method: the warehouse's (PostStock) and the product's over all
+// warehouses, which each receipt moves. The method decides which of them an issue's lines take.
 
 #include "controls/text.h"
 #include "documents/approval/stages.h"
@@ -11,7 +11,8 @@ namespace jxc {
 namespace {
 
 void SetOverallPrice(std::int64_t product, double price) {
-    Recordset row(Conn(), "Select * From tJXC_CkTj_tmp Where fCpID=" + std::to_string(product), Access::Write);
+    Recordset row(Conn(), "Select * From tJXC_CkTj_tmp Where fCpID=" + std::to_string(product),
+                  Access::Write);
     if (row.AtEnd()) {
         row.AddNew();
         row.Set("fCpID", product);
@@ -21,26 +22,28 @@ void SetOverallPrice(std::int64_t product, double price) {
 }
 
 // Sets fInvDJ2 from a table of prices. `join` is the further condition that ties a line to its price row.
-void TakePrice(const std::string& table, const std::string& field, const std::string& join, const std::string& key,
-               const std::string& condition) {
+void TakePrice(const std::string& table, const std::string& field, const std::string& join,
+               const std::string& key, const std::string& condition) {
     if (session.IsJet())
-        Conn().Execute("Update tJXC_CkDj02 a," + table + " b Set a.fInvDJ2=b." + field + " Where a.fCpID=b.fCpID" + join +
-                       " And a.fInvID=" + key + condition);
+        Conn().Execute("Update tJXC_CkDj02 a," + table + " b Set a.fInvDJ2=b." + field +
+                       " Where a.fCpID=b.fCpID" + join + " And a.fInvID=" + key + condition);
     else
-        Conn().Execute("Update tJXC_CkDj02 Set fInvDJ2=b." + field + " From tJXC_CkDj02 a inner Join " + table +
-                       " b On a.fCpID=b.fCpID" + join + " Where a.fInvID=" + key + condition);
+        Conn().Execute("Update tJXC_CkDj02 Set fInvDJ2=b." + field + " From tJXC_CkDj02 a inner Join " +
+                       table + " b On a.fCpID=b.fCpID" + join + " Where a.fInvID=" + key + condition);
 }
 
 } // namespace
 
 void PostOverallCost(const frmDj02& s, bool reversal) {
-    Recordset row(Conn(), "select a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl,sum(b.fKcSl) as fKcSl,sum(b.fKcJe) as fKcJe from"
-                          " (tJXC_CkTj b Left Join tJXC_Ck c On c.fCkName=b.fCkName)"
-                          " Right Join tJXC_CkDj02 a On a.fCpID=b.fCpID"
-                          " Where a.fInvID=" + std::to_string(s.oldInvID) +
-                          " And (c.fCkType2=0 and c.fCkType3=0)"
-                          " Group By a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl"
-                          " Order By a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl");
+    Recordset row(
+        Conn(), "select a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl,sum(b.fKcSl) as fKcSl,sum(b.fKcJe) as fKcJe from"
+                " (tJXC_CkTj b Left Join tJXC_Ck c On c.fCkName=b.fCkName)"
+                " Right Join tJXC_CkDj02 a On a.fCpID=b.fCpID"
+                " Where a.fInvID=" +
+                    std::to_string(s.oldInvID) +
+                    " And (c.fCkType2=0 and c.fCkType3=0)"
+                    " Group By a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl"
+                    " Order By a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl");
     for (; !row.AtEnd(); row.MoveNext()) {
         const double price = row["fInvDJ"].AsDouble() * row["fInvHbDl"].AsDouble();
         const double quantity = reversal ? -row["fInvSL"].AsDouble() : row["fInvSL"].AsDouble();

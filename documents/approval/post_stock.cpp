@@ -1,6 +1,6 @@
-// Stock as running counters, one row per warehouse and product (tJXC_CkTj): opening, received, issued, transferred and
-// counted quantities with their values, and the stock, price and value that follow from them. A reversal repeats the same
-// arithmetic with negated quantities, so every counter returns to what it was.
+// Stock as running counters, one row per warehouse and product (tJXC_CkTj): opening, received, issued,
+// transferred and counted quantities with their values, and the stock, price and value that follow from them.
+// A reversal repeats the same arithmetic with negated quantities, so every counter returns to what it was.
 
 #include <iterator>
 
@@ -21,18 +21,20 @@ struct Counters {
 };
 
 constexpr Counters kCounters[] = {
-    {"fQcSl", "fQcJe", ""},       // 0 opening
-    {"fRkSl", "fRkJe", ""},       // 1 receipt
-    {"fCkSl", "fCkJe", "fCkCb"},  // 2 issue: outgoing quantities count positive
-    {"fDkSl", "", ""},            // 3 transfer
-    {"fPdSl", "", ""},            // 4 stocktake
+    {"fQcSl", "fQcJe", ""},      // 0 opening
+    {"fRkSl", "fRkJe", ""},      // 1 receipt
+    {"fCkSl", "fCkJe", "fCkCb"}, // 2 issue: outgoing quantities count positive
+    {"fDkSl", "", ""},           // 3 transfer
+    {"fPdSl", "", ""},           // 4 stocktake
 };
 
 // One stock row in hand: its fields as read, and as changed.
 class StockRow {
   public:
     StockRow(const std::string& warehouse, std::int64_t product)
-        : row_(Conn(), "Select * From tJXC_CkTj Where fCkName='" + warehouse + "' And fCpID=" + std::to_string(product),
+        : row_(Conn(),
+               "Select * From tJXC_CkTj Where fCkName='" + warehouse +
+                   "' And fCpID=" + std::to_string(product),
                Access::Write),
           isNew_(row_.AtEnd()) {
         if (!isNew_)
@@ -40,8 +42,8 @@ class StockRow {
         row_.AddNew();
         row_.Set("fCpID", product);
         row_.Set("fCkName", warehouse);
-        for (const char* field : {"fQcSl", "fRkSl", "fCkSl", "fDkSl", "fPdSl", "fKcSL", "fQcJe", "fRkJe", "fCkJe", "fCkCb",
-                                  "fKcJE"})
+        for (const char* field : {"fQcSl", "fRkSl", "fCkSl", "fDkSl", "fPdSl", "fKcSL", "fQcJe", "fRkJe",
+                                  "fCkJe", "fCkCb", "fKcJE"})
             row_.Set(field, 0.0);
     }
 
@@ -104,9 +106,12 @@ void PostStock(const frmDj02& s, bool reversal) {
     const int statistics = s.type.fSetTjType;
     if (statistics < 0 || s.type.fSetCrType1 == -1 || statistics >= static_cast<int>(std::size(kCounters)))
         return;
-    Recordset lines(Conn(), "Select a.fCpID,a.fCkName,a.fInvSL,a.fInvDJ,a.fInvDJ2,a.fInvHbDl,a.fInv1,b.fCpPrice0,fInvInOut"
-                            " From tJXC_CkDj02 a Left Join tJXC_Cp b On a.fCpID=b.fCpID"
-                            " Where a.fInvID=" + std::to_string(s.oldInvID) + " Order By a.fCpID,a.fCkName");
+    Recordset lines(
+        Conn(),
+        "Select a.fCpID,a.fCkName,a.fInvSL,a.fInvDJ,a.fInvDJ2,a.fInvHbDl,a.fInv1,b.fCpPrice0,fInvInOut"
+        " From tJXC_CkDj02 a Left Join tJXC_Cp b On a.fCpID=b.fCpID"
+        " Where a.fInvID=" +
+            std::to_string(s.oldInvID) + " Order By a.fCpID,a.fCkName");
     for (; !lines.AtEnd(); lines.MoveNext())
         PostLine(lines, kCounters[statistics], reversal);
 }

@@ -52,7 +52,8 @@ std::vector<Stage> StagesOf(const frmDj02& s, const std::string& stem, bool reve
     const TypeRow& type = s.type;
     std::vector<Stage> stages;
     if (!s.txtHtNo.text.empty() && s.invType != 31)
-        stages.push_back({"刷新原相关订单的结余数", [&s, reversal] { PostOrderBalance(s, reversal); }, !reversal});
+        stages.push_back(
+            {"刷新原相关订单的结余数", [&s, reversal] { PostOrderBalance(s, reversal); }, !reversal});
     if (type.fSetCkType1 >= 0 && !s.cboCkName.Chosen().empty())
         stages.push_back({"更新仓库的产品“库存成本表”", [&s, reversal] { PostStock(s, reversal); }});
     if (type.fSetTjType == 0 || type.fSetTjType == 1)
@@ -64,9 +65,11 @@ std::vector<Stage> StagesOf(const frmDj02& s, const std::string& stem, bool reve
     if (type.fSetTjType == 2 && !reversal)
         stages.push_back({"读取“动态成本价”", [&s] { ReadCostPrice(s); }});
     if (type.fSetWlType == 1 || type.fSetWlType == 2)
-        stages.push_back({"应收应付款自动挂入“客户往来帐户”", [&s, reversal] { PostCustomerAccount(s, reversal); }});
+        stages.push_back(
+            {"应收应付款自动挂入“客户往来帐户”", [&s, reversal] { PostCustomerAccount(s, reversal); }});
     else if (type.fSetZjType == 3 || type.fSetZjType == 4)
-        stages.push_back({"实收实付款自动挂入“内部资金帐户”", [&s, reversal] { PostMoneyAccount(s, reversal); }});
+        stages.push_back(
+            {"实收实付款自动挂入“内部资金帐户”", [&s, reversal] { PostMoneyAccount(s, reversal); }});
     stages.push_back({"单据审核标志处理", [&s, stem, reversal] { MarkApproved(s, stem, reversal); }});
     return stages;
 }
@@ -114,7 +117,8 @@ void ShowApproval(frmDj02& s, const std::string& approver) {
 
 // The check of the reversal against the host's funds module.
 bool AccountEntryIsOpen(frmDj02& s) {
-    const std::string date = Dialect(" And fDate=", " And Convert(varchar(10),fDate,120)=") + session.DateDelimiter +
+    const std::string date = Dialect(" And fDate=", " And Convert(varchar(10),fDate,120)=") +
+                             session.DateDelimiter +
                              (session.IsJet() ? SlashText(*s.dtpInvDate.date) : IsoText(*s.dtpInvDate.date)) +
                              session.DateDelimiter;
     if (DbScalar("Select fChecker From tAccountDetail Where fInvID='" + s.Number() + "'" + date).empty())
@@ -143,7 +147,8 @@ std::string ChangedMeanwhile(const frmDj02& s, const std::string& stem) {
 
 bool RunApproval(frmDj02& s, bool reversal, bool prompted) {
     const std::string verb = reversal ? "反审核" : "审核";
-    const std::string effects = std::abs(s.invType) < 10 ? "系统将同时进行库存数刷新、往来帐处理等操作，" : "";
+    const std::string effects =
+        std::abs(s.invType) < 10 ? "系统将同时进行库存数刷新、往来帐处理等操作，" : "";
     if (prompted && !AskOkCancel("单据" + verb, s.Number() + "：单据" + verb + "，" + effects + "确定？"))
         return false;
     const std::string failure = Post(s, reversal, verb);

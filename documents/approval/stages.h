@@ -1,5 +1,5 @@
-// The stages of approval and reversal. Each works inside the caller's transaction, reads what it needs of the document in
-// hand, and throws DatabaseError on failure.
+// The stages of approval and reversal. Each works inside the caller's transaction, reads what it needs of the
+// document in hand, and throws DatabaseError on failure.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 
 namespace jxc {
 
-// Lowers the balance of the order that the document refers to by its quantities; a reversal raises it. Balances end at 0
-// at least. A DatabaseError when the order is gone.
+// Lowers the balance of the order that the document refers to by its quantities; a reversal raises it.
+// Balances end at 0 at least. A DatabaseError when the order is gone.
 void PostOrderBalance(const frmDj02& s, bool reversal);
 
 // Moves the stock counters of the document's lines, warehouse by warehouse (tJXC_CkTj).

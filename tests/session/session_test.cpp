@@ -1,0 +1,292 @@
+// The control, rights, messages, periods and lookups, on both engines where they read the company.
+#include <gtest/gtest.h>
+
+#include "controls/gestures.h"
+#include "controls/scripted_view.h"
+#include "controls/text.h"
+#include "host/company_address.h"
+#include "host/screens.h"
+#include "session/company_fields.h"
+#include "session/components.h"
+#include "session/database/routines.h"
+#include "session/lookups.h"
+#include "session/messages.h"
+#include "session/period.h"
+#include "session/rights.h"
+#include "session/session.h"
+#include "settings/document_numbers.h"
+#include "tests/support/sample_company.h"
+
+namespace jxc::test {
+
+namespace {
+
+TEST(Period, BeginsOnItsDayOfThisMonthOrTheLast) {
+    const Date march = MakeDate(2003, 3, 15);
+    EXPECT_EQ(IsoText(PeriodDate(march, 1)), "2003-03-01");
+    EXPECT_EQ(IsoText(PeriodDate(march, 26)), "2003-03-26");
+    EXPECT_EQ(IsoText(PeriodDate(march, -26)), "2003-02-26");
+    EXPECT_EQ(IsoText(PeriodDate(march, -1)), "2003-02-01");
+    EXPECT_EQ(IsoText(PeriodDate(march, 0)), "2003-02-28");
+    EXPECT_EQ(IsoText(PeriodDate(MakeDate(2004, 1, 31), -26)), "2003-12-26");
+}
+
+TEST(Messages, ComeInBothCharacterSets) {
+    session.Language = 0;
+    EXPECT_EQ(GetResStr(39), "您无权进入!");
+    session.Language = 1;
+    EXPECT_EQ(GetResStr(39), "您無權進入!");
+    EXPECT_EQ(GetResStr(42), "倉庫刪除 , 可能引起數据混亂, 謹慎!");
+    session.Language = 0;
+    for (const int gap : {1, 16, 28, 46, 100, 103, 158, 170})
+        EXPECT_THROW(GetResStr(gap), std::out_of_range) << gap;
+}
+
+TEST(Control, KeepsItsPropertiesInTheBag) {
+    lzJxc control;
+    control.UserPath("a.db");
+    control.SQLData(1);
+    control.Language(1);
+    control.myType(-5);
+    control.CopyRight(true);
+    control.myModel("001");
+    EXPECT_EQ(control.myModel(), "");
+    PropertyBag bag;
+    control.WriteProperties(bag);
+    ASSERT_EQ(bag.size(), 12U);
+    EXPECT_EQ(bag.front().first, "UserPath");
+    EXPECT_EQ(bag[3].first, "oldName");
+    EXPECT_EQ(bag.back().first, "CopyRight");
+    control.SQLData(0); // sets the delimiter; restoring does not
+    control.ReadProperties(bag);
+    EXPECT_EQ(session.SQLData, 1);
+    EXPECT_EQ(session.DateDelimiter, "#");
+    EXPECT_EQ(control.myType(), -5);
+    control.ReadProperties({});
+    EXPECT_EQ(control.myPower(), "0000");
+    EXPECT_EQ(control.myType(), -1);
+    EXPECT_THROW(control.SetProperty("NoSuch", 1), ScreenError);
+    EXPECT_THROW(control.SetProperty("myType", "x"), ScreenError);
+    EXPECT_THROW(control.SetProperty("myType", 70000), ScreenError);
+    EXPECT_THROW(control.SetProperty("Language", 2), ScreenError);
+    EXPECT_EQ(control.myType(), -1);
+}
+
+class Company : public testing::TestWithParam<EngineKind> {
+  protected:
+    void SetUp() override {
+        if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
+            GTEST_SKIP() << reason;
+        RegisterAllScreens();
+        sample = std::make_unique<SampleCompany>(GetParam());
+        control = sample->SignedIn();
+    }
+    void Open() { open = std::make_unique<OpenCompany>(sample->Address()); }
+
+    ScriptedView view;
+    ViewInUse inUse{view};
+    std::unique_ptr<SampleCompany> sample;
+    std::unique_ptr<OpenCompany> open;
+    lzJxc control;
+};
+ON_BOTH_ENGINES(Company);
+
+TEST_P(Company, RefreshOpensTheScreenOfTheNumber) {
+    control.myType(-1);
+    control.Refresh(4);
+    control.myType(1);
+    control.Refresh(13);
+    EXPECT_EQ(view.screens, (std::vector<std::string>{"frmCkKc", "frmDj02"}));
+    EXPECT_EQ(FindScreen("frmDj02")->GetProperty("Action").AsLong(), 1);
+    EXPECT_EQ(FindScreen("frmDj02")->GetProperty("invType").AsLong(), 1);
+    view.boxes.clear();
+    for (const int unknown : {10, 15, 20, 26, 27, 30, -1})
+        control.Refresh(static_cast<std::int16_t>(unknown));
+    EXPECT_TRUE(view.boxes.empty() || view.boxes.front().text == "");
+    EXPECT_EQ(view.screens.size(), 2U);
+    EXPECT_FALSE(session.CompanyFieldList.empty());
+    EXPECT_EQ(session.Conn, nullptr);
+    // The number's condition on myType chooses the screen, here one that this version does not have.
+    control.myType(-1);
+    control.Refresh(7);
+    EXPECT_EQ(view.boxes.back().text, "本版本尚未提供该功能（frmJz_unStep）。");
+    control.myType(1);
+    control.Refresh(7);
+    EXPECT_EQ(view.boxes.back().text, "本版本尚未提供该功能（frmJz_Step）。");
+    control.myType(0);
+    control.Refresh(21);
+    EXPECT_EQ(view.boxes.back().text, "本版本尚未提供该功能（frmYj_Jbr_Jb）。");
+    control.myType(77);
+    control.Refresh(13);
+    EXPECT_EQ(view.boxes.back().text, "没有单据类型 77。");
+    EXPECT_EQ(view.screens.size(), 2U);
+}
+
+TEST_P(Company, RightsAreReadFromTheDigits) {
+    Open();
+    Connection& books = *session.Conn;
+    books.Execute("Update tSysFunc Set SerialNo=3 Where model_Name='mnuJxcSysCk'");
+    books.Execute("Update tSysFunc Set SerialNo=-1 Where model_Name='mnuJxcSysCp'");
+    books.Execute("Update tSysFunc Set SerialNo=9 Where model_Name='mnuCardAdd'");
+    books.Execute("Update tSysFunc Set NoUse_=1 Where model_Name='mnuJxcSysZy'");
+    control.myPower("0010");
+    EXPECT_EQ(ModuleRight("mnuJxcSysCk", 0), 3);
+    EXPECT_EQ(ModuleRight("mnuJxcSysCp", 0), -1);
+    EXPECT_EQ(ModuleRight("", 5), 1);
+    EXPECT_EQ(ModuleRight("mnuJxcSysZy", 0), 0); // not in use: refused silently
+    EXPECT_EQ(ModuleRight("noSuchModule", 0), 0);
+    EXPECT_TRUE(view.boxes.empty());
+    EXPECT_EQ(ModuleRight("mnuJxcSysCk", 1), 0);
+    EXPECT_EQ(ModuleRight("mnuCardAdd", 0), 0); // beyond the digits
+    ASSERT_EQ(view.boxes.size(), 2U);
+    EXPECT_EQ(view.boxes[0].text, "您无权进入!");
+    EXPECT_EQ(view.boxes[0].icon, BoxIcon::Warning);
+    control.UserName("");
+    EXPECT_EQ(ModuleRight("mnuJxcSysCp", 0), 0); // nobody is signed in
+    EXPECT_EQ(view.boxes.size(), 2U);
+}
+
+TEST_P(Company, HeaderOfPrintoutsFollowsTheLanguage) {
+    Open();
+    session.Conn->Execute(
+        "Update myCompany Set FullName='',CompName='短名',Province='广东',cityname='深圳',compadd='一路'");
+    session.CompanyFieldList.clear();
+    CompanyFields();
+    ASSERT_EQ(session.CompanyFieldList.size(), 20U);
+    EXPECT_EQ(session.CompanyFieldList[0], "<公司单位>");
+    EXPECT_EQ(session.CompanyFieldList[1], "短名");
+    EXPECT_EQ(session.CompanyFieldList[4], "<省市地址>");
+    EXPECT_EQ(session.CompanyFieldList[5], "广东深圳一路");
+}
+
+TEST_P(Company, ProductsAreFoundAsTyped) {
+    Open();
+    Connection& books = *session.Conn;
+    books.Execute("Insert Into tJXC_CkTj (fCpID,fCkName,fKcSl) Select fCpID,'总部仓',7 From tJXC_Cp Where "
+                  "fCpCode='CPU002'");
+    books.Execute("Insert Into tJXC_CkTj (fCpID,fCkName,fKcSl) Select fCpID,'代销仓',2 From tJXC_Cp Where "
+                  "fCpCode='CPU002'");
+    ProductSought exact{.warehouse = "总部仓", .code = "cpu002", .stock = 0};
+    const int id = FindProduct(exact);
+    EXPECT_GT(id, 0);
+    EXPECT_EQ(exact.code, "CPU002");
+    EXPECT_EQ(exact.name, "处理器 四核");
+    EXPECT_EQ(exact.stock, 7);
+    EXPECT_EQ(exact.price[3], 789);
+    EXPECT_EQ(GetStockQty("", id), 9);
+    EXPECT_EQ(GetStockQty("零售门市", id), 0);
+    ProductSought unwanted{.code = "CPU002", .stock = -1};
+    FindProduct(unwanted);
+    EXPECT_EQ(unwanted.stock, -1);
+    // An exact code wins over longer ones, and over the pattern.
+    books.Execute("Update tJXC_Cp Set fCpCode='CPU0021' Where fCpCode='CPU003'");
+    EXPECT_EQ(FindProduct(exact), id);
+    ProductSought parts{.name = "内存条，DDR5 6000"};
+    EXPECT_GT(FindProduct(parts), 0);
+    EXPECT_EQ(parts.code, "MEM004");
+    ProductSought single{.code = "CPU0021*"};
+    EXPECT_GT(FindProduct(single), 0);
+    ProductSought none{.code = "ZZZ"};
+    EXPECT_EQ(FindProduct(none), 0);
+    EXPECT_EQ(FindProduct(none = {}), 0);
+    books.Execute("Update tJXC_Cp Set fCpFlag=1 Where fCpCode='CPU002'");
+    ProductSought stopped{.code = "CPU002"};
+    EXPECT_NE(FindProduct(stopped), id); // the pattern now finds CPU0021 alone
+    EXPECT_EQ(stopped.code, "CPU0021");
+    ProductSought several{.code = "MEM"};
+    EXPECT_THROW(FindProduct(several), ScreenError); // the picker is not in this version
+}
+
+TEST_P(Company, CustomersAreFoundAsTyped) {
+    Open();
+    Connection& books = *session.Conn;
+    books.Execute("Update cards Set CompName='' Where CompCode='G002'");
+    books.Execute("Update cards Set CompName='G001的邻居' Where CompCode='G003'");
+    const auto screen = FindScreen("frmCkKc");
+    ListBox list(*screen, "list");
+    list.items = {"old"};
+    EXPECT_EQ(FindCustomerCard(list, ""), 0);
+    EXPECT_EQ(list.items.size(), 1U);
+    EXPECT_EQ(FindCustomerCard(list, "g001"), 1); // the exact code, not the name that holds it
+    EXPECT_EQ(CustomerNameOf(list.Chosen()), "深圳市芯源电子有限公司");
+    EXPECT_EQ(FindCustomerCard(list, "G002"), 1);
+    EXPECT_EQ(CustomerNameOf(list.Chosen()), "（空）");
+    EXPECT_EQ(FindCustomerCard(list, "G00"), 7); // a pattern leaves out the nameless one of eight
+    EXPECT_EQ(FindCustomerCard(list, "没有这家"), 0);
+    EXPECT_TRUE(list.items.empty());
+    for (int i = 0; i < 120; ++i)
+        books.Execute("Insert Into cards (fID,CompCode,CompName,fType0) Values (" + std::to_string(1000 + i) +
+                      ",'Q" + std::to_string(i) + "','Q公司',0)");
+    EXPECT_EQ(FindCustomerCard(list, "Q公司"), 101);
+    ResetScreens();
+}
+
+TEST_P(Company, WarehousesAreFilteredByKind) {
+    Open();
+    const auto names = [](int kind) {
+        return RowsOf(WarehouseFilter(kind, "Select fCkName from tJXC_Ck") + " Order By fCkCode");
+    };
+    EXPECT_EQ(names(0), (Lines{"总部仓", "零售门市", "代销仓", "生产仓"}));
+    EXPECT_EQ(names(1), (Lines{"总部仓"}));
+    EXPECT_EQ(names(2), (Lines{"零售门市"}));
+    EXPECT_EQ(names(3), (Lines{"代销仓"}));
+    EXPECT_EQ(names(4), (Lines{"生产仓"}));
+    EXPECT_EQ(names(5), (Lines{"总部仓", "零售门市", "生产仓"}));
+    session.Conn->Execute("Update tJXC_Ck Set fCkFlag=1 Where fCkName='总部仓'");
+    EXPECT_EQ(names(1), Lines{});
+}
+
+TEST_P(Company, NumbersRunOnUnderTheirStem) {
+    Open();
+    const Date day = MakeDate(2003, 3, 5);
+    const auto next = [&](std::string rule, int series = 1) { return NextDocumentNo(day, rule, series); };
+    const auto store = [](const std::string& number) {
+        session.Conn->Execute("Insert Into tJXC_CkDj02 (fInvID,fInv1,fRowID,fInvNo) Values (1,0,1,'" +
+                              number + "')");
+    };
+    EXPECT_EQ(next("YYYYMMDDRKXXX"), "20030305RK001");
+    store("20030305RK007");
+    store("20030305RKABC"); // no counter
+    store("20030306RK050"); // another day
+    EXPECT_EQ(next("YYYYMMDDRKXXX"), "20030305RK008");
+    EXPECT_EQ(next("YYYYMMDDRKXXX", 23), "20030305RK001"); // another book
+    EXPECT_EQ(next("YYYYMMDDRKXXX", 99), "20030305RK001"); // a test reads nothing
+    store("20030305RK999");
+    EXPECT_EQ(next("YYYYMMDDRKXXX"), "20030305RK000"); // the counter wraps
+    EXPECT_EQ(next("RK-XXXX"), "RK-0001");
+    EXPECT_EQ(next("YYXXX"), "YY001"); // a bare YY is no token
+    EXPECT_EQ(next("DDMMYY/X"), "050303/1");
+    EXPECT_EQ(next("YYYYMMDD"), "");
+    std::string lower = "yymmddxxx";
+    EXPECT_EQ(NextDocumentNo(day, lower, 1), "030305001");
+    EXPECT_EQ(lower, "YYMMDDXXX");
+    EXPECT_TRUE(CheckNumberRule("YYYYMMDD-RXXX"));
+    for (const char* bad : {"YYYYXX", "R'XXX", "R%XXX", "R_XXX", "R*XXX", "R#XXX", "XXX-"})
+        EXPECT_FALSE(CheckNumberRule(bad)) << bad;
+    EXPECT_EQ(view.boxes.size(), 7U);
+    EXPECT_EQ(view.boxes[0].text.substr(0, view.boxes[0].text.find('\n')), " [自动单号]设定--规则如下：");
+}
+
+TEST_P(Company, CodeListsAreEditedOnTheirScreen) {
+    Open();
+    view.OnScreen("frmBrief", [&](Screen& screen) {
+        auto& grid = *dynamic_cast<Grid*>(screen.Find("Grid1"));
+        auto& ok = *dynamic_cast<Button*>(screen.Find("cmdOk"));
+        const int rows = grid.RowCount();
+        TypeCell(screen, grid, rows, 1, "99");
+        TypeCell(screen, grid, rows + 1, 1, "99");
+        TypeCell(screen, grid, rows + 1, 2, "展会样品");
+        Click(screen, ok); // a code twice
+        EXPECT_EQ(view.boxes.back().text, "编号 99 重复！");
+        EXPECT_TRUE(screen.IsOpen());
+        TypeCell(screen, grid, rows + 1, 1, "98");
+        SelectRow(screen, grid, rows + 1);
+        Click(screen, ok);
+    });
+    EXPECT_EQ(ComponentsInUse().codeLists->Edit("", "2010", BriefKind::EditEntries), "展会样品");
+    EXPECT_EQ(One("select BriefName from briefDetail Where briefType='2010' And BriefCode='98'"), "展会样品");
+}
+
+} // namespace
+
+} // namespace jxc::test
