@@ -1,6 +1,8 @@
 #include "host/scenario.h"
 
 #include <cmath>
+#include <functional>
+#include <set>
 #include <sstream>
 
 #include "controls/text.h"
@@ -95,6 +97,96 @@ std::string WithLineEnds(std::string text) {
     return text;
 }
 
+// Whether the verb looks at a control, whose state comes with a reply.
+bool Asks(const std::string& verb) {
+    static const std::set<std::string> verbs{"value", "caption", "enabled", "visible",
+                                             "grid",  "table",   "keep"};
+    return verbs.contains(verb);
+}
+
+json ScreenProperties(const std::vector<std::string>& words) {
+    json properties = json::object();
+    for (size_t i = 2; i < words.size(); ++i) {
+        const size_t equals = words[i].find('=');
+        properties[words[i].substr(0, equals)] = std::stoi(words[i].substr(equals + 1));
+    }
+    return properties;
+}
+
+json ListChoice(const std::string& choice) {
+    if (choice[0] == '#')
+        return {{"index", std::stoi(choice.substr(1))}};
+    return {{"text", choice}};
+}
+
+// The request of a gesture; nothing for other verbs.
+std::optional<json> GestureOf(const std::vector<std::string>& words) {
+    const auto word = [&](size_t at) { return words.at(at); };
+    const auto optional = [&](size_t at) { return at < words.size() ? words[at] : std::string(); };
+    const auto number = [&](size_t at) { return std::stoi(words.at(at)); };
+    using Parts = std::function<json()>;
+    const std::map<std::string, Parts> gestures{
+        {"property",
+         [&] {
+             return json{{"name", word(1)}, {"value", optional(2)}};
+         }},
+        {"refresh",
+         [&] {
+             return json{{"action", number(1)}, {"properties", ScreenProperties(words)}};
+         }},
+        {"set",
+         [&] {
+             return json{{"control", word(1)}, {"value", TypedValue(optional(2))}};
+         }},
+        {"choose",
+         [&] {
+             json request = ListChoice(word(2));
+             request["control"] = word(1);
+             return request;
+         }},
+        {"type",
+         [&] {
+             return json{
+                 {"control", word(1)}, {"row", number(2)}, {"col", number(3)}, {"value", optional(4)}};
+         }},
+        {"key",
+         [&] {
+             return json{{"control", word(1)}, {"key", word(2)}};
+         }},
+        {"select",
+         [&] {
+             return json{{"control", word(1)}, {"row", number(2)}};
+         }},
+        {"dblclick",
+         [&] {
+             return json{{"control", word(1)}, {"row", number(2)}};
+         }},
+        {"heading",
+         [&] {
+             return json{{"control", word(1)}, {"col", number(2)}};
+         }},
+        {"tab",
+         [&] {
+             return json{{"control", word(1)}, {"index", number(2)}};
+         }},
+        {"click",
+         [&] {
+             return json{{"control", word(1)}};
+         }},
+        {"menu",
+         [&] {
+             return json{{"control", word(1)}};
+         }},
+        {"close", [] { return json::object(); }},
+    };
+    const auto gesture = gestures.find(words.at(0));
+    if (gesture == gestures.end())
+        return std::nullopt;
+    json request = gesture->second();
+    request["op"] = words[0];
+    return request;
+}
+
 int DisplayWidth(const std::string& text) {
     return AnsiByteLength(text);
 }
@@ -157,14 +249,21 @@ std::optional<json> Scenario::Perform(const Line& line) {
         ExpectRefusal(RestAfter(line.text, 1));
         return std::nullopt;
     }
-    if (!error_.empty()) {
-        Fail("此前的操作被拒绝：" + error_);
-        error_.clear();
-    }
+    if (!error_.empty())
+        Fail("此前的操作被拒绝：" + std::exchange(error_, ""));
     if (verb == "box")
         return AnswerBox(RestAfter(line.text, 1));
     if (box_)
         Fail("未料到提示框：" + box_->dump());
+    if (Asks(verb))
+        return AskControl(words);
+    if (const auto gesture = GestureOf(words))
+        return gesture;
+    Expect(verb, line, words);
+    return std::nullopt;
+}
+
+void Scenario::Expect(const std::string& verb, const Line& line, const Words& words) {
     if (verb == "say")
         tell_(RestAfter(line.text, 1));
     else if (verb == "screen" || verb == "host")
@@ -173,49 +272,8 @@ std::optional<json> Scenario::Perform(const Line& line) {
         ExpectRows(RestAfter(line.text, 1));
     else if (verb == "let")
         kept_[words.at(1)] = query_(RestAfter(line.text, 2)).At(0, 0).AsText();
-    else if (verb == "value" || verb == "caption" || verb == "enabled" || verb == "visible" ||
-             verb == "grid" || verb == "table" || verb == "keep")
-        return AskControl(words);
-    else if (verb == "property")
-        return json{{"op", verb}, {"name", words.at(1)}, {"value", words.size() > 2 ? words[2] : ""}};
-    else if (verb == "refresh") {
-        json properties = json::object();
-        for (size_t i = 2; i < words.size(); ++i) {
-            const size_t equals = words[i].find('=');
-            properties[words[i].substr(0, equals)] = std::stoi(words[i].substr(equals + 1));
-        }
-        return json{{"op", verb}, {"action", std::stoi(words.at(1))}, {"properties", properties}};
-    } else if (verb == "set")
-        return json{
-            {"op", verb}, {"control", words.at(1)}, {"value", TypedValue(words.size() > 2 ? words[2] : "")}};
-    else if (verb == "choose") {
-        json request{{"op", verb}, {"control", words.at(1)}};
-        if (words.at(2)[0] == '#')
-            request["index"] = std::stoi(words[2].substr(1));
-        else
-            request["text"] = words[2];
-        return request;
-    } else if (verb == "type")
-        return json{{"op", verb},
-                    {"control", words.at(1)},
-                    {"row", std::stoi(words.at(2))},
-                    {"col", std::stoi(words.at(3))},
-                    {"value", words.size() > 4 ? words[4] : ""}};
-    else if (verb == "key")
-        return json{{"op", verb}, {"control", words.at(1)}, {"key", words.at(2)}};
-    else if (verb == "select" || verb == "dblclick")
-        return json{{"op", verb}, {"control", words.at(1)}, {"row", std::stoi(words.at(2))}};
-    else if (verb == "heading")
-        return json{{"op", verb}, {"control", words.at(1)}, {"col", std::stoi(words.at(2))}};
-    else if (verb == "tab")
-        return json{{"op", verb}, {"control", words.at(1)}, {"index", std::stoi(words.at(2))}};
-    else if (verb == "click" || verb == "menu")
-        return json{{"op", verb}, {"control", words.at(1)}};
-    else if (verb == "close")
-        return json{{"op", verb}};
     else
         Fail("不认识的步骤");
-    return std::nullopt;
 }
 
 std::optional<json> Scenario::AskControl(const Words& words) {

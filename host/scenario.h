@@ -54,6 +54,7 @@ class Scenario : public RequestSource {
 
     // The request that a line stands for; nothing for an expectation, which is checked at once.
     std::optional<nlohmann::json> Perform(const Line& line);
+    void Expect(const std::string& verb, const Line& line, const Words& words);
     std::optional<nlohmann::json> AskControl(const Words& words);
     std::optional<nlohmann::json> AnswerBox(const std::string& rest);
     void ExpectScreen(const std::string& wanted);
