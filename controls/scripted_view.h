@@ -26,6 +26,7 @@ class ScriptedView : public View {
     std::vector<std::string> notices;
     std::vector<std::string> addresses;
     std::vector<std::string> steps; // of progress
+    std::vector<std::string> dialled;
     std::string clipboard;
 
     void RunModal(Screen& screen) override;
@@ -33,6 +34,7 @@ class ScriptedView : public View {
     void ShowProgress(const std::string& step, int done, int total) override;
     void ShowNotice(const std::string& title, const std::string& text) override;
     void OpenAddress(const std::string& address) override { addresses.push_back(address); }
+    void DialNumber(const std::string& number) override { dialled.push_back(number); }
     std::string Clipboard() override { return clipboard; }
     void SetClipboard(const std::string& text) override { clipboard = text; }
 

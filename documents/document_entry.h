@@ -13,6 +13,11 @@ namespace jxc {
 void SetUpDocument(frmDj02& s);
 // Empties everything for the next new document and goes to the date.
 void ResetDocument(frmDj02& s);
+// Another type for the new document: its row is read, the screen stays as it is.
+void ChooseType(frmDj02& s);
+// Warehouses and summaries anew, the choice kept.
+void RefillWarehouses(frmDj02& s);
+void RefillSummaries(frmDj02& s);
 
 // -- load_document.cpp: a stored document into the screen
 // Shows "该[单号]已不存在!" when it is gone, "系统数据错误，操作已经取消！" on any error; false then.
@@ -49,6 +54,25 @@ bool LeaveDate(frmDj02& s); // not before the period; in Action 1 the number fol
 void ChooseWarehouse(frmDj02& s, bool second);
 void ChooseCurrency(frmDj02& s);
 void FormatPayment(frmDj02& s);
+
+// -- kit_panel.cpp: the finished product of assembly and dismantling
+void SeekFinishedProduct(frmDj02& s, bool byCode); // by what was typed; not found empties the panel
+void LoadFinishedProduct(frmDj02& s, const std::string& stem, std::int32_t key);
+void ClearFinishedProduct(frmDj02& s);
+void ChangeKitQuantity(frmDj02& s); // the parts follow
+double KitQuantity(const frmDj02& s);
+
+// -- card_links.cpp: what lies beside the document
+void Dial(const TextBox& number);
+void OpenMail(const frmDj02& s);
+void OpenWeb(const frmDj02& s);
+void OpenProducts(frmDj02& s);
+void OpenWarehouses(frmDj02& s);
+void OpenSummaries(frmDj02& s);
+
+// -- column_widths.cpp: widths of the grid's columns, kept in the dictionary of printed documents
+void LoadColumnWidths(frmDj02& s);
+void SaveColumnWidths(frmDj02& s); // writes tJXC_rptListDetail
 
 // -- save_document.cpp: the save command of every Action
 void SaveDocument(frmDj02& s);

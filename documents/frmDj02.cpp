@@ -33,6 +33,7 @@ void WireHead(frmDj02& s) {
     for (ListBox* box : {&s.cboInvMemo, &s.cboInvJbr})
         box->onLeave = [box] { return CheckNoQuote(box->text); };
 
+    s.cboInvType.onChoose = [&s] { ChooseType(s); };
     s.dtpInvDate.onLeave = [&s] { return LeaveDate(s); };
     s.cboCkName.onChoose = [&s] { ChooseWarehouse(s, false); };
     s.cboCkName2.onChoose = [&s] { ChooseWarehouse(s, true); };
@@ -66,6 +67,37 @@ void WireHead(frmDj02& s) {
     s.cmdLoadKh2.onClick = [&s] { s.fraKh2.visible = !s.fraKh2.visible; };
 }
 
+void WireCardLinks(frmDj02& s) {
+    for (Control* control : std::initializer_list<Control*>{
+             &s.txtName, &s.txtPostcode, &s.txtTelphone, &s.txtHandphone, &s.txtFax, &s.txtE_mail, &s.txtHttp,
+             &s.mnuTelphone, &s.mnuHandphone, &s.mnuFax, &s.cmdMail, &s.cmdWeb})
+        control->frame = &s.fraKh2;
+    s.mnuTelphone.onClick = [&s] { Dial(s.txtTelphone); };
+    s.mnuHandphone.onClick = [&s] { Dial(s.txtHandphone); };
+    s.mnuFax.onClick = [&s] { Dial(s.txtFax); };
+    s.cmdMail.onClick = [&s] { OpenMail(s); };
+    s.cmdWeb.onClick = [&s] { OpenWeb(s); };
+}
+
+void WireKitPanel(frmDj02& s) {
+    for (TextBox* box : {&s.txtCpCode, &s.txtCpName, &s.txtCpUnit, &s.txtInvSL})
+        box->frame = &s.picCpZj;
+    s.txtCpUnit.locked = true;
+    FilterKeys(s.txtInvSL, 10, true);
+    s.txtCpCode.onKey = [&s](const std::string& key) {
+        if (key == "Enter")
+            SeekFinishedProduct(s, true);
+    };
+    s.txtCpName.onKey = [&s](const std::string& key) {
+        if (key == "Enter")
+            SeekFinishedProduct(s, false);
+    };
+    s.txtInvSL.onLeave = [&s] {
+        ChangeKitQuantity(s);
+        return true;
+    };
+}
+
 void WireLinesAndFoot(frmDj02& s) {
     s.Grid2.onEnter = [&s] { EnterGrid(s); };
     s.Grid2.onEnterKey = [&s] { AppendLine(s); };
@@ -78,6 +110,10 @@ void WireLinesAndFoot(frmDj02& s) {
         FormatPayment(s);
         return true;
     };
+    s.cmdCp.onClick = [&s] { OpenProducts(s); };
+    s.cmdCk.onClick = [&s] { OpenWarehouses(s); };
+    s.cmdZy.onClick = [&s] { OpenSummaries(s); };
+    s.cmdGridSave.onClick = [&s] { SaveColumnWidths(s); };
     s.cmdPrevious.onClick = [&s] { StepToDocument(s, false); };
     s.cmdNext.onClick = [&s] { StepToDocument(s, true); };
     s.cmdNew.onClick = [&s] { ResetDocument(s); };
@@ -94,6 +130,8 @@ frmDj02::frmDj02() : Screen("frmDj02") {
     AddNumberProperty("oldInvID", oldInvID);
     AddNumberProperty("JzState", JzState);
     WireHead(*this);
+    WireCardLinks(*this);
+    WireKitPanel(*this);
     WireLinesAndFoot(*this);
 }
 

@@ -59,10 +59,27 @@ struct frmDj02 : Screen {
     TextBox txtE_mail{*this, "txtE_mail"};
     TextBox txtHttp{*this, "txtHttp"};
 
+    MenuItem mnuTelphone{*this, "mnuTelphone", "拨打电话"};
+    MenuItem mnuHandphone{*this, "mnuHandphone", "拨打手机"};
+    MenuItem mnuFax{*this, "mnuFax", "拨打传真"};
+    Button cmdMail{*this, "cmdMail", "发邮件(&M)"};
+    Button cmdWeb{*this, "cmdWeb", "网页(&B)"};
+
+    // Assembly and dismantling: the finished product and how many of it.
+    Frame picCpZj{*this, "picCpZj", "成品"};
+    TextBox txtCpCode{*this, "txtCpCode"};
+    TextBox txtCpName{*this, "txtCpName"};
+    TextBox txtCpUnit{*this, "txtCpUnit"};
+    TextBox txtInvSL{*this, "txtInvSL", "1"}; // its tag keeps the quantity that the lines stand for
+
     // The lines.
     Grid Grid2{*this, "Grid2"};
     Button cmdAddRow{*this, "cmdAddRow", "增行(&I)"};
     Button cmdDeleteRow{*this, "cmdDeleteRow", "删行(&D)"};
+    Button cmdCp{*this, "cmdCp", "产品(&R)"};
+    Button cmdCk{*this, "cmdCk", "仓库(&H)"};
+    Button cmdZy{*this, "cmdZy", "摘要(&Y)"};
+    Button cmdGridSave{*this, "cmdGridSave", "保存列宽"};
 
     // The foot.
     Label lblSum{*this, "lblSum", "金额合计"};
@@ -92,6 +109,7 @@ struct frmDj02 : Screen {
     Parameters parameters;
     // The stored document as it was loaded; approval, change and deletion go on only while it is still so.
     std::string loadedState;
+    std::int32_t finishedProduct = 0; // fCpID of a kit document's product
 
     DocAction InHand() const { return static_cast<DocAction>(Action); }
     std::string Number() const { return txtNo.text; }

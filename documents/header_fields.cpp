@@ -16,14 +16,14 @@ namespace {
 // A consignment warehouse belongs to one consignee, who becomes the document's customer.
 void FollowConsignee(frmDj02& s, const std::string& warehouse) {
     const auto card = static_cast<std::int64_t>(
-        Val(DbScalar("Select fKhID from tJxc_Ck Where fCkName='" + warehouse + "'")));
+        Val(DbScalar("Select fKhID from tJxc_Ck Where fCkName=" + InQuotes(warehouse))));
     if (card <= 0)
         return;
     ShowCustomer(s, card);
 }
 
 void WarnOfSecondOpening(const frmDj02& s, const std::string& warehouse) {
-    if (DbCount("tJXC_CkDj01", "fInvType=0 And fCkName='" + warehouse + "'") > 0)
+    if (DbCount("tJXC_CkDj01", "fInvType=0 And fCkName=" + InQuotes(warehouse)) > 0)
         Warn(
             s.title,
             "注意：每个仓库最好设置一张[期初单]！\n\n该仓库的[期初单]已有存在，建议您选择原[期初单]的修改。");

@@ -148,6 +148,8 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         const Recordset header(Conn(), "select * from " + stem + "01 Where fInvID=" + std::to_string(key));
         LoadHeader(s, sourceType, header);
         LoadLines(s, stem, key);
+        if (s.type.IsKit() && s.InHand() != DocAction::New)
+            LoadFinishedProduct(s, stem, key);
         s.oldInvID = key;
         if (s.InHand() == DocAction::New)
             StartFromSource(s);

@@ -117,6 +117,8 @@ bool MayGoOn(frmDj02& s, const std::string& stem) {
         !OrderFits(s))
         return false;
     CutLongTexts(s);
+    if (s.type.IsKit() && KitQuantity(s) == 0)
+        return Refuse(s, "请输入产品套数！", &s.txtInvSL);
     const bool renumbered = s.InHand() == DocAction::Change && s.Number() != s.txtNo.tag;
     return !renumbered || NumberIsFree(s, stem, s.Number() + "：该[单号]已另有存在!");
 }
@@ -161,6 +163,10 @@ std::string WriteNew(frmDj02& s, const std::string& stem) {
 void SaveNew(frmDj02& s, const std::string& stem) {
     if (!NumberIsFree(s, stem, kNumberTaken))
         return;
+    if (s.type.IsKit() && s.finishedProduct == 0) {
+        Refuse(s, "请输入组装产品及其数量。", &s.txtCpCode);
+        return;
+    }
     if (!AskOkCancel(s.title, s.title + "：" + s.Number() + "，确定？"))
         return;
     if (!InTransaction(s, [&] { return WriteNew(s, stem); })) {

@@ -17,6 +17,12 @@ namespace {
 
 const std::string kSummaries = "2010"; // the code list of document summaries
 
+void KeepText(ListBox& list, const std::string& text) {
+    list.SetIndex(ComboIndexByText(list, text));
+    if (list.editable)
+        list.text = text;
+}
+
 void FillWarehouses(ListBox& list, int kind) {
     if (kind == -1)
         return list.Clear();
@@ -29,8 +35,8 @@ void FillLists(frmDj02& s) {
     s.cboInvType.SetIndex(ComboIndexByLeftValue(s.cboInvType, s.invType, 3));
     FillWarehouses(s.cboCkName, s.type.fSetCkType1);
     FillWarehouses(s.cboCkName2, s.type.fSetCkType2);
-    s.cboInvMemo.Clear();
-    FillBriefCombo(s.cboInvMemo, kSummaries, false);
+    s.cboInvMemo.text.clear();
+    RefillSummaries(s);
     FillCombo("Select MoneyCode,0 as aa from Moneys Order By MoneyType desc", s.cboInvHb);
     FillCombo("Select fName,0 as aa from " +
                   std::string(s.parameters.handlersFromSalespeople ? "tJXC_Yj_Jbr" : "tRsBasic") +
@@ -63,6 +69,7 @@ void ShapeByType(frmDj02& s) {
     Show(type.HasCustomer(), {&s.lblKh, &s.txtKhSeek, &s.cboKhList, &s.lblKhAdd, &s.cboKhAdd,
                               &s.mnuKhAddDelete, &s.txtMemo, &s.cmdLoadKh2});
     s.fraKh2.visible = false;
+    s.picCpZj.visible = type.IsKit();
     Show(type.fSetHb_, {&s.lblInvHb, &s.cboInvHb, &s.txtInvHbDl});
     Show(type.fSetDjDd_, {&s.lblHtNo, &s.txtHtNo});
     Show(type.fSetHbSl_ && s.parameters.taxWay != TaxWay::None, {&s.lblTaxRate, &s.txtTaxRate});
@@ -78,8 +85,11 @@ void ShapeByType(frmDj02& s) {
 void AllowByAction(frmDj02& s) {
     const bool editing = IsEditing(s.InHand());
     s.fraHead.enabled = editing;
-    s.cboInvType.enabled = false; // the type was chosen when the screen was opened
-    s.cmdAddRow.enabled = s.cmdDeleteRow.enabled = editing;
+    s.cboInvType.enabled = s.InHand() == DocAction::New;
+    s.picCpZj.enabled = editing;
+    for (Button* button : {&s.cmdAddRow, &s.cmdDeleteRow, &s.cmdCp, &s.cmdCk, &s.cmdZy})
+        button->enabled = editing;
+    s.cmdGridSave.enabled = session.UserName == session.ZgName;
     s.cmdNew.visible = s.InHand() == DocAction::New;
     s.cmdPrevious.visible = s.cmdNext.visible = s.InHand() != DocAction::New;
     s.cmdPrevious.enabled = s.cmdNext.enabled = true;
@@ -97,6 +107,8 @@ void SetStartingValues(frmDj02& s) {
     s.lblSHR.caption.clear();
     Show(false, {&s.lblSHR, &s.shpSHR});
     s.loadedState.clear();
+    ClearFinishedProduct(s);
+    s.txtInvSL.text = s.txtInvSL.tag = "1";
 }
 
 void ChooseOnly(ListBox& list) {
@@ -118,6 +130,33 @@ void SetUpDocument(frmDj02& s) {
     AllowByAction(s);
     SetStartingValues(s);
     SetUpLineGrid(s.Grid2, s.type, s.parameters, s.InHand());
+    LoadColumnWidths(s);
+}
+
+void ChooseType(frmDj02& s) {
+    const int chosen = static_cast<int>(Val(MidText(s.cboInvType.Chosen(), 1, 3)));
+    if (s.cboInvType.Index() < 0 || chosen == s.invType)
+        return;
+    if (const auto type = ReadTypeRow(chosen)) {
+        s.invType = chosen;
+        s.type = *type;
+    }
+}
+
+void RefillWarehouses(frmDj02& s) {
+    const std::string first = s.cboCkName.text;
+    const std::string second = s.cboCkName2.text;
+    FillWarehouses(s.cboCkName, s.type.fSetCkType1);
+    FillWarehouses(s.cboCkName2, s.type.fSetCkType2);
+    KeepText(s.cboCkName, first);
+    KeepText(s.cboCkName2, second);
+}
+
+void RefillSummaries(frmDj02& s) {
+    const std::string text = s.cboInvMemo.text;
+    s.cboInvMemo.Clear();
+    FillBriefCombo(s.cboInvMemo, kSummaries, false);
+    KeepText(s.cboInvMemo, text);
 }
 
 void ResetDocument(frmDj02& s) {
@@ -141,6 +180,8 @@ void ResetDocument(frmDj02& s) {
     s.Grid2.Clear();
     AppendLine(s);
     s.txtSsSf.text = "0.00";
+    ClearFinishedProduct(s);
+    s.txtInvSL.text = s.txtInvSL.tag = "1";
     RefreshTotals(s);
     s.loadedState.clear();
     s.cmdSave.enabled = true;

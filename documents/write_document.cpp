@@ -1,6 +1,7 @@
 #include "documents/write_document.h"
 
 #include "controls/text.h"
+#include "documents/document_entry.h"
 #include "session/database/recordset.h"
 #include "session/session.h"
 
@@ -64,6 +65,35 @@ void WriteOrdinaryRows(const frmDj02& s, Recordset& row, bool second) {
     }
 }
 
+// The parts on the first warehouse.
+void WritePartRows(const frmDj02& s, Recordset& row) {
+    for (int at = 1; at <= s.Grid2.RowCount(); ++at) {
+        row.AddNew();
+        SetPlace(s, row, 0, at, DirectionOfFirstRow(s.type), s.cboCkName.Chosen());
+        SetHeaderCopies(s, row);
+        SetFigures(s, row, at);
+        row.Update();
+    }
+}
+
+// The finished product on the second; its price is what the parts of one piece come to.
+void WriteFinishedRow(const frmDj02& s, Recordset& row) {
+    const double total = Val(s.txtSum.text);
+    row.AddNew();
+    SetPlace(s, row, 1, 1, DirectionOfSecondRow(s.type), s.cboCkName2.Chosen());
+    SetHeaderCopies(s, row);
+    row.Set("fCpID", std::int64_t{s.finishedProduct});
+    row.Set("fInvSL", KitQuantity(s));
+    row.Set("fInvDJ", total / KitQuantity(s));
+    row.Set("fInvDJ2", 0);
+    row.Set("fInvJE", total);
+    row.Set("fInvTaxRate", 0);
+    row.Set("fInvTax", 0);
+    row.Set("fInvOther1", "产品套件");
+    row.Set("fInvOther2", "");
+    row.Update();
+}
+
 } // namespace
 
 void WriteHeader(const frmDj02& s, const std::string& stem) {
@@ -92,6 +122,11 @@ void WriteHeader(const frmDj02& s, const std::string& stem) {
 void WriteLines(const frmDj02& s, const std::string& stem) {
     Recordset row(Conn(), "select * from " + stem + "02 Where fInvID = " + std::to_string(s.oldInvID),
                   Access::Write);
+    if (s.type.IsKit()) {
+        WritePartRows(s, row);
+        WriteFinishedRow(s, row);
+        return;
+    }
     WriteOrdinaryRows(s, row, false);
     if (s.type.HasSecondWarehouse())
         WriteOrdinaryRows(s, row, true);

@@ -52,6 +52,7 @@ class Robot : public View {
     void ShowProgress(const std::string&, int, int) override {}
     void ShowNotice(const std::string& title, const std::string& text) override;
     void OpenAddress(const std::string&) override {} // a script needs no window beside its own
+    void DialNumber(const std::string&) override {}
     std::string Clipboard() override { return clipboard_; }
     void SetClipboard(const std::string& text) override { clipboard_ = text; }
 

@@ -1,23 +1,63 @@
 #include "master/supplier_history.h"
 
 #include "controls/view.h"
+#include "session/database/recordset.h"
+#include "session/database/routines.h"
 #include "session/session.h"
 
 namespace jxc {
 
+namespace {
+
+const std::string kFields = "Insert INTO tJXC_CpGys (fCpID,fKhID,fCpSl,fCpPrice,fInvDate,fInvNo)"
+                            " SELECT fCpID,fKhID,fInvSl,fInvDJ,fInvDate,fInvNo From tJXC_CkDj02 ";
+
+bool Failed(const DatabaseError& error) {
+    Warn("", std::string("刷新产品供应商错误：") + error.what());
+    return false;
+}
+
+// The first row of each product is its latest purchase.
+void SetLatestSuppliers() {
+    Recordset row(Conn(), "Select a.fCpID,a.fKhID,b.compname "
+                          "From tJXC_CpGys a Left Join cards b On a.fKhID=b.fID "
+                          "Order By a.fCpID,a.fInvDate Desc");
+    for (std::int64_t done = -1; !row.AtEnd(); row.MoveNext()) {
+        const std::int64_t product = row["fCpID"].AsLong();
+        if (product == done)
+            continue;
+        done = product;
+        Conn().Execute("UPDATE tJXC_Cp SET fKhID=" + row["fKhID"].AsText() + ",fKhName=" +
+                       InQuotes(row["compname"].AsText()) + " Where fCpID=" + row["fCpID"].AsText());
+    }
+}
+
+} // namespace
+
 bool RefreshSupplierByDocument(const std::string& number, bool reversal) {
-    const std::string statement = reversal
-                                      ? "Delete From tJXC_CpGys Where fInvNo ='" + number + "' "
-                                      : "Insert INTO tJXC_CpGys (fCpID,fKhID,fCpSl,fCpPrice,fInvDate,fInvNo)"
-                                        " SELECT fCpID,fKhID,fInvSl,fInvDJ,fInvDate,fInvNo From tJXC_CkDj02 "
-                                        "Where fInvNo ='" +
-                                            number + "'";
+    const std::string statement = reversal ? "Delete From tJXC_CpGys Where fInvNo ='" + number + "' "
+                                           : kFields + "Where fInvNo ='" + number + "'";
     try {
         Conn().Tolerantly([&] { Conn().Execute(statement); });
         return true;
     } catch (const DatabaseError& error) {
-        Warn("", std::string("刷新产品供应商错误：") + error.what());
-        return false;
+        return Failed(error);
+    }
+}
+
+bool RefreshSupplierAll(Date from) {
+    try {
+        Conn().Execute(Dialect("Delete From tJXC_CpGys Where fInvDate >= #",
+                               "Delete From tJXC_CpGys Where Convert(varchar(10),fInvDate,120) >= '") +
+                       IsoText(from) + (session.IsJet() ? "#" : "'"));
+        Conn().Execute(kFields + "Where fKhID > 0 And fInvID In (Select fInvID From tJXC_CkDj01 Where "
+                                 "tJXC_CkDj01.fInvType=1 And fInvSHR<>'')"
+                                 "ORDER BY fInvDate,fCpID,fKhID");
+        SetLatestSuppliers();
+        Conn().Flush();
+        return true;
+    } catch (const DatabaseError& error) {
+        return Failed(error);
     }
 }
 

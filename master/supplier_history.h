@@ -3,10 +3,17 @@
 
 #include <string>
 
+#include "controls/date.h"
+
 namespace jxc {
 
 // Adds an approved receipt's lines to the history, or with `reversal` takes them out. Inside the caller's
 // transaction, which stays usable when this fails: the failure is told to the user and gives false.
 bool RefreshSupplierByDocument(const std::string& number, bool reversal);
+
+// Reads the history from a date on anew from the approved receipts, and sets each product's supplier
+// (tJXC_Cp) to that of its latest purchase. Without a transaction: what was done before a failure stands, and
+// a repeat mends it. A failure is told to the user and gives false.
+bool RefreshSupplierAll(Date from);
 
 } // namespace jxc

@@ -109,7 +109,7 @@ double GetStockQty(const std::string& warehouse, std::int32_t fCpID) {
                                                       " Where a.fCpID=" +
                                                           id + " And (b.fCkType2=0 Or b.fCkType2=1)"
                                                     : "select fKcSl from tJXC_CkTj Where fCpID=" + id +
-                                                          " And fCkName='" + warehouse + "'";
+                                                          " And fCkName=" + InQuotes(warehouse);
     const Recordset row(Conn(), statement);
     return row.AtEnd() ? 0 : row["fKcSl"].AsDouble();
 }

@@ -3,6 +3,7 @@
 #include "controls/text.h"
 #include "documents/approval/stages.h"
 #include "session/database/recordset.h"
+#include "session/database/routines.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -28,6 +29,15 @@ void PostOrderBalance(const frmDj02& s, bool reversal) {
                        " And fInvSL2>0 And fCpID=" + s.Grid2.Text(row, line::kProduct));
     }
     Conn().Execute("Update tJXC_CkHt02 Set fInvSL2=0 Where fInvID=" + key + " And fInvSL2<0");
+}
+
+void MarkProduced(const frmDj02& s) {
+    const std::int64_t order = OrderKey(s.txtHtNo.text);
+    const auto product = static_cast<std::int64_t>(
+        Val(DbScalar("Select fCpID From tJXC_Cp Where fCpCode='" + s.txtCpCode.text + "'")));
+    if (order > 0 && product > 0)
+        Conn().Execute("Update tJXC_CkHt02 Set fInvOther1='生产完毕' Where fInvID=" + std::to_string(order) +
+                       " And fCpID=" + std::to_string(product));
 }
 
 } // namespace jxc

@@ -7,6 +7,7 @@
 #include "controls/text.h"
 #include "documents/approval/stages.h"
 #include "session/database/recordset.h"
+#include "session/database/routines.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -33,8 +34,8 @@ class StockRow {
   public:
     StockRow(const std::string& warehouse, std::int64_t product)
         : row_(Conn(),
-               "Select * From tJXC_CkTj Where fCkName='" + warehouse +
-                   "' And fCpID=" + std::to_string(product),
+               "Select * From tJXC_CkTj Where fCkName=" + InQuotes(warehouse) +
+                   " And fCpID=" + std::to_string(product),
                Access::Write),
           isNew_(row_.AtEnd()) {
         if (!isNew_)

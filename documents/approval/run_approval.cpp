@@ -37,23 +37,26 @@ void PostCustomerAccount(const frmDj02& s, bool reversal) {
 
 void PostMoneyAccount(const frmDj02& s, bool reversal) {
     const auto account = static_cast<std::int64_t>(
-        Val(DbScalar("Select fZhID from tJXC_Ck Where fCkName='" + s.cboCkName.Chosen() + "'")));
+        Val(DbScalar("Select fZhID from tJXC_Ck Where fCkName=" + InQuotes(s.cboCkName.Chosen()))));
     if (account > 0)
         PostAccountEntry(s, 1, s.type.fSetZjType == 3 ? 2 : 1, account, reversal);
 }
 
 void MarkApproved(const frmDj02& s, const std::string& stem, bool reversal) {
-    Conn().Execute("Update " + stem + "01 Set fInvSHR='" + (reversal ? "" : session.UserName) +
-                   "' Where fInvID=" + std::to_string(s.oldInvID));
+    Conn().Execute("Update " + stem + "01 Set fInvSHR=" + InQuotes(reversal ? "" : session.UserName) +
+                   " Where fInvID=" + std::to_string(s.oldInvID));
 }
 
 // What the type's row says is to be done, in its fixed order.
 std::vector<Stage> StagesOf(const frmDj02& s, const std::string& stem, bool reversal) {
     const TypeRow& type = s.type;
     std::vector<Stage> stages;
-    if (!s.txtHtNo.text.empty() && s.invType != 31)
+    const bool refersToOrder = !s.txtHtNo.text.empty();
+    if (refersToOrder && s.invType != 31)
         stages.push_back(
             {"刷新原相关订单的结余数", [&s, reversal] { PostOrderBalance(s, reversal); }, !reversal});
+    if (refersToOrder && s.invType == 31 && !reversal)
+        stages.push_back({"刷新销售订单的生产摘要", [&s] { MarkProduced(s); }, false});
     if (type.fSetCkType1 >= 0 && !s.cboCkName.Chosen().empty())
         stages.push_back({"更新仓库的产品“库存成本表”", [&s, reversal] { PostStock(s, reversal); }});
     if (type.fSetTjType == 0 || type.fSetTjType == 1)
@@ -151,6 +154,11 @@ bool RunApproval(frmDj02& s, bool reversal, bool prompted) {
         std::abs(s.invType) < 10 ? "系统将同时进行库存数刷新、往来帐处理等操作，" : "";
     if (prompted && !AskOkCancel("单据" + verb, s.Number() + "：单据" + verb + "，" + effects + "确定？"))
         return false;
+    if (session.UserName.empty()) {
+        // Without a name the document would look unapproved while its effects stand.
+        Warn(s.title, "请先登录用户，才能够" + verb + "单据！");
+        return false;
+    }
     const std::string failure = Post(s, reversal, verb);
     CurrentView().ShowProgress("", 0, 0);
     if (!failure.empty()) {

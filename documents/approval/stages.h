@@ -12,6 +12,8 @@ namespace jxc {
 // Lowers the balance of the order that the document refers to by its quantities; a reversal raises it.
 // Balances end at 0 at least. A DatabaseError when the order is gone.
 void PostOrderBalance(const frmDj02& s, bool reversal);
+// Marks the order's line of the assembled product as produced, if both are there.
+void MarkProduced(const frmDj02& s);
 
 // Moves the stock counters of the document's lines, warehouse by warehouse (tJXC_CkTj).
 void PostStock(const frmDj02& s, bool reversal);

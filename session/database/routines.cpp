@@ -57,4 +57,14 @@ std::string LikePattern(std::string_view text) {
     return pattern;
 }
 
+std::string InQuotes(std::string_view text) {
+    std::string quoted = "'";
+    for (const char c : text) {
+        quoted += c;
+        if (c == '\'')
+            quoted += c;
+    }
+    return quoted + "'";
+}
+
 } // namespace jxc

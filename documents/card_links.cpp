@@ -1,0 +1,65 @@
+// What lies beside the document: the customer's telephone, mail and web page, and the master data screens.
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "documents/document_entry.h"
+#include "session/components.h"
+#include "session/rights.h"
+
+namespace jxc {
+
+namespace {
+
+const std::string kMailPrefix = "mailTo:";
+const std::string kWebPrefix = "http://";
+const std::string kSummaries = "2010";
+constexpr int kLongestNumber = 39;
+
+} // namespace
+
+void Dial(const TextBox& number) {
+    const int length = CharacterCount(number.text);
+    if (length >= 1 && length <= kLongestNumber)
+        CurrentView().DialNumber(number.text);
+}
+
+void OpenMail(const frmDj02& s) {
+    const std::string& address = s.txtE_mail.text;
+    const bool prefixed =
+        EqualsNoCase(MidText(address, 1, static_cast<int>(kMailPrefix.size())), kMailPrefix);
+    CurrentView().OpenAddress(prefixed ? address : kMailPrefix + address);
+}
+
+void OpenWeb(const frmDj02& s) {
+    const std::string& address = s.txtHttp.text;
+    if (address.empty() || address == kWebPrefix)
+        return;
+    CurrentView().OpenAddress(address.starts_with(kWebPrefix) ? address : kWebPrefix + address);
+}
+
+void OpenProducts(frmDj02& s) {
+    if (ModuleRight("mnuJxcSysCp", 0) == 0)
+        return;
+    Screen& products = ScreenNamed("frmCp");
+    products.SetProperty("CpNoEdit", 0);
+    ShowModal(products);
+    RefreshGridStock(s);
+}
+
+void OpenWarehouses(frmDj02& s) {
+    if (ModuleRight("mnuJxcSysCk", 0) == 0)
+        return;
+    ShowModal(ScreenNamed("frmCk"));
+    RefillWarehouses(s);
+}
+
+void OpenSummaries(frmDj02& s) {
+    if (ModuleRight("mnuJxcSysZy", 0) == 0)
+        return;
+    const std::string chosen = ComponentsInUse().codeLists->Edit("", kSummaries, BriefKind::EditEntries);
+    RefillSummaries(s);
+    if (!chosen.empty())
+        s.cboInvMemo.text = chosen;
+}
+
+} // namespace jxc
