@@ -198,8 +198,9 @@ bool IsShownNumber(std::string text) {
 
 } // namespace
 
-Scenario::Scenario(const std::string& name, const std::string& text, Query query, Teller tell)
-    : name_(name), query_(std::move(query)), tell_(std::move(tell)) {
+Scenario::Scenario(const std::string& name, const std::string& text, Query query, Execute execute,
+                   Teller tell)
+    : name_(name), query_(std::move(query)), execute_(std::move(execute)), tell_(std::move(tell)) {
     std::istringstream in(text);
     std::string line;
     for (int number = 1; std::getline(in, line); ++number) {
@@ -270,6 +271,8 @@ void Scenario::Expect(const std::string& verb, const Line& line, const Words& wo
         ExpectScreen(verb == "host" ? "" : words.at(1));
     else if (verb == "rows")
         ExpectRows(RestAfter(line.text, 1));
+    else if (verb == "do")
+        execute_(RestAfter(line.text, 1));
     else if (verb == "let")
         kept_[words.at(1)] = query_(RestAfter(line.text, 2)).At(0, 0).AsText();
     else

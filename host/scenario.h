@@ -34,10 +34,12 @@ namespace jxc {
 class Scenario : public RequestSource {
   public:
     using Query = std::function<Rows(const std::string& sql)>;
+    using Execute = std::function<void(const std::string& sql)>;
     using Teller = std::function<void(const std::string& line)>;
 
-    // `query` answers the statements of rows and let, `tell` takes what say and table write.
-    Scenario(const std::string& name, const std::string& text, Query query, Teller tell);
+    // `query` answers the statements of rows and let, `execute` runs those of do, `tell` takes what say and
+    // table write.
+    Scenario(const std::string& name, const std::string& text, Query query, Execute execute, Teller tell);
 
     // What did not come as expected, a line each, as "name:line: ...".
     const std::vector<std::string>& Failures() const { return failures_; }
@@ -71,6 +73,7 @@ class Scenario : public RequestSource {
     std::string name_;
     std::deque<Line> lines_;
     Query query_;
+    Execute execute_;
     Teller tell_;
     Line current_{0, ""};
     Words asked_; // the expectation that waits for its reply

@@ -116,7 +116,13 @@ int Play(const std::string& company) {
         OpenConnection(DialectOf(company), connection, company, "", "", "");
         return connection.Query(sql);
     };
-    Scenario scenario("tour", kTour, query, [](const std::string& line) { std::cout << line << std::endl; });
+    const auto execute = [&](const std::string& sql) {
+        Connection connection;
+        OpenConnection(DialectOf(company), connection, company, "", "", "");
+        connection.Execute(sql);
+    };
+    Scenario scenario("tour", kTour, query, execute,
+                      [](const std::string& line) { std::cout << line << std::endl; });
     if (!Tell("未如预期：", PlayScenario(control, scenario)))
         return 1;
     const OpenCompany open(company);

@@ -51,6 +51,7 @@ TEST_P(Scenarios, ComeOutAsWritten) {
     Scenario scenario(
         GetParam().file.filename().string(), Contents(GetParam().file),
         [&](const std::string& sql) { return QueryCompany(company.Address(), sql); },
+        [&](const std::string& sql) { ExecuteOnCompany(company.Address(), sql); },
         [&](const std::string& line) { told += line + "\n"; });
     for (const std::string& failure : PlayScenario(control, scenario))
         ADD_FAILURE() << failure;
