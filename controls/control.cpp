@@ -106,6 +106,14 @@ void ListBox::SetIndex(int index) {
     text = VisibleText(index_);
 }
 
+void ListBox::SetText(const std::string& shown) {
+    index_ = -1;
+    for (int i = static_cast<int>(items.size()) - 1; i >= 0; --i)
+        if (VisibleText(i) == shown)
+            index_ = i;
+    text = shown;
+}
+
 void ListBox::Choose(int index) {
     SetIndex(index);
     if (onChoose)

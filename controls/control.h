@@ -150,6 +150,8 @@ struct ListBox : EditBox {
     std::string Chosen() const { return index_ < 0 ? "" : items[static_cast<size_t>(index_)]; }
     // Selects without firing onChoose; -1 for none. The text follows.
     void SetIndex(int index);
+    // Shows a text: the item that reads so, or of none.
+    void SetText(const std::string& text);
     // Selects as a person does, firing onChoose.
     void Choose(int index);
     void Clear();

@@ -107,8 +107,7 @@ void EnterText(Screen& screen, EditBox& box, const std::string& text) {
         return;
     ReplaceText(box, text);
     if (auto* list = dynamic_cast<ListBox*>(&box))
-        if (const int index = ItemWithText(*list, text); index >= 0)
-            list->SetIndex(index);
+        list->SetText(list->text);
     LeaveFocus(screen);
 }
 
@@ -122,16 +121,16 @@ void EnterDate(Screen& screen, DateBox& box, std::optional<Date> date) {
 }
 
 void SetToggle(Screen& screen, Toggle& toggle, bool on) {
+    auto* option = dynamic_cast<OptionButton*>(&toggle);
+    if (option && !on)
+        throw GestureRefused(toggle.name + " 只能选中。");
     if (!GoTo(screen, toggle))
         return;
     Guarded(screen, [&] {
-        if (auto* option = dynamic_cast<OptionButton*>(&toggle)) {
-            if (!on)
-                throw GestureRefused(toggle.name + " 只能选中。");
+        if (option)
             option->Choose();
-        } else {
+        else
             static_cast<CheckBox&>(toggle).Change(on);
-        }
     });
     LeaveFocus(screen);
 }
@@ -190,14 +189,14 @@ void TypeCell(Screen& screen, Grid& grid, int row, int column, const std::string
     if (!grid.CanType(column))
         throw GestureRefused("“" + grid.Column(column).caption + "”不能输入。");
     const Value typed = TypedValue(grid.Column(column), text);
-    if (row != grid.RowCount() + 1)
+    const bool appends = row == grid.RowCount() + 1 && grid.onEnterKey;
+    if (!appends)
         RequireRow(grid, row);
     if (!GoTo(screen, grid))
         return;
-    if (row == grid.RowCount() + 1) {
+    if (appends) {
         grid.selectedRow = grid.RowCount();
-        if (grid.onEnterKey)
-            Guarded(screen, grid.onEnterKey);
+        Guarded(screen, grid.onEnterKey);
         RequireRow(grid, row);
     }
     grid.selectedRow = row;

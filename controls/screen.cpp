@@ -1,5 +1,7 @@
 #include "controls/screen.h"
 
+#include <cmath>
+
 #include "controls/text.h"
 #include "controls/view.h"
 
@@ -34,6 +36,16 @@ void Screen::AddTextProperty(std::string property, std::string& text) {
 void Screen::AddProperty(std::string property, std::function<void(const Value&)> set,
                          std::function<Value()> get) {
     properties_[std::move(property)] = {std::move(set), std::move(get)};
+}
+
+std::int64_t Screen::WholeNumber(const std::string& property, const Value& value, std::int64_t least,
+                                 std::int64_t most) {
+    const bool numeric = value.IsNumber() || (value.IsText() && IsNumericText(value.AsText()));
+    const double number = value.AsDouble();
+    if (!numeric || number != std::floor(number) || number < static_cast<double>(least) ||
+        number > static_cast<double>(most))
+        throw ScreenError("属性 " + property + " 的值 " + value.AsText() + " 不是范围内的整数。");
+    return static_cast<std::int64_t>(number);
 }
 
 const Screen::Property& Screen::FindProperty(std::string_view property) const {

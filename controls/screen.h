@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <limits>
 #include <map>
 #include <memory>
 #include <stdexcept>
@@ -46,14 +47,17 @@ struct Screen {
     // Public properties, for openers and scripts.
     template <typename Number>
     void AddNumberProperty(std::string property, Number& number) {
-        properties_[std::move(property)] = {
-            [&number](const Value& v) { number = static_cast<Number>(v.AsLong()); },
-            [&number] { return Value(static_cast<std::int64_t>(number)); }};
+        const auto set = [&number, property](const Value& value) {
+            number = static_cast<Number>(WholeNumber(property, value, std::numeric_limits<Number>::min(),
+                                                     std::numeric_limits<Number>::max()));
+        };
+        AddProperty(property, set, [&number] { return Value(static_cast<std::int64_t>(number)); });
     }
     void AddTextProperty(std::string property, std::string& text);
     void AddProperty(std::string property, std::function<void(const Value&)> set, std::function<Value()> get);
     void SetProperty(std::string_view property, const Value& value); // ScreenError for an unknown name
     Value GetProperty(std::string_view property) const;
+    bool HasProperty(std::string_view property) const { return properties_.contains(property); }
 
     const std::string name;
     std::string title;
@@ -64,6 +68,9 @@ struct Screen {
         std::function<void(const Value&)> set;
         std::function<Value()> get;
     };
+    // The whole number that a value holds; a ScreenError when it is none, or out of range.
+    static std::int64_t WholeNumber(const std::string& property, const Value& value, std::int64_t least,
+                                    std::int64_t most);
     const Property& FindProperty(std::string_view property) const;
 
     std::vector<Control*> controls_;

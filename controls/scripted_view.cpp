@@ -10,6 +10,8 @@ void ScriptedView::RunModal(Screen& screen) {
 
 BoxButton ScriptedView::ShowBox(const MessageBox& box) {
     boxes.push_back(box);
+    if (answer_)
+        return answer_(box);
     if (answers_.empty())
         return box.buttons.front();
     const BoxButton answer = answers_.front();

@@ -20,6 +20,8 @@ class ScriptedView : public View {
     }
     // The answers to the boxes to come. Without one, a box is answered by its first button.
     void Answer(BoxButton button) { answers_.push_back(button); }
+    // Answers every box from now on by a routine.
+    void AnswerWith(std::function<BoxButton(const MessageBox&)> answer) { answer_ = std::move(answer); }
 
     std::vector<MessageBox> boxes;    // shown so far
     std::vector<std::string> screens; // opened so far
@@ -41,6 +43,7 @@ class ScriptedView : public View {
   private:
     std::map<std::string, std::function<void(Screen&)>> routines_;
     std::deque<BoxButton> answers_;
+    std::function<BoxButton(const MessageBox&)> answer_;
 };
 
 } // namespace jxc

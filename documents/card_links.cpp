@@ -56,10 +56,8 @@ void OpenWarehouses(frmDj02& s) {
 void OpenSummaries(frmDj02& s) {
     if (ModuleRight("mnuJxcSysZy", 0) == 0)
         return;
-    const std::string chosen = ComponentsInUse().codeLists->Edit("", kSummaries, BriefKind::EditEntries);
+    ComponentsInUse().codeLists->Edit("", kSummaries, BriefKind::EditEntries);
     RefillSummaries(s);
-    if (!chosen.empty())
-        s.cboInvMemo.text = chosen;
 }
 
 } // namespace jxc

@@ -104,6 +104,7 @@ void RefreshCustomer(frmDj02& s) {
 
 void ShowCustomer(frmDj02& s, std::int64_t id) {
     s.cboKhList.Clear();
+    s.cboKhAdd.Clear();
     s.txtKhSeek.text.clear();
     s.txtKhSeek.tag.clear();
     ClearCardFields(s);

@@ -39,7 +39,7 @@ void WireHead(frmDj02& s) {
     s.cboCkName2.onChoose = [&s] { ChooseWarehouse(s, true); };
     s.cboInvHb.onChoose = [&s] { ChooseCurrency(s); };
     s.txtKhSeek.onKey = [&s](const std::string& key) {
-        if (key == "Enter")
+        if (key == "Enter" && CheckNoQuote(s.txtKhSeek.text))
             SeekCustomer(s);
     };
     s.cboKhList.visibleText = CustomerNameOf;
@@ -145,7 +145,12 @@ void frmDj02::Open() {
         ResetDocument(*this);
         return;
     }
-    if (oldInvID > 0 && !LoadDocument(*this, fromSource ? OldType : invType, oldInvID))
+    if (oldInvID <= 0) {
+        ResetDocument(*this); // nothing in hand: the save command asks for a document
+        cmdSave.enabled = InHand() != DocAction::Query;
+        return;
+    }
+    if (!LoadDocument(*this, fromSource ? OldType : invType, oldInvID))
         return Close();
     MoveFocus(IsEditing(InHand()) ? static_cast<Control*>(&dtpInvDate) : &cmdSave);
 }

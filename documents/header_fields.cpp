@@ -68,7 +68,9 @@ void ChooseCurrency(frmDj02& s) {
 }
 
 void FormatPayment(frmDj02& s) {
-    s.txtSsSf.text = IsNumericText(s.txtSsSf.text) ? FormatFixed(Val(s.txtSsSf.text), 2) : "0.00";
+    std::string typed = s.txtSsSf.text;
+    std::erase(typed, ',');
+    s.txtSsSf.text = IsNumericText(typed) ? FormatFixed(Val(typed), 2) : "0.00";
 }
 
 } // namespace jxc

@@ -60,7 +60,13 @@ void LeaveProductCell(frmDj02& s, int row, int column) {
     (column == line::kCode ? sought.code : sought.name) = typed;
     sought.warehouse = StockWarehouse(s);
     sought.stock = 0;
-    const std::int32_t id = FindProduct(sought);
+    std::int32_t id = 0;
+    try {
+        id = FindProduct(sought);
+    } catch (...) {
+        ClearRow(grid, row); // a row never keeps a product that its code does not name
+        throw;
+    }
     if (id == 0)
         return ClearRow(grid, row);
     if (const int other = GridHasValue(grid, row, sought.code); other > 0) {
@@ -175,8 +181,9 @@ void SetReturnSign(frmDj02& s) {
 
 void SpreadTaxRate(frmDj02& s) {
     s.txtTaxRate.text = FormatFixed(Val(s.txtTaxRate.text), 4);
-    if (!IsEditing(s.InHand()))
-        return;
+    if (!IsEditing(s.InHand()) || s.txtTaxRate.text == s.txtTaxRate.tag)
+        return; // only a change goes into the rows
+    s.txtTaxRate.tag = s.txtTaxRate.text;
     for (int row = 1; row <= s.Grid2.RowCount(); ++row)
         s.Grid2.SetCell(row, line::kTaxRate, Val(s.txtTaxRate.text));
 }

@@ -45,7 +45,7 @@ void ShowApprover(frmDj02& s, const std::string& approver) {
 
 void LoadHeader(frmDj02& s, int sourceType, const Recordset& header) {
     const auto text = [&](const char* field) { return header[field].AsText(); };
-    s.txtHtNo.text = OrderNumber(s, sourceType, header);
+    s.txtHtNo.text = s.type.fSetDjDd_ ? OrderNumber(s, sourceType, header) : "";
     s.txtNo.text = s.txtNo.tag = text("fInvNo");
     s.dtpInvDate.date = ParseDate(text("fInvDate"));
     ShowText(s.cboInvHb, text("fInvHb"));
@@ -140,8 +140,11 @@ void StartFromSource(frmDj02& s) {
 
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
     const std::string stem = BookStem(sourceType, s.JzState == 1);
+    s.txtSsSf.text = "0.00";
     try {
-        if (DbCount(stem + "01", "fInvID = " + std::to_string(key)) < 1) {
+        const std::string state =
+            StoredState(stem, key); // before the rest is read: a change in between is noticed
+        if (state.empty()) {
             Warn(s.title, "该[单号]已不存在!");
             return false;
         }
@@ -154,9 +157,10 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         if (s.InHand() == DocAction::New)
             StartFromSource(s);
         else
-            s.loadedState = StoredState(stem, key);
+            s.loadedState = state;
         return true;
     } catch (const DatabaseError&) {
+        s.cmdSave.enabled = false; // what the screen shows is no document
         Warn(s.title, "系统数据错误，操作已经取消！");
         return false;
     }

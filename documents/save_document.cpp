@@ -18,6 +18,9 @@ namespace {
 constexpr int kMemoBytes = 20;
 constexpr int kAddressBytes = 50;
 
+const std::string kNumberTaken = "该[单号]已有存在!";
+const std::string kNumberTakenByOther = "：该[单号]已另有存在!";
+
 // Shows why saving stops and puts the focus on the field.
 bool Refuse(frmDj02& s, const std::string& text, Control* field = nullptr) {
     Warn(s.title, text);
@@ -27,8 +30,10 @@ bool Refuse(frmDj02& s, const std::string& text, Control* field = nullptr) {
 }
 
 bool DocumentInHand(frmDj02& s) {
-    if (s.oldInvID != 0)
-        return true;
+    if (s.oldInvID != 0) {
+        const bool approved = !s.lblSHR.caption.empty() && s.InHand() != DocAction::Reverse;
+        return !approved || Refuse(s, "该单据已经审核！");
+    }
     const char* const verbs[] = {"", "", "修改", "删除", "审核", ""};
     const std::string verb = verbs[s.Action];
     if (verb.empty())
@@ -78,7 +83,10 @@ bool OrderFits(frmDj02& s) {
     const std::string number = s.txtHtNo.text;
     if (s.InHand() == DocAction::Delete || s.InHand() == DocAction::Reverse || number.empty())
         return true;
-    if (DbCount("tJXC_CkHt01", "fInvNo='" + number + "'") < 1)
+    const int found = DbCount("tJXC_CkHt01", "fInvNo='" + number + "'");
+    if (found < 0)
+        return Refuse(s, "无法检查订单号 " + number + " 是否存在，操作已经取消！");
+    if (found == 0)
         return Refuse(s, "订单号 " + number + " 不存在 ！", &s.txtHtNo);
     const int orderType =
         static_cast<int>(Val(DbScalar("Select fInvType From tJXC_CkHt01 Where fInvNo='" + number + "'")));
@@ -120,7 +128,7 @@ bool MayGoOn(frmDj02& s, const std::string& stem) {
     if (s.type.IsKit() && KitQuantity(s) == 0)
         return Refuse(s, "请输入产品套数！", &s.txtInvSL);
     const bool renumbered = s.InHand() == DocAction::Change && s.Number() != s.txtNo.tag;
-    return !renumbered || NumberIsFree(s, stem, s.Number() + "：该[单号]已另有存在!");
+    return !renumbered || NumberIsFree(s, stem, s.Number() + kNumberTakenByOther);
 }
 
 bool LinesGiven(frmDj02& s) {
@@ -147,8 +155,6 @@ bool InTransaction(frmDj02& s, const std::function<std::string()>& write) {
     return refusal.empty() || Refuse(s, refusal);
 }
 
-const std::string kNumberTaken = "该[单号]已有存在!";
-
 // Key and number are taken inside the transaction, where no other user can come between.
 std::string WriteNew(frmDj02& s, const std::string& stem) {
     const std::string refusal = NumberRefusal(s, stem, kNumberTaken);
@@ -158,6 +164,15 @@ std::string WriteNew(frmDj02& s, const std::string& stem) {
     WriteHeader(s, stem);
     WriteLines(s, stem);
     return "";
+}
+
+// The document is saved by now: a printer that fails is told and changes nothing else.
+void PrintSaved(frmDj02& s) {
+    try {
+        PrintDocument(s);
+    } catch (const std::exception& error) {
+        Warn(s.title, error.what());
+    }
 }
 
 void SaveNew(frmDj02& s, const std::string& stem) {
@@ -176,7 +191,7 @@ void SaveNew(frmDj02& s, const std::string& stem) {
     if (s.parameters.approveOnSave)
         RunApproval(s, false, false);
     if (s.parameters.printOnSave || AskYesNo(s.title, "单据新增完毕。打印本张单据？"))
-        PrintDocument(s);
+        PrintSaved(s);
     s.oldInvID = 0;
     ResetDocument(s);
 }
@@ -186,7 +201,9 @@ void SaveChange(frmDj02& s, const std::string& stem) {
     if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
         return;
     const auto write = [&] {
-        const std::string refusal = ChangedMeanwhile(s, stem);
+        std::string refusal = ChangedMeanwhile(s, stem);
+        if (refusal.empty() && s.Number() != number)
+            refusal = NumberRefusal(s, stem, s.Number() + kNumberTakenByOther);
         if (!refusal.empty())
             return refusal;
         WriteHeader(s, stem);
@@ -199,7 +216,7 @@ void SaveChange(frmDj02& s, const std::string& stem) {
     Inform(s.title, number + "：单据修改完毕！");
     s.cmdSave.enabled = false;
     if (AskOkCancel(s.title, "打印本张单据？"))
-        PrintDocument(s);
+        PrintSaved(s);
     s.Close();
 }
 

@@ -17,10 +17,11 @@ namespace {
 
 const std::string kSummaries = "2010"; // the code list of document summaries
 
+// The choice before a list was filled anew, also when the list no longer offers it.
 void KeepText(ListBox& list, const std::string& text) {
-    list.SetIndex(ComboIndexByText(list, text));
-    if (list.editable)
-        list.text = text;
+    if (!list.editable && !text.empty() && ComboIndexByText(list, text) < 0)
+        list.items.push_back(text);
+    list.SetText(text);
 }
 
 void FillWarehouses(ListBox& list, int kind) {
@@ -75,7 +76,7 @@ void ShapeByType(frmDj02& s) {
     Show(type.fSetHbSl_ && s.parameters.taxWay != TaxWay::None, {&s.lblTaxRate, &s.txtTaxRate});
     Show(type.fSetDjType2 == 5, {&s.lblZkl, &s.txtZkl});
     Show(type.fSetDjType1 != -1, {&s.lblSum2, &s.txtSum2});
-    Show(type.fSetDjBack_, {&s.chkTh, &s.lblTh, &s.shpTh});
+    Show(type.fSetDjBack_, {&s.lblTh, &s.shpTh});
     Show(OffersPayment(s), {&s.lblSsSf, &s.txtSsSf});
     s.chkTh.value = type.fSetDjBack_;
     if (!type.fSetDjDd_)
@@ -99,6 +100,7 @@ void AllowByAction(frmDj02& s) {
 
 void SetStartingValues(frmDj02& s) {
     s.txtTaxRate.text = s.parameters.taxWay == TaxWay::None ? "0" : FormatFixed(s.parameters.taxRate, 4);
+    s.txtTaxRate.tag = s.txtTaxRate.text;
     s.txtZkl.text = s.InHand() == DocAction::New ? "1.00" : "0.00";
     s.txtSsSf.text = "0.00";
     s.txtMemo.text.clear();
@@ -166,7 +168,6 @@ void ResetDocument(frmDj02& s) {
         box->tag.clear();
     }
     s.cboInvMemo.SetIndex(-1);
-    s.cboInvJbr.SetIndex(-1);
     s.cboKhList.Clear();
     s.cboKhAdd.Clear();
     ClearCardFields(s);

@@ -12,9 +12,8 @@ namespace {
 const std::string kFields = "Insert INTO tJXC_CpGys (fCpID,fKhID,fCpSl,fCpPrice,fInvDate,fInvNo)"
                             " SELECT fCpID,fKhID,fInvSl,fInvDJ,fInvDate,fInvNo From tJXC_CkDj02 ";
 
-bool Failed(const DatabaseError& error) {
-    Warn("", std::string("刷新产品供应商错误：") + error.what());
-    return false;
+std::string WarningOf(const DatabaseError& error) {
+    return std::string("刷新产品供应商错误：") + error.what();
 }
 
 // The first row of each product is its latest purchase.
@@ -34,14 +33,14 @@ void SetLatestSuppliers() {
 
 } // namespace
 
-bool RefreshSupplierByDocument(const std::string& number, bool reversal) {
+std::string RefreshSupplierByDocument(const std::string& number, bool reversal) {
     const std::string statement = reversal ? "Delete From tJXC_CpGys Where fInvNo ='" + number + "' "
                                            : kFields + "Where fInvNo ='" + number + "'";
     try {
         Conn().Tolerantly([&] { Conn().Execute(statement); });
-        return true;
+        return "";
     } catch (const DatabaseError& error) {
-        return Failed(error);
+        return WarningOf(error);
     }
 }
 
@@ -57,7 +56,8 @@ bool RefreshSupplierAll(Date from) {
         Conn().Flush();
         return true;
     } catch (const DatabaseError& error) {
-        return Failed(error);
+        Warn("", WarningOf(error));
+        return false;
     }
 }
 

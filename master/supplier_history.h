@@ -8,8 +8,9 @@
 namespace jxc {
 
 // Adds an approved receipt's lines to the history, or with `reversal` takes them out. Inside the caller's
-// transaction, which stays usable when this fails: the failure is told to the user and gives false.
-bool RefreshSupplierByDocument(const std::string& number, bool reversal);
+// transaction, which stays usable when this fails. "" on success, else the warning for the user: the caller
+// shows it when the transaction is over, since other users wait for its end.
+std::string RefreshSupplierByDocument(const std::string& number, bool reversal);
 
 // Reads the history from a date on anew from the approved receipts, and sets each product's supplier
 // (tJXC_Cp) to that of its latest purchase. Without a transaction: what was done before a failure stands, and

@@ -100,17 +100,27 @@ const DispatchRow kDispatch[] = {
     {29, Always, "frmYj_Step", Nothing},
 };
 
-void ShowScreen(int action, const ScreenProperties& properties) {
-    for (const DispatchRow& row : kDispatch) {
-        if (row.action != action || !row.when())
-            continue;
-        Screen& screen = ScreenNamed(row.screen);
-        row.prepare(screen);
-        for (const auto& [name, value] : properties)
-            screen.SetProperty(name, value);
-        ShowModal(screen);
-        return;
-    }
+const DispatchRow* RowOf(int action) {
+    for (const DispatchRow& row : kDispatch)
+        if (row.action == action && row.when())
+            return &row;
+    return nullptr;
+}
+
+// A host's mistake in a property is told before anything is opened or set.
+void CheckProperties(const DispatchRow* row, const ScreenProperties& properties) {
+    const Screen* screen = row ? FindScreen(row->screen) : nullptr;
+    for (const auto& [name, value] : properties)
+        if (screen && !screen->HasProperty(name))
+            throw ScreenError(screen->name + " 没有属性 " + name + "。");
+}
+
+void ShowScreen(const DispatchRow& row, const ScreenProperties& properties) {
+    Screen& screen = ScreenNamed(row.screen);
+    row.prepare(screen);
+    for (const auto& [name, value] : properties)
+        screen.SetProperty(name, value);
+    ShowModal(screen);
 }
 
 void CloseConnection() noexcept {
@@ -126,6 +136,9 @@ void CloseConnection() noexcept {
 } // namespace
 
 void lzJxc::Refresh(std::int16_t RAction, const ScreenProperties& properties) {
+    const DispatchRow* row = RowOf(RAction);
+    CheckProperties(row, properties);
+    std::string failure;
     try {
         if (!session.Conn)
             session.Conn = std::make_unique<Connection>();
@@ -133,11 +146,14 @@ void lzJxc::Refresh(std::int16_t RAction, const ScreenProperties& properties) {
                        session.Default);
         session.CompanyFieldList.clear();
         CompanyFields();
-        ShowScreen(RAction, properties);
+        if (row)
+            ShowScreen(*row, properties);
     } catch (const std::exception& error) {
-        Warn(session.CompName, error.what());
+        failure = error.what();
     }
     CloseConnection();
+    if (!failure.empty())
+        Warn(session.CompName, failure);
 }
 
 } // namespace jxc

@@ -63,10 +63,15 @@ void GridSort(Grid& grid, int column, bool skip) {
     if (skip)
         return;
     const bool ascending = !(grid.sortedColumn == column && grid.sortedAscending);
-    if (grid.sortedColumn > 0)
-        RemoveMark(grid.Column(grid.sortedColumn).caption);
+    ClearSortMark(grid);
     grid.Sort(column, ascending);
     grid.Column(column).caption += ascending ? kUp : kDown;
+}
+
+void ClearSortMark(Grid& grid) {
+    if (grid.sortedColumn > 0)
+        RemoveMark(grid.Column(grid.sortedColumn).caption);
+    grid.sortedColumn = 0;
 }
 
 } // namespace jxc

@@ -21,5 +21,7 @@ int GridFindValue(Grid& grid, std::int64_t value);
 // Nothing with `skip`; otherwise sorts by the column, the same column again swaps the direction. The heading
 // of the sorted column ends in "↑" or "↓", the mark of the one before goes.
 void GridSort(Grid& grid, int column, bool skip = false);
+// Takes the mark away: the rows were filled anew, in their own order.
+void ClearSortMark(Grid& grid);
 
 } // namespace jxc

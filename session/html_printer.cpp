@@ -4,6 +4,8 @@
 #include <fstream>
 #include <stdexcept>
 
+#include <stdlib.h>
+
 #include "controls/view.h"
 #include "session/session.h"
 
@@ -76,9 +78,20 @@ std::string GridTable(const Grid& grid) {
     return html + "</table>\n";
 }
 
+// Without a folder of the host, a new one that only this user can read: printouts hold the company's figures.
+std::filesystem::path PrivateFolder() {
+    static const std::string made = [] {
+        std::string name = (std::filesystem::temp_directory_path() / "jxc-print-XXXXXX").string();
+        if (!mkdtemp(name.data()))
+            throw std::runtime_error("无法建立打印目录 " + name + "。");
+        return name;
+    }();
+    return made;
+}
+
 std::filesystem::path SheetFolder() {
-    const std::filesystem::path base = session.PowerPath.empty() ? std::filesystem::temp_directory_path()
-                                                                 : std::filesystem::path(session.PowerPath);
+    const std::filesystem::path base =
+        session.PowerPath.empty() ? PrivateFolder() : std::filesystem::path(session.PowerPath);
     const std::filesystem::path folder = base / "Sheet";
     std::filesystem::create_directories(folder);
     return folder;

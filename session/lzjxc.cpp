@@ -84,6 +84,8 @@ void lzJxc::Password(std::string text) {
     session.Password = std::move(text);
 }
 void lzJxc::Language(std::int16_t language) {
+    if (language != 0 && language != 1)
+        throw ScreenError("属性 Language 须为 0 或 1。");
     session.Language = language;
 }
 std::string lzJxc::myModel() const {
@@ -143,8 +145,6 @@ void lzJxc::SetProperty(std::string_view name, const Value& value) {
     const auto found = setters.find(name);
     if (found == setters.end())
         throw ScreenError("没有属性 " + std::string(name) + "。");
-    if (name == "Language" && ShortOf(name, value) != 0 && ShortOf(name, value) != 1)
-        throw ScreenError("属性 Language 须为 0 或 1。");
     found->second(*this, name, value);
 }
 
@@ -177,7 +177,7 @@ void lzJxc::ReadProperties(const PropertyBag& bag) {
     session.myPower = text("myPower", "0000");
     session.myType = number("myType", -1);
     session.SQLData = number("SQLData", 0);
-    session.Language = number("Language", 0);
+    session.Language = number("Language", 0) == 1 ? 1 : 0;
     session.Password = text("Password", "");
     session.UserID = text("UserID", "");
     session.Default = text("Default", "");

@@ -45,7 +45,8 @@ class lzJxc {
 
     // Opens the company, shows the screen of that number until it is closed, and closes the company. A number
     // without a screen opens and closes only. A company that cannot be opened is told in a message box.
-    // `properties` are set on the screen after the number's own settings.
+    // `properties` are set on the screen after the number's own settings; a name that the screen does not
+    // have is a ScreenError before anything is opened.
     void Refresh(std::int16_t RAction, const ScreenProperties& properties = {});
 
     void SQLData(std::int16_t dialect); // sets the date delimiter too

@@ -78,7 +78,7 @@ void QueryIfThereAreProducts(frmCkKc& s) {
 
 void Print(frmCkKc& s) {
     auto& fields = session.CompanyFieldList;
-    const size_t company = fields.size();
+    const std::vector<std::string> company = fields;
     const bool all = !s.chkCk.value || s.cboCk.text.empty();
     fields.push_back(s.chkCk.caption);
     fields.push_back(all ? "所有仓库" : s.cboCk.text);
@@ -87,8 +87,13 @@ void Print(frmCkKc& s) {
         fields.push_back("单价取值");
         fields.push_back(options[s.ChosenPrice()]->caption);
     }
-    PrintGrid(s.Grid1, s.title, s.title, "");
-    fields.resize(company);
+    try {
+        PrintGrid(s.Grid1, s.title, s.title, "");
+    } catch (...) {
+        fields = company;
+        throw;
+    }
+    fields = company;
 }
 
 } // namespace

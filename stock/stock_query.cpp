@@ -3,6 +3,7 @@
 #include "controls/view.h"
 #include "session/database/recordset.h"
 #include "session/database/routines.h"
+#include "session/grid_routines.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -161,8 +162,7 @@ void QueryStock(frmCkKc& s) {
         if (!row["fCpCode"].IsNull()) // the product may be gone
             FillRow(s, ++filled, row);
     s.Grid1.SetRowCount(filled);
-    if (s.Grid1.sortedColumn > 0)
-        s.Grid1.Sort(s.Grid1.sortedColumn, s.Grid1.sortedAscending);
+    ClearSortMark(s.Grid1);
     ColorRows(s);
     if (filled == 0)
         Warn(s.title, s.chkKcBj.value ? "未有符合条件的产品库存报警记录！" : "未有符合条件的产品库存记录！");

@@ -28,7 +28,8 @@ void PostOrderBalance(const frmDj02& s, bool reversal) {
         Conn().Execute("Update tJXC_CkHt02 Set fInvSL2=fInvSL2-" + amount + " Where fInvID=" + key +
                        " And fInvSL2>0 And fCpID=" + s.Grid2.Text(row, line::kProduct));
     }
-    Conn().Execute("Update tJXC_CkHt02 Set fInvSL2=0 Where fInvID=" + key + " And fInvSL2<0");
+    Conn().Execute("Update tJXC_CkHt02 Set fInvSL2=0 Where fInvID=" + key +
+                   " And fInvSL2<0.000000001"); // what is left of binary fractions is nothing
 }
 
 void MarkProduced(const frmDj02& s) {

@@ -36,8 +36,9 @@ void PostCustomerAccount(const frmDj02& s, bool reversal) {
 }
 
 void PostMoneyAccount(const frmDj02& s, bool reversal) {
-    const auto account = static_cast<std::int64_t>(
-        Val(DbScalar("Select fZhID from tJXC_Ck Where fCkName=" + InQuotes(s.cboCkName.Chosen()))));
+    const Recordset warehouse(Conn(),
+                              "Select fZhID from tJXC_Ck Where fCkName=" + InQuotes(s.cboCkName.Chosen()));
+    const std::int64_t account = warehouse.AtEnd() ? 0 : warehouse["fZhID"].AsLong();
     if (account > 0)
         PostAccountEntry(s, 1, s.type.fSetZjType == 3 ? 2 : 1, account, reversal);
 }
@@ -47,8 +48,9 @@ void MarkApproved(const frmDj02& s, const std::string& stem, bool reversal) {
                    " Where fInvID=" + std::to_string(s.oldInvID));
 }
 
-// What the type's row says is to be done, in its fixed order.
-std::vector<Stage> StagesOf(const frmDj02& s, const std::string& stem, bool reversal) {
+// What the type's row says is to be done, in its fixed order. `warning` takes what is to be told after the
+// commit.
+std::vector<Stage> StagesOf(const frmDj02& s, const std::string& stem, bool reversal, std::string& warning) {
     const TypeRow& type = s.type;
     std::vector<Stage> stages;
     const bool refersToOrder = !s.txtHtNo.text.empty();
@@ -60,10 +62,10 @@ std::vector<Stage> StagesOf(const frmDj02& s, const std::string& stem, bool reve
     if (type.fSetCkType1 >= 0 && !s.cboCkName.Chosen().empty())
         stages.push_back({"更新仓库的产品“库存成本表”", [&s, reversal] { PostStock(s, reversal); }});
     if (type.fSetTjType == 0 || type.fSetTjType == 1)
-        stages.push_back({"更新“整体成本价”", [&s, reversal] {
+        stages.push_back({"更新“整体成本价”", [&s, &warning, reversal] {
                               PostOverallCost(s, reversal);
                               if (s.invType == 1)
-                                  RefreshSupplierByDocument(s.Number(), reversal);
+                                  warning = RefreshSupplierByDocument(s.Number(), reversal);
                           }});
     if (type.fSetTjType == 2 && !reversal)
         stages.push_back({"读取“动态成本价”", [&s] { ReadCostPrice(s); }});
@@ -90,16 +92,33 @@ void RunStage(const Stage& stage) {
     }
 }
 
+// Why the host's funds module forbids a reversal, "" when it does not. Errors are thrown: a check that could
+// not be made must not let the reversal pass.
+std::string CheckedAccountEntry(const frmDj02& s) {
+    const std::string date = Dialect(" And fDate=", " And Convert(varchar(10),fDate,120)=") +
+                             session.DateDelimiter +
+                             (session.IsJet() ? SlashText(*s.dtpInvDate.date) : IsoText(*s.dtpInvDate.date)) +
+                             session.DateDelimiter;
+    Recordset entry(Conn(), "Select fChecker From tAccountDetail Where fInvID='" + s.Number() + "'" + date);
+    for (; !entry.AtEnd(); entry.MoveNext())
+        if (!entry["fChecker"].AsText().empty())
+            return "该单据所对应的“挂帐凭证”已经审核，不能进行单据反审核操作！\n\n"
+                   "须先在《资金管理系统》的 [客户往来帐]/[内部资金帐] 中，反审核该单据的“挂帐凭证”。";
+    return "";
+}
+
 // Runs the stages in one transaction. The message for the user when nothing was done, "" on success.
-std::string Post(const frmDj02& s, bool reversal, const std::string& verb) {
+std::string Post(const frmDj02& s, bool reversal, const std::string& verb, std::string& warning) {
     const std::string stem = BookStem(s.invType, false);
     std::string stageName = "单据审核标志处理";
     try {
         Transaction transaction(Conn());
-        const std::string refusal = ChangedMeanwhile(s, stem);
+        std::string refusal = ChangedMeanwhile(s, stem);
+        if (refusal.empty() && reversal)
+            refusal = CheckedAccountEntry(s);
         if (!refusal.empty())
             return refusal;
-        const std::vector<Stage> stages = StagesOf(s, stem, reversal);
+        const std::vector<Stage> stages = StagesOf(s, stem, reversal, warning);
         for (size_t i = 0; i < stages.size(); ++i) {
             stageName = stages[i].name;
             CurrentView().ShowProgress(stageName, static_cast<int>(i), static_cast<int>(stages.size()));
@@ -118,24 +137,9 @@ void ShowApproval(frmDj02& s, const std::string& approver) {
     s.lblSHR.visible = s.shpSHR.visible = !approver.empty();
 }
 
-// The check of the reversal against the host's funds module.
-bool AccountEntryIsOpen(frmDj02& s) {
-    const std::string date = Dialect(" And fDate=", " And Convert(varchar(10),fDate,120)=") +
-                             session.DateDelimiter +
-                             (session.IsJet() ? SlashText(*s.dtpInvDate.date) : IsoText(*s.dtpInvDate.date)) +
-                             session.DateDelimiter;
-    if (DbScalar("Select fChecker From tAccountDetail Where fInvID='" + s.Number() + "'" + date).empty())
-        return true;
-    Warn(s.title, "该单据所对应的“挂帐凭证”已经审核，不能进行单据反审核操作！\n\n"
-                  "须先在《资金管理系统》的 [客户往来帐]/[内部资金帐] 中，反审核该单据的“挂帐凭证”。");
-    return false;
-}
-
 } // namespace
 
 std::string ChangedMeanwhile(const frmDj02& s, const std::string& stem) {
-    if (s.InHand() == DocAction::New)
-        return "";
     const std::string key = std::to_string(s.oldInvID);
     const Recordset row(Conn(), "select fInvSHR from " + stem + "01 Where fInvID=" + key);
     if (row.AtEnd())
@@ -145,6 +149,8 @@ std::string ChangedMeanwhile(const frmDj02& s, const std::string& stem) {
         return "该单据已经审核！";
     if (!approved && s.InHand() == DocAction::Reverse)
         return "该单据尚未审核！";
+    if (s.InHand() == DocAction::New)
+        return "";
     return StoredState(stem, s.oldInvID) == s.loadedState ? "" : "该单据已被其他用户修改，请重新打开！";
 }
 
@@ -159,12 +165,15 @@ bool RunApproval(frmDj02& s, bool reversal, bool prompted) {
         Warn(s.title, "请先登录用户，才能够" + verb + "单据！");
         return false;
     }
-    const std::string failure = Post(s, reversal, verb);
+    std::string warning;
+    const std::string failure = Post(s, reversal, verb, warning);
     CurrentView().ShowProgress("", 0, 0);
     if (!failure.empty()) {
         Warn(s.title, failure);
         return false;
     }
+    if (!warning.empty())
+        Warn(s.title, warning);
     if (prompted)
         Inform(s.title, s.Number() + "：单据" + verb + "完毕！");
     ShowApproval(s, reversal ? "" : session.UserName);
@@ -173,12 +182,17 @@ bool RunApproval(frmDj02& s, bool reversal, bool prompted) {
 
 void ReverseApproval(frmDj02& s) {
     const std::string approver = s.lblSHR.caption;
+    if (approver.empty())
+        return Warn(s.title, "该单据尚未审核！");
     if (session.UserName != session.ZgName && session.UserName != approver) {
         Warn(s.title, "反审核：必须是“系统管理员”或者是该单据原“审核人”，才能够操作！");
         return;
     }
-    if (AccountEntryIsOpen(s))
+    const std::string refusal = CheckedAccountEntry(s);
+    if (refusal.empty())
         RunApproval(s, true, true);
+    else
+        Warn(s.title, refusal);
 }
 
 } // namespace jxc

@@ -1,0 +1,203 @@
+#include "tests/support/clerk.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <stdexcept>
+
+#include "controls/gestures.h"
+#include "controls/text.h"
+#include "host/screens.h"
+#include "session/book.h"
+#include "session/database/routines.h"
+#include "session/session.h"
+
+namespace jxc::test {
+
+namespace {
+
+void TypeLines(frmDj02& s, const std::vector<LineInput>& lines) {
+    int row = 0;
+    for (const LineInput& input : lines) {
+        TypeCell(s, s.Grid2, ++row, line::kCode, input.code);
+        const int quantityColumn = s.type.IsStocktake() ? line::kCounted : line::kQuantity;
+        TypeCell(s, s.Grid2, row, quantityColumn, NumberText(input.quantity));
+        if (s.Grid2.CanType(line::kPrice) && !s.type.IsStocktake())
+            TypeCell(s, s.Grid2, row, line::kPrice, NumberText(input.price));
+    }
+}
+
+void EnterDocument(frmDj02& s, const DocumentInput& input) {
+    EnterDate(s, s.dtpInvDate, ParseDate(input.date));
+    if (!input.warehouse.empty())
+        ChooseItem(s, s.cboCkName, ItemWithText(s.cboCkName, input.warehouse));
+    if (!input.warehouse2.empty())
+        ChooseItem(s, s.cboCkName2, ItemWithText(s.cboCkName2, input.warehouse2));
+    if (!input.customer.empty()) {
+        EnterText(s, s.txtKhSeek, input.customer);
+        PressKey(s, s.txtKhSeek, "Enter");
+    }
+    if (!input.order.empty())
+        EnterText(s, s.txtHtNo, input.order);
+    if (!input.product.empty()) {
+        EnterText(s, s.txtCpCode, input.product);
+        PressKey(s, s.txtCpCode, "Enter");
+        EnterText(s, s.txtInvSL, std::to_string(input.pieces));
+    }
+    TypeLines(s, input.lines);
+}
+
+} // namespace
+
+const std::vector<int>& AllTypes() {
+    static const std::vector<int> types{0,  1, -1, 2,  -2, 3,  4,  5,  -5, 6,
+                                        -6, 7, -7, 20, 21, 22, 23, 24, 31, 32};
+    return types;
+}
+
+DocumentInput TypicalDocument(int type) {
+    DocumentInput input{.type = type, .lines = {{"CPU002", 3, 610}, {"MEM002", 5, 171.5}}};
+    switch (type) {
+    case 1:
+    case -1:
+        input.customer = "G001";
+        break;
+    case 2:
+    case -2:
+        input.customer = "X001";
+        break;
+    case 3:
+        input.warehouse = "总部仓", input.warehouse2 = "零售门市";
+        break;
+    case 4:
+        input.warehouse = "总部仓";
+        break;
+    case 6:
+    case -6:
+        input.warehouse2 = "代销仓", input.customer = "X002";
+        break;
+    case 7:
+    case -7:
+        input.warehouse = "代销仓", input.customer = "X002";
+        break;
+    case 21:
+    case 23:
+        input.customer = "G002";
+        break;
+    case 22:
+    case 24:
+        input.customer = "X003";
+        break;
+    case 31:
+    case 32:
+        input.product = "MB001", input.pieces = 2;
+        break;
+    default:
+        break;
+    }
+    return input;
+}
+
+Clerk::Clerk() {
+    RegisterAllScreens();
+}
+
+void Clerk::Show(frmDj02& screen, const std::function<void(frmDj02&)>& act) {
+    view.OnScreen("frmDj02", [&](Screen&) { act(screen); });
+    ShowModal(screen);
+}
+
+void Clerk::Enter(const DocumentInput& input, const std::function<void(frmDj02&)>& act) {
+    auto& screen = dynamic_cast<frmDj02&>(ScreenNamed("frmDj02"));
+    screen.Action = 1;
+    screen.invType = input.type;
+    screen.OldType = screen.oldInvID = screen.JzState = 0;
+    Show(screen, [&](frmDj02& s) {
+        EnterDocument(s, input);
+        act(s);
+    });
+}
+
+void Clerk::Open(DocAction action, int type, int key, const std::function<void(frmDj02&)>& act) {
+    auto& screen = dynamic_cast<frmDj02&>(ScreenNamed("frmDj02"));
+    screen.Action = static_cast<int>(action);
+    screen.invType = screen.OldType = type;
+    screen.oldInvID = key;
+    screen.JzState = 0;
+    Show(screen, act);
+}
+
+void ClickSave(Clerk& clerk, frmDj02& screen) {
+    clerk.view.boxes.clear();
+    clerk.view.AnswerWith([](const MessageBox& box) {
+        const bool printing = box.text.find("打印本张单据？") != std::string::npos;
+        return printing ? box.buttons.back() : box.buttons.front();
+    });
+    Click(screen, screen.cmdSave);
+}
+
+int Clerk::Save(const DocumentInput& input) {
+    int key = 0;
+    Enter(input, [&](frmDj02& s) {
+        const std::string number = s.Number();
+        ClickSave(*this, s);
+        if (LastBox() == "单据新增完毕。打印本张单据？")
+            key = static_cast<int>(Val(DbScalar("select fInvID from " + BookStem(input.type, false) +
+                                                "01 where fInvNo='" + number + "'")));
+    });
+    return key;
+}
+
+bool Clerk::RunSave(DocAction action, int type, int key) {
+    Open(action, type, key, [&](frmDj02& s) { ClickSave(*this, s); });
+    return LastBox().ends_with("完毕！");
+}
+
+bool Clerk::Approve(int type, int key) {
+    return RunSave(DocAction::Approve, type, key);
+}
+bool Clerk::Reverse(int type, int key) {
+    return RunSave(DocAction::Reverse, type, key);
+}
+bool Clerk::Delete(int type, int key) {
+    return RunSave(DocAction::Delete, type, key);
+}
+
+std::vector<std::string> Books() {
+    static const char* const orders[][2] = {
+        {"tJXC_CkDj01", "fInvID"},      {"tJXC_CkDj02", "fInvID,fInv1,fRowID"},
+        {"tJXC_CkHt01", "fInvID"},      {"tJXC_CkHt02", "fInvID,fInv1,fRowID"},
+        {"tJXC_CkJh01", "fInvID"},      {"tJXC_CkJh02", "fInvID,fInv1,fRowID"},
+        {"tJXC_CkXjBj01", "fInvID"},    {"tJXC_CkXjBj02", "fInvID,fInv1,fRowID"},
+        {"tJXC_CkTj", "fCkName,fCpID"}, {"tJXC_CkTj_tmp", "fCpID"},
+        {"tAccountDetail", "fAcntNo"},  {"tJXC_CpGys", "fInvNo,fCpID"},
+        {"tJXC_KhAdd", "fKhID,fKhAdd"}};
+    std::vector<std::string> books;
+    for (const auto& [table, order] : orders) {
+        const Rows rows = Conn().Query(std::string("select * from ") + table + " Order By " + order);
+        for (size_t row = 0; row < rows.Count(); ++row) {
+            std::string text = table;
+            for (size_t i = 0; i < rows.names.size(); ++i)
+                text += " " + LowerCase(rows.names[i]) + "=" + rows.At(row, i).AsText();
+            books.push_back(std::move(text));
+        }
+    }
+    return books;
+}
+
+std::vector<std::string> Changes(const std::vector<std::string>& before,
+                                 const std::vector<std::string>& after) {
+    const std::multiset<std::string> was(before.begin(), before.end());
+    const std::multiset<std::string> is(after.begin(), after.end());
+    std::vector<std::string> changes;
+    std::set_difference(was.begin(), was.end(), is.begin(), is.end(), std::back_inserter(changes));
+    for (std::string& row : changes)
+        row = "- " + row;
+    std::vector<std::string> came;
+    std::set_difference(is.begin(), is.end(), was.begin(), was.end(), std::back_inserter(came));
+    for (const std::string& row : came)
+        changes.push_back("+ " + row);
+    return changes;
+}
+
+} // namespace jxc::test
