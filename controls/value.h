@@ -30,6 +30,8 @@ class Value {
     double AsDouble() const;
     // The number rounded to the nearest whole one, halves to even.
     std::int64_t AsLong() const;
+    // The text itself, of a value that IsText.
+    const std::string& Text() const { return std::get<std::string>(held_); }
     // The text a user sees: a number in its shortest form ("800", "0.5"), nothing as "".
     std::string AsText() const;
 

@@ -1,6 +1,8 @@
 // Two cost prices are kept whatever the cost method: the warehouse's (PostStock) and the product's over all
 // warehouses, which each receipt moves. The method decides which of them an issue's lines take.
 
+#include <map>
+
 #include "controls/text.h"
 #include "documents/approval/stages.h"
 #include "session/database/recordset.h"
@@ -10,15 +12,26 @@ namespace jxc {
 
 namespace {
 
-void SetOverallPrice(std::int64_t product, double price) {
-    Recordset row(Conn(), "Select * From tJXC_CkTj_tmp Where fCpID=" + std::to_string(product),
-                  Access::Write);
-    if (row.AtEnd()) {
+// Writes the prices of a document's products, each once, over the stored ones read together.
+void SetOverallPrices(const std::string& key, std::map<std::int64_t, double> prices) {
+    Recordset row(
+        Conn(),
+        "Select * From tJXC_CkTj_tmp Where fCpID In (Select fCpID From tJXC_CkDj02 Where fInvID=" + key + ")",
+        Access::Write);
+    for (; !row.AtEnd(); row.MoveNext()) {
+        const auto price = prices.find(row["fCpID"].AsLong());
+        if (price == prices.end())
+            continue;
+        row.Set("fKcDj", price->second);
+        row.Update();
+        prices.erase(price);
+    }
+    for (const auto& [product, price] : prices) {
         row.AddNew();
         row.Set("fCpID", product);
+        row.Set("fKcDj", price);
+        row.Update();
     }
-    row.Set("fKcDj", price);
-    row.Update();
 }
 
 // Sets fInvDJ2 from a table of prices. `join` is the further condition that ties a line to its price row.
@@ -44,13 +57,15 @@ void PostOverallCost(const frmDj02& s, bool reversal) {
                     " And (c.fCkType2=0 and c.fCkType3=0)"
                     " Group By a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl"
                     " Order By a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl");
+    std::map<std::int64_t, double> prices; // of a product on several lines the last counts
     for (; !row.AtEnd(); row.MoveNext()) {
         const double price = row["fInvDJ"].AsDouble() * row["fInvHbDl"].AsDouble();
         const double quantity = reversal ? -row["fInvSL"].AsDouble() : row["fInvSL"].AsDouble();
         const double stock = AddDecimal(row["fKcSl"].AsDouble(), quantity);
         const double value = AddDecimal(price * quantity, row["fKcJe"].AsDouble());
-        SetOverallPrice(row["fCpID"].AsLong(), stock == 0 ? 0 : value / stock);
+        prices[row["fCpID"].AsLong()] = stock == 0 ? 0 : value / stock;
     }
+    SetOverallPrices(std::to_string(s.oldInvID), std::move(prices));
 }
 
 void ReadCostPrice(const frmDj02& s) {

@@ -2,103 +2,153 @@
 // transferred and counted quantities with their values, and the stock, price and value that follow from them.
 // A reversal repeats the same arithmetic with negated quantities, so every counter returns to what it was.
 
+#include <array>
 #include <iterator>
+#include <map>
+#include <optional>
+#include <set>
 
 #include "controls/text.h"
 #include "documents/approval/stages.h"
 #include "session/database/recordset.h"
-#include "session/database/routines.h"
 #include "session/session.h"
 
 namespace jxc {
 
 namespace {
 
-// The counters of a statistics class, "" where it has none.
+// The fields of a stock row that postings move or that follow from them, in the order in which Figures holds
+// them.
+constexpr const char* kFields[] = {"fQcSl", "fRkSl", "fCkSl", "fDkSl", "fPdSl", "fKcSL",
+                                   "fQcJe", "fRkJe", "fCkJe", "fCkCb", "fKcDj", "fKcJE"};
+enum Field {
+    kQcSl,
+    kRkSl,
+    kCkSl,
+    kDkSl,
+    kPdSl,
+    kKcSL,
+    kQcJe,
+    kRkJe,
+    kCkJe,
+    kCkCb,
+    kKcDj,
+    kKcJE,
+    kFieldCount
+};
+using Figures = std::array<double, kFieldCount>;
+
+// One stock row in hand: where it is stored, and its figures.
+struct StockRow {
+    std::string warehouse;
+    std::int64_t product = 0;
+    std::optional<size_t> stored; // its place among the stored rows
+    Figures figures{};
+    Figures before{}; // as stored
+};
+
+// The counters that a statistics class moves; kFieldCount where it has none.
 struct Counters {
-    const char* quantity;
-    const char* value;
-    const char* cost;
+    Field quantity;
+    Field value;
+    Field cost;
 };
-
 constexpr Counters kCounters[] = {
-    {"fQcSl", "fQcJe", ""},      // 0 opening
-    {"fRkSl", "fRkJe", ""},      // 1 receipt
-    {"fCkSl", "fCkJe", "fCkCb"}, // 2 issue: outgoing quantities count positive
-    {"fDkSl", "", ""},           // 3 transfer
-    {"fPdSl", "", ""},           // 4 stocktake
+    {kQcSl, kQcJe, kFieldCount},       // 0 opening
+    {kRkSl, kRkJe, kFieldCount},       // 1 receipt
+    {kCkSl, kCkJe, kCkCb},             // 2 issue: outgoing quantities count positive
+    {kDkSl, kFieldCount, kFieldCount}, // 3 transfer
+    {kPdSl, kFieldCount, kFieldCount}, // 4 stocktake
 };
 
-// One stock row in hand: its fields as read, and as changed.
-class StockRow {
+// The stock rows of a document: read at once, moved line by line, written once each.
+class StockRows {
   public:
-    StockRow(const std::string& warehouse, std::int64_t product)
-        : row_(Conn(),
-               "Select * From tJXC_CkTj Where fCkName=" + InQuotes(warehouse) +
-                   " And fCpID=" + std::to_string(product),
-               Access::Write),
-          isNew_(row_.AtEnd()) {
-        if (!isNew_)
-            return;
-        row_.AddNew();
-        row_.Set("fCpID", product);
-        row_.Set("fCkName", warehouse);
-        for (const char* field : {"fQcSl", "fRkSl", "fCkSl", "fDkSl", "fPdSl", "fKcSL", "fQcJe", "fRkJe",
-                                  "fCkJe", "fCkCb", "fKcJE"})
-            row_.Set(field, 0.0);
+    explicit StockRows(const std::string& key)
+        : stored_(Conn(),
+                  "Select * From tJXC_CkTj Where fCpID In (Select fCpID From tJXC_CkDj02 Where fInvID=" +
+                      key + ")",
+                  Access::Write) {
+        for (size_t row = 0; !stored_.AtEnd(); stored_.MoveNext(), ++row) {
+            StockRow& held = Hold(stored_["fCkName"].AsText(), stored_["fCpID"].AsLong());
+            held.stored = row;
+            for (size_t field = 0; field < kFieldCount; ++field)
+                held.before[field] = held.figures[field] = stored_[kFields[field]].AsDouble();
+        }
     }
 
-    double Get(const std::string& field) const {
-        const auto changed = changed_.find(field);
-        if (changed != changed_.end())
-            return changed->second;
-        return isNew_ ? 0 : row_[field].AsDouble();
+    // The row of a product in a warehouse, a new one with nothing in it when there is none.
+    StockRow& Touch(const std::string& warehouse, std::int64_t product) {
+        StockRow& row = Hold(warehouse, product);
+        touched_.insert(&row);
+        return row;
     }
-    void Set(const std::string& field, double number) { changed_[field] = number; }
-    void Add(const std::string& field, double amount) { Set(field, AddDecimal(Get(field), amount)); }
-    void Update() {
-        for (const auto& [field, number] : changed_)
-            row_.Set(field, number);
-        row_.Update();
+
+    void Write() {
+        for (const auto& [place, row] : rows_)
+            if (touched_.contains(&row))
+                WriteRow(row);
     }
 
   private:
-    Recordset row_;
-    bool isNew_;
-    std::map<std::string, double> changed_;
+    StockRow& Hold(const std::string& warehouse, std::int64_t product) {
+        const auto [found, isNew] = rows_.try_emplace({product, LowerCase(warehouse)});
+        if (isNew)
+            found->second.warehouse = warehouse, found->second.product = product;
+        return found->second;
+    }
+
+    void WriteRow(const StockRow& row) {
+        if (row.stored) {
+            stored_.MoveTo(*row.stored);
+        } else {
+            stored_.AddNew();
+            stored_.Set("fCpID", row.product);
+            stored_.Set("fCkName", row.warehouse);
+        }
+        for (size_t field = 0; field < kFieldCount; ++field)
+            if (!row.stored || row.figures[field] != row.before[field])
+                stored_.Set(kFields[field], row.figures[field]);
+        stored_.Update();
+    }
+
+    Recordset stored_;
+    std::map<std::pair<std::int64_t, std::string>, StockRow>
+        rows_; // by product and warehouse: one order for all users
+    std::set<const StockRow*> touched_;
 };
 
 // Stock, price and value follow from the counters. Without goods received the product's cost price serves.
-void DeriveStock(StockRow& row, const Value& costPrice) {
-    const double received = AddDecimal(row.Get("fQcSl"), row.Get("fRkSl"));
-    double stock = AddDecimal(received, -row.Get("fCkSl"));
-    stock = AddDecimal(stock, row.Get("fDkSl"));
-    stock = AddDecimal(stock, row.Get("fPdSl"));
+void DeriveStock(Figures& figures, const Value& costPrice) {
+    const double received = AddDecimal(figures[kQcSl], figures[kRkSl]);
+    double stock = AddDecimal(received, -figures[kCkSl]);
+    stock = AddDecimal(stock, figures[kDkSl]);
+    stock = AddDecimal(stock, figures[kPdSl]);
     if (received == 0 && costPrice.IsNull())
         throw DatabaseError("产品资料已不存在，没有成本价。");
-    const double price =
-        received == 0 ? costPrice.AsDouble() : AddDecimal(row.Get("fQcJe"), row.Get("fRkJe")) / received;
-    row.Set("fKcSL", stock);
-    row.Set("fKcDj", price);
-    row.Set("fKcJE", stock * price);
+    figures[kKcSL] = stock;
+    figures[kKcDj] =
+        received == 0 ? costPrice.AsDouble() : AddDecimal(figures[kQcJe], figures[kRkJe]) / received;
+    figures[kKcJE] = stock * figures[kKcDj];
 }
 
-void PostLine(const Recordset& line, const Counters& counters, bool reversal) {
+void PostLine(const Recordset& line, const Counters& counters, bool reversal, StockRows& rows) {
     double quantity = line["fInvSL"].AsDouble();
     if (reversal)
         quantity = -quantity;
     if (line["fInvInOut"].AsLong() != 1)
         quantity = -quantity;
-    if (LowerCase(counters.quantity) == "fcksl")
+    if (counters.quantity == kCkSl)
         quantity = -quantity;
-    StockRow row(line["fCkName"].AsText(), line["fCpID"].AsLong());
-    row.Add(counters.quantity, quantity);
-    if (*counters.value)
-        row.Add(counters.value, quantity * line["fInvDJ"].AsDouble() * line["fInvHbDl"].AsDouble());
-    if (*counters.cost)
-        row.Add(counters.cost, quantity * line["fInvDJ2"].AsDouble());
-    DeriveStock(row, line["fCpPrice0"]);
-    row.Update();
+    Figures& figures = rows.Touch(line["fCkName"].AsText(), line["fCpID"].AsLong()).figures;
+    const auto add = [&](Field field, double amount) {
+        if (field != kFieldCount)
+            figures[field] = AddDecimal(figures[field], amount);
+    };
+    add(counters.quantity, quantity);
+    add(counters.value, quantity * line["fInvDJ"].AsDouble() * line["fInvHbDl"].AsDouble());
+    add(counters.cost, quantity * line["fInvDJ2"].AsDouble());
+    DeriveStock(figures, line["fCpPrice0"]);
 }
 
 } // namespace
@@ -113,8 +163,10 @@ void PostStock(const frmDj02& s, bool reversal) {
         " From tJXC_CkDj02 a Left Join tJXC_Cp b On a.fCpID=b.fCpID"
         " Where a.fInvID=" +
             std::to_string(s.oldInvID) + " Order By a.fCpID,a.fCkName");
+    StockRows rows(std::to_string(s.oldInvID));
     for (; !lines.AtEnd(); lines.MoveNext())
-        PostLine(lines, kCounters[statistics], reversal);
+        PostLine(lines, kCounters[statistics], reversal, rows);
+    rows.Write();
 }
 
 } // namespace jxc

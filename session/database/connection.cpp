@@ -9,7 +9,7 @@ namespace {
 
 constexpr size_t kCachedStatements = 500;
 // Keys of lifted texts begin with a word, so these never meet them.
-constexpr char kEditRowsMark = '\t', kRowStatementMark = '\n';
+constexpr char kEditRowsMark = '\t';
 
 std::vector<ParameterType> TypesOf(const std::vector<Parameter>& parameters) {
     std::vector<ParameterType> types;
@@ -154,12 +154,12 @@ Rows Connection::QueryRows(std::string_view sql, std::string& table) {
 void Connection::RunOnRow(const std::string& text, std::span<const Value> values,
                           const std::shared_ptr<Value>& address) {
     Guarded(text, [&] {
-        const std::string key = kRowStatementMark + text;
-        CachedStatement* statement = cache_->Find(key);
+        // The key of a lifted statement ends in a blank, these texts never do.
+        CachedStatement* statement = cache_->Find(text);
         if (!statement) {
             CachedStatement prepared;
             prepared.handle = engine_->Prepare(text, {});
-            statement = &cache_->Add(key, std::move(prepared));
+            statement = &cache_->Add(text, std::move(prepared));
         }
         if (address)
             engine_->Change(*statement->handle, values, address);

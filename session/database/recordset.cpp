@@ -38,6 +38,12 @@ void Recordset::MoveNext() {
     ++row_;
 }
 
+void Recordset::MoveTo(size_t row) {
+    if (!assigned_.empty() || adding_)
+        throw DatabaseError("记录尚未存盘。");
+    row_ = row;
+}
+
 // Of columns with one name the first counts. The rows of one table have none, and their fields are mostly
 // taken in order: there the search begins behind the last one found.
 size_t Recordset::OrdinalOf(std::string_view name) const {
@@ -97,7 +103,7 @@ void Recordset::Set(std::string_view name, Value value) {
 void Recordset::Set(size_t ordinal, Value value) {
     const FieldDef& field = Definition(ordinal);
     RequireRow();
-    if (assigned_.empty() && !adding_) {
+    if (assigned_.empty() && !adding_ && MustCompare(connection_.EngineInUse())) {
         const auto row = rows_.cells.begin() + static_cast<std::ptrdiff_t>(row_ * rows_.names.size());
         before_.assign(row, row + static_cast<std::ptrdiff_t>(rows_.names.size()));
     }
@@ -170,10 +176,15 @@ void Recordset::ChangeRow(Engine& engine) {
     if (compare)
         values.insert(values.end(), before_.begin(), before_.end());
     values.push_back(*address);
-    const std::vector<std::string> unchanged = compare ? rows_.names : std::vector<std::string>();
-    const std::string text = engine.ChangeText(tableName_, NamesToWrite(), unchanged);
+    if (changeText_.empty() || changed_ != assigned_ || compare) {
+        const std::vector<std::string> unchanged = compare ? rows_.names : std::vector<std::string>();
+        changeText_ = engine.ChangeText(tableName_, NamesToWrite(), unchanged);
+        changed_ = assigned_;
+    }
     assigned_.clear();
-    connection_.RunOnRow(text, values, address);
+    connection_.RunOnRow(changeText_, values, address);
+    if (compare)
+        changeText_.clear();
 }
 
 void Recordset::Delete() {

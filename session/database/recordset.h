@@ -23,6 +23,8 @@ class Recordset {
     bool AtEnd() const { return row_ >= RecordCount(); }
     // Assigned fields must have been written by Update before; otherwise a DatabaseError.
     void MoveNext();
+    // Goes to a row by its place from 0, for sets that are read once and changed in another order.
+    void MoveTo(size_t row);
     size_t RecordCount() const { return rows_.Count(); }
 
     // A field of the current or new row, as last assigned, by name in any case or by ordinal from 0. An
@@ -71,6 +73,8 @@ class Recordset {
     std::vector<const FieldDef*> fields_; // Write: the definition of each column, once it is needed
     std::vector<size_t> inserted_;        // the ordinals that insertText_ writes: most new rows are alike
     std::string insertText_;
+    std::vector<size_t> changed_; // the same of changeText_
+    std::string changeText_;
     // Write: the engine's address of each row; null for a deleted row.
     std::vector<std::shared_ptr<Value>> addresses_;
 };

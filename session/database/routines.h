@@ -19,8 +19,8 @@ std::string DbScalar(std::string_view sql);
 // is wrapped in "%".
 std::string LikePattern(std::string_view text);
 
-// A text as a statement holds it: in single quotes, its own quotes doubled. For names that come from other tables or from
-// the host, which no edit box has filtered.
+// A text as a statement holds it: in single quotes, its own quotes doubled. For names that come from other
+// tables or from the host, which no edit box has filtered.
 std::string InQuotes(std::string_view text);
 
 } // namespace jxc

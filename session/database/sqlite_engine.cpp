@@ -81,12 +81,11 @@ class SqliteStatement : public EngineStatement {
 
     // The engine reads the texts where they lie until the statement is reset.
     void Bind(std::span<const Value> values) {
-        texts_.resize(values.size());
         for (size_t i = 0; i < values.size(); ++i) {
             const int at = static_cast<int>(i) + 1;
             const Value& value = values[i];
             if (value.IsText()) {
-                const std::string& text = texts_[i] = value.AsText();
+                const std::string& text = value.Text();
                 sqlite3_bind_text(statement_, at, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
             } else if (value.IsLong()) {
                 sqlite3_bind_int64(statement_, at, value.AsLong());
@@ -115,7 +114,6 @@ class SqliteStatement : public EngineStatement {
 
     sqlite3* db_;
     sqlite3_stmt* statement_ = nullptr;
-    std::vector<std::string> texts_;
 };
 
 SqliteStatement& Own(EngineStatement& statement) {
