@@ -34,7 +34,7 @@ class View {
     virtual void ShowNotice(const std::string& title, const std::string& text) = 0;
     // Opens a file, mail or web address with the desktop's program.
     virtual void OpenAddress(const std::string& address) = 0;
-    // Dials a telephone number; nothing where the platform has no dialer.
+    // Starts the dialer with a number, "" without one; nothing where the platform has no dialer.
     virtual void DialNumber(const std::string& number) = 0;
     virtual std::string Clipboard() = 0;
     virtual void SetClipboard(const std::string& text) = 0;

@@ -19,8 +19,7 @@ constexpr int kLongestNumber = 39;
 
 void Dial(const TextBox& number) {
     const int length = CharacterCount(number.text);
-    if (length >= 1 && length <= kLongestNumber)
-        CurrentView().DialNumber(number.text);
+    CurrentView().DialNumber(length <= kLongestNumber ? number.text : "");
 }
 
 void OpenMail(const frmDj02& s) {
@@ -43,7 +42,8 @@ void OpenProducts(frmDj02& s) {
     Screen& products = ScreenNamed("frmCp");
     products.SetProperty("CpNoEdit", 0);
     ShowModal(products);
-    RefreshGridStock(s);
+    if (!s.type.IsStocktake()) // its book quantities stay those of the count
+        RefreshGridStock(s);
 }
 
 void OpenWarehouses(frmDj02& s) {

@@ -4,6 +4,7 @@
 #include "controls/view.h"
 #include "documents/document_entry.h"
 #include "session/database/recordset.h"
+#include "session/database/routines.h"
 #include "session/lists.h"
 #include "session/lookups.h"
 #include "session/session.h"
@@ -34,7 +35,7 @@ bool FillCardFields(frmDj02& s, const Recordset& card) {
     ClearCardFields(s);
     if (card.AtEnd())
         return false;
-    s.cboKhAdd.text = card["CompAdd"].AsText();
+    s.cboKhAdd.text = s.cboKhAdd.tag = card["CompAdd"].AsText();
     s.txtName.text = card["name"].AsText();
     s.txtPostcode.text = card["postcode"].AsText();
     s.txtTelphone.text = card["telphone"].AsText();
@@ -61,7 +62,7 @@ bool ConfirmAddress(const frmDj02& s, const char* verb, const std::string& addre
 Recordset StoredAddress(std::int64_t id, const std::string& address) {
     return Recordset(Conn(),
                      "select distinct fKhID,fKhAdd from tJXC_KhAdd Where fKhID = " + std::to_string(id) +
-                         " And fKhAdd='" + address + "'",
+                         " And fKhAdd=" + InQuotes(address),
                      Access::Write);
 }
 
@@ -80,6 +81,7 @@ void SeekCustomer(frmDj02& s) {
     if (FindCustomerCard(s.cboKhList, s.txtKhSeek.text) == 0) {
         Warn(s.title, "未有符合条件的" + s.lblKh.caption + "资料！");
         ClearCardFields(s);
+        FillAddresses(s, 0);
         return;
     }
     RefreshCustomer(s);

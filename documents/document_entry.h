@@ -37,7 +37,8 @@ void SaveAddress(frmDj02& s);   // writes tJXC_KhAdd
 void DeleteAddress(frmDj02& s); // writes tJXC_KhAdd
 
 // -- line_entry.cpp
-void AppendLine(frmDj02& s); // by Enter on the last filled row
+void AppendLine(frmDj02& s);   // by Enter on the last filled row
+void CutToMaxRows(frmDj02& s); // after loading; the user is told
 void InsertLine(frmDj02& s);
 void DeleteLine(frmDj02& s);
 void EnterGrid(frmDj02& s);

@@ -4,6 +4,7 @@
 #include "controls/view.h"
 #include "documents/document_entry.h"
 #include "session/edit_filter.h"
+#include "session/lists.h"
 #include "session/lookups.h"
 
 namespace jxc {
@@ -31,7 +32,7 @@ void WireHead(frmDj02& s) {
     for (TextBox* box : {&s.txtNo, &s.txtHtNo, &s.txtKhSeek})
         box->onLeave = [box] { return CheckNoQuote(box->text); };
     for (ListBox* box : {&s.cboInvMemo, &s.cboInvJbr})
-        box->onLeave = [box] { return CheckNoQuote(box->text); };
+        box->onLeave = [box] { return ComboIndexByText(*box, box->text) >= 0 || CheckNoQuote(box->text); };
 
     s.cboInvType.onChoose = [&s] { ChooseType(s); };
     s.dtpInvDate.onLeave = [&s] { return LeaveDate(s); };
@@ -45,7 +46,7 @@ void WireHead(frmDj02& s) {
     s.cboKhList.visibleText = CustomerNameOf;
     s.cboKhList.onChoose = [&s] { RefreshCustomer(s); };
     s.cboKhAdd.onLeave = [&s] {
-        if (!CheckNoQuote(s.cboKhAdd.text))
+        if (s.cboKhAdd.text != s.cboKhAdd.tag && !CheckNoQuote(s.cboKhAdd.text))
             return false;
         SaveAddress(s);
         return true;
@@ -84,14 +85,17 @@ void WireKitPanel(frmDj02& s) {
         box->frame = &s.picCpZj;
     s.txtCpUnit.locked = true;
     FilterKeys(s.txtInvSL, 10, true);
-    s.txtCpCode.onKey = [&s](const std::string& key) {
-        if (key == "Enter")
-            SeekFinishedProduct(s, true);
-    };
-    s.txtCpName.onKey = [&s](const std::string& key) {
-        if (key == "Enter")
-            SeekFinishedProduct(s, false);
-    };
+    for (const bool byCode : {true, false}) {
+        TextBox& box = byCode ? s.txtCpCode : s.txtCpName;
+        box.onKey = [&s, byCode](const std::string& key) {
+            if (key == "Enter")
+                SeekFinishedProduct(s, byCode);
+        };
+        box.onLeave = [&s, byCode] {
+            SeekFinishedProduct(s, byCode);
+            return true;
+        };
+    }
     s.txtInvSL.onLeave = [&s] {
         ChangeKitQuantity(s);
         return true;
@@ -143,6 +147,7 @@ void frmDj02::Open() {
     if (InHand() == DocAction::New && !fromSource) {
         oldInvID = 0;
         ResetDocument(*this);
+        dtpInvDate.date = Today();
         return;
     }
     if (oldInvID <= 0) {

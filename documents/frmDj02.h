@@ -32,7 +32,7 @@ struct frmDj02 : Screen {
     TextBox txtKhSeek{*this, "txtKhSeek"}; // its tag keeps a card that the list cannot show
     ListBox cboKhList{*this, "cboKhList"}; // name in 80 characters, card number behind
     Label lblKhAdd{*this, "lblKhAdd", "送货地址"};
-    ListBox cboKhAdd{*this, "cboKhAdd", true};
+    ListBox cboKhAdd{*this, "cboKhAdd", true}; // its tag keeps the address as it came from the card
     MenuItem mnuKhAddDelete{*this, "mnuKhAddDelete", "删除该地址"};
     Label lblInvHb{*this, "lblInvHb", "货币"};
     ListBox cboInvHb{*this, "cboInvHb"};

@@ -63,7 +63,7 @@ void ChooseCurrency(frmDj02& s) {
         s.txtInvHbDl.text = FormatFixed(1, 4);
         return;
     }
-    const std::string rate = DbScalar("Select MoneyRate from Moneys where MoneyCode='" + code + "'");
+    const std::string rate = DbScalar("Select MoneyRate from Moneys where MoneyCode=" + InQuotes(code));
     s.txtInvHbDl.text = FormatFixed(Val(rate), 4);
 }
 

@@ -14,23 +14,35 @@ double KitQuantity(const frmDj02& s) {
     return Val(s.txtInvSL.text);
 }
 
+namespace {
+
+// Shows the product, and keeps what the boxes then hold: only another text is searched for.
+void ShowFinishedProduct(frmDj02& s, std::int32_t id, const std::string& code, const std::string& name,
+                         const std::string& unit) {
+    s.finishedProduct = id;
+    s.txtCpCode.text = s.txtCpCode.tag = code;
+    s.txtCpName.text = s.txtCpName.tag = name;
+    s.txtCpUnit.text = unit;
+}
+
+} // namespace
+
 void ClearFinishedProduct(frmDj02& s) {
-    for (TextBox* box : {&s.txtCpCode, &s.txtCpName, &s.txtCpUnit})
-        box->text.clear();
-    s.finishedProduct = 0;
+    ShowFinishedProduct(s, 0, "", "", "");
 }
 
 void SeekFinishedProduct(frmDj02& s, bool byCode) {
-    const std::string typed = Trim((byCode ? s.txtCpCode : s.txtCpName).text);
+    const TextBox& box = byCode ? s.txtCpCode : s.txtCpName;
+    const std::string typed = Trim(box.text);
+    if (typed == box.tag)
+        return;
+    ClearFinishedProduct(s); // the panel never shows a text that is not its product's
+    if (!CheckNoQuote(typed))
+        return;
     ProductSought sought;
     (byCode ? sought.code : sought.name) = typed;
-    const std::int32_t id = typed.find('\'') == std::string::npos ? FindProduct(sought) : 0;
-    if (id == 0)
-        return ClearFinishedProduct(s);
-    s.finishedProduct = id;
-    s.txtCpCode.text = sought.code;
-    s.txtCpName.text = NameAndSpec(sought.name, sought.spec);
-    s.txtCpUnit.text = sought.unit;
+    if (const std::int32_t id = FindProduct(sought); id > 0)
+        ShowFinishedProduct(s, id, sought.code, NameAndSpec(sought.name, sought.spec), sought.unit);
 }
 
 void LoadFinishedProduct(frmDj02& s, const std::string& stem, std::int32_t key) {
@@ -40,18 +52,20 @@ void LoadFinishedProduct(frmDj02& s, const std::string& stem, std::int32_t key) 
                                        std::to_string(key) + " And fInv1 = 1" + " Order By a.fRowID");
     if (stored.AtEnd())
         return;
-    s.finishedProduct = static_cast<std::int32_t>(stored["fCpID"].AsLong());
-    s.txtCpCode.text = stored["fCpCode"].AsText();
-    s.txtCpName.text = NameAndSpec(stored["fCpName"].AsText(), stored["fCpGG"].AsText());
-    s.txtCpUnit.text = stored["fCpUnit"].AsText();
+    ShowFinishedProduct(s, static_cast<std::int32_t>(stored["fCpID"].AsLong()), stored["fCpCode"].AsText(),
+                        NameAndSpec(stored["fCpName"].AsText(), stored["fCpGG"].AsText()),
+                        stored["fCpUnit"].AsText());
     s.txtInvSL.text = s.txtInvSL.tag = NumberText(stored["fInvSL"].AsDouble());
 }
 
 void ChangeKitQuantity(frmDj02& s) {
     const double before = Val(s.txtInvSL.tag);
     const double now = KitQuantity(s);
-    s.txtInvSL.text = s.txtInvSL.tag = NumberText(now);
-    if (before == 0 || now == 0 || before == now || !IsEditing(s.InHand()))
+    s.txtInvSL.text = NumberText(now);
+    if (now == 0)
+        return; // the lines still stand for the quantity before
+    s.txtInvSL.tag = s.txtInvSL.text;
+    if (before == 0 || before == now || !IsEditing(s.InHand()))
         return;
     for (int row = 1; row <= s.Grid2.RowCount(); ++row)
         s.Grid2.SetCell(row, line::kQuantity,

@@ -110,6 +110,13 @@ void AppendLine(frmDj02& s) {
     grid.selectedColumn = line::kCode;
 }
 
+void CutToMaxRows(frmDj02& s) {
+    if (s.parameters.maxRows == 0 || s.Grid2.RowCount() <= s.parameters.maxRows)
+        return;
+    s.Grid2.SetRowCount(s.parameters.maxRows);
+    Inform(s.title, "单据最多 " + std::to_string(s.parameters.maxRows) + " 行！");
+}
+
 void InsertLine(frmDj02& s) {
     if (s.Grid2.readOnly || !MayAddLine(s))
         return;

@@ -25,12 +25,14 @@ std::string OrderNumber(const frmDj02& s, int sourceType, const Recordset& heade
     return returnOfSource ? header["fHtNo"].AsText() : "";
 }
 
-// A list shows the stored text, also one that it no longer offers.
-void ShowText(ListBox& list, const std::string& text) {
+// A list shows the stored text, also one that it no longer offers; a new document takes only what is offered.
+void ShowText(const frmDj02& s, ListBox& list, const std::string& text) {
     if (text.empty())
         return list.SetIndex(-1);
     int at = ComboIndexByText(list, text);
     if (at < 0 && !list.editable) {
+        if (s.InHand() == DocAction::New)
+            return list.SetIndex(-1);
         list.items.push_back(text);
         at = static_cast<int>(list.items.size()) - 1;
     }
@@ -48,25 +50,24 @@ void LoadHeader(frmDj02& s, int sourceType, const Recordset& header) {
     s.txtHtNo.text = s.type.fSetDjDd_ ? OrderNumber(s, sourceType, header) : "";
     s.txtNo.text = s.txtNo.tag = text("fInvNo");
     s.dtpInvDate.date = ParseDate(text("fInvDate"));
-    ShowText(s.cboInvHb, text("fInvHb"));
+    ShowText(s, s.cboInvHb, text("fInvHb"));
     s.txtInvHbDl.text = FormatFixed(header["fInvHbDl"].AsDouble(), 4);
     s.txtSum.text = FormatFixed(header["fInvJE"].AsDouble(), 2);
-    ShowText(s.cboInvMemo, text("fInvMemo"));
-    ShowText(s.cboInvJbr, text("fInvJbr"));
+    ShowText(s, s.cboInvMemo, text("fInvMemo"));
+    ShowText(s, s.cboInvJbr, text("fInvJbr"));
     ShowApprover(s, text("fInvSHR"));
-    if (s.InHand() == DocAction::Approve)
-        s.cmdSave.enabled = text("fInvSHR").empty();
     s.chkFlag.value = header["fFlag"].AsLong() == 1;
     s.chkFlag.visible = s.chkFlag.value || s.InHand() == DocAction::Change;
     ShowCustomer(s, header["fKhID"].AsLong());
-    s.cboKhAdd.text = text("fKhAdd");
-    ShowText(s.cboCkName, text("fCkName"));
-    ShowText(s.cboCkName2, text("fCkName2"));
+    s.cboKhAdd.text = s.cboKhAdd.tag = text("fKhAdd");
+    ShowText(s, s.cboCkName, text("fCkName"));
+    ShowText(s, s.cboCkName2, text("fCkName2"));
 }
 
-// The discount of a stored line follows from its price.
-double DiscountOf(double price, double reference) {
-    return reference == 0 ? 0 : price / reference;
+// The discount of a stored line follows from its price; without one, or without a reference price, the
+// field's counts.
+double DiscountOf(const frmDj02& s, double price, double reference) {
+    return reference == 0 || price == 0 ? Val(s.txtZkl.text) : price / reference;
 }
 
 void LoadLine(frmDj02& s, int row, const Recordset& stored) {
@@ -99,7 +100,7 @@ void CompleteLine(frmDj02& s, int row) {
     if (s.type.IsStocktake())
         grid.FillCell(row, line::kStock, book);
     if (IsEditing(s.InHand()) && s.type.fSetDjType2 == 5)
-        grid.FillCell(row, line::kDiscount, DiscountOf(price, grid.Number(row, line::kReference)));
+        grid.FillCell(row, line::kDiscount, DiscountOf(s, price, grid.Number(row, line::kReference)));
 }
 
 void LoadLines(frmDj02& s, const std::string& stem, std::int32_t key) {
@@ -131,6 +132,7 @@ void StartFromSource(frmDj02& s) {
     ShowApprover(s, "");
     if (s.cboCkName2.items.size() == 1)
         s.cboCkName2.SetIndex(0);
+    CutToMaxRows(s);
     if (s.type.fSetDjBack_)
         SetReturnSign(s);
     RefreshGridStock(s);
@@ -154,6 +156,8 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         if (s.type.IsKit() && s.InHand() != DocAction::New)
             LoadFinishedProduct(s, stem, key);
         s.oldInvID = key;
+        s.cmdSave.enabled = s.InHand() != DocAction::Query &&
+                            (s.InHand() != DocAction::Approve || header["fInvSHR"].AsText().empty());
         if (s.InHand() == DocAction::New)
             StartFromSource(s);
         else

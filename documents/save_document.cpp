@@ -127,7 +127,7 @@ bool MayGoOn(frmDj02& s, const std::string& stem) {
     CutLongTexts(s);
     if (s.type.IsKit() && KitQuantity(s) == 0)
         return Refuse(s, "请输入产品套数！", &s.txtInvSL);
-    const bool renumbered = s.InHand() == DocAction::Change && s.Number() != s.txtNo.tag;
+    const bool renumbered = s.InHand() == DocAction::Change && !EqualsNoCase(s.Number(), s.txtNo.tag);
     return !renumbered || NumberIsFree(s, stem, s.Number() + kNumberTakenByOther);
 }
 
@@ -163,6 +163,8 @@ std::string WriteNew(frmDj02& s, const std::string& stem) {
     s.oldInvID = DbMax(stem + "01", "fInvID") + 1;
     WriteHeader(s, stem);
     WriteLines(s, stem);
+    if (s.parameters.approveOnSave)
+        s.loadedState = StoredState(stem, s.oldInvID); // approved only as it was written
     return "";
 }
 
@@ -175,13 +177,15 @@ void PrintSaved(frmDj02& s) {
     }
 }
 
+bool FinishedProductGiven(frmDj02& s) {
+    return !s.type.IsKit() || s.finishedProduct != 0 || Refuse(s, "请输入组装产品及其数量。", &s.txtCpCode);
+}
+
 void SaveNew(frmDj02& s, const std::string& stem) {
     if (!NumberIsFree(s, stem, kNumberTaken))
         return;
-    if (s.type.IsKit() && s.finishedProduct == 0) {
-        Refuse(s, "请输入组装产品及其数量。", &s.txtCpCode);
+    if (!FinishedProductGiven(s))
         return;
-    }
     if (!AskOkCancel(s.title, s.title + "：" + s.Number() + "，确定？"))
         return;
     if (!InTransaction(s, [&] { return WriteNew(s, stem); })) {
@@ -198,11 +202,13 @@ void SaveNew(frmDj02& s, const std::string& stem) {
 
 void SaveChange(frmDj02& s, const std::string& stem) {
     const std::string number = s.txtNo.tag;
+    if (!FinishedProductGiven(s))
+        return;
     if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
         return;
     const auto write = [&] {
         std::string refusal = ChangedMeanwhile(s, stem);
-        if (refusal.empty() && s.Number() != number)
+        if (refusal.empty() && !EqualsNoCase(s.Number(), number))
             refusal = NumberRefusal(s, stem, s.Number() + kNumberTakenByOther);
         if (!refusal.empty())
             return refusal;

@@ -17,9 +17,13 @@ namespace {
 
 const std::string kSummaries = "2010"; // the code list of document summaries
 
-// The choice before a list was filled anew, also when the list no longer offers it.
-void KeepText(ListBox& list, const std::string& text) {
-    if (!list.editable && !text.empty() && ComboIndexByText(list, text) < 0)
+// The choice before a list was filled anew; a stored document keeps it also when the list no longer offers
+// it.
+void KeepText(const frmDj02& s, ListBox& list, const std::string& text) {
+    const bool offered = list.editable || text.empty() || ComboIndexByText(list, text) >= 0;
+    if (!offered && s.InHand() == DocAction::New)
+        return list.SetIndex(-1);
+    if (!offered)
         list.items.push_back(text);
     list.SetText(text);
 }
@@ -142,6 +146,8 @@ void ChooseType(frmDj02& s) {
     if (const auto type = ReadTypeRow(chosen)) {
         s.invType = chosen;
         s.type = *type;
+        s.chkTh.value = type->fSetDjBack_;
+        SetReturnSign(s);
     }
 }
 
@@ -150,15 +156,15 @@ void RefillWarehouses(frmDj02& s) {
     const std::string second = s.cboCkName2.text;
     FillWarehouses(s.cboCkName, s.type.fSetCkType1);
     FillWarehouses(s.cboCkName2, s.type.fSetCkType2);
-    KeepText(s.cboCkName, first);
-    KeepText(s.cboCkName2, second);
+    KeepText(s, s.cboCkName, first);
+    KeepText(s, s.cboCkName2, second);
 }
 
 void RefillSummaries(frmDj02& s) {
     const std::string text = s.cboInvMemo.text;
     s.cboInvMemo.Clear();
     FillBriefCombo(s.cboInvMemo, kSummaries, false);
-    KeepText(s.cboInvMemo, text);
+    KeepText(s, s.cboInvMemo, text);
 }
 
 void ResetDocument(frmDj02& s) {

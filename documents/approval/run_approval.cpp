@@ -24,22 +24,33 @@ struct Stage {
     bool failureMatters = true;
 };
 
-// The customer of the account entry: the chosen card, or the one that the list no longer offers.
+// The customer of the account entry: the chosen card, or the one that the list no longer offers. 0 for none.
 std::int64_t AccountCustomer(const frmDj02& s) {
+    if (!s.type.HasCustomer())
+        return 0;
     return s.CustomerId() != 0 ? s.CustomerId() : static_cast<std::int64_t>(Val(s.txtKhSeek.tag));
 }
 
+// The money account of the first warehouse, 0 for none.
+std::int64_t MoneyAccount(const frmDj02& s) {
+    if (!s.type.HasFirstWarehouse())
+        return 0;
+    const Recordset warehouse(Conn(),
+                              "Select fZhID from tJXC_Ck Where fCkName=" + InQuotes(s.cboCkName.Chosen()));
+    return warehouse.AtEnd() ? 0 : warehouse["fZhID"].AsLong();
+}
+
+// Without a customer or an account nothing is entered. A reversal takes away whatever the approval entered,
+// also when the warehouse has lost its account since.
 void PostCustomerAccount(const frmDj02& s, bool reversal) {
-    const std::int64_t customer = AccountCustomer(s);
-    if (customer > 0)
+    const std::int64_t customer = reversal ? 0 : AccountCustomer(s);
+    if (reversal || customer > 0)
         PostAccountEntry(s, 0, s.type.fSetWlType == 1 ? 1 : 2, customer, reversal);
 }
 
 void PostMoneyAccount(const frmDj02& s, bool reversal) {
-    const Recordset warehouse(Conn(),
-                              "Select fZhID from tJXC_Ck Where fCkName=" + InQuotes(s.cboCkName.Chosen()));
-    const std::int64_t account = warehouse.AtEnd() ? 0 : warehouse["fZhID"].AsLong();
-    if (account > 0)
+    const std::int64_t account = reversal ? 0 : MoneyAccount(s);
+    if (reversal || account > 0)
         PostAccountEntry(s, 1, s.type.fSetZjType == 3 ? 2 : 1, account, reversal);
 }
 
@@ -95,10 +106,9 @@ void RunStage(const Stage& stage) {
 // Why the host's funds module forbids a reversal, "" when it does not. Errors are thrown: a check that could
 // not be made must not let the reversal pass.
 std::string CheckedAccountEntry(const frmDj02& s) {
-    const std::string date = Dialect(" And fDate=", " And Convert(varchar(10),fDate,120)=") +
-                             session.DateDelimiter +
-                             (session.IsJet() ? SlashText(*s.dtpInvDate.date) : IsoText(*s.dtpInvDate.date)) +
-                             session.DateDelimiter;
+    const Date day = *s.dtpInvDate.date;
+    const std::string date = session.IsJet() ? " And fDate=#" + SlashText(day) + "#"
+                                             : " And Convert(varchar(10),fDate,120)='" + IsoText(day) + "'";
     Recordset entry(Conn(), "Select fChecker From tAccountDetail Where fInvID='" + s.Number() + "'" + date);
     for (; !entry.AtEnd(); entry.MoveNext())
         if (!entry["fChecker"].AsText().empty())
@@ -149,8 +159,6 @@ std::string ChangedMeanwhile(const frmDj02& s, const std::string& stem) {
         return "该单据已经审核！";
     if (!approved && s.InHand() == DocAction::Reverse)
         return "该单据尚未审核！";
-    if (s.InHand() == DocAction::New)
-        return "";
     return StoredState(stem, s.oldInvID) == s.loadedState ? "" : "该单据已被其他用户修改，请重新打开！";
 }
 

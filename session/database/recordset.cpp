@@ -44,19 +44,24 @@ void Recordset::MoveTo(size_t row) {
     row_ = row;
 }
 
-// Of columns with one name the first counts. The rows of one table have none, and their fields are mostly
-// taken in order: there the search begins behind the last one found.
+// Of columns with one name the first counts. Row after row the same fields are taken in the same order: the
+// search begins at the field that followed the last one before.
 size_t Recordset::OrdinalOf(std::string_view name) const {
     const size_t count = rows_.names.size();
-    if (!table_)
-        next_ = 0;
-    for (size_t tried = 0; tried < count; ++tried) {
-        const size_t ordinal = next_ < count ? next_ : 0;
-        next_ = ordinal + 1;
-        if (rows_.names[ordinal] == name || EqualsNoCase(rows_.names[ordinal], name))
-            return ordinal;
+    follower_.resize(count + 1, 0);
+    const auto matches = [&](size_t ordinal) {
+        return rows_.names[ordinal] == name || EqualsNoCase(rows_.names[ordinal], name);
+    };
+    size_t& guess = follower_[last_];
+    if (!(table_ && guess < count && matches(guess))) {
+        guess = 0;
+        while (guess < count && !matches(guess))
+            ++guess;
+        if (guess == count)
+            throw DatabaseError("没有字段 " + std::string(name) + "。");
     }
-    throw DatabaseError("没有字段 " + std::string(name) + "。");
+    last_ = guess;
+    return last_;
 }
 
 void Recordset::RequireRow() const {

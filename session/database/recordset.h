@@ -63,7 +63,8 @@ class Recordset {
     Connection& connection_;
     Rows rows_;
     size_t row_ = 0;
-    mutable size_t next_ = 0; // where OrdinalOf begins to search
+    mutable size_t last_ = 0;              // the field taken last
+    mutable std::vector<size_t> follower_; // the one taken after each field, the last time
     bool adding_ = false;
     std::vector<Value> newRow_;
     std::vector<size_t> assigned_;        // ordinals, since AddNew or the last Update
