@@ -173,8 +173,11 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
 std::string StoredState(const std::string& stem, std::int32_t key) {
     std::string state;
     const std::string where = " Where fInvID=" + std::to_string(key);
-    for (const std::string& sql : {"select * from " + stem + "01" + where,
-                                   "select * from " + stem + "02" + where + " Order By fInv1,fRowID"}) {
+    for (const std::string& sql :
+         {"select * from " + stem + "01" + where,
+          "select fInv1,fRowID,fCkName,fCpID,fInvSL,fInvSL2,fInvDJ,fInvJE,fInvTax,fInvOther1,fInvOther2 "
+          "from " +
+              stem + "02" + where + " Order By fInv1,fRowID"}) {
         const Rows rows = Conn().Query(sql);
         if (rows.Count() == 0 && state.empty())
             return "";

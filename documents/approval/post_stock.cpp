@@ -4,9 +4,10 @@
 
 #include <array>
 #include <iterator>
-#include <map>
+#include <list>
 #include <optional>
-#include <set>
+#include <unordered_map>
+#include <vector>
 
 #include "controls/text.h"
 #include "documents/approval/stages.h"
@@ -43,6 +44,7 @@ struct StockRow {
     std::string warehouse;
     std::int64_t product = 0;
     std::optional<size_t> stored; // its place among the stored rows
+    bool touched = false;
     Figures figures{};
     Figures before{}; // as stored
 };
@@ -67,10 +69,10 @@ class StockRows {
     explicit StockRows(const std::string& key)
         : stored_(Conn(),
                   "Select * From tJXC_CkTj Where fCpID In (Select fCpID From tJXC_CkDj02 Where fInvID=" +
-                      key + ")",
+                      key + ") And fCkName In (Select fCkName From tJXC_CkDj02 Where fInvID=" + key + ")",
                   Access::Write) {
         for (size_t row = 0; !stored_.AtEnd(); stored_.MoveNext(), ++row) {
-            StockRow& held = Hold(stored_["fCkName"].AsText(), stored_["fCpID"].AsLong());
+            StockRow& held = Hold(stored_["fCkName"].Text(), stored_["fCpID"].AsLong());
             held.stored = row;
             for (size_t field = 0; field < kFieldCount; ++field)
                 held.before[field] = held.figures[field] = stored_[kFields[field]].AsDouble();
@@ -80,19 +82,34 @@ class StockRows {
     // The row of a product in a warehouse, a new one with nothing in it when there is none.
     StockRow& Touch(const std::string& warehouse, std::int64_t product) {
         StockRow& row = Hold(warehouse, product);
-        touched_.insert(&row);
+        if (!row.touched)
+            touched_.push_back(&row);
+        row.touched = true;
         return row;
     }
 
     void Write() {
-        for (const auto& [place, row] : rows_)
-            if (touched_.contains(&row))
-                WriteRow(row);
+        for (const StockRow* row : touched_)
+            WriteRow(*row);
     }
 
   private:
+    using Products = std::unordered_map<std::int64_t, StockRow>;
+    struct Warehouse {
+        std::string name;
+        Products products;
+    };
+
+    // A document has one warehouse or two; their names compare without regard to case.
+    Products& ProductsOf(const std::string& warehouse) {
+        for (Warehouse& known : warehouses_)
+            if (known.name == warehouse || EqualsNoCase(known.name, warehouse))
+                return known.products;
+        return warehouses_.emplace_back(Warehouse{warehouse, {}}).products;
+    }
+
     StockRow& Hold(const std::string& warehouse, std::int64_t product) {
-        const auto [found, isNew] = rows_.try_emplace({product, LowerCase(warehouse)});
+        const auto [found, isNew] = ProductsOf(warehouse).try_emplace(product);
         if (isNew)
             found->second.warehouse = warehouse, found->second.product = product;
         return found->second;
@@ -113,9 +130,8 @@ class StockRows {
     }
 
     Recordset stored_;
-    std::map<std::pair<std::int64_t, std::string>, StockRow>
-        rows_; // by product and warehouse: one order for all users
-    std::set<const StockRow*> touched_;
+    std::list<Warehouse> warehouses_; // rows keep their place when another warehouse comes
+    std::vector<StockRow*> touched_;
 };
 
 // Stock, price and value follow from the counters. Without goods received the product's cost price serves.
@@ -140,7 +156,7 @@ void PostLine(const Recordset& line, const Counters& counters, bool reversal, St
         quantity = -quantity;
     if (counters.quantity == kCkSl)
         quantity = -quantity;
-    Figures& figures = rows.Touch(line["fCkName"].AsText(), line["fCpID"].AsLong()).figures;
+    Figures& figures = rows.Touch(line["fCkName"].Text(), line["fCpID"].AsLong()).figures;
     const auto add = [&](Field field, double amount) {
         if (field != kFieldCount)
             figures[field] = AddDecimal(figures[field], amount);

@@ -90,6 +90,7 @@ SampleCompany::SampleCompany(EngineKind kind) : kind_(kind) {
 }
 
 SampleCompany::~SampleCompany() {
+    std::filesystem::remove_all(TemporaryFile(name_).string() + "-print");
     if (kind_ == EngineKind::Postgres)
         OnServer("drop database " + name_ + " with (force)");
     else
@@ -101,6 +102,7 @@ lzJxc SampleCompany::SignedIn() const {
     lzJxc control;
     UseCompany(control, address_);
     control.CompName("远帆");
+    control.PowerPath(TemporaryFile(name_).string() + "-print"); // removed with the company
     control.UserName("王芳");
     control.ZgName("王芳");
     control.myPower("9999999999");
