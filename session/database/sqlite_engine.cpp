@@ -50,11 +50,13 @@ class SqliteStatement : public EngineStatement {
         const Reset reset{statement_};
         Bind(values);
         Rows rows;
+        rows.cells.reserve(cellsBefore_);
         while (Step()) {
             const int columns = sqlite3_column_count(statement_);
             for (int i = 0; i < columns; ++i)
                 rows.cells.push_back(Cell(i));
         }
+        cellsBefore_ = std::min<size_t>(rows.cells.size(), 1 << 17);
         // Behind the first step: a statement that had to be prepared again may have other columns.
         for (int i = 0; i < sqlite3_column_count(statement_); ++i)
             rows.names.emplace_back(sqlite3_column_name(statement_, i));
@@ -114,6 +116,7 @@ class SqliteStatement : public EngineStatement {
 
     sqlite3* db_;
     sqlite3_stmt* statement_ = nullptr;
+    size_t cellsBefore_ = 0; // of the last result: the next one is mostly as large
 };
 
 SqliteStatement& Own(EngineStatement& statement) {

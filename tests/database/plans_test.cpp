@@ -66,17 +66,20 @@ const char* const kBothForms[] = {
     "Or b.fCkType2=1)",
     "Select fInvID From tJXC_CkHt01 Where fInvNo='R77'",
     "Update tJXC_CkHt02 Set fInvSL2=fInvSL2-(-1) Where fInvID=77 And fInvSL2>0 And fCpID=77",
-    "Update tJXC_CkHt02 Set fInvSL2=0 Where fInvID=77 And fInvSL2<0",
+    "Update tJXC_CkHt02 Set fInvSL2=0 Where fInvID=77 And fInvSL2<0.000000001",
     "Select a.fCpID,a.fCkName,a.fInvSL,b.fCpPrice0,fInvInOut From tJXC_CkDj02 a Left Join tJXC_Cp b On "
     "a.fCpID=b.fCpID Where "
     "a.fInvID=77 Order By a.fCpID,a.fCkName",
-    "Select * From tJXC_CkTj Where fCkName='A' And fCpID=77",
+    "Select * From tJXC_CkTj Where fCpID In (Select fCpID From tJXC_CkDj02 Where fInvID=77) And fCkName In "
+    "(Select fCkName From tJXC_CkDj02 Where fInvID=77)",
+    "select fKcSl from tJXC_CkTj Where fCpID=77 And fCkName='A'",
+    "select fInv1,fRowID,fCkName,fCpID,fInvSL from tJXC_CkDj02 Where fInvID=77 Order By fInv1,fRowID",
     "select a.fCpID,a.fInvSL,sum(b.fKcSl) as fKcSl from (tJXC_CkTj b Left Join tJXC_Ck c On "
     "c.fCkName=b.fCkName) Right Join "
     "tJXC_CkDj02 a On a.fCpID=b.fCpID Where a.fInvID=77 And (c.fCkType2=0 and c.fCkType3=0) Group By "
     "a.fCpID,a.fInvSL Order By "
     "a.fCpID,a.fInvSL",
-    "Select * From tJXC_CkTj_tmp Where fCpID=77",
+    "Select * From tJXC_CkTj_tmp Where fCpID In (Select fCpID From tJXC_CkDj02 Where fInvID=77)",
     "Insert INTO tJXC_CpGys (fCpID,fKhID,fCpSl,fCpPrice,fInvDate,fInvNo) SELECT "
     "fCpID,fKhID,fInvSl,fInvDJ,fInvDate,fInvNo From "
     "tJXC_CkDj02 Where fInvNo ='R77'",
