@@ -45,7 +45,8 @@ std::string LastCharacters(const std::string& text, size_t count) {
     return text.substr(text.size() - count);
 }
 
-// The largest counter stored under the stem, "" when there is none.
+// The largest counter stored under the stem, "" when there is none. Under one stem the largest number has the
+// largest counter, and the index finds it from its end, however many numbers the day or month already has.
 std::string LargestCounter(const std::string& stem, size_t counterDigits, int series) {
     const bool account = series >= kSeriesCustomerAccount;
     const std::string table = account ? "tAccountDetail" : BookStem(series, false) + "02";
@@ -54,9 +55,9 @@ std::string LargestCounter(const std::string& stem, size_t counterDigits, int se
     const std::string counter = std::string(Dialect("mid", "SUBSTRING")) + "(" + field + "," +
                                 std::to_string(CharacterCount(stem) + 1) + "," +
                                 std::to_string(counterDigits) + ")";
-    const Recordset row(Conn(), "select max(" + counter + ") as invID from " + table + " where left(" +
+    const Recordset row(Conn(), "select top 1 " + counter + " as invID from " + table + " where left(" +
                                     field + "," + length + ")='" + stem + "'" + " and IsNumeric(" + counter +
-                                    ")" + Dialect("", "=1"));
+                                    ")" + Dialect("", "=1") + " Order By " + field + " Desc");
     return row.AtEnd() ? "" : row["invID"].AsText();
 }
 

@@ -92,14 +92,14 @@ const char* const kBothForms[] = {
 };
 
 const std::pair<const char*, const char*> kTwoForms[] = {
-    {"select max(mid(fInvNo,4,3)) as invID from tJXC_CkDj02 where left(fInvNo,3)='R77' and "
-     "IsNumeric(mid(fInvNo,4,3))",
-     "select max(SUBSTRING(fInvNo,4,3)) as invID from tJXC_CkDj02 where left(fInvNo,3)='R77' and "
-     "IsNumeric(SUBSTRING(fInvNo,4,3))=1"},
-    {"select max(mid(fAcntNo,4,3)) as invID from tAccountDetail where left(fAcntNo,3)='W77' and "
-     "IsNumeric(mid(fAcntNo,4,3))",
-     "select max(SUBSTRING(fAcntNo,4,3)) as invID from tAccountDetail where left(fAcntNo,3)='W77' and "
-     "IsNumeric(SUBSTRING(fAcntNo,4,3))=1"},
+    {"select top 1 mid(fInvNo,4,3) as invID from tJXC_CkDj02 where left(fInvNo,3)='R77' and "
+     "IsNumeric(mid(fInvNo,4,3)) Order By fInvNo Desc",
+     "select top 1 SUBSTRING(fInvNo,4,3) as invID from tJXC_CkDj02 where left(fInvNo,3)='R77' and "
+     "IsNumeric(SUBSTRING(fInvNo,4,3))=1 Order By fInvNo Desc"},
+    {"select top 1 mid(fAcntNo,4,3) as invID from tAccountDetail where left(fAcntNo,3)='W77' and "
+     "IsNumeric(mid(fAcntNo,4,3)) Order By fAcntNo Desc",
+     "select top 1 SUBSTRING(fAcntNo,4,3) as invID from tAccountDetail where left(fAcntNo,3)='W77' and "
+     "IsNumeric(SUBSTRING(fAcntNo,4,3))=1 Order By fAcntNo Desc"},
     {"Select fChecker From tAccountDetail Where fInvID='R77' And fDate=#02/28/2003#",
      "Select fChecker From tAccountDetail Where fInvID='R77' And "
      "Convert(varchar(10),fDate,120)='2003-02-28'"},

@@ -254,6 +254,9 @@ TEST_P(Company, NumbersRunOnUnderTheirStem) {
     store("20030305RK999");
     EXPECT_EQ(next("YYYYMMDDRKXXX"), "20030305RK000"); // the counter wraps
     EXPECT_EQ(next("RK-XXXX"), "RK-0001");
+    store("W-0412"); // a counter of another width takes part as its first digits: 041
+    store("W-039");
+    EXPECT_EQ(next("W-XXX"), "W-042");
     EXPECT_EQ(next("YYXXX"), "YY001"); // a bare YY is no token
     EXPECT_EQ(next("DDMMYY/X"), "050303/1");
     EXPECT_EQ(next("YYYYMMDD"), "");
