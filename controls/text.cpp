@@ -264,4 +264,11 @@ std::vector<std::string> Split(std::string_view text, char separator) {
     }
 }
 
+std::string JoinedByCommas(const std::vector<std::string>& parts) {
+    std::string text;
+    for (const std::string& part : parts)
+        text.append(text.empty() ? "" : ",").append(part);
+    return text;
+}
+
 } // namespace jxc

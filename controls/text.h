@@ -49,4 +49,7 @@ int CharacterCount(std::string_view text);
 
 std::vector<std::string> Split(std::string_view text, char separator);
 
+// "a,b,c".
+std::string JoinedByCommas(const std::vector<std::string>& parts);
+
 } // namespace jxc

@@ -22,9 +22,6 @@ void RefillSummaries(frmDj02& s);
 // -- load_document.cpp: a stored document into the screen
 // Shows "该[单号]已不存在!" when it is gone, "系统数据错误，操作已经取消！" on any error; false then.
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key);
-// Header and lines of the stored document as one text, to see whether another user changed it; "" when it is
-// gone.
-std::string StoredState(const std::string& stem, std::int32_t key);
 // The document before or after the one shown; no hit disables that direction.
 void StepToDocument(frmDj02& s, bool next);
 

@@ -10,6 +10,7 @@
 #include "controls/grid.h"
 #include "controls/screen.h"
 #include "documents/document_model.h"
+#include "documents/stored_document.h"
 
 namespace jxc {
 
@@ -108,7 +109,7 @@ struct frmDj02 : Screen {
     TypeRow type;
     Parameters parameters;
     // The stored document as it was loaded; approval, change and deletion go on only while it is still so.
-    std::string loadedState;
+    StoredDocument asLoaded;
     std::int32_t finishedProduct = 0; // fCpID of a kit document's product
 
     DocAction InHand() const { return static_cast<DocAction>(Action); }

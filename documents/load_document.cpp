@@ -144,9 +144,9 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
     const std::string stem = BookStem(sourceType, s.JzState == 1);
     s.txtSsSf.text = "0.00";
     try {
-        const std::string state =
-            StoredState(stem, key); // before the rest is read: a change in between is noticed
-        if (state.empty()) {
+        // Before the rest is read: a change in between is noticed.
+        StoredDocument stored = ReadStored(stem, key);
+        if (!stored.Exists()) {
             Warn(s.title, "该[单号]已不存在!");
             return false;
         }
@@ -161,31 +161,13 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         if (s.InHand() == DocAction::New)
             StartFromSource(s);
         else
-            s.loadedState = state;
+            s.asLoaded = std::move(stored);
         return true;
     } catch (const DatabaseError&) {
         s.cmdSave.enabled = false; // what the screen shows is no document
         Warn(s.title, "系统数据错误，操作已经取消！");
         return false;
     }
-}
-
-std::string StoredState(const std::string& stem, std::int32_t key) {
-    std::string state;
-    const std::string where = " Where fInvID=" + std::to_string(key);
-    for (const std::string& sql :
-         {"select * from " + stem + "01" + where,
-          "select fInv1,fRowID,fCkName,fCpID,fInvSL,fInvSL2,fInvDJ,fInvJE,fInvTax,fInvOther1,fInvOther2 "
-          "from " +
-              stem + "02" + where + " Order By fInv1,fRowID"}) {
-        const Rows rows = Conn().Query(sql);
-        if (rows.Count() == 0 && state.empty())
-            return "";
-        for (const Value& cell : rows.cells)
-            state += cell.AsText() + '\x1f';
-        state += '\n';
-    }
-    return state;
 }
 
 void StepToDocument(frmDj02& s, bool next) {

@@ -164,7 +164,7 @@ std::string WriteNew(frmDj02& s, const std::string& stem) {
     WriteHeader(s, stem);
     WriteLines(s, stem);
     if (s.parameters.approveOnSave)
-        s.loadedState = StoredState(stem, s.oldInvID); // approved only as it was written
+        s.asLoaded = ReadStored(stem, s.oldInvID); // approved only as it was written
     return "";
 }
 

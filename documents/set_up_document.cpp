@@ -112,7 +112,7 @@ void SetStartingValues(frmDj02& s) {
     s.chkFlag.value = false;
     s.lblSHR.caption.clear();
     Show(false, {&s.lblSHR, &s.shpSHR});
-    s.loadedState.clear();
+    s.asLoaded = {};
     ClearFinishedProduct(s);
     s.txtInvSL.text = s.txtInvSL.tag = "1";
 }
@@ -190,7 +190,7 @@ void ResetDocument(frmDj02& s) {
     ClearFinishedProduct(s);
     s.txtInvSL.text = s.txtInvSL.tag = "1";
     RefreshTotals(s);
-    s.loadedState.clear();
+    s.asLoaded = {};
     s.cmdSave.enabled = true;
     s.MoveFocus(&s.dtpInvDate);
 }

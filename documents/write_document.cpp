@@ -3,6 +3,7 @@
 #include "controls/text.h"
 #include "documents/document_entry.h"
 #include "session/database/recordset.h"
+#include "session/database/row_inserter.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -17,81 +18,118 @@ void SetHeaderCopies(const frmDj02& s, Recordset& row) {
     row.Set("fInvHbDl", Val(s.txtInvHbDl.text));
 }
 
-// Quantity and product are the cells' values; prices, amounts and taxes what the cells show.
-void SetFigures(const frmDj02& s, Recordset& row, int at) {
-    row.Set("fCpID", s.Grid2.Cell(at, line::kProduct).AsLong());
-    row.Set("fInvSL", s.Grid2.Number(at, line::kQuantity));
-    row.Set("fInvDJ", ShownNumber(s.Grid2, at, line::kPrice));
-    row.Set("fInvDJ2", 0);
-    row.Set("fInvJE", ShownNumber(s.Grid2, at, line::kAmount));
-    row.Set("fInvTaxRate", ShownNumber(s.Grid2, at, line::kTaxRate));
-    row.Set("fInvTax", ShownNumber(s.Grid2, at, line::kTax));
-    row.Set("fInvOther1", s.Grid2.Text(at, line::kMemo1));
-    row.Set("fInvOther2", s.Grid2.Text(at, line::kMemo2));
+// The fields of a line, by their place in kLineFields.
+enum LineField {
+    kInv1,
+    kRowID,
+    kInvID,
+    kInvInOut,
+    kCkName,
+    kInvNo,
+    kInvDate,
+    kInvHb,
+    kInvHbDl,
+    kKhID,
+    kCpID,
+    kInvSL,
+    kInvSL2,
+    kInvDJ,
+    kInvDJ2,
+    kInvJE,
+    kInvTaxRate,
+    kInvTax,
+    kInvOther1,
+    kInvOther2
+};
+const std::vector<std::string> kLineFields = {"fInv1",  "fRowID",      "fInvID",  "fInvInOut",  "fCkName",
+                                              "fInvNo", "fInvDate",    "fInvHb",  "fInvHbDl",   "fKhID",
+                                              "fCpID",  "fInvSL",      "fInvSL2", "fInvDJ",     "fInvDJ2",
+                                              "fInvJE", "fInvTaxRate", "fInvTax", "fInvOther1", "fInvOther2"};
+
+// Writes the lines of a document on one of its two sides: inv1 0 on the first warehouse, 1 on the second.
+class Lines {
+  public:
+    Lines(const frmDj02& s, const std::string& stem, int inv1)
+        : s_(s), rows_(Conn(), stem + "02", kLineFields) {
+        const bool second = inv1 == 1;
+        rows_.Set(kInv1, inv1);
+        rows_.Set(kInvID, std::int64_t{s.oldInvID});
+        rows_.Set(kInvInOut, second ? DirectionOfSecondRow(s.type) : DirectionOfFirstRow(s.type));
+        rows_.Set(kCkName, second                       ? s.cboCkName2.Chosen()
+                           : s.type.HasFirstWarehouse() ? s.cboCkName.Chosen()
+                                                        : "");
+        rows_.Set(kInvNo, s.Number());
+        rows_.Set(kInvDate, IsoText(*s.dtpInvDate.date));
+        rows_.Set(kInvHb, s.cboInvHb.Chosen());
+        rows_.Set(kInvHbDl, Val(s.txtInvHbDl.text));
+        rows_.Set(kInvDJ2, 0);
+    }
+
+    // Quantity and product are the cells' values; prices, amounts and taxes what the cells show.
+    void SetFigures(int at) {
+        const Grid& grid = s_.Grid2;
+        rows_.Set(kRowID, at);
+        rows_.Set(kCpID, grid.Cell(at, line::kProduct).AsLong());
+        rows_.Set(kInvSL, grid.Number(at, line::kQuantity));
+        rows_.Set(kInvDJ, ShownNumber(grid, at, line::kPrice));
+        rows_.Set(kInvJE, ShownNumber(grid, at, line::kAmount));
+        rows_.Set(kInvTaxRate, ShownNumber(grid, at, line::kTaxRate));
+        rows_.Set(kInvTax, ShownNumber(grid, at, line::kTax));
+        rows_.Set(kInvOther1, grid.Text(at, line::kMemo1));
+        rows_.Set(kInvOther2, grid.Text(at, line::kMemo2));
+    }
+
+    void Set(LineField field, Value value) { rows_.Set(field, std::move(value)); }
+    void Insert() { rows_.Insert(); }
+
+  private:
+    const frmDj02& s_;
+    RowInserter rows_;
+};
+
+// Where fInvSL2 of a line comes from, 0 for nowhere: a stocktake keeps the book quantity, a new order's
+// balance is its full quantity, a changed order's the balance that the user sees.
+int SecondQuantityColumn(const frmDj02& s, bool second) {
+    if (s.type.fSetJy_ && !second)
+        return s.InHand() == DocAction::New ? line::kQuantity : line::kBalance;
+    return s.type.IsStocktake() ? line::kStock : 0;
 }
 
-void SetPlace(const frmDj02& s, Recordset& row, int inv1, int rowId, int direction,
-              const std::string& warehouse) {
-    row.Set("fInv1", inv1);
-    row.Set("fRowID", rowId);
-    row.Set("fInvID", std::int64_t{s.oldInvID});
-    row.Set("fInvInOut", direction);
-    row.Set("fCkName", warehouse);
-}
-
-// A new order's balance is its full quantity, a changed order keeps the balance that the user sees.
-void SetBalance(const frmDj02& s, Recordset& row, int at) {
-    if (s.type.fSetJy_)
-        row.Set("fInvSL2",
-                s.Grid2.Number(at, s.InHand() == DocAction::New ? line::kQuantity : line::kBalance));
-}
-
-void WriteOrdinaryRows(const frmDj02& s, Recordset& row, bool second) {
-    const std::string warehouse = second                       ? s.cboCkName2.Chosen()
-                                  : s.type.HasFirstWarehouse() ? s.cboCkName.Chosen()
-                                                               : "";
-    const int direction = second ? DirectionOfSecondRow(s.type) : DirectionOfFirstRow(s.type);
+void WriteOrdinaryLines(const frmDj02& s, const std::string& stem, bool second) {
+    Lines lines(s, stem, second ? 1 : 0);
+    lines.Set(kKhID, s.type.HasCustomer() ? s.CustomerId() : 0);
+    const int secondQuantity = SecondQuantityColumn(s, second);
     for (int at = 1; at <= s.Grid2.RowCount(); ++at) {
-        row.AddNew();
-        SetPlace(s, row, second ? 1 : 0, at, direction, warehouse);
-        SetHeaderCopies(s, row);
-        row.Set("fKhID", s.type.HasCustomer() ? s.CustomerId() : 0);
-        SetFigures(s, row, at);
-        if (s.type.IsStocktake())
-            row.Set("fInvSL2", s.Grid2.Number(at, line::kStock));
-        if (!second)
-            SetBalance(s, row, at);
-        row.Update();
+        lines.SetFigures(at);
+        if (secondQuantity != 0)
+            lines.Set(kInvSL2, s.Grid2.Number(at, secondQuantity));
+        lines.Insert();
     }
 }
 
 // The parts on the first warehouse.
-void WritePartRows(const frmDj02& s, Recordset& row) {
+void WriteParts(const frmDj02& s, const std::string& stem) {
+    Lines lines(s, stem, 0);
     for (int at = 1; at <= s.Grid2.RowCount(); ++at) {
-        row.AddNew();
-        SetPlace(s, row, 0, at, DirectionOfFirstRow(s.type), s.cboCkName.Chosen());
-        SetHeaderCopies(s, row);
-        SetFigures(s, row, at);
-        row.Update();
+        lines.SetFigures(at);
+        lines.Insert();
     }
 }
 
 // The finished product on the second; its price is what the parts of one piece come to.
-void WriteFinishedRow(const frmDj02& s, Recordset& row) {
+void WriteFinishedProduct(const frmDj02& s, const std::string& stem) {
     const double total = Val(s.txtSum.text);
-    row.AddNew();
-    SetPlace(s, row, 1, 1, DirectionOfSecondRow(s.type), s.cboCkName2.Chosen());
-    SetHeaderCopies(s, row);
-    row.Set("fCpID", std::int64_t{s.finishedProduct});
-    row.Set("fInvSL", KitQuantity(s));
-    row.Set("fInvDJ", total / KitQuantity(s));
-    row.Set("fInvDJ2", 0);
-    row.Set("fInvJE", total);
-    row.Set("fInvTaxRate", 0);
-    row.Set("fInvTax", 0);
-    row.Set("fInvOther1", "产品套件");
-    row.Set("fInvOther2", "");
-    row.Update();
+    Lines lines(s, stem, 1);
+    lines.Set(kRowID, 1);
+    lines.Set(kCpID, std::int64_t{s.finishedProduct});
+    lines.Set(kInvSL, KitQuantity(s));
+    lines.Set(kInvDJ, total / KitQuantity(s));
+    lines.Set(kInvJE, total);
+    lines.Set(kInvTaxRate, 0);
+    lines.Set(kInvTax, 0);
+    lines.Set(kInvOther1, "产品套件");
+    lines.Set(kInvOther2, "");
+    lines.Insert();
 }
 
 } // namespace
@@ -120,16 +158,14 @@ void WriteHeader(const frmDj02& s, const std::string& stem) {
 }
 
 void WriteLines(const frmDj02& s, const std::string& stem) {
-    Recordset row(Conn(), "select * from " + stem + "02 Where fInvID = " + std::to_string(s.oldInvID),
-                  Access::Write);
     if (s.type.IsKit()) {
-        WritePartRows(s, row);
-        WriteFinishedRow(s, row);
+        WriteParts(s, stem);
+        WriteFinishedProduct(s, stem);
         return;
     }
-    WriteOrdinaryRows(s, row, false);
+    WriteOrdinaryLines(s, stem, false);
     if (s.type.HasSecondWarehouse())
-        WriteOrdinaryRows(s, row, true);
+        WriteOrdinaryLines(s, stem, true);
 }
 
 } // namespace jxc

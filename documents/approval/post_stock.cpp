@@ -5,23 +5,21 @@
 #include <array>
 #include <iterator>
 #include <list>
-#include <optional>
 #include <unordered_map>
 #include <vector>
 
 #include "controls/text.h"
 #include "documents/approval/stages.h"
 #include "session/database/recordset.h"
+#include "session/database/routines.h"
+#include "session/database/row_inserter.h"
 #include "session/session.h"
 
 namespace jxc {
 
 namespace {
 
-// The fields of a stock row that postings move or that follow from them, in the order in which Figures holds
-// them.
-constexpr const char* kFields[] = {"fQcSl", "fRkSl", "fCkSl", "fDkSl", "fPdSl", "fKcSL",
-                                   "fQcJe", "fRkJe", "fCkJe", "fCkCb", "fKcDj", "fKcJE"};
+// The figures of a stock row that postings move or that follow from them.
 enum Field {
     kQcSl,
     kRkSl,
@@ -38,16 +36,11 @@ enum Field {
     kFieldCount
 };
 using Figures = std::array<double, kFieldCount>;
-
-// One stock row in hand: where it is stored, and its figures.
-struct StockRow {
-    std::string warehouse;
-    std::int64_t product = 0;
-    std::optional<size_t> stored; // its place among the stored rows
-    bool touched = false;
-    Figures figures{};
-    Figures before{}; // as stored
-};
+const std::vector<std::string> kFigureNames = {"fQcSl", "fRkSl", "fCkSl", "fDkSl", "fPdSl", "fKcSL",
+                                               "fQcJe", "fRkJe", "fCkJe", "fCkCb", "fKcDj", "fKcJE"};
+// The columns behind the figures: of a stored row that is read, of a new one.
+constexpr size_t kProduct = kFieldCount;
+constexpr size_t kWarehouse = kFieldCount + 1;
 
 // The counters that a statistics class moves; kFieldCount where it has none.
 struct Counters {
@@ -63,75 +56,92 @@ constexpr Counters kCounters[] = {
     {kPdSl, kFieldCount, kFieldCount}, // 4 stocktake
 };
 
-// The stock rows of a document: read at once, moved line by line, written once each.
-class StockRows {
+// The stock rows of a document's products in one warehouse: read at once, moved line by line, written once
+// each.
+class WarehouseStock {
   public:
-    explicit StockRows(const std::string& key)
-        : stored_(Conn(),
-                  "Select * From tJXC_CkTj Where fCpID In (Select fCpID From tJXC_CkDj02 Where fInvID=" +
-                      key + ") And fCkName In (Select fCkName From tJXC_CkDj02 Where fInvID=" + key + ")",
-                  Access::Write) {
-        for (size_t row = 0; !stored_.AtEnd(); stored_.MoveNext(), ++row) {
-            StockRow& held = Hold(stored_["fCkName"].Text(), stored_["fCpID"].AsLong());
-            held.stored = row;
+    WarehouseStock(const std::string& name, const std::string& documentKey)
+        : name_(name), stored_(Conn(), StoredRows(name, documentKey), Access::Write) {
+        figures_.reserve(stored_.RecordCount());
+        for (; !stored_.AtEnd(); stored_.MoveNext()) {
+            Figures& figures = figures_[stored_[kProduct].AsLong()];
             for (size_t field = 0; field < kFieldCount; ++field)
-                held.before[field] = held.figures[field] = stored_[kFields[field]].AsDouble();
+                figures[field] = stored_[field].AsDouble();
         }
     }
 
-    // The row of a product in a warehouse, a new one with nothing in it when there is none.
-    StockRow& Touch(const std::string& warehouse, std::int64_t product) {
-        StockRow& row = Hold(warehouse, product);
-        if (!row.touched)
-            touched_.push_back(&row);
-        row.touched = true;
-        return row;
+    const std::string& Name() const { return name_; }
+
+    // The figures of a product, those of a new row when it has none here.
+    Figures& Of(std::int64_t product) {
+        const auto [place, isNew] = figures_.try_emplace(product);
+        if (isNew)
+            newProducts_.push_back(product);
+        return place->second;
     }
 
-    void Write() {
-        for (const StockRow* row : touched_)
-            WriteRow(*row);
+    // Of stored rows what the class moves and what follows from it.
+    void Write(const Counters& counters) {
+        for (size_t row = 0; row < stored_.RecordCount(); ++row) {
+            stored_.MoveTo(row);
+            const Figures& figures = figures_[stored_[kProduct].AsLong()];
+            for (Field field : {counters.quantity, counters.value, counters.cost, kKcSL, kKcDj, kKcJE})
+                if (field != kFieldCount)
+                    stored_.Set(field, figures[field]);
+            stored_.Update();
+        }
+        if (!newProducts_.empty())
+            InsertNewRows();
     }
 
   private:
-    using Products = std::unordered_map<std::int64_t, StockRow>;
-    struct Warehouse {
-        std::string name;
-        Products products;
-    };
-
-    // A document has one warehouse or two; their names compare without regard to case.
-    Products& ProductsOf(const std::string& warehouse) {
-        for (Warehouse& known : warehouses_)
-            if (known.name == warehouse || EqualsNoCase(known.name, warehouse))
-                return known.products;
-        return warehouses_.emplace_back(Warehouse{warehouse, {}}).products;
+    static std::string StoredRows(const std::string& warehouse, const std::string& documentKey) {
+        const std::string here = "fCkName=" + InQuotes(warehouse);
+        return "Select " + JoinedByCommas(kFigureNames) + ",fCpID From tJXC_CkTj Where " + here +
+               " And fCpID In (Select fCpID From tJXC_CkDj02 Where fInvID=" + documentKey + " And " + here +
+               ")";
     }
 
-    StockRow& Hold(const std::string& warehouse, std::int64_t product) {
-        const auto [found, isNew] = ProductsOf(warehouse).try_emplace(product);
-        if (isNew)
-            found->second.warehouse = warehouse, found->second.product = product;
-        return found->second;
-    }
-
-    void WriteRow(const StockRow& row) {
-        if (row.stored) {
-            stored_.MoveTo(*row.stored);
-        } else {
-            stored_.AddNew();
-            stored_.Set("fCpID", row.product);
-            stored_.Set("fCkName", row.warehouse);
+    void InsertNewRows() {
+        std::vector<std::string> fields = kFigureNames;
+        fields.insert(fields.end(), {"fCpID", "fCkName"});
+        RowInserter rows(Conn(), "tJXC_CkTj", fields);
+        rows.Set(kWarehouse, name_);
+        for (std::int64_t product : newProducts_) {
+            const Figures& figures = figures_[product];
+            for (size_t field = 0; field < kFieldCount; ++field)
+                rows.Set(field, figures[field]);
+            rows.Set(kProduct, product);
+            rows.Insert();
         }
-        for (size_t field = 0; field < kFieldCount; ++field)
-            if (!row.stored || row.figures[field] != row.before[field])
-                stored_.Set(kFields[field], row.figures[field]);
-        stored_.Update();
     }
 
+    std::string name_;
     Recordset stored_;
-    std::list<Warehouse> warehouses_; // rows keep their place when another warehouse comes
-    std::vector<StockRow*> touched_;
+    std::unordered_map<std::int64_t, Figures> figures_; // by product
+    std::vector<std::int64_t> newProducts_;
+};
+
+// The warehouses of a document, one or two; their names compare without regard to case.
+class DocumentStock {
+  public:
+    explicit DocumentStock(std::int32_t document) : key_(std::to_string(document)) {}
+
+    WarehouseStock& In(const std::string& warehouse) {
+        for (WarehouseStock& known : warehouses_)
+            if (known.Name() == warehouse || EqualsNoCase(known.Name(), warehouse))
+                return known;
+        return warehouses_.emplace_back(warehouse, key_);
+    }
+
+    void Write(const Counters& counters) {
+        for (WarehouseStock& warehouse : warehouses_)
+            warehouse.Write(counters);
+    }
+
+  private:
+    std::string key_;
+    std::list<WarehouseStock> warehouses_;
 };
 
 // Stock, price and value follow from the counters. Without goods received the product's cost price serves.
@@ -148,23 +158,29 @@ void DeriveStock(Figures& figures, const Value& costPrice) {
     figures[kKcJE] = stock * figures[kKcDj];
 }
 
-void PostLine(const Recordset& line, const Counters& counters, bool reversal, StockRows& rows) {
-    double quantity = line["fInvSL"].AsDouble();
+// A document's line with the cost price of its product, by the places in the statement that reads it.
+enum LineColumn { kLineProduct, kLineWarehouse, kQuantity, kPrice, kCost, kRate, kDirection, kCostPrice };
+constexpr const char* kLines =
+    "Select a.fCpID,a.fCkName,a.fInvSL,a.fInvDJ,a.fInvDJ2,a.fInvHbDl,a.fInvInOut,b.fCpPrice0"
+    " From tJXC_CkDj02 a Left Join tJXC_Cp b On a.fCpID=b.fCpID Where a.fInvID=";
+
+void PostLine(const Recordset& line, const Counters& counters, bool reversal, DocumentStock& stock) {
+    double quantity = line[kQuantity].AsDouble();
     if (reversal)
         quantity = -quantity;
-    if (line["fInvInOut"].AsLong() != 1)
+    if (line[kDirection].AsLong() != 1)
         quantity = -quantity;
     if (counters.quantity == kCkSl)
         quantity = -quantity;
-    Figures& figures = rows.Touch(line["fCkName"].Text(), line["fCpID"].AsLong()).figures;
+    Figures& figures = stock.In(line[kLineWarehouse].Text()).Of(line[kLineProduct].AsLong());
     const auto add = [&](Field field, double amount) {
         if (field != kFieldCount)
             figures[field] = AddDecimal(figures[field], amount);
     };
     add(counters.quantity, quantity);
-    add(counters.value, quantity * line["fInvDJ"].AsDouble() * line["fInvHbDl"].AsDouble());
-    add(counters.cost, quantity * line["fInvDJ2"].AsDouble());
-    DeriveStock(figures, line["fCpPrice0"]);
+    add(counters.value, quantity * line[kPrice].AsDouble() * line[kRate].AsDouble());
+    add(counters.cost, quantity * line[kCost].AsDouble());
+    DeriveStock(figures, line[kCostPrice]);
 }
 
 } // namespace
@@ -173,16 +189,11 @@ void PostStock(const frmDj02& s, bool reversal) {
     const int statistics = s.type.fSetTjType;
     if (statistics < 0 || s.type.fSetCrType1 == -1 || statistics >= static_cast<int>(std::size(kCounters)))
         return;
-    Recordset lines(
-        Conn(),
-        "Select a.fCpID,a.fCkName,a.fInvSL,a.fInvDJ,a.fInvDJ2,a.fInvHbDl,a.fInv1,b.fCpPrice0,fInvInOut"
-        " From tJXC_CkDj02 a Left Join tJXC_Cp b On a.fCpID=b.fCpID"
-        " Where a.fInvID=" +
-            std::to_string(s.oldInvID) + " Order By a.fCpID,a.fCkName");
-    StockRows rows(std::to_string(s.oldInvID));
+    Recordset lines(Conn(), kLines + std::to_string(s.oldInvID) + " Order By a.fCpID,a.fCkName");
+    DocumentStock stock(s.oldInvID);
     for (; !lines.AtEnd(); lines.MoveNext())
-        PostLine(lines, kCounters[statistics], reversal, rows);
-    rows.Write();
+        PostLine(lines, kCounters[statistics], reversal, stock);
+    stock.Write(kCounters[statistics]);
 }
 
 } // namespace jxc

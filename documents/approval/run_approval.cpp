@@ -159,7 +159,7 @@ std::string ChangedMeanwhile(const frmDj02& s, const std::string& stem) {
         return "该单据已经审核！";
     if (!approved && s.InHand() == DocAction::Reverse)
         return "该单据尚未审核！";
-    return StoredState(stem, s.oldInvID) == s.loadedState ? "" : "该单据已被其他用户修改，请重新打开！";
+    return ReadStored(stem, s.oldInvID) == s.asLoaded ? "" : "该单据已被其他用户修改，请重新打开！";
 }
 
 bool RunApproval(frmDj02& s, bool reversal, bool prompted) {

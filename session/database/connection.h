@@ -88,8 +88,9 @@ class Connection {
 
   private:
     friend class Recordset;
+    friend class RowInserter;
 
-    // What a Recordset that writes needs: a select whose rows carry their address in the first column, and
+    // What the writers of single rows need: a select whose rows carry their address in the first column, and
     // statements on single rows, prepared like any other. With `address` the row must still be there.
     Rows QueryRows(std::string_view sql, std::string& table);
     void RunOnRow(const std::string& text, std::span<const Value> values,

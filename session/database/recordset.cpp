@@ -13,23 +13,15 @@ Recordset::Recordset(Connection& connection, std::string_view sql, Access access
         ReadRows(sql);
 }
 
-// Takes the rows' addresses, the first column, off the result.
+// The rows' addresses stand in the first column.
 void Recordset::ReadRows(std::string_view sql) {
-    Rows found = connection_.QueryRows(sql, tableName_);
+    rows_ = connection_.QueryRows(sql, tableName_);
+    firstField_ = 1;
     table_ = FindTable(tableName_);
     if (!table_)
         throw DatabaseError("数据库没有表 " + tableName_ + "。");
-    const size_t columns = found.names.size();
-    addresses_.reserve(found.Count());
-    rows_.cells.reserve(found.cells.size());
-    for (size_t i = 0; i < found.cells.size(); ++i) {
-        if (i % columns == 0)
-            addresses_.push_back(std::make_shared<Value>(std::move(found.cells[i])));
-        else
-            rows_.cells.push_back(std::move(found.cells[i]));
-    }
-    rows_.names.assign(found.names.begin() + 1, found.names.end());
-    fields_.resize(rows_.names.size());
+    fields_.resize(FieldCount());
+    isAssigned_.resize(FieldCount());
 }
 
 void Recordset::MoveNext() {
@@ -47,10 +39,10 @@ void Recordset::MoveTo(size_t row) {
 // Of columns with one name the first counts. Row after row the same fields are taken in the same order: the
 // search begins at the field that followed the last one before.
 size_t Recordset::OrdinalOf(std::string_view name) const {
-    const size_t count = rows_.names.size();
+    const size_t count = FieldCount();
     follower_.resize(count + 1, 0);
     const auto matches = [&](size_t ordinal) {
-        return rows_.names[ordinal] == name || EqualsNoCase(rows_.names[ordinal], name);
+        return FieldName(ordinal) == name || EqualsNoCase(FieldName(ordinal), name);
     };
     size_t& guess = follower_[last_];
     if (!(table_ && guess < count && matches(guess))) {
@@ -71,13 +63,13 @@ void Recordset::RequireRow() const {
 
 const Value& Recordset::Field(size_t ordinal) const {
     RequireRow();
-    if (ordinal >= rows_.names.size())
+    if (ordinal >= FieldCount())
         throw DatabaseError("没有第 " + std::to_string(ordinal) + " 个字段。");
-    return adding_ ? newRow_[ordinal] : rows_.At(row_, ordinal);
+    return adding_ ? newRow_[ordinal] : rows_.At(row_, firstField_ + ordinal);
 }
 
 Value& Recordset::Cell(size_t ordinal) {
-    return adding_ ? newRow_[ordinal] : rows_.cells[row_ * rows_.names.size() + ordinal];
+    return adding_ ? newRow_[ordinal] : rows_.cells[row_ * rows_.names.size() + firstField_ + ordinal];
 }
 
 const FieldDef& Recordset::Definition(size_t ordinal) {
@@ -86,9 +78,9 @@ const FieldDef& Recordset::Definition(size_t ordinal) {
     if (ordinal >= fields_.size())
         throw DatabaseError("没有第 " + std::to_string(ordinal) + " 个字段。");
     if (!fields_[ordinal])
-        fields_[ordinal] = FindField(*table_, rows_.names[ordinal]);
+        fields_[ordinal] = FindField(*table_, FieldName(ordinal));
     if (!fields_[ordinal])
-        throw DatabaseError("没有字段 " + rows_.names[ordinal] + "。");
+        throw DatabaseError("没有字段 " + FieldName(ordinal) + "。");
     return *fields_[ordinal];
 }
 
@@ -98,7 +90,7 @@ void Recordset::AddNew() {
     if (!assigned_.empty())
         throw DatabaseError("记录尚未存盘。");
     adding_ = true;
-    newRow_.assign(rows_.names.size(), Value());
+    newRow_.assign(FieldCount(), Value());
 }
 
 void Recordset::Set(std::string_view name, Value value) {
@@ -110,18 +102,25 @@ void Recordset::Set(size_t ordinal, Value value) {
     RequireRow();
     if (assigned_.empty() && !adding_ && MustCompare(connection_.EngineInUse())) {
         const auto row = rows_.cells.begin() + static_cast<std::ptrdiff_t>(row_ * rows_.names.size());
-        before_.assign(row, row + static_cast<std::ptrdiff_t>(rows_.names.size()));
+        before_.assign(row + 1, row + static_cast<std::ptrdiff_t>(rows_.names.size()));
     }
     Cell(ordinal) = FieldValue(field, std::move(value));
-    if (std::find(assigned_.begin(), assigned_.end(), ordinal) == assigned_.end())
+    if (!isAssigned_[ordinal])
         assigned_.push_back(ordinal);
+    isAssigned_[ordinal] = true;
+}
+
+void Recordset::ForgetAssigned() {
+    for (size_t ordinal : assigned_)
+        isAssigned_[ordinal] = false;
+    assigned_.clear();
 }
 
 std::vector<std::string> Recordset::NamesToWrite() const {
     std::vector<std::string> names;
     names.reserve(assigned_.size());
     for (size_t ordinal : assigned_)
-        names.push_back(rows_.names[ordinal]);
+        names.push_back(FieldName(ordinal));
     return names;
 }
 
@@ -139,9 +138,13 @@ std::vector<Value> Recordset::ValuesToWrite() {
 // An engine that moves rows as they change may not have told the new place yet.
 std::shared_ptr<Value> Recordset::AddressToWrite() {
     RequireRow();
-    const std::shared_ptr<Value>& address = addresses_[row_];
-    if (!address)
-        throw DatabaseError("该记录已经删除。");
+    addresses_.resize(RecordCount());
+    std::shared_ptr<Value>& address = addresses_[row_];
+    if (!address) {
+        if (AddressAsRead().IsNull())
+            throw DatabaseError("该记录已经删除。");
+        address = std::make_shared<Value>(AddressAsRead());
+    }
     if (address->IsNull())
         connection_.Flush();
     return address;
@@ -160,7 +163,7 @@ void Recordset::Update() {
             inserted_ = assigned_;
         }
         adding_ = false;
-        assigned_.clear();
+        ForgetAssigned();
         connection_.RunOnRow(insertText_, values, nullptr);
         return;
     }
@@ -182,11 +185,13 @@ void Recordset::ChangeRow(Engine& engine) {
         values.insert(values.end(), before_.begin(), before_.end());
     values.push_back(*address);
     if (changeText_.empty() || changed_ != assigned_ || compare) {
-        const std::vector<std::string> unchanged = compare ? rows_.names : std::vector<std::string>();
+        const std::vector<std::string> unchanged =
+            compare ? std::vector<std::string>(rows_.names.begin() + 1, rows_.names.end())
+                    : std::vector<std::string>();
         changeText_ = engine.ChangeText(tableName_, NamesToWrite(), unchanged);
         changed_ = assigned_;
     }
-    assigned_.clear();
+    ForgetAssigned();
     connection_.RunOnRow(changeText_, values, address);
     if (compare)
         changeText_.clear();
@@ -197,9 +202,10 @@ void Recordset::Delete() {
         throw DatabaseError("该记录集是只读的。");
     const std::shared_ptr<Value> address = AddressToWrite();
     const Value values[] = {*address};
-    assigned_.clear();
+    ForgetAssigned();
     connection_.RunOnRow(connection_.EngineInUse().DeleteText(tableName_), values, address);
     addresses_[row_].reset();
+    AddressAsRead() = Value();
 }
 
 } // namespace jxc

@@ -32,8 +32,8 @@ class Recordset {
     const Value& operator[](std::string_view name) const { return Field(OrdinalOf(name)); }
     const Value& operator[](size_t ordinal) const { return Field(ordinal); }
     size_t OrdinalOf(std::string_view name) const;
-    size_t FieldCount() const { return rows_.names.size(); }
-    const std::string& FieldName(size_t ordinal) const { return rows_.names[ordinal]; }
+    size_t FieldCount() const { return rows_.names.size() - firstField_; }
+    const std::string& FieldName(size_t ordinal) const { return rows_.names[firstField_ + ordinal]; }
 
     // Starts a new row; the fields assigned until Update make it. Fields not assigned are null. Once written,
     // the new row is not among the rows of this recordset.
@@ -59,15 +59,19 @@ class Recordset {
     void ChangeRow(Engine& engine);
     bool MustCompare(const Engine& engine) const;
     std::shared_ptr<Value> AddressToWrite();
+    Value& AddressAsRead() { return rows_.cells[row_ * rows_.names.size()]; }
+    void ForgetAssigned();
 
     Connection& connection_;
-    Rows rows_;
+    Rows rows_;             // Write: with each row's address before its fields; null for a deleted row
+    size_t firstField_ = 0; // 1 behind an address
     size_t row_ = 0;
     mutable size_t last_ = 0;              // the field taken last
     mutable std::vector<size_t> follower_; // the one taken after each field, the last time
     bool adding_ = false;
     std::vector<Value> newRow_;
     std::vector<size_t> assigned_;        // ordinals, since AddNew or the last Update
+    std::vector<bool> isAssigned_;        // by ordinal: whether it is among them
     std::vector<Value> before_;           // the current row before the first of them
     std::string tableName_;               // Write: the table
     const TableDef* table_ = nullptr;     // Write: its definition
@@ -76,7 +80,8 @@ class Recordset {
     std::string insertText_;
     std::vector<size_t> changed_; // the same of changeText_
     std::string changeText_;
-    // Write: the engine's address of each row; null for a deleted row.
+    // Write: the address of each row that was changed, which its engine keeps true. Empty until the first
+    // one.
     std::vector<std::shared_ptr<Value>> addresses_;
 };
 

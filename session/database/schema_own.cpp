@@ -36,7 +36,7 @@ Fields LineFields(bool closable) {
 // date.
 const std::vector<IndexDef> kHeaderIndexes = {
     {"fInvID", true}, {"fInvNo"}, {"fInvType,fInvNo"}, {"fInvDate"}};
-const std::vector<IndexDef> kLineIndexes = {{"fInvID"}, {"fInvNo"}};
+const std::vector<IndexDef> kLineIndexes = {{"fInvID,fInv1,fRowID"}, {"fInvNo"}};
 // Order lines are also asked for by product: a delivery lowers its order's balance, a plan sums what is on
 // order.
 const std::vector<IndexDef> kOrderLineIndexes = {{"fInvID,fCpID"}, {"fInvNo"}, {"fCpID"}};

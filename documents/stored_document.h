@@ -1,0 +1,24 @@
+// A document as it stands in its book, to see whether another user changed it since it was loaded.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "controls/value.h"
+
+namespace jxc {
+
+struct StoredDocument {
+    // The cells of the header row and of the line rows in their order; what approval writes into lines apart.
+    std::vector<Value> header;
+    std::vector<Value> lines;
+
+    bool Exists() const { return !header.empty(); }
+    bool operator==(const StoredDocument&) const = default;
+};
+
+// Reads the document of key `key` in the book that `stem` names. One that is gone does not Exist.
+StoredDocument ReadStored(const std::string& stem, std::int32_t key);
+
+} // namespace jxc
