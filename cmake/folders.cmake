@@ -22,12 +22,13 @@ if(JXC_SANITIZE)
   target_link_options(jxc_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# jxc_folder(NAME [LINK libraries...] [EXCLUDE files...]): the library jxc_NAME of every source below NAME/.
+# jxc_folder(NAME [LINK libraries...] [EXCLUDE parts...]): the library jxc_NAME of every source below NAME/
+# but for the files and folders excluded.
 function(jxc_folder name)
   cmake_parse_arguments(ARG "" "" "LINK;EXCLUDE" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${name}/*.cpp)
-  foreach(file IN LISTS ARG_EXCLUDE)
-    list(REMOVE_ITEM sources ${PROJECT_SOURCE_DIR}/${name}/${file})
+  foreach(part IN LISTS ARG_EXCLUDE)
+    list(FILTER sources EXCLUDE REGEX "^${PROJECT_SOURCE_DIR}/${name}/${part}($|/)")
   endforeach()
   if(NOT sources)
     add_library(jxc_${name} INTERFACE)

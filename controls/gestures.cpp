@@ -73,6 +73,29 @@ void ReplaceText(EditBox& box, const std::string& text) {
         }
 }
 
+// Ends a visit to the control; a routine may have sent the focus elsewhere meanwhile.
+void LeaveIf(Screen& screen, const Control& control) {
+    if (screen.Focus() == &control)
+        LeaveFocus(screen);
+}
+
+// The column that Enter leads to from `column` within a row, from the row's start with 0; 0 for none.
+int ColumnAfter(const Grid& grid, int column) {
+    const auto& order = grid.enterColumns;
+    for (int next = column + 1; order.empty() && next <= grid.ColumnCount(); ++next)
+        if (grid.CanType(next) && !grid.Column(next).hidden)
+            return next;
+    auto from = std::find(order.begin(), order.end(), column);
+    if (from == order.end()) // a column beside the way: on to the next one to its right
+        from = std::find_if(order.begin(), order.end(), [&](int next) { return next > column; });
+    else
+        ++from;
+    for (; from != order.end(); ++from)
+        if (grid.CanType(*from) && !grid.Column(*from).hidden)
+            return *from;
+    return 0;
+}
+
 } // namespace
 
 bool LeaveFocus(Screen& screen) {
@@ -111,16 +134,32 @@ void EnterText(Screen& screen, EditBox& box, const std::string& text) {
     LeaveFocus(screen);
 }
 
-void EnterDate(Screen& screen, DateBox& box, std::optional<Date> date) {
+bool TypeKey(Screen& screen, EditBox& box, int keyCode) {
+    if (box.locked || !GoTo(screen, box))
+        return false;
+    bool taken = false;
+    Guarded(screen, [&] {
+        taken = box.PressKey(keyCode);
+        if (auto* list = dynamic_cast<ListBox*>(&box))
+            list->SetText(list->text);
+    });
+    return taken;
+}
+
+void PickDate(Screen& screen, DateBox& box, std::optional<Date> date) {
     if (!GoTo(screen, box))
         return;
     box.date = date;
     if (box.onChange)
         Guarded(screen, box.onChange);
-    LeaveFocus(screen);
 }
 
-void SetToggle(Screen& screen, Toggle& toggle, bool on) {
+void EnterDate(Screen& screen, DateBox& box, std::optional<Date> date) {
+    PickDate(screen, box, date);
+    LeaveIf(screen, box);
+}
+
+void Tick(Screen& screen, Toggle& toggle, bool on) {
     auto* option = dynamic_cast<OptionButton*>(&toggle);
     if (option && !on)
         throw GestureRefused(toggle.name + " 只能选中。");
@@ -132,16 +171,24 @@ void SetToggle(Screen& screen, Toggle& toggle, bool on) {
         else
             static_cast<CheckBox&>(toggle).Change(on);
     });
-    LeaveFocus(screen);
 }
 
-void ChooseItem(Screen& screen, ListBox& list, int index) {
+void SetToggle(Screen& screen, Toggle& toggle, bool on) {
+    Tick(screen, toggle, on);
+    LeaveIf(screen, toggle);
+}
+
+void PickItem(Screen& screen, ListBox& list, int index) {
     if (index < -1 || index >= static_cast<int>(list.items.size()))
         throw GestureRefused(list.name + " 没有第 " + std::to_string(index) + " 项。");
     if (!GoTo(screen, list))
         return;
     Guarded(screen, [&] { list.Choose(index); });
-    LeaveFocus(screen);
+}
+
+void ChooseItem(Screen& screen, ListBox& list, int index) {
+    PickItem(screen, list, index);
+    LeaveIf(screen, list);
 }
 
 int ItemWithText(const ListBox& list, const std::string& text) {
@@ -206,6 +253,26 @@ void TypeCell(Screen& screen, Grid& grid, int row, int column, const std::string
         if (grid.onCellLeave)
             grid.onCellLeave(row, column);
     });
+}
+
+bool StepByEnter(Screen& screen, Grid& grid) {
+    const int first = ColumnAfter(grid, 0);
+    const int row = grid.selectedRow;
+    if (first == 0 || row < 1)
+        return false;
+    const bool blank = grid.Text(row, first).empty();
+    const int next = blank ? 0 : ColumnAfter(grid, grid.selectedColumn);
+    if (next != 0) {
+        grid.selectedColumn = next;
+        return true;
+    }
+    if (row == grid.RowCount() && !blank && grid.onEnterKey)
+        Guarded(screen, grid.onEnterKey);
+    if (row == grid.RowCount())
+        return false;
+    grid.selectedRow = row + 1;
+    grid.selectedColumn = first;
+    return true;
 }
 
 void SelectRow(Screen& screen, Grid& grid, int row) {

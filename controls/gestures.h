@@ -27,7 +27,15 @@ bool GoTo(Screen& screen, Control& control);
 // Takes the focus away from every control; false when the one that has it keeps it.
 bool LeaveFocus(Screen& screen);
 
-// Enters, replaces the whole text key by key, leaves.
+// Types one character into the box that has the focus: its code point, 8 for backspace, 22 for a paste. False
+// when the keys refuse it.
+bool TypeKey(Screen& screen, EditBox& box, int keyCode);
+// Enter the control, change it, and stay there.
+void PickDate(Screen& screen, DateBox& box, std::optional<Date> date);
+void Tick(Screen& screen, Toggle& toggle, bool on);
+void PickItem(Screen& screen, ListBox& list, int index);
+
+// The same, and leave the control again. EnterText replaces the whole text key by key.
 void EnterText(Screen& screen, EditBox& box, const std::string& text);
 void EnterDate(Screen& screen, DateBox& box, std::optional<Date> date);
 void SetToggle(Screen& screen, Toggle& toggle, bool on);
@@ -42,6 +50,10 @@ void PressKey(Screen& screen, Control& control, const std::string& key);
 // Goes to the cell, types, leaves it. A row one past the last is appended by Enter on the last row where the
 // screen does so.
 void TypeCell(Screen& screen, Grid& grid, int row, int column, const std::string& text);
+// Enter in the selected cell, which has been left: selects the cell where a person types next, in the order of
+// the grid's enterColumns; behind the last row's last one, the screen's new row. False when there is none: the
+// focus then goes to the next control.
+bool StepByEnter(Screen& screen, Grid& grid);
 void SelectRow(Screen& screen, Grid& grid, int row);
 void DoubleClickRow(Screen& screen, Grid& grid, int row);
 void ClickHeading(Screen& screen, Grid& grid, int column);

@@ -79,6 +79,8 @@ struct Grid : Control {
 
     int selectedRow = 0; // 0 for none
     int selectedColumn = 1;
+    // The columns that Enter leads through while rows are typed; empty for all that take typing.
+    std::vector<int> enterColumns;
     bool readOnly = false; // no typing at all
     bool CanType(int column) const { return !readOnly && !Column(column).locked && !HasFormula(column); }
 

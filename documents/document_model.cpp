@@ -89,6 +89,10 @@ void SetUpLineGrid(Grid& grid, const TypeRow& type, const Parameters& parameters
         grid.Column(column).locked = true;
     grid.Column(line::kQuantity).locked = type.IsStocktake();
     grid.Column(line::kQuantity).textColor = type.fSetDjBack_ ? kRed : kNormalColor;
+    if (type.IsStocktake())
+        grid.enterColumns = {line::kCode, line::kCounted};
+    else
+        grid.enterColumns = {line::kCode, line::kQuantity, line::kPrice};
     grid.readOnly = !IsEditing(action);
 }
 

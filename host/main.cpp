@@ -11,6 +11,9 @@
 #include "host/robot.h"
 #include "host/screens.h"
 #include "host/tour.h"
+#ifdef JXC_VIEW
+#include "host/window/window_program.h"
+#endif
 
 namespace {
 
@@ -53,7 +56,11 @@ int Check(const std::string& company) {
 
 int main(int argc, char** argv) {
     CLI::App app{"lzJxc 进销存 — 采购、销售、库存", "jxc"};
+#ifdef JXC_VIEW
+    app.require_subcommand(0, 1);
+#else
     app.require_subcommand(1);
+#endif
     std::string company;
     std::string user;
     std::vector<std::string> settings;
@@ -73,6 +80,14 @@ int main(int argc, char** argv) {
     CLI::App* tour = app.add_subcommand("tour", "演示：录入、审核、查询库存，并打印结果");
     tour->add_option("COMPANY", company, "文件（没有则以样例资料建立），或空的 postgresql://... 数据库");
 
+#ifdef JXC_VIEW
+    std::string pictures;
+    tour->add_option("--shots", pictures, "驱动各窗口，把每个窗口的图片存入目录");
+    CLI::App* open = app.add_subcommand("open", "打开主窗口");
+    open->add_option("COMPANY", company, "文件，或 postgresql://... 地址")->required();
+    open->add_option("--user", user, "登录用户");
+#endif
+
     CLI::App* check = app.add_subcommand("check", "检查帐套，每处不符一行");
     check->add_option("COMPANY", company, "文件，或 postgresql://... 地址")->required();
 
@@ -82,6 +97,12 @@ int main(int argc, char** argv) {
             return Create(company, sample, bare);
         if (*drive)
             return Drive(company, user, settings);
+#ifdef JXC_VIEW
+        if (*tour && !pictures.empty())
+            return TakePictures(pictures);
+        if (*open || app.get_subcommands().empty())
+            return RunWindows(company, user);
+#endif
         if (*tour)
             return PlayTour(company);
         return Check(company);

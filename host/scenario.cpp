@@ -276,9 +276,16 @@ void Scenario::Expect(const std::string& verb, const Line& line, const Words& wo
     else if (verb == "do")
         execute_(RestAfter(line.text, 1));
     else if (verb == "let")
-        kept_[words.at(1)] = query_(RestAfter(line.text, 2)).At(0, 0).AsText();
+        Keep(words.at(1), RestAfter(line.text, 2));
     else
         Fail("不认识的步骤");
+}
+
+void Scenario::Keep(const std::string& figure, const std::string& sql) {
+    const Rows found = query_(sql);
+    if (found.Count() == 0)
+        return Fail("没有记录：" + sql);
+    kept_[figure] = found.At(0, 0).AsText();
 }
 
 std::optional<json> Scenario::AskControl(const Words& words) {

@@ -59,6 +59,7 @@ class Scenario : public RequestSource {
     void Expect(const std::string& verb, const Line& line, const Words& words);
     std::optional<nlohmann::json> AskControl(const Words& words);
     std::optional<nlohmann::json> AnswerBox(const std::string& rest);
+    void Keep(const std::string& figure, const std::string& sql);
     void ExpectScreen(const std::string& wanted);
     void ExpectRows(const std::string& sql);
     void ExpectRefusal(const std::string& text);

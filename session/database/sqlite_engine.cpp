@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <filesystem>
 
 #include "session/database/sqlite_functions.h"
 #include "session/database/sqlite_writer.h"
@@ -265,6 +266,11 @@ void SqliteEngine::RollbackTo(int depth) {
 void SqliteEngine::ExecuteScript(const std::string& sql) {
     if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
         Fail(db_);
+}
+
+void SqliteEngine::CopyTo(const std::string& file) {
+    SqliteStatement(db_, "vacuum into ?").Run(std::vector<Value>{file});
+    std::filesystem::permissions(file, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
 }
 
 void SqliteEngine::Adopt() {

@@ -44,6 +44,8 @@ class SqliteEngine : public Engine {
     int DepthOfFailure() const override { return -1; }
 
     void Adopt() override;
+    // Writes the whole database as it stands to a new file that only this user can read, while others go on working.
+    void CopyTo(const std::string& file);
     void ExecuteScript(const std::string& sql) override;
     std::string ColumnDefinition(const FieldDef& field) const override;
     std::string TableSuffix() const override { return " strict"; }

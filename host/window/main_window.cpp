@@ -1,0 +1,351 @@
+#include "host/window/main_window.h"
+
+#include <filesystem>
+
+#include "controls/view.h"
+#include "host/company/backup.h"
+#include "host/company/create_company.h"
+#include "host/company_address.h"
+#include "host/window/company_users.h"
+#include "session/company_visit.h"
+#include "session/database/recordset.h"
+#include "session/period.h"
+#include "session/session.h"
+#include "view/text.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kRecent = 8;
+constexpr int kNode = Qt::UserRole; // subject * 1000 + item of a tree node
+
+QString WithoutMnemonic(const std::string& caption) {
+    return Q(caption).remove(QRegularExpression("\\(&.\\)|&"));
+}
+
+QString ShownName(const std::string& company) {
+    if (DialectOf(company) != 0)
+        return QUrl(Q(company)).toDisplayString(QUrl::RemovePassword);
+    return QFileInfo(Q(company)).fileName();
+}
+
+// What the host reads of a company when it opens it.
+struct CompanyFacts {
+    std::string name;
+    std::vector<CompanyUser> users;
+    std::string period;
+};
+
+CompanyFacts ReadFacts(const std::string& company) {
+    const OpenCompany open(company);
+    LoadPeriodSettings();
+    CompanyFacts facts;
+    const Recordset header(Conn(), "select * from myCompany");
+    if (!header.AtEnd())
+        facts.name =
+            header["FullName"].AsText().empty() ? header["CompName"].AsText() : header["FullName"].AsText();
+    facts.users = CompanyUsers();
+    if (session.PeriodStart && session.PeriodEnd)
+        facts.period = IsoText(*session.PeriodStart) + " 至 " + IsoText(*session.PeriodEnd);
+    return facts;
+}
+
+} // namespace
+
+MainWindow::MainWindow() {
+    setWindowTitle("lzJxc 进销存");
+    setObjectName("mainWindow");
+    resize(1024, 660);
+    auto* splitter = new QSplitter;
+    tree_ = new QTreeWidget;
+    tree_->setObjectName("screens");
+    tree_->setHeaderHidden(true);
+    tree_->setMinimumWidth(220);
+    splitter->addWidget(tree_);
+
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(28, 24, 28, 24);
+    heading_ = new QLabel;
+    QFont large = heading_->font();
+    large.setPointSizeF(large.pointSizeF() * 1.7);
+    large.setBold(true);
+    heading_->setFont(large);
+    purpose_ = new QLabel;
+    purpose_->setWordWrap(true);
+    commands_ = new QVBoxLayout;
+    companyLine_ = new QLabel;
+    companyLine_->setTextFormat(Qt::PlainText);
+    layout->addWidget(heading_);
+    layout->addWidget(purpose_);
+    layout->addSpacing(16);
+    layout->addLayout(commands_);
+    layout->addStretch();
+    layout->addWidget(companyLine_);
+    splitter->addWidget(page);
+    splitter->setStretchFactor(1, 1);
+    setCentralWidget(splitter);
+
+    connect(tree_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) { ShowItem(item); });
+    connect(tree_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
+        if (item->childCount() > 0)
+            return;
+        const int place = item->data(0, kNode).toInt();
+        Start(subjects_[static_cast<size_t>(place / 1000)]
+                  .items[static_cast<size_t>(place % 1000)]
+                  .entries.front());
+    });
+    BuildCompanyMenu();
+    restoreGeometry(memory_.value("mainWindow").toByteArray());
+}
+
+MainWindow::~MainWindow() {
+    memory_.setValue("mainWindow", saveGeometry());
+}
+
+void MainWindow::Guard(const std::function<void()>& command) {
+    try {
+        command();
+    } catch (const std::exception& error) {
+        Warn(S(windowTitle()), error.what());
+    }
+}
+
+void MainWindow::BuildCompanyMenu() {
+    QMenu* company = menuBar()->addMenu("帐套(&F)");
+    company->addAction("打开帐套(&O)...", QKeySequence::Open, this,
+                       [this] { Guard([this] { ChooseCompany(); }); });
+    company->addAction("新建帐套(&N)...", this, [this] { Guard([this] { NewCompany(); }); });
+    recent_ = company->addMenu("最近的帐套(&R)");
+    connect(recent_, &QMenu::aboutToShow, this, [this] { ShowRecent(); });
+    company->addSeparator();
+    company->addAction("更换用户(&U)...", this, [this] { Guard([this] { ChangeUser(); }); });
+    company->addAction("备份(&B)...", this, [this] { Guard([this] { BackUp(); }); });
+    company->addSeparator();
+    company->addAction("退出(&X)", QKeySequence::Quit, this, [this] { close(); });
+    QMenu* help = menuBar()->addMenu("帮助(&H)");
+    help->addAction("关于(&A)", this, [this] { About(); });
+}
+
+bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& user) {
+    CompanyFacts facts;
+    try {
+        facts = ReadFacts(company);
+    } catch (const std::exception& error) {
+        Warn(S(windowTitle()), error.what());
+        return false;
+    }
+    const auto known = std::find_if(facts.users.begin(), facts.users.end(),
+                                    [&](const CompanyUser& each) { return each.name == user; });
+    if (!user.empty() && known == facts.users.end()) {
+        Warn(S(windowTitle()), "帐套中没有用户“" + user + "”。");
+        return false;
+    }
+    const CompanyUser signedIn = known != facts.users.end() ? *known
+                                 : facts.users.empty()      ? CompanyUser{}
+                                                            : facts.users.front();
+    company_ = company;
+    ResetScreens();
+    UseCompany(control_, company);
+    control_.CompName(facts.name);
+    control_.UserName(signedIn.name);
+    control_.ZgName(SupervisorOf(facts.users));
+    control_.myPower(signedIn.rights);
+    setWindowTitle("lzJxc 进销存 — " + Q(facts.name));
+    companyLine_->setText("帐套：" + ShownName(company) + "    用户：" + Q(signedIn.name) + "    会计期间：" +
+                          Q(facts.period));
+    {
+        const OpenCompany open(company);
+        subjects_ = SubjectsOf();
+    }
+    FillTree();
+    BuildMenus();
+    QStringList recent = memory_.value("recent").toStringList();
+    recent.removeAll(Q(company));
+    recent.prepend(Q(company));
+    memory_.setValue("recent", recent.mid(0, kRecent));
+    return true;
+}
+
+void MainWindow::FillTree() {
+    const QSignalBlocker silent(tree_);
+    tree_->clear();
+    for (size_t subject = 0; subject < subjects_.size(); ++subject) {
+        auto* branch = new QTreeWidgetItem(tree_, {WithoutMnemonic(subjects_[subject].caption)});
+        branch->setFlags(Qt::ItemIsEnabled);
+        for (size_t item = 0; item < subjects_[subject].items.size(); ++item) {
+            auto* leaf = new QTreeWidgetItem(branch, {Q(subjects_[subject].items[item].caption)});
+            leaf->setData(0, kNode, static_cast<int>(subject * 1000 + item));
+        }
+    }
+    tree_->expandAll();
+    if (QTreeWidgetItem* first = tree_->topLevelItem(0); first && first->childCount() > 0)
+        tree_->setCurrentItem(first->child(0));
+    ShowItem(tree_->currentItem());
+    tree_->setFocus();
+}
+
+void MainWindow::BuildMenus() {
+    for (QAction* menu : subjectMenus_)
+        delete menu->menu();
+    subjectMenus_.clear();
+    QAction* help = menuBar()->actions().back();
+    for (const Subject& subject : subjects_) {
+        auto* menu = new QMenu(Q(subject.caption), this);
+        for (const MenuItemRow& item : subject.items) {
+            if (item.entries.size() == 1) {
+                menu->addAction(Q(item.caption), this,
+                                [this, entry = item.entries.front()] { Start(entry); });
+                continue;
+            }
+            QMenu* ways = menu->addMenu(Q(item.caption));
+            for (const MenuEntry& entry : item.entries)
+                ways->addAction(Q(entry.caption), this, [this, entry] { Start(entry); });
+        }
+        subjectMenus_.push_back(menuBar()->insertMenu(help, menu));
+    }
+}
+
+void MainWindow::ShowItem(QTreeWidgetItem* node) {
+    while (QLayoutItem* old = commands_->takeAt(0)) {
+        delete old->widget();
+        delete old;
+    }
+    if (!node || node->parent() == nullptr)
+        return;
+    const int place = node->data(0, kNode).toInt();
+    const MenuItemRow& item =
+        subjects_[static_cast<size_t>(place / 1000)].items[static_cast<size_t>(place % 1000)];
+    heading_->setText(Q(item.caption));
+    purpose_->setText(Q(item.purpose));
+    for (const MenuEntry& entry : item.entries) {
+        auto* button = new QPushButton(Q(entry.caption));
+        button->setMinimumSize(180, 34);
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        connect(button, &QPushButton::clicked, this, [this, entry] { Start(entry); });
+        commands_->addWidget(button);
+    }
+}
+
+void MainWindow::Start(const MenuEntry& entry) {
+    if (!entry.screen.empty()) {
+        VisitCompany([&] { ShowModal(ScreenNamed(entry.screen)); });
+        if (entry.screen == "frmHostCompany" || entry.screen == "frmHostUsers")
+            OpenCompanyOf(company_, session.UserName);
+        return;
+    }
+    control_.myType(entry.myType);
+    control_.Refresh(entry.action);
+}
+
+const MenuEntry* MainWindow::FindEntry(const QString& itemCaption, const QString& entryCaption) const {
+    for (const Subject& subject : subjects_)
+        for (const MenuItemRow& item : subject.items)
+            for (const MenuEntry& entry : item.entries)
+                if (Q(item.caption) == itemCaption && WithoutMnemonic(entry.caption) == entryCaption)
+                    return &entry;
+    return nullptr;
+}
+
+void MainWindow::SelectItem(const QString& item) {
+    const auto found = tree_->findItems(item, Qt::MatchExactly | Qt::MatchRecursive);
+    if (!found.isEmpty())
+        tree_->setCurrentItem(found.front());
+}
+
+void MainWindow::ShowRecent() {
+    recent_->clear();
+    for (const QString& company : memory_.value("recent").toStringList())
+        recent_->addAction(ShownName(S(company)), this, [this, company] { OpenCompanyOf(S(company), ""); })
+            ->setToolTip(company);
+    recent_->setEnabled(!recent_->isEmpty());
+}
+
+void MainWindow::ChooseCompany() {
+    QDialog window(this);
+    window.setWindowTitle("打开帐套");
+    auto* layout = new QVBoxLayout(&window);
+    layout->addWidget(new QLabel("帐套文件，或数据库服务器上的地址（postgresql://…）："));
+    auto* address = new QLineEdit(Q(company_));
+    address->setMinimumWidth(460);
+    auto* browse = new QPushButton("浏览(&B)...");
+    auto* line = new QHBoxLayout;
+    line->addWidget(address);
+    line->addWidget(browse);
+    layout->addLayout(line);
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton("打开(&O)", QDialogButtonBox::AcceptRole);
+    buttons->addButton("取消(&C)", QDialogButtonBox::RejectRole);
+    layout->addWidget(buttons);
+    connect(browse, &QPushButton::clicked, &window, [&] {
+        const QString file =
+            QFileDialog::getOpenFileName(&window, "打开帐套", address->text(), "帐套 (*.db);;所有文件 (*)");
+        if (!file.isEmpty())
+            address->setText(file);
+    });
+    connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
+    if (window.exec() == QDialog::Accepted && !address->text().trimmed().isEmpty())
+        OpenCompanyOf(S(address->text().trimmed()), "");
+}
+
+void MainWindow::NewCompany() {
+    QString file =
+        QFileDialog::getSaveFileName(this, "新建帐套", QDir::homePath() + "/我的公司.db", "帐套 (*.db)");
+    if (file.isEmpty())
+        return;
+    if (QFileInfo(file).suffix().isEmpty())
+        file += ".db";
+    if (QFileInfo::exists(file))
+        throw std::runtime_error("文件已经存在，请另取名称：" + S(file));
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    try {
+        CreateCompany(0, S(file), CompanyKind::Default);
+    } catch (const std::exception&) {
+        QApplication::restoreOverrideCursor();
+        throw;
+    }
+    QApplication::restoreOverrideCursor();
+    if (OpenCompanyOf(S(file), ""))
+        Inform(S(windowTitle()), "帐套已建立。请先在[资料]中输入公司、仓库、产品与客户。");
+}
+
+void MainWindow::BackUp() {
+    const QString name =
+        QFileInfo(Q(company_)).completeBaseName() + QDate::currentDate().toString("-yyyyMMdd") + ".db";
+    QFileDialog dialog(this, "备份帐套", QDir::homePath() + "/" + name, "帐套 (*.db)");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const std::string file = S(dialog.selectedFiles().front());
+    BackUpCompany(company_, file);
+    Inform(S(windowTitle()), "备份完毕，并已检查可以读出：\n" + file);
+}
+
+void MainWindow::ChangeUser() {
+    QStringList users;
+    for (const CompanyUser& user : ReadFacts(company_).users)
+        users << Q(user.name);
+    const QString user = ChosenUser(users);
+    if (!user.isEmpty())
+        OpenCompanyOf(company_, S(user));
+}
+
+QString MainWindow::ChosenUser(const QStringList& users) {
+    QInputDialog dialog(this);
+    dialog.setWindowTitle("更换用户");
+    dialog.setLabelText("用户：");
+    dialog.setComboBoxItems(users);
+    dialog.setTextValue(Q(session.UserName));
+    dialog.setOkButtonText("确定(&O)");
+    dialog.setCancelButtonText("取消(&C)");
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+}
+
+void MainWindow::About() {
+    Inform("关于", "lzJxc 进销存 0.1\n\n采购、销售、库存。单机帐套用 SQLite，多用户帐套用 PostgreSQL。");
+}
+
+} // namespace jxc

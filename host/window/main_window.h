@@ -1,0 +1,63 @@
+// The program's main window: the host around the module. It knows the company and the user, offers the
+// screens by subject, sets the properties of lzJxc and calls Refresh.
+#pragma once
+
+#include <QMainWindow>
+#include <QSettings>
+
+#include "host/window/screen_menu.h"
+#include "session/lzjxc.h"
+
+class QLabel;
+class QTreeWidget;
+class QTreeWidgetItem;
+class QVBoxLayout;
+
+namespace jxc {
+
+class QtView;
+
+class MainWindow : public QMainWindow {
+  public:
+    MainWindow();
+    ~MainWindow() override;
+
+    // Opens a company as `user`, "" for its first one. Failures are told in a box; false then, and the
+    // company before stays open.
+    bool OpenCompanyOf(const std::string& company, const std::string& user);
+    bool HasCompany() const { return !company_.empty(); }
+
+    void Start(const MenuEntry& entry);
+    // The entry of an item by captions, without the mnemonics; null when there is none.
+    const MenuEntry* FindEntry(const QString& item, const QString& entry) const;
+    void SelectItem(const QString& item);
+
+  private:
+    void BuildMenus();
+    void BuildCompanyMenu();
+    void FillTree();
+    void ShowItem(QTreeWidgetItem* item);
+    void ShowRecent();
+    void ChooseCompany();
+    void NewCompany();
+    void BackUp();
+    void ChangeUser();
+    void About();
+    // Runs a command of the window; what it throws is told.
+    void Guard(const std::function<void()>& command);
+    QString ChosenUser(const QStringList& users);
+
+    lzJxc control_;
+    QSettings memory_{"lzJxc", "jxc"};
+    std::string company_;
+    std::vector<Subject> subjects_;
+    QTreeWidget* tree_ = nullptr;
+    QLabel* heading_ = nullptr;
+    QLabel* purpose_ = nullptr;
+    QVBoxLayout* commands_ = nullptr;
+    QLabel* companyLine_ = nullptr;
+    QMenu* recent_ = nullptr;
+    std::vector<QAction*> subjectMenus_;
+};
+
+} // namespace jxc

@@ -1,0 +1,147 @@
+// The windows of the sample company, each in a telling state, as pictures.
+
+#include <filesystem>
+#include <iostream>
+
+#include "host/window/main_window.h"
+#include "host/window/sample_company_file.h"
+#include "host/window/window_program.h"
+#include "host/window/window_script.h"
+#include "host/window/windows_in_use.h"
+#include "view/text.h"
+
+namespace jxc {
+
+namespace {
+
+class PictureBook {
+  public:
+    PictureBook(MainWindow& window, const QString& folder) : window_(window), folder_(folder) {}
+
+    void Take(const QString& name) {
+        script_.Picture(folder_ + "/" + name + ".png");
+        script_.Then([name] { std::cout << "  " << S(name) << ".png" << std::endl; });
+    }
+    // Opens a screen from the main window. The steps behind it run in that screen.
+    void Open(const QString& item, const QString& entry) {
+        script_.Then([this, item, entry] {
+            window_.SelectItem(item);
+            const MenuEntry* found = window_.FindEntry(item, entry);
+            if (!found)
+                throw std::runtime_error("主窗口没有 " + S(item) + "/" + S(entry));
+            window_.Start(*found);
+        });
+        script_.Then([] {}); // the screen has opened and painted
+    }
+    // A line of a document by keys alone.
+    void Line(const QString& code, const QString& quantity, const QString& price) {
+        for (const QString& cell : {code, quantity, price}) {
+            if (cell.isEmpty())
+                continue;
+            script_.Type(cell);
+            script_.Press(Qt::Key_Return);
+        }
+    }
+    void To(const QString& control) {
+        script_.Then([control] {
+            auto* widget = WindowInFront()->findChild<QWidget*>(control);
+            if (!widget)
+                throw std::runtime_error("没有 " + S(control));
+            widget->setFocus();
+        });
+    }
+    void Choose(const QString& list, const QString& item) {
+        script_.Then([list, item] {
+            auto* box = WindowInFront()->findChild<QComboBox*>(list);
+            const int index = box ? box->findText(item) : -1;
+            if (index < 0)
+                throw std::runtime_error(S(list) + " 没有 " + S(item));
+            box->setCurrentIndex(index);
+            emit box->activated(index);
+        });
+    }
+
+    WindowScript& Script() { return script_; }
+
+  private:
+    MainWindow& window_;
+    QString folder_;
+    WindowScript script_;
+};
+
+void ReceiptPictures(PictureBook& book) {
+    WindowScript& script = book.Script();
+    book.Open("入库单", "新增");
+    book.Choose("cboCkName", "总部仓");
+    book.To("txtKhSeek");
+    script.Type("G001");
+    script.Press(Qt::Key_Return);
+    book.To("Grid2");
+    book.Line("CPU002", "20", "615");
+    book.Line("MEM002", "50", "170");
+    book.Line("CPF004", "100", "6.5");
+    script.Click("cmdLoadKh2");
+    book.Take("receipt");
+    script.Click("cmdSave");
+    book.Take("save-question");
+    script.Click("OK");
+    book.Take("print-question");
+    script.Click("Yes");
+    book.Take("print-preview");
+    script.Press(Qt::Key_Escape);
+    script.Click("cmdQuit");
+}
+
+void OtherDocuments(PictureBook& book) {
+    WindowScript& script = book.Script();
+    book.Open("生产组装单", "新增");
+    book.Choose("cboCkName", "生产仓");
+    book.Choose("cboCkName2", "总部仓");
+    book.To("Grid2");
+    book.Line("CPU002", "1", "");
+    book.Take("assembly");
+    script.Click("cmdQuit");
+    book.Open("盘点单", "新增");
+    book.Choose("cboCkName", "总部仓");
+    book.To("Grid2");
+    book.Line("CPU002", "18", "");
+    book.Line("MEM002", "40", "");
+    book.Take("stocktake");
+    script.Click("cmdQuit");
+}
+
+void Queries(PictureBook& book) {
+    WindowScript& script = book.Script();
+    for (const auto& [item, name] :
+         {std::pair("库存统计", "stock"), {"库存报警", "alarm"}, {"成本核算统计", "cost"}}) {
+        book.Open(item, "打开");
+        book.Take(name);
+        script.Click("cmdQuit");
+    }
+}
+
+} // namespace
+
+int TakePictures(const std::string& folder) {
+    const WindowsInUse windows;
+    std::filesystem::create_directories(folder);
+    const QTemporaryDir place;
+    const std::string company = S(place.filePath("样例公司.db"));
+    MakeSampleCompany(company);
+    std::cout << "图片存入 " << folder << "：" << std::endl;
+    MainWindow window;
+    window.show();
+    if (!window.OpenCompanyOf(company, ""))
+        return 1;
+    PictureBook book(window, Q(folder));
+    book.Take("main");
+    ReceiptPictures(book);
+    OtherDocuments(book);
+    Queries(book);
+    book.Script().Run();
+    if (!book.Script().Failure().empty())
+        std::cerr << book.Script().Failure() << std::endl;
+    return book.Script().Failure().empty() ? 0 : 1;
+}
+
+} // namespace jxc

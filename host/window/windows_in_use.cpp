@@ -1,0 +1,46 @@
+#include "host/window/windows_in_use.h"
+
+#include <cstdlib>
+
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include "host/screens.h"
+#include "session/components.h"
+#include "view/page_printer.h"
+
+namespace jxc {
+
+namespace {
+
+// Without a display the windows are painted into memory.
+void ChoosePlatform() {
+    if (!std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY"))
+        setenv("QT_QPA_PLATFORM", "offscreen", 0);
+}
+
+int& Prepared(int& argc) {
+    ChoosePlatform();
+    return argc;
+}
+
+// The toolkit's own windows, such as the file dialog, speak the user's language too.
+void SpeakChinese(QApplication& application) {
+    QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
+    auto* texts = new QTranslator(&application);
+    if (texts->load("qtbase_zh_CN", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(texts);
+}
+
+} // namespace
+
+WindowsInUse::WindowsInUse() : application_(Prepared(argc_), argv_) {
+    QApplication::setApplicationName("jxc");
+    QApplication::setOrganizationName("lzJxc");
+    QApplication::setStyle("Fusion");
+    SpeakChinese(application_);
+    RegisterAllScreens();
+    ComponentsInUse().printer = std::make_unique<PreviewPrinter>();
+}
+
+} // namespace jxc

@@ -1,0 +1,16 @@
+// Printouts as HTML pages in the subset that browsers and the toolkit's rich text share: no scripts, no
+// outside files.
+#pragma once
+
+#include <string>
+
+#include "session/components.h"
+
+namespace jxc {
+
+// A grid with its title, the company's header and the amount below; hidden columns are left out.
+std::string GridPage(const GridPrintJob& job);
+// A document: its fields and its lines.
+std::string TemplatePage(const TemplatePrintJob& job);
+
+} // namespace jxc

@@ -1,0 +1,282 @@
+// Text boxes, lists and dates. Every character that a person types, pastes or composes goes through the
+// model's key filter; the widget only shows what the model took.
+
+#include <QDateEdit>
+
+#include "controls/gestures.h"
+#include "controls/text.h"
+#include "view/binding.h"
+#include "view/screen_window.h"
+#include "view/text.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kBackspace = 8;
+constexpr int kPaste = 22;
+
+// Positions in the models are characters, in the toolkit 16-bit units.
+int CharactersBefore(const QString& text, int units) {
+    return static_cast<int>(text.left(units).toUcs4().size());
+}
+int UnitsOf(const QString& text, int characters) {
+    const QList<uint> points = text.toUcs4().mid(0, characters);
+    return static_cast<int>(
+        QString::fromUcs4(reinterpret_cast<const char32_t*>(points.data()), points.size()).size());
+}
+
+// A line that is edited through the model: the whole of a text box, the line of a list.
+class EditLine {
+  public:
+    EditLine(ScreenWindow& window, EditBox& box, QLineEdit& line) : window_(window), box_(box), line_(line) {
+        line_.setAcceptDrops(false);
+        line_.setContextMenuPolicy(Qt::CustomContextMenu);
+        QObject::connect(&line_, &QWidget::customContextMenuRequested, &line_,
+                         [this](const QPoint& at) { ShowMenu(at); });
+    }
+
+    void Refresh() {
+        if (line_.text() != Q(box_.text))
+            line_.setText(Q(box_.text));
+        line_.setReadOnly(box_.locked || !TakesText());
+    }
+
+    bool OnKey(const QKeyEvent& key) {
+        if (key.matches(QKeySequence::Paste))
+            return Type(kPaste);
+        if (key.matches(QKeySequence::Cut)) {
+            line_.copy();
+            return !line_.hasSelectedText() || Type(kBackspace);
+        }
+        if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo))
+            return true; // its memory knows nothing of what the model refused
+        if (key.key() == Qt::Key_Backspace)
+            return Type(kBackspace);
+        if (key.key() == Qt::Key_Delete)
+            return DeleteAhead();
+        const bool command = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+        if (command || key.text().isEmpty() || !key.text().at(0).isPrint())
+            return false;
+        TypeText(key.text());
+        return true;
+    }
+
+    // What is being composed is shown by the widget; what is finished is typed.
+    bool OnInput(QInputMethodEvent& event) {
+        const QString finished = event.commitString();
+        if (finished.isEmpty())
+            return false;
+        event.setCommitString("");
+        TypeText(finished);
+        return false;
+    }
+
+  private:
+    bool TakesText() const {
+        const auto* list = dynamic_cast<const ListBox*>(&box_);
+        return !list || list->editable;
+    }
+
+    void TypeText(const QString& text) {
+        for (const uint point : text.toUcs4())
+            Type(static_cast<int>(point));
+    }
+
+    bool DeleteAhead() {
+        if (!line_.hasSelectedText())
+            line_.setSelection(line_.cursorPosition(), 1);
+        return !line_.hasSelectedText() || Type(kBackspace);
+    }
+
+    bool Type(int keyCode) {
+        const QString text = line_.text();
+        const int from = line_.hasSelectedText() ? line_.selectionStart() : line_.cursorPosition();
+        box_.selStart = CharactersBefore(text, from);
+        box_.selLength =
+            line_.hasSelectedText() ? CharactersBefore(line_.selectedText(), line_.selectionLength()) : 0;
+        bool taken = false;
+        window_.Do([&] { taken = TypeKey(window_.Shown(), box_, keyCode); });
+        if (!taken)
+            QApplication::beep();
+        line_.setCursorPosition(UnitsOf(line_.text(), box_.selStart));
+        return true;
+    }
+
+    void ShowMenu(const QPoint& at) {
+        QMenu menu(&line_);
+        menu.addAction("剪切(&T)", [this] {
+            line_.copy();
+            if (line_.hasSelectedText())
+                Type(kBackspace);
+        });
+        menu.addAction("复制(&C)", &line_, &QLineEdit::copy);
+        menu.addAction("粘贴(&P)", [this] { Type(kPaste); });
+        menu.addAction("全选(&A)", &line_, &QLineEdit::selectAll);
+        menu.exec(line_.mapToGlobal(at));
+    }
+
+    ScreenWindow& window_;
+    EditBox& box_;
+    QLineEdit& line_;
+};
+
+bool IsMiddleClick(const QEvent& event) {
+    return (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonRelease) &&
+           static_cast<const QMouseEvent&>(event).button() == Qt::MiddleButton;
+}
+
+class TextBinding : public Binding {
+  public:
+    TextBinding(ScreenWindow& window, TextBox& box, QLineEdit& line)
+        : Binding(window, box, line), line_(line), edit_(window, box, line) {}
+
+    void Refresh() override {
+        Binding::Refresh();
+        edit_.Refresh();
+    }
+    void TakeFocus(Qt::FocusReason reason) override {
+        line_.setFocus(reason);
+        line_.selectAll();
+    }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        return IsMiddleClick(*event) || Binding::eventFilter(object, event);
+    }
+
+  protected:
+    bool OnKey(QKeyEvent& key) override {
+        if (key.key() == Qt::Key_Down || key.key() == Qt::Key_Up) {
+            window_.Step(key.key() == Qt::Key_Down);
+            return true;
+        }
+        return edit_.OnKey(key) || Binding::OnKey(key);
+    }
+    bool OnInput(QInputMethodEvent& event) override { return edit_.OnInput(event); }
+
+  private:
+    QLineEdit& line_;
+    EditLine edit_;
+};
+
+class ListBinding : public Binding {
+  public:
+    ListBinding(ScreenWindow& window, ListBox& list, QComboBox& box)
+        : Binding(window, list, box), list_(list), box_(box) {
+        box_.setInsertPolicy(QComboBox::NoInsert);
+        if (list_.editable) {
+            box_.setCompleter(nullptr);
+            edit_ = std::make_unique<EditLine>(window, list, *box_.lineEdit());
+            Watch(*box_.lineEdit());
+        }
+        connect(&box_, &QComboBox::activated, this,
+                [this](int index) { window_.Do([&] { PickItem(window_.Shown(), list_, index); }); });
+    }
+
+    void Refresh() override {
+        Binding::Refresh();
+        const QSignalBlocker silent(box_);
+        if (shown_ != list_.items) {
+            shown_ = list_.items;
+            box_.clear();
+            for (int i = 0; i < static_cast<int>(list_.items.size()); ++i)
+                box_.addItem(Q(Trim(list_.VisibleText(i))));
+        }
+        if (box_.currentIndex() != list_.Index())
+            box_.setCurrentIndex(list_.Index());
+        if (edit_)
+            edit_->Refresh();
+    }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Wheel)
+            return true; // a turn of the wheel over the screen must not change a document
+        return IsMiddleClick(*event) || Binding::eventFilter(object, event);
+    }
+
+  protected:
+    bool OnKey(QKeyEvent& key) override {
+        const bool moves = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down || key.key() == Qt::Key_F4;
+        if (moves && (key.modifiers() & Qt::AltModifier || key.key() == Qt::Key_F4)) {
+            box_.showPopup();
+            return true;
+        }
+        if (!moves && edit_ && edit_->OnKey(key))
+            return true;
+        return Binding::OnKey(key);
+    }
+    bool OnInput(QInputMethodEvent& event) override { return edit_ && edit_->OnInput(event); }
+
+  private:
+    ListBox& list_;
+    QComboBox& box_;
+    std::unique_ptr<EditLine> edit_;
+    std::vector<std::string> shown_; // the items as they were last filled in
+};
+
+// The widget always holds a date; its least one stands for none.
+class DateBinding : public Binding {
+  public:
+    DateBinding(ScreenWindow& window, DateBox& box, QDateEdit& edit)
+        : Binding(window, box, edit), box_(box), edit_(edit) {
+        edit_.setMinimumDate(QDate(1900, 1, 1));
+        edit_.setSpecialValueText(" ");
+        edit_.setDisplayFormat("yyyy-MM-dd");
+        edit_.setCalendarPopup(true);
+        Watch(*edit_.findChild<QLineEdit*>());
+        connect(&edit_, &QDateEdit::dateChanged, this, [this](QDate date) { Change(date); });
+    }
+
+    void Refresh() override {
+        Binding::Refresh();
+        const QSignalBlocker silent(edit_);
+        const QDate shown = box_.date ? QDate(YearOf(*box_.date), MonthOf(*box_.date), DayOf(*box_.date))
+                                      : edit_.minimumDate();
+        if (edit_.date() != shown)
+            edit_.setDate(shown);
+    }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        return event->type() == QEvent::Wheel || Binding::eventFilter(object, event);
+    }
+
+  protected:
+    bool OnKey(QKeyEvent& key) override {
+        const bool clears = key.key() == Qt::Key_Delete && key.modifiers() == Qt::NoModifier;
+        if (clears) {
+            edit_.setDate(edit_.minimumDate());
+            return true;
+        }
+        if (!box_.date && !key.text().isEmpty() && key.text().at(0).isDigit()) {
+            edit_.setDate(QDate::currentDate());
+            edit_.setSelectedSection(QDateTimeEdit::YearSection);
+        }
+        return Binding::OnKey(key);
+    }
+
+  private:
+    void Change(QDate date) {
+        std::optional<Date> typed;
+        if (date != edit_.minimumDate())
+            typed = MakeDate(date.year(), date.month(), date.day());
+        window_.Do([&] { PickDate(window_.Shown(), box_, typed); });
+    }
+
+    DateBox& box_;
+    QDateEdit& edit_;
+};
+
+} // namespace
+
+std::unique_ptr<Binding> BindEdit(ScreenWindow& window, Control& control, QWidget& widget) {
+    if (!Fits(control, widget))
+        return nullptr;
+    if (auto* box = dynamic_cast<TextBox*>(&control))
+        return std::make_unique<TextBinding>(window, *box, static_cast<QLineEdit&>(widget));
+    if (auto* list = dynamic_cast<ListBox*>(&control))
+        return std::make_unique<ListBinding>(window, *list, static_cast<QComboBox&>(widget));
+    if (auto* date = dynamic_cast<DateBox*>(&control))
+        return std::make_unique<DateBinding>(window, *date, static_cast<QDateEdit&>(widget));
+    return nullptr;
+}
+
+} // namespace jxc

@@ -1,0 +1,317 @@
+// Grids: a table over the model itself, typed into cell by cell, walked with Enter and the arrow keys, copied
+// from and pasted into as spreadsheets do.
+
+#include "controls/gestures.h"
+#include "controls/text.h"
+#include "view/binding.h"
+#include "view/cell_editor.h"
+#include "view/grid_menu.h"
+#include "view/grid_model.h"
+#include "view/qt_view.h"
+#include "view/screen_window.h"
+#include "view/text.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kCellMargin = 10; // pixels around a column's characters
+constexpr int kRowMargin = 7;
+
+class GridBinding : public Binding {
+  public:
+    GridBinding(ScreenWindow& window, Grid& grid, QTableView& table)
+        : Binding(window, grid, table), grid_(grid), table_(table), model_(grid),
+          editor_(
+              grid, [this](int row, int column, const QString& text) { Commit(row, column, text); },
+              [this](CellExit exit) { LeaveCell(exit); }) {
+        table_.setModel(&model_);
+        table_.setItemDelegate(&editor_);
+        LookOfTable();
+        Watch(*table_.viewport());
+        connect(table_.selectionModel(), &QItemSelectionModel::currentChanged, this,
+                [this](const QModelIndex& current) { TakeCurrent(current); });
+        connect(&table_, &QTableView::doubleClicked, this,
+                [this](const QModelIndex& at) { DoubleClick(at); });
+        connect(&table_, &QTableView::clicked, this, [this](const QModelIndex& at) { TurnCheck(at); });
+        connect(table_.horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) {
+            window_.Do([&] { ClickHeading(window_.Shown(), grid_, section + 1); });
+        });
+        connect(table_.horizontalHeader(), &QHeaderView::sectionResized, this,
+                [this](int section, int, int width) { TakeWidth(section, width); });
+        connect(&table_, &QWidget::customContextMenuRequested, this,
+                [this](const QPoint& at) { ShowMenu(at); });
+    }
+
+    void Refresh() override {
+        Binding::Refresh();
+        ++quiet_;
+        model_.Refresh();
+        ShowColumns();
+        ShowCurrent();
+        --quiet_;
+    }
+
+    void TakeFocus(Qt::FocusReason reason) override {
+        table_.setFocus(reason);
+        if (!table_.currentIndex().isValid() && model_.rowCount() > 0)
+            GoToCell(1, FirstColumn());
+    }
+
+  protected:
+    bool OnKey(QKeyEvent& key) override {
+        if (key.matches(QKeySequence::Copy)) {
+            CurrentView().SetClipboard(CopiedText(grid_, Selected(), false));
+            return true;
+        }
+        if (key.matches(QKeySequence::Paste)) {
+            Paste();
+            return true;
+        }
+        if (key.key() == Qt::Key_Delete && TypesAt(table_.currentIndex())) {
+            Commit(grid_.selectedRow, grid_.selectedColumn, "");
+            return true;
+        }
+        if (key.key() == Qt::Key_Space && IsCheck(table_.currentIndex())) {
+            TurnCheck(table_.currentIndex());
+            return true;
+        }
+        switch (key.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            LeaveCell(CellExit::Enter);
+            return true;
+        case Qt::Key_Tab:
+            LeaveCell(key.modifiers() & Qt::ControlModifier ? CellExit::Stay : CellExit::Tab);
+            return true;
+        case Qt::Key_Backtab:
+            window_.Step(false);
+            return true;
+        default:
+            return false;
+        }
+    }
+
+  private:
+    void LookOfTable() {
+        table_.setContextMenuPolicy(Qt::CustomContextMenu);
+        table_.setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed |
+                               QAbstractItemView::DoubleClicked);
+        table_.setTabKeyNavigation(false);
+        table_.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+        table_.setWordWrap(false);
+        table_.horizontalHeader()->setHighlightSections(false);
+        table_.horizontalHeader()->setSectionsClickable(true);
+        table_.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        table_.verticalHeader()->setDefaultSectionSize(table_.fontMetrics().height() + kRowMargin);
+    }
+
+    // Widths come from the model; those that the person drags go back into it.
+    void ShowColumns() {
+        const int character = table_.fontMetrics().horizontalAdvance('0');
+        for (int column = 1; column <= grid_.ColumnCount(); ++column) {
+            const GridColumn& settings = grid_.Column(column);
+            if (table_.isColumnHidden(column - 1) != settings.hidden)
+                table_.setColumnHidden(column - 1, settings.hidden);
+            const int width = static_cast<int>(settings.width * character) + kCellMargin;
+            if (!settings.hidden && table_.columnWidth(column - 1) != width)
+                table_.setColumnWidth(column - 1, width);
+        }
+        const bool typing = !grid_.readOnly;
+        table_.setSelectionBehavior(typing ? QAbstractItemView::SelectItems : QAbstractItemView::SelectRows);
+    }
+
+    void TakeWidth(int section, int width) {
+        if (quiet_ == 0 && section < grid_.ColumnCount() && width > 0)
+            grid_.Column(section + 1).width =
+                double(width - kCellMargin) / table_.fontMetrics().horizontalAdvance('0');
+    }
+
+    void ShowCurrent() {
+        if (grid_.selectedRow < 1 || grid_.selectedRow > model_.rowCount())
+            return table_.setCurrentIndex({});
+        const QModelIndex wanted =
+            model_.index(grid_.selectedRow - 1, std::max(0, VisibleColumn(grid_.selectedColumn) - 1));
+        if (table_.currentIndex() != wanted)
+            table_.setCurrentIndex(wanted);
+    }
+
+    int VisibleColumn(int column) const {
+        if (column >= 1 && column <= grid_.ColumnCount() && !grid_.Column(column).hidden)
+            return column;
+        return FirstColumn();
+    }
+    int FirstColumn() const {
+        for (int column = 1; column <= grid_.ColumnCount(); ++column)
+            if (!grid_.Column(column).hidden)
+                return column;
+        return 1;
+    }
+
+    void GoToCell(int row, int column) { table_.setCurrentIndex(model_.index(row - 1, column - 1)); }
+
+    // The person moved to another cell.
+    void TakeCurrent(const QModelIndex& current) {
+        if (quiet_ > 0 || !current.isValid())
+            return;
+        const int row = current.row() + 1;
+        grid_.selectedColumn = current.column() + 1;
+        if (row != grid_.selectedRow)
+            window_.Do([&] { SelectRow(window_.Shown(), grid_, row); });
+    }
+
+    bool TypesAt(const QModelIndex& at) const {
+        return at.isValid() && (model_.flags(at) & Qt::ItemIsEditable);
+    }
+    bool IsCheck(const QModelIndex& at) const {
+        return at.isValid() && grid_.Column(at.column() + 1).type == CellType::Check;
+    }
+
+    void TurnCheck(const QModelIndex& at) {
+        if (!IsCheck(at) || !grid_.CanType(at.column() + 1))
+            return;
+        const bool on = grid_.Number(at.row() + 1, at.column() + 1) != 0;
+        Commit(at.row() + 1, at.column() + 1, on ? "0" : "1");
+    }
+
+    void DoubleClick(const QModelIndex& at) {
+        if (!TypesAt(at) && grid_.onDoubleClick)
+            window_.Do([&] { DoubleClickRow(window_.Shown(), grid_, at.row() + 1); });
+    }
+
+    void Commit(int row, int column, const QString& text) {
+        committed_ = false;
+        std::string refusal;
+        committed_ = window_.Do([&] {
+            try {
+                TypeCell(window_.Shown(), grid_, row, column, S(text));
+            } catch (const GestureRefused& refused) {
+                refusal = refused.what();
+            }
+        });
+        if (!refusal.empty()) {
+            committed_ = false;
+            Warn(window_.Shown().title, refusal);
+        }
+    }
+
+    void LeaveCell(CellExit exit) {
+        Screen& screen = window_.Shown();
+        const bool stay = !committed_; // what was typed raised a message: the person looks at it first
+        committed_ = true;
+        if (!screen.IsOpen() || (screen.Focus() && screen.Focus() != &control))
+            return;
+        table_.setFocus();
+        if (stay)
+            return;
+        const int row = grid_.selectedRow;
+        switch (exit) {
+        case CellExit::Enter:
+            return StepOn();
+        case CellExit::Tab:
+            return NextCell();
+        case CellExit::Up:
+        case CellExit::Down:
+            if (const int to = row + (exit == CellExit::Up ? -1 : 1); to >= 1 && to <= model_.rowCount())
+                GoToCell(to, VisibleColumn(grid_.selectedColumn));
+            return;
+        case CellExit::Backtab:
+            return window_.Step(false);
+        case CellExit::Stay:
+            return window_.Step(true);
+        }
+    }
+
+    void StepOn() {
+        if (grid_.readOnly && grid_.onDoubleClick && grid_.selectedRow > 0) {
+            window_.Do([&] { DoubleClickRow(window_.Shown(), grid_, grid_.selectedRow); });
+            return;
+        }
+        bool stepped = false;
+        const bool quietly =
+            window_.Do([&] { stepped = !grid_.readOnly && StepByEnter(window_.Shown(), grid_); });
+        if (stepped)
+            table_.scrollTo(table_.currentIndex());
+        else if (quietly && window_.Shown().IsOpen())
+            window_.Step(true);
+    }
+
+    // To the next cell of the row that takes typing; behind the last one out of the grid.
+    void NextCell() {
+        for (int column = grid_.selectedColumn + 1; column <= grid_.ColumnCount(); ++column)
+            if (!grid_.readOnly && grid_.CanType(column) && !grid_.Column(column).hidden)
+                return GoToCell(grid_.selectedRow, column);
+        window_.Step(true);
+    }
+
+    CellRange Selected() const {
+        CellRange range{grid_.selectedRow, grid_.selectedColumn, grid_.selectedRow, grid_.selectedColumn};
+        const QItemSelection selection = table_.selectionModel()->selection();
+        if (selection.isEmpty())
+            return range;
+        range = {INT_MAX, INT_MAX, 0, 0};
+        for (const QItemSelectionRange& part : selection) {
+            range.firstRow = std::min(range.firstRow, part.top() + 1);
+            range.firstColumn = std::min(range.firstColumn, part.left() + 1);
+            range.lastRow = std::max(range.lastRow, part.bottom() + 1);
+            range.lastColumn = std::max(range.lastColumn, part.right() + 1);
+        }
+        return range;
+    }
+
+    // Cell by cell, as if typed; columns that take no typing are passed over. The first refusal ends it.
+    void Paste() {
+        const int firstRow = grid_.selectedRow;
+        const int firstColumn = grid_.selectedColumn;
+        if (grid_.readOnly || firstRow < 1)
+            return;
+        int row = firstRow;
+        for (const std::string& line : Split(CurrentView().Clipboard(), '\n')) {
+            if (Trim(line).empty())
+                continue;
+            int column = firstColumn;
+            for (std::string text : Split(line, '\t')) {
+                while (column <= grid_.ColumnCount() && grid_.Column(column).hidden)
+                    ++column;
+                if (column > grid_.ColumnCount())
+                    break;
+                std::erase(text, '\r');
+                if (grid_.CanType(column))
+                    Commit(row, column, Q(text));
+                if (!committed_) {
+                    committed_ = true;
+                    return;
+                }
+                ++column;
+            }
+            ++row;
+        }
+    }
+
+    void ShowMenu(const QPoint& at) {
+        const QModelIndex index = table_.indexAt(at);
+        if (index.isValid() && !table_.selectionModel()->isSelected(index))
+            table_.setCurrentIndex(index);
+        QMenu menu(&table_);
+        AddGridCommands(menu, window_, grid_, window_.Shown().title, Selected());
+        menu.exec(table_.viewport()->mapToGlobal(at));
+    }
+
+    Grid& grid_;
+    QTableView& table_;
+    GridModel model_;
+    CellEditor editor_;
+    int quiet_ = 0;         // what the table says meanwhile is our own doing
+    bool committed_ = true; // the last typed cell was taken without a message
+};
+
+} // namespace
+
+std::unique_ptr<Binding> BindGrid(ScreenWindow& window, Control& control, QWidget& widget) {
+    auto* grid = dynamic_cast<Grid*>(&control);
+    if (!grid || !Fits(control, widget))
+        return nullptr;
+    return std::make_unique<GridBinding>(window, *grid, static_cast<QTableView&>(widget));
+}
+
+} // namespace jxc

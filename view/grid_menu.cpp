@@ -1,0 +1,172 @@
+#include "view/grid_menu.h"
+
+#include <stdexcept>
+
+#include <QFileDialog>
+#include <xlsxwriter.h>
+
+#include "controls/view.h"
+#include "session/html_pages.h"
+#include "session/session.h"
+#include "view/page_printer.h"
+#include "view/text.h"
+
+namespace jxc {
+
+namespace {
+
+std::vector<int> VisibleColumns(const Grid& grid, int first, int last) {
+    std::vector<int> columns;
+    for (int column = first; column <= last; ++column)
+        if (!grid.Column(column).hidden)
+            columns.push_back(column);
+    return columns;
+}
+
+std::string CsvField(const std::string& text) {
+    if (text.find_first_of(",\"\r\n") == std::string::npos)
+        return text;
+    std::string quoted = "\"";
+    for (const char c : text)
+        quoted.append(c == '"' ? 2 : 1, c);
+    return quoted + "\"";
+}
+
+// A number without separators, as programs read it.
+std::string PlainText(const Grid& grid, int row, int column) {
+    std::string text = grid.ShownText(row, column);
+    if (grid.Column(column).type == CellType::Number)
+        std::erase(text, ',');
+    return text;
+}
+
+void WriteCell(lxw_worksheet* sheet, int row, int column, const Value& value, lxw_format* format) {
+    const auto at = static_cast<lxw_row_t>(row);
+    const auto to = static_cast<lxw_col_t>(column);
+    if (value.IsNumber())
+        worksheet_write_number(sheet, at, to, value.AsDouble(), format);
+    else if (!value.IsNull())
+        worksheet_write_string(sheet, at, to, value.AsText().c_str(), nullptr);
+}
+
+lxw_format* NumberFormat(lxw_workbook* book, const GridColumn& column) {
+    if (column.type != CellType::Number)
+        return nullptr;
+    std::string pattern = column.thousands ? "#,##0" : "0";
+    if (column.decimals > 0)
+        pattern += "." + std::string(static_cast<size_t>(column.decimals), '0');
+    lxw_format* format = workbook_add_format(book);
+    format_set_num_format(format, pattern.c_str());
+    return format;
+}
+
+GridPrintJob JobOf(const Grid& grid, const std::string& title) {
+    return {session.CompanyFieldList, &grid, "", title, ""};
+}
+
+// Asks for a file and writes it; what goes wrong is told.
+void SaveTo(QWidget& window, const std::string& title, const QString& kind, const QString& ending,
+            const std::function<void(const QString&)>& save) {
+    QString file = QFileDialog::getSaveFileName(&window, kind, Q(title) + ending, "*" + ending);
+    if (file.isEmpty())
+        return;
+    if (!file.endsWith(ending, Qt::CaseInsensitive))
+        file += ending;
+    try {
+        save(file);
+        Inform(title, "已保存：" + S(file));
+    } catch (const std::exception& error) {
+        Warn(title, error.what());
+    }
+}
+
+} // namespace
+
+CellRange WholeGrid(const Grid& grid) {
+    return {1, 1, grid.RowCount(), grid.ColumnCount()};
+}
+
+std::string CopiedText(const Grid& grid, const CellRange& range, bool captions) {
+    const std::vector<int> columns = VisibleColumns(grid, range.firstColumn, range.lastColumn);
+    std::string text;
+    const auto add = [&](const auto& cell) {
+        for (size_t i = 0; i < columns.size(); ++i)
+            text.append(i > 0 ? "\t" : "").append(cell(columns[i]));
+        text += "\n";
+    };
+    if (captions)
+        add([&](int column) { return grid.Column(column).caption; });
+    for (int row = range.firstRow; row <= range.lastRow; ++row)
+        add([&](int column) { return PlainText(grid, row, column); });
+    return text;
+}
+
+void SaveAsCsv(const Grid& grid, const QString& file) {
+    const std::vector<int> columns = VisibleColumns(grid, 1, grid.ColumnCount());
+    QSaveFile out(file);
+    if (!out.open(QIODevice::WriteOnly))
+        throw std::runtime_error("无法写入 " + S(file) + "：" + S(out.errorString()));
+    std::string text = "\xEF\xBB\xBF";
+    const auto add = [&](const auto& cell) {
+        for (size_t i = 0; i < columns.size(); ++i)
+            text.append(i > 0 ? "," : "").append(CsvField(cell(columns[i])));
+        text += "\r\n";
+    };
+    add([&](int column) { return grid.Column(column).caption; });
+    for (int row = 1; row <= grid.RowCount(); ++row)
+        add([&](int column) { return PlainText(grid, row, column); });
+    out.write(text.data(), static_cast<qint64>(text.size()));
+    if (!out.commit())
+        throw std::runtime_error("无法写入 " + S(file) + "：" + S(out.errorString()));
+}
+
+void SaveAsXlsx(const Grid& grid, const std::string& title, const QString& file) {
+    const std::vector<int> columns = VisibleColumns(grid, 1, grid.ColumnCount());
+    lxw_workbook* book = workbook_new(S(file).c_str());
+    lxw_worksheet* sheet = workbook_add_worksheet(book, nullptr);
+    lxw_format* bold = workbook_add_format(book);
+    format_set_bold(bold);
+    worksheet_write_string(sheet, 0, 0, title.c_str(), bold);
+    for (size_t i = 0; i < columns.size(); ++i) {
+        const GridColumn& column = grid.Column(columns[i]);
+        const int to = static_cast<int>(i);
+        worksheet_set_column(sheet, static_cast<lxw_col_t>(to), static_cast<lxw_col_t>(to), column.width + 2,
+                             nullptr);
+        worksheet_write_string(sheet, 1, static_cast<lxw_col_t>(to), column.caption.c_str(), bold);
+        lxw_format* format = NumberFormat(book, column);
+        for (int row = 1; row <= grid.RowCount(); ++row)
+            WriteCell(sheet, row + 1, to, grid.Cell(row, columns[i]), format);
+    }
+    worksheet_freeze_panes(sheet, 2, 0);
+    if (const lxw_error error = workbook_close(book); error != LXW_NO_ERROR)
+        throw std::runtime_error("无法写入 " + S(file) + "：" + lxw_strerror(error));
+}
+
+void SaveAsPdf(const Grid& grid, const std::string& title, const QString& file) {
+    PrintToPdf(GridPage(JobOf(grid, title)), file);
+}
+
+void AddGridCommands(QMenu& menu, QWidget& window, const Grid& grid, const std::string& title,
+                     CellRange selected) {
+    if (grid.RowCount() == 0)
+        return;
+    menu.addAction("复制选定(&C)",
+                   [&grid, selected] { CurrentView().SetClipboard(CopiedText(grid, selected, false)); });
+    menu.addAction("复制全部(&L)",
+                   [&grid] { CurrentView().SetClipboard(CopiedText(grid, WholeGrid(grid), true)); });
+    menu.addSeparator();
+    menu.addAction("打印预览(&V)...",
+                   [&window, &grid, title] { PreviewPage(GridPage(JobOf(grid, title)), title, &window); });
+    menu.addAction("存为 PDF(&F)...", [&window, &grid, title] {
+        SaveTo(window, title, "存为 PDF", ".pdf", [&](const QString& file) { SaveAsPdf(grid, title, file); });
+    });
+    menu.addAction("存为 Excel(&X)...", [&window, &grid, title] {
+        SaveTo(window, title, "存为 Excel", ".xlsx",
+               [&](const QString& file) { SaveAsXlsx(grid, title, file); });
+    });
+    menu.addAction("存为 CSV(&T)...", [&window, &grid, title] {
+        SaveTo(window, title, "存为 CSV", ".csv", [&](const QString& file) { SaveAsCsv(grid, file); });
+    });
+}
+
+} // namespace jxc

@@ -1,0 +1,230 @@
+#include "view/screen_window.h"
+
+#include <QUiLoader>
+
+#include "controls/gestures.h"
+#include "session/session.h"
+#include "view/binding.h"
+#include "view/qt_view.h"
+#include "view/text.h"
+
+namespace jxc {
+
+QString FormOf(const std::string& screen) {
+    return ":/ui/" + Q(screen) + ".ui";
+}
+
+ScreenWindow::ScreenWindow(QtView& view, Screen& screen, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint), view_(view),
+      screen_(screen) {
+    setObjectName(Q(screen.name));
+    LoadForm();
+    BindControls();
+    AddFunctionKeys();
+    if (session.Language != 0)
+        setFont(QFont("MS Sans Serif"));
+    Refresh();
+}
+
+ScreenWindow::~ScreenWindow() {
+    ++depth_; // what the widgets say while they go is no gesture
+}
+
+void ScreenWindow::LoadForm() {
+    QFile file(FormOf(screen_.name));
+    if (!file.open(QIODevice::ReadOnly))
+        throw ScreenError("窗口 " + screen_.name + " 没有界面文件。");
+    QUiLoader loader;
+    form_ = loader.load(&file, this);
+    if (!form_)
+        throw ScreenError("窗口 " + screen_.name + " 的界面文件有误：" + S(loader.errorString()));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(form_);
+    resize(form_->size());
+    if (QGuiApplication::platformName() != "offscreen") // its display has a size of no meaning
+        resize(size().boundedTo(QGuiApplication::primaryScreen()->availableGeometry().size()));
+}
+
+void ScreenWindow::BindControls() {
+    for (Control* control : screen_.Controls()) {
+        auto* widget = form_->findChild<QWidget*>(Q(control->name));
+        if (!widget)
+            continue;
+        std::unique_ptr<Binding> binding = Bind(*this, *control, *widget);
+        if (!binding)
+            throw ScreenError("窗口 " + screen_.name + " 的 " + control->name + " 不是合适的控件。");
+        byControl_[control] = binding.get();
+        bindings_.push_back(std::move(binding));
+    }
+}
+
+// Buttons name a function key in the property "fkey"; the line at the foot tells those that can be pressed.
+void ScreenWindow::AddFunctionKeys() {
+    for (auto* button : form_->findChildren<QAbstractButton*>()) {
+        const QString key = button->property("fkey").toString();
+        if (key.isEmpty())
+            continue;
+        withKeys_.push_back(button);
+        auto* shortcut = new QShortcut(QKeySequence(key), this);
+        connect(shortcut, &QShortcut::activated, button, [button] {
+            if (button->isVisible() && button->isEnabled())
+                button->click();
+        });
+    }
+    keys_ = new QLabel;
+    keys_->setForegroundRole(QPalette::PlaceholderText);
+    keys_->setContentsMargins(9, 0, 9, 6);
+    layout()->addWidget(keys_);
+}
+
+void ScreenWindow::ShowFunctionKeys() {
+    QStringList told;
+    for (const QAbstractButton* button : withKeys_)
+        if (button->isVisibleTo(this) && button->isEnabled())
+            told << button->property("fkey").toString() + " " +
+                        button->text().remove(QRegularExpression("\\(&.\\)|&"));
+    keys_->setText(told.join("    "));
+    keys_->setVisible(!told.isEmpty());
+}
+
+bool ScreenWindow::Do(const std::function<void()>& gesture) {
+    const int boxes = view_.BoxesShown();
+    bool accepted = true;
+    QString refusal;
+    ++depth_;
+    try {
+        gesture();
+    } catch (const GestureRefused& refused) {
+        accepted = false;
+        QApplication::beep();
+        refusal = Q(refused.what());
+    } catch (const std::exception& error) {
+        accepted = false;
+        Warn(screen_.title, error.what());
+    }
+    --depth_;
+    if (!screen_.IsOpen())
+        done(0);
+    else if (depth_ == 0)
+        Refresh();
+    if (!refusal.isEmpty())
+        keys_->setText(refusal); // until the next gesture
+    return accepted && boxes == view_.BoxesShown();
+}
+
+bool ScreenWindow::Arrive(Control& control) {
+    if (depth_ > 0 || !screen_.IsOpen() || screen_.Focus() == &control)
+        return true;
+    if (!control.IsUsable())
+        return false;
+    bool arrived = false;
+    Do([&] { arrived = GoTo(screen_, control); });
+    return arrived;
+}
+
+void ScreenWindow::Step(bool forward) {
+    QWidget* from = focusWidget();
+    if (!from)
+        return;
+    Binding* here = BindingOf(from);
+    const auto next = [forward](QWidget* w) {
+        return forward ? w->nextInFocusChain() : w->previousInFocusChain();
+    };
+    for (QWidget* to = next(from); to != from; to = next(to)) {
+        Binding* there = BindingOf(to);
+        if (!there || there == here || !there->TakesFocus() || !to->isVisible() || !to->isEnabled() ||
+            !(to->focusPolicy() & Qt::TabFocus))
+            continue;
+        if (Arrive(there->control) && screen_.IsOpen() && screen_.Focus() == &there->control)
+            there->TakeFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return;
+    }
+}
+
+void ScreenWindow::Refresh() {
+    ++depth_;
+    setWindowTitle(Q(screen_.title));
+    for (const auto& binding : bindings_)
+        binding->Refresh();
+    for (auto* label : form_->findChildren<QLabel*>())
+        if (label->buddy() && label->objectName().startsWith("label"))
+            label->setVisible(label->buddy()->isVisibleTo(label->parentWidget()));
+    ShowFunctionKeys();
+    ShowFocus();
+    --depth_;
+}
+
+// Where the screen has its focus, the window has it too. A screen without one gets the control where the
+// window has its own.
+void ScreenWindow::ShowFocus() {
+    Binding* here = BindingOf(focusWidget());
+    if (Control* wanted = screen_.Focus()) {
+        Binding* there = BindingOf(*wanted);
+        if (there && there != here)
+            there->TakeFocus(Qt::OtherFocusReason);
+    } else if (here && here->TakesFocus() && here->control.IsUsable() &&
+               !dynamic_cast<Command*>(&here->control)) {
+        screen_.MoveFocus(&here->control);
+    }
+}
+
+Binding* ScreenWindow::BindingOf(const Control& control) const {
+    const auto found = byControl_.find(&control);
+    return found == byControl_.end() ? nullptr : found->second;
+}
+
+Binding* ScreenWindow::BindingOf(const QWidget* widget) const {
+    for (; widget && widget != this; widget = widget->parentWidget())
+        for (const auto& binding : bindings_)
+            if (&binding->widget == widget)
+                return binding->TakesFocus() ? binding.get() : nullptr;
+    return nullptr;
+}
+
+Command* ScreenWindow::LeaveCommand() const {
+    for (const char* name : {"cmdQuit", "cmdCancel", "CmdCancel"})
+        if (auto* command = dynamic_cast<Command*>(screen_.Find(name)); command && command->IsUsable())
+            return command;
+    return nullptr;
+}
+
+void ScreenWindow::reject() {
+    Command* leave = LeaveCommand();
+    Binding* button = leave ? BindingOf(*leave) : nullptr;
+    if (button && BindingOf(focusWidget()) != button)
+        return button->TakeFocus(Qt::ShortcutFocusReason);
+    Leave();
+}
+
+void ScreenWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    Leave();
+}
+
+void ScreenWindow::Leave() {
+    Command* leave = LeaveCommand();
+    Do([&] {
+        if (leave && leave->onClick)
+            leave->onClick();
+        else
+            screen_.Close();
+    });
+}
+
+// The first field has the focus unless the screen said otherwise.
+void ScreenWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (Control* wanted = screen_.Focus(); wanted && BindingOf(*wanted))
+        return BindingOf(*wanted)->TakeFocus(Qt::OtherFocusReason);
+    for (QWidget* to = form_->nextInFocusChain(); to != form_; to = to->nextInFocusChain()) {
+        Binding* there = BindingOf(to);
+        if (!there || !to->isVisible() || !to->isEnabled() || !(to->focusPolicy() & Qt::TabFocus))
+            continue;
+        if (Arrive(there->control))
+            there->TakeFocus(Qt::OtherFocusReason);
+        return;
+    }
+}
+
+} // namespace jxc

@@ -1,0 +1,73 @@
+// The window of one open screen: its .ui file, with each widget bound to the control of the same name. The
+// models are the truth: every gesture goes to them, and afterwards all widgets show what they say.
+//
+// Static texts are labels whose names begin with "label"; one that names a field (its buddy) is shown and
+// hidden with it.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include <QDialog>
+
+#include "controls/screen.h"
+
+class QAbstractButton;
+class QLabel;
+
+namespace jxc {
+
+class Binding;
+class QtView;
+
+class ScreenWindow : public QDialog {
+  public:
+    // A ScreenError when the screen has no .ui file, or the file does not fit it.
+    ScreenWindow(QtView& view, Screen& screen, QWidget* parent);
+    ~ScreenWindow() override;
+
+    Screen& Shown() { return screen_; }
+    QtView& InView() { return view_; }
+
+    // Runs a gesture and shows what it did. Nothing thrown leaves: a refused gesture only beeps, an error is
+    // told. False when the gesture was refused, or raised a message box.
+    bool Do(const std::function<void()>& gesture);
+    // Has the control take the focus of the screen; false when it must not.
+    bool Arrive(Control& control);
+    // Moves the focus to the next field in tab order, if the present one lets it go.
+    void Step(bool forward);
+    void Refresh();
+
+    // The binding of a control, of a widget or of one of its inner widgets; null when there is none.
+    Binding* BindingOf(const Control& control) const;
+    Binding* BindingOf(const QWidget* widget) const;
+
+    void reject() override; // Esc goes to the leave button; once there, it leaves
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void LoadForm();
+    void BindControls();
+    void AddFunctionKeys();
+    void ShowFunctionKeys();
+    void ShowFocus();
+    void Leave();
+    Command* LeaveCommand() const;
+
+    QtView& view_;
+    Screen& screen_;
+    QWidget* form_ = nullptr;
+    std::vector<std::unique_ptr<Binding>> bindings_;
+    std::map<const Control*, Binding*> byControl_;
+    std::vector<QAbstractButton*> withKeys_;
+    QLabel* keys_ = nullptr; // the line at the foot
+    int depth_ = 0;          // of gestures in each other
+};
+
+// The .ui file of a screen as a resource path.
+QString FormOf(const std::string& screen);
+
+} // namespace jxc

@@ -1,0 +1,8 @@
+// The precompiled headers of the windows.
+#pragma once
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <QtWidgets>
