@@ -1,14 +1,14 @@
 #include "host/company/column_dictionary.h"
 
 #include "host/company/table_writer.h"
+#include "settings/column_dictionary.h"
 
 namespace jxc {
 
 namespace {
 
-// The list grid's coding of cell types and alignments.
-constexpr int kText = 0, kNumber = 2, kCheck = 10;
-constexpr int kLeft = 0, kRight = 1, kCenter = 2;
+constexpr int kText = kDictionaryText, kNumber = kDictionaryNumber, kCheck = kDictionaryTick;
+constexpr int kLeft = kDictionaryLeft, kRight = kDictionaryRight, kCenter = kDictionaryCenter;
 
 struct ProductColumn {
     std::string_view field, simplified, traditional;
