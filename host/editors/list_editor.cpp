@@ -84,9 +84,9 @@ MayRefuse RefuseUsedKey(const ListEditor& s) {
     const std::string name = WhereUsed(s.Uses(), s.UsedKey());
     if (name.empty())
         return std::nullopt;
-    return Refusal{"[" + s.key.AsText() + "] 已经用于“" + name + "”，" +
-                       (deletes ? "不可删除！" : "不可改名！"),
-                   nullptr};
+    if (deletes)
+        return Refusal{"[" + s.RecordName() + "] 已经用于“" + name + "”，不可删除！"};
+    return Refusal{"[" + s.key.AsText() + "] 已经用于“" + name + "”，不可改名！"};
 }
 
 } // namespace
