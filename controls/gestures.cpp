@@ -36,10 +36,22 @@ void RequireColumn(const Grid& grid, int column) {
         throw GestureRefused(grid.name + " 没有第 " + std::to_string(column) + " 列。");
 }
 
+// A tick is set by 1 or true and taken away by 0, false or nothing.
+Value TypedTick(const GridColumn& column, const std::string& text) {
+    const std::string typed = LowerCase(Trim(text));
+    if (typed == "1" || typed == "true")
+        return 1;
+    if (typed == "0" || typed == "false" || typed.empty())
+        return 0;
+    throw GestureRefused("“" + column.caption + "”只能是 1 或 0。");
+}
+
 // The value that typing `text` into a cell of the column gives.
 Value TypedValue(const GridColumn& column, const std::string& text) {
     if (column.type == CellType::Text)
         return column.maxBytes > 0 ? TruncateToBytes(text, column.maxBytes) : text;
+    if (column.type == CellType::Check)
+        return TypedTick(column, text);
     std::string digits;
     for (const char c : text)
         if (c != ',')

@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "controls/gestures.h"
+#include "host/editors/host_editors.h"
 #include "host/robot_requests.h"
 
 namespace jxc {
@@ -108,6 +109,8 @@ void Robot::ServeHost(const json& request) {
         if (action < INT16_MIN || action > INT16_MAX)
             throw RequestError("action 须为 16 位整数。");
         control_.Refresh(static_cast<std::int16_t>(action), properties);
+    } else if (operation == "open") {
+        OpenHostEditor(TextOf(request, "screen"));
     } else {
         throw RequestError("没有打开的窗口，不能执行 " + operation + "。");
     }

@@ -1,9 +1,9 @@
 // The robot: drives every screen by JSON requests, one object a request, one reply each. A reply is given
 // when the program next waits for input, so a click that raises a message box is answered with that box.
 //
-// Requests: property, refresh (between screens); controls, get, set, choose, type, click, dblclick, select,
-// menu, key, tab, heading, drop, close (on a screen); answer (in a message box). A request that does not fit
-// is answered with
+// Requests: property, refresh, open (between screens; open names an editor of the host); controls, get, set,
+// choose, type, click, dblclick, select, menu, key, tab, heading, drop, close (on a screen); answer (in a
+// message box). A request that does not fit is answered with
 // {"ok":false,"error":...} and changes nothing. At the end of the requests all screens close without saving.
 #pragma once
 

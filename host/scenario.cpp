@@ -134,6 +134,10 @@ std::optional<json> GestureOf(const std::vector<std::string>& words) {
          [&] {
              return json{{"action", number(1)}, {"properties", ScreenProperties(words)}};
          }},
+        {"open",
+         [&] {
+             return json{{"screen", word(1)}};
+         }},
         {"set",
          [&] {
              return json{{"control", word(1)}, {"value", TypedValue(optional(2))}};

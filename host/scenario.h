@@ -3,6 +3,7 @@
 //
 //     property UserName 王芳            sets a property of lzJxc
 //     refresh 13 invType=1             opens a screen, with properties
+//     open frmHostCards                opens an editor of the host
 //     set txtKhSeek G001               types; also dates (2026-11-05 or null) and ticks (true, false)
 //     choose cboCkName 总部仓          picks a list item; #2 picks the third
 //     type Grid2 1 6 10                goes to row 1, column 6 and types

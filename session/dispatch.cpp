@@ -3,10 +3,8 @@
 #include <functional>
 #include <vector>
 
-#include "controls/gestures.h"
-#include "controls/view.h"
-#include "session/company_fields.h"
-#include "session/database/open_connection.h"
+#include "controls/screen.h"
+#include "session/company_visit.h"
 #include "session/lzjxc.h"
 #include "session/session.h"
 
@@ -123,37 +121,15 @@ void ShowScreen(const DispatchRow& row, const ScreenProperties& properties) {
     ShowModal(screen);
 }
 
-void CloseConnection() noexcept {
-    try {
-        if (session.Conn && session.Conn->IsOpen())
-            session.Conn->Close();
-    } catch (const std::exception&) {
-        // The connection is given up either way; there is nobody left to tell.
-    }
-    session.Conn.reset();
-}
-
 } // namespace
 
 void lzJxc::Refresh(std::int16_t RAction, const ScreenProperties& properties) {
     const DispatchRow* row = RowOf(RAction);
     CheckProperties(row, properties);
-    std::string failure;
-    try {
-        if (!session.Conn)
-            session.Conn = std::make_unique<Connection>();
-        OpenConnection(session.SQLData, *session.Conn, session.UserPath, session.Password, session.UserID,
-                       session.Default);
-        session.CompanyFieldList.clear();
-        CompanyFields();
+    VisitCompany([&] {
         if (row)
             ShowScreen(*row, properties);
-    } catch (const std::exception& error) {
-        failure = error.what();
-    }
-    CloseConnection();
-    if (!failure.empty())
-        Warn(session.CompName, failure);
+    });
 }
 
 } // namespace jxc

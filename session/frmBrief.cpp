@@ -5,6 +5,7 @@
 #include "controls/text.h"
 #include "controls/view.h"
 #include "session/database/recordset.h"
+#include "session/database/routines.h"
 #include "session/edit_filter.h"
 #include "session/grid_routines.h"
 #include "session/session.h"
@@ -13,49 +14,45 @@ namespace jxc {
 
 namespace {
 
-std::string CaptionField() {
-    return "FieldName_" + std::to_string(session.Language);
+constexpr int kCodeBytes = 20;
+constexpr int kNameBytes = 50;
+
+std::string EntriesOf(const frmBrief& s) {
+    return " from briefDetail where briefType=" + InQuotes(s.code);
+}
+
+// The rows of a statement whose columns are the grid's.
+void FillRows(Grid& grid, const std::string& sql) {
+    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
+        grid.SetRowCount(grid.RowCount() + 1);
+        for (int column = 1; column <= grid.ColumnCount(); ++column)
+            grid.FillCell(grid.RowCount(), column, row[static_cast<size_t>(column - 1)]);
+    }
 }
 
 void FillLists(frmBrief& s) {
     s.title = "代码表";
     s.Grid1.SetColumns(
         {{.caption = "编号", .width = 12, .locked = true}, {.caption = "名称", .width = 24, .locked = true}});
-    const std::string sql = "select BriefType,BriefTypeName from Brief Order By BriefType";
-    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
-        s.Grid1.SetRowCount(s.Grid1.RowCount() + 1);
-        s.Grid1.FillCell(s.Grid1.RowCount(), 1, row["BriefType"].AsText());
-        s.Grid1.FillCell(s.Grid1.RowCount(), 2, row["BriefTypeName"].AsText());
-    }
+    FillRows(s.Grid1, "select BriefType,BriefTypeName from Brief Order By BriefType");
 }
 
 void FillEntries(frmBrief& s) {
-    s.title = "代码表：" + s.code;
-    s.Grid1.SetColumns({{.caption = "编号", .width = 12}, {.caption = "名称", .width = 24}});
-    const std::string sql =
-        "select BriefCode,BriefName from briefDetail where briefType='" + s.code + "' Order By BriefCode";
-    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
-        s.Grid1.SetRowCount(s.Grid1.RowCount() + 1);
-        s.Grid1.FillCell(s.Grid1.RowCount(), 1, row["BriefCode"].AsText());
-        s.Grid1.FillCell(s.Grid1.RowCount(), 2, row["BriefName"].AsText());
-    }
+    const std::string name = DbScalar("select BriefTypeName from Brief where BriefType=" + InQuotes(s.code));
+    s.title = "代码表：" + (name.empty() ? s.code : name);
+    s.Grid1.SetColumns({{.caption = "编号", .width = 12, .maxBytes = kCodeBytes},
+                        {.caption = "名称", .width = 24, .maxBytes = kNameBytes}});
+    FillRows(s.Grid1, "select BriefCode,BriefName" + EntriesOf(s) + " Order By BriefCode");
 }
 
 void FillColumns(frmBrief& s) {
     s.title = "栏目设置";
-    s.Grid1.SetColumns({{.caption = "显示", .type = CellType::Number, .decimals = 0},
+    s.Grid1.SetColumns({{.caption = "显示", .type = CellType::Check},
                         {.caption = "名称", .width = 24, .locked = true},
                         {.caption = "FieldName", .hidden = true}});
-    const std::string sql = "select FieldName," + CaptionField() +
-                            ",FieldSelected from rptListDetail where ftable='" + s.table +
-                            "' Order By fieldID";
-    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
-        s.Grid1.SetRowCount(s.Grid1.RowCount() + 1);
-        const int at = s.Grid1.RowCount();
-        s.Grid1.FillCell(at, 1, row["FieldSelected"].AsLong());
-        s.Grid1.FillCell(at, 2, row[CaptionField()].AsText());
-        s.Grid1.FillCell(at, 3, row["FieldName"].AsText());
-    }
+    FillRows(s.Grid1, "select FieldSelected,FieldName_" + std::to_string(session.Language) +
+                          ",FieldName from rptListDetail where ftable=" + InQuotes(s.table) +
+                          " Order By fieldID");
 }
 
 // The entries as typed: no quote, no code twice, no entry without a name. False after a message.
@@ -80,8 +77,8 @@ bool EntriesAreSound(const frmBrief& s) {
 
 void SaveEntries(const frmBrief& s) {
     Transaction transaction(Conn());
-    Conn().Execute("Delete From briefDetail Where briefType='" + s.code + "'");
-    Recordset entries(Conn(), "select * from briefDetail where briefType='" + s.code + "'", Access::Write);
+    Conn().Execute("Delete" + EntriesOf(s));
+    Recordset entries(Conn(), "select *" + EntriesOf(s), Access::Write);
     for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
         entries.AddNew();
         entries.Set("briefType", s.code);
@@ -95,9 +92,9 @@ void SaveEntries(const frmBrief& s) {
 void SaveColumns(const frmBrief& s) {
     Transaction transaction(Conn());
     for (int row = 1; row <= s.Grid1.RowCount(); ++row)
-        Conn().Execute("Update rptListDetail Set fieldID=" + std::to_string(row) +
-                       ",FieldSelected=" + (s.Grid1.Number(row, 1) != 0 ? "1" : "0") + " Where ftable='" +
-                       s.table + "' And FieldName='" + s.Grid1.Text(row, 3) + "'");
+        Conn().Execute("Update rptListDetail Set fieldID=" + std::to_string(row) + ",FieldSelected=" +
+                       (s.Grid1.Number(row, 1) != 0 ? "1" : "0") + " Where ftable=" + InQuotes(s.table) +
+                       " And FieldName=" + InQuotes(s.Grid1.Text(row, 3)));
     transaction.Commit();
 }
 
@@ -143,9 +140,9 @@ frmBrief::frmBrief() : Screen("frmBrief") {
         if (kind == BriefKind::ChooseList)
             Confirm(*this);
     };
-    Grid1.onEnterKey = [this] {
-        if (kind == BriefKind::EditEntries)
-            GridAppendRow(Grid1, 1);
+    Grid1.onKey = [this](const std::string& key) {
+        if (key == "Enter" && kind == BriefKind::ChooseList)
+            Confirm(*this);
     };
 }
 
@@ -155,6 +152,9 @@ void frmBrief::Open() {
     const bool columns = kind == BriefKind::SelectColumns;
     cmdAdd.visible = cmdDelete.visible = entries;
     cmdUp.visible = cmdDown.visible = columns;
+    Grid1.onEnterKey = nullptr;
+    if (entries)
+        Grid1.onEnterKey = [this] { GridAppendRow(Grid1, 1); };
     if (entries)
         FillEntries(*this);
     else if (columns)

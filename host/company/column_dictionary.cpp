@@ -1,14 +1,14 @@
 #include "host/company/column_dictionary.h"
 
 #include "host/company/table_writer.h"
+#include "settings/column_dictionary.h"
 
 namespace jxc {
 
 namespace {
 
-// The list grid's coding of cell types and alignments.
-constexpr int kText = 0, kNumber = 2, kCheck = 10;
-constexpr int kLeft = 0, kRight = 1, kCenter = 2;
+constexpr int kText = kDictionaryText, kNumber = kDictionaryNumber, kCheck = kDictionaryTick;
+constexpr int kLeft = kDictionaryLeft, kRight = kDictionaryRight, kCenter = kDictionaryCenter;
 
 struct ProductColumn {
     std::string_view field, simplified, traditional;
@@ -29,8 +29,8 @@ constexpr ProductColumn kProductColumns[] = {
     {"fCpPrice1", "批发价", "批發價", 10, kNumber, 2, kRight, true},
     {"fCpPrice2", "代销价", "代銷價", 10, kNumber, 2, kRight, true},
     {"fCpPrice3", "零售价", "零售價", 10, kNumber, 2, kRight, true},
-    {"fCpSlMin", "库存下限", "庫存下限", 9, kNumber, 0, kRight, true},
-    {"fCpSlMax", "库存上限", "庫存上限", 9, kNumber, 0, kRight, true},
+    {"fCpSlMin", "库存下限", "庫存下限", 9, kNumber, 2, kRight, true},
+    {"fCpSlMax", "库存上限", "庫存上限", 9, kNumber, 2, kRight, true},
     {"fCkName", "限用仓库", "限用倉庫", 12, kText, 0, kLeft, true},
     {"fCpCw", "限用仓位", "限用倉位", 9, kText, 0, kLeft, true, "fCpCw"},
     {"fCpZy", "产品类别", "產品類別", 10, kText, 0, kLeft, true, "fCpZy"},

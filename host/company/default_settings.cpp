@@ -32,11 +32,12 @@ void FillDocumentTypes(Connection& connection) {
     }
 }
 
-// No tax, moving average cost, whole pieces, prices to the cent, any number of lines, all modules in use.
+// No tax, moving average cost, quantities and prices with two decimals, any number of lines, all modules in
+// use.
 void FillParameters(Connection& connection, const std::string& start) {
     TableWriter(connection, "tJXC_InvSys")
         .Add({{"fSysDate", start},   {"fSysDay", 1},    {"fSysTaxWay", 0}, {"fSysTaxRate", 0.0},
-              {"fSysCostWay", 1},    {"fSysDeciSl", 0}, {"fSysDeciDj", 2}, {"fSysMaxRow", 0},
+              {"fSysCostWay", 1},    {"fSysDeciSl", 2}, {"fSysDeciDj", 2}, {"fSysMaxRow", 0},
               {"fSysDjBz1", "备注"}, {"fSysDjBz2", ""}, {"fSysYjTj", 0},   {"fSysAuto1", 0},
               {"fSysAuto2", 0},      {"fSysAuto3", 1},  {"fSysAuto4", 0},  {"fSysFun0", 1},
               {"fSysFun1", 1},       {"fSysFun2", 1},   {"fSysFun3", 1},   {"fSysFun4", 1},

@@ -8,8 +8,6 @@
 
 namespace jxc {
 
-namespace {
-
 std::string TableScript(const Engine& engine, const TableDef& table) {
     const std::string name(table.name);
     std::string sql = "create table " + name + " (";
@@ -26,6 +24,8 @@ std::string TableScript(const Engine& engine, const TableDef& table) {
     }
     return sql;
 }
+
+namespace {
 
 void CreateIn(Connection& connection, std::unique_ptr<Engine> engine) {
     engine->Begin();

@@ -1,6 +1,7 @@
 #include "session/database/late_columns.h"
 
 #include "controls/text.h"
+#include "session/database/create_tables.h"
 #include "session/database/routines.h"
 #include "session/session.h"
 
@@ -23,10 +24,10 @@ constexpr LateColumn kLateColumns[] = {
      "ALTER TABLE tJXC_CpTj02 ADD fCpPjMemo nvarchar(50) Null"},
 };
 
-// The count also fails where more rows match than it can tell.
-bool HasColumn(const LateColumn& column) {
+bool CanBeRead(std::string_view table, std::string_view field) {
     try {
-        Conn().Query(std::string("Select Top 1 ") + column.field + " From " + column.table);
+        Conn().Tolerantly(
+            [&] { Conn().Query("Select Top 1 " + std::string(field) + " From " + std::string(table)); });
         return true;
     } catch (const DatabaseError&) {
         return false;
@@ -39,11 +40,27 @@ void EnsureLateColumn(std::string_view table, std::string_view field) {
     for (const LateColumn& column : kLateColumns) {
         if (!EqualsNoCase(column.table, table) || !EqualsNoCase(column.field, field))
             continue;
-        if (DbCount(column.table, column.test) == -1 && !HasColumn(column))
+        // The count also fails where more rows match than it can tell.
+        if (DbCount(column.table, column.test) == -1 && !CanBeRead(column.table, column.field))
             Conn().Execute(Dialect(column.jet, column.sqlServer));
         return;
     }
     throw DatabaseError("字段 " + std::string(table) + "." + std::string(field) + " 不能补加。");
+}
+
+void EnsureLateTable(std::string_view name) {
+    const TableDef* table = FindTable(name);
+    if (!table || !table->late)
+        throw DatabaseError("表 " + std::string(name) + " 不能补加。");
+    const std::string_view field = table->fields.front().name;
+    if (CanBeRead(name, field))
+        return;
+    Transaction transaction(Conn()); // another program may be doing the same
+    if (!CanBeRead(name, field)) {
+        Engine& engine = Conn().EngineInUse();
+        engine.ExecuteScript(TableScript(engine, *table));
+    }
+    transaction.Commit();
 }
 
 } // namespace jxc

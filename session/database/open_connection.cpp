@@ -22,10 +22,12 @@ void RequireReadableFile(const std::string& path) {
         throw DatabaseError("没有读写数据库文件 " + path + " 的权限。");
 }
 
-// One look at every table; late columns are added when the screens that own them open, and may be missing
-// here.
+// One look at every table; late tables and columns are added when the screens that own them open, and may be
+// missing here.
 void RequireTables(Connection& connection) {
     for (const TableDef& table : AllTables()) {
+        if (table.late)
+            continue;
         const std::string name(table.name), field(table.fields.front().name);
         try {
             connection.Query("Select Top 1 " + field + " From " + name);

@@ -68,6 +68,10 @@ void AddHostTables(std::vector<TableDef>& tables) {
                        {"password", Text},
                        {"NoUse_", Short}},
                       {}});
+    tables.push_back({"tHostUser",
+                      {{"fUserName", Text}, {"fPower", Text}, {"fSupervisor", Short}},
+                      {{"fUserName", true}},
+                      true});
     tables.push_back({"Brief", {{"BriefType", Text}, {"BriefTypeName", Text}}, {}});
     tables.push_back(
         {"briefDetail", {{"briefType", Text}, {"BriefCode", Text}, {"BriefName", Text}}, {{"briefType"}}});

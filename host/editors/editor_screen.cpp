@@ -1,0 +1,109 @@
+#include "host/editors/editor_screen.h"
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "session/edit_filter.h"
+#include "session/messages.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+void SetMode(EditorScreen& s, EditorMode mode) {
+    s.mode = mode;
+    const bool browsing = mode == EditorMode::Browse;
+    const bool typing = mode == EditorMode::Add || mode == EditorMode::Change;
+    for (const EditorField& field : s.fields)
+        field.box->enabled = typing;
+    s.cmdChange.enabled = s.cmdQuit.enabled = browsing;
+    s.cmdSave.enabled = s.cmdCancel.enabled = !browsing;
+    s.cmdSave.caption = mode == EditorMode::Delete ? "确认删除(&S)" : "保存(&S)";
+    s.ShapeByMode();
+}
+
+} // namespace
+
+EditorScreen::EditorScreen(std::string name, std::string title) : Screen(std::move(name)) {
+    this->title = std::move(title);
+    cmdChange.onClick = [this] { BeginMode(*this, EditorMode::Change); };
+    cmdSave.onClick = [this] { SaveRecord(*this); };
+    cmdCancel.onClick = [this] { LeaveMode(*this); };
+    cmdQuit.onClick = [this] { Close(); };
+}
+
+void EditorScreen::Open() {
+    LeaveMode(*this);
+}
+
+EditorField& EditorScreen::Hold(TextBox& box, const char* field, const char* caption, int maxBytes,
+                                bool numeric) {
+    box.caption = caption;
+    FilterKeys(box, maxBytes, numeric);
+    box.onLeave = [&box] { return CheckNoQuote(box.text); };
+    return fields.emplace_back(EditorField{&box, field});
+}
+
+void EditorScreen::Clear() {
+    for (const EditorField& field : fields)
+        field.box->text.clear();
+}
+
+void BeginMode(EditorScreen& s, EditorMode mode) {
+    if (mode != EditorMode::Add && !s.HasRecord())
+        return;
+    SetMode(s, mode);
+    if (mode == EditorMode::Add)
+        s.Clear();
+    s.MoveFocus(mode == EditorMode::Delete ? static_cast<Control*>(&s.cmdSave) : s.fields.front().box);
+}
+
+void LeaveMode(EditorScreen& s) {
+    SetMode(s, EditorMode::Browse);
+    s.Load();
+    s.MoveFocus(&s.Home());
+}
+
+void SaveRecord(EditorScreen& s) {
+    if (!s.Confirmed())
+        return;
+    MayRefuse refusal;
+    {
+        Transaction transaction(Conn());
+        refusal = s.Refuse();
+        if (!refusal) {
+            s.Store();
+            transaction.Commit();
+        }
+    }
+    if (refusal) {
+        Warn(s.title, refusal->text);
+        if (refusal->focus)
+            s.MoveFocus(refusal->focus);
+        return;
+    }
+    s.Stored();
+    const bool added = s.mode == EditorMode::Add;
+    LeaveMode(s);
+    if (added)
+        BeginMode(s, EditorMode::Add);
+}
+
+void ShowFields(EditorScreen& s, const Recordset& row) {
+    for (const EditorField& field : s.fields)
+        field.box->text = row.AtEnd() ? "" : row[field.field].AsText();
+}
+
+void WriteFields(const EditorScreen& s, Recordset& row) {
+    for (const EditorField& field : s.fields)
+        row.Set(field.field, Trim(field.box->text));
+}
+
+MayRefuse RefuseEmptyField(const EditorScreen& s) {
+    for (const EditorField& field : s.fields)
+        if (field.required && Trim(field.box->text).empty())
+            return Refusal{"[" + field.box->caption + "]" + GetResStr(34) + "！", field.box};
+    return std::nullopt;
+}
+
+} // namespace jxc

@@ -1,0 +1,128 @@
+#include "host/editors/frmHostUsers.h"
+
+#include "controls/text.h"
+#include "host/user_settings.h"
+#include "session/database/late_columns.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+enum Column { Name = 1, Tick, Position };
+
+constexpr Use kUses[] = {
+    {"tJXC_CkDj01 Where fInvDLR=", "仓库单据"},       {"tJXC_CkDj01 Where fInvSHR=", "仓库单据"},
+    {"tJXC_CkHt01 Where fInvDLR=", "合同订单"},       {"tJXC_CkHt01 Where fInvSHR=", "合同订单"},
+    {"tJXC_CkJh01 Where fInvDLR=", "计划单"},         {"tJXC_CkJh01 Where fInvSHR=", "计划单"},
+    {"tJXC_CkXjBj01 Where fInvDLR=", "询价报价单"},   {"tJXC_CkXjBj01 Where fInvSHR=", "询价报价单"},
+    {"tJXC_CkDj_Bak01 Where fInvDLR=", "已结帐单据"}, {"tJXC_CkDj_Bak01 Where fInvSHR=", "已结帐单据"},
+    {"tAccountDetail Where fUser=", "帐户单"},
+};
+
+bool NoUsers() {
+    return Recordset(Conn(), "Select Top 1 fUserName From tHostUser").AtEnd();
+}
+
+void EnterFirstUser() {
+    Transaction transaction(Conn());
+    if (NoUsers() && !session.UserName.empty()) {
+        Recordset row(Conn(), "select * from tHostUser", Access::Write);
+        row.AddNew();
+        row.Set("fUserName", session.UserName);
+        row.Set("fPower", AllRights());
+        row.Set("fSupervisor", 1);
+        row.Update();
+    }
+    transaction.Commit();
+}
+
+void RequireSupervisor() {
+    const UserRights rights = UserSettings(session.UserName);
+    if (!NoUsers() && !EqualsNoCase(rights.ZgName, session.UserName))
+        throw ScreenError("必须系统[负责人]才能够设置用户与权限！");
+}
+
+char DigitAt(const std::string& power, int position) {
+    return position <= static_cast<int>(power.size()) ? power[static_cast<size_t>(position - 1)] : '0';
+}
+
+void OfferRights(frmHostUsers& s) {
+    s.Grid2.SetColumns({{.caption = "权限", .width = 24, .locked = true},
+                        {.caption = "允许", .type = CellType::Check},
+                        {.caption = "position", .hidden = true}});
+    for (const RightPlace& place : RightPlaces()) {
+        s.Grid2.SetRowCount(s.Grid2.RowCount() + 1);
+        s.Grid2.FillCell(s.Grid2.RowCount(), Name, place.name);
+        s.Grid2.FillCell(s.Grid2.RowCount(), Position, place.position);
+    }
+}
+
+void ShowRights(frmHostUsers& s, const std::string& power) {
+    s.power = power;
+    for (int row = 1; row <= s.Grid2.RowCount(); ++row) {
+        const int position = static_cast<int>(s.Grid2.Number(row, Position));
+        s.Grid2.FillCell(row, Tick, DigitAt(power, position) != '0' ? 1 : 0);
+    }
+}
+
+// A digit above 1 that is ticked as before stays.
+std::string RightsFromGrid(const frmHostUsers& s) {
+    std::string power = s.power;
+    for (int row = 1; row <= s.Grid2.RowCount(); ++row) {
+        const auto at = static_cast<size_t>(s.Grid2.Number(row, Position)) - 1;
+        power.resize(std::max(power.size(), at + 1), '0');
+        const bool ticked = s.Grid2.Number(row, Tick) != 0;
+        if (ticked != (power[at] != '0'))
+            power[at] = ticked ? '1' : '0';
+    }
+    return power;
+}
+
+} // namespace
+
+frmHostUsers::frmHostUsers() : ListEditor("frmHostUsers", "用户与权限", "tHostUser", "fUserName") {
+    EditorField& name = Hold(txtUserName, "fUserName", "用户", 20);
+    name.required = name.unique = true;
+    mark = &chkSupervisor;
+    markField = "fSupervisor";
+    Grid1.SetColumns({{.caption = "用户", .width = 20},
+                      {.caption = "负责人", .type = CellType::Check},
+                      {.caption = "fUserName", .hidden = true}});
+}
+
+void frmHostUsers::Open() {
+    RequireSupervisor();
+    EnterFirstUser();
+    OfferRights(*this);
+    ListEditor::Open();
+}
+
+std::string frmHostUsers::ListStatement() const {
+    return "select fUserName,fSupervisor,fUserName from tHostUser Order By fUserName";
+}
+
+std::span<const Use> frmHostUsers::Uses() const {
+    return kUses;
+}
+
+void frmHostUsers::ShapeByMode() {
+    ListEditor::ShapeByMode();
+    Grid2.readOnly = mode == EditorMode::Browse || mode == EditorMode::Delete;
+}
+
+void frmHostUsers::Clear() {
+    ListEditor::Clear();
+    ShowRights(*this, "");
+}
+
+void frmHostUsers::ShowRest(const Recordset& row) {
+    ShowRights(*this, row["fPower"].AsText());
+}
+
+// The first user of a company may do everything.
+void frmHostUsers::WriteRest(Recordset& row) {
+    row.Set("fPower", mode == EditorMode::Add && NoUsers() ? AllRights() : RightsFromGrid(*this));
+}
+
+} // namespace jxc

@@ -1,0 +1,37 @@
+// The host's dictionary of fields: captions in both languages, and which columns of a table a list shows, in
+// what order, width and form. A customer renames fields and chooses columns there. All routines work on the
+// session's connection; a dictionary without the caption column of the session's language is a DatabaseError.
+#pragma once
+
+#include <string>
+
+#include "controls/grid.h"
+#include "session/components.h"
+
+namespace jxc {
+
+// How the dictionary codes a column's cells and alignment; any other cell type is text, any other alignment
+// left.
+constexpr int kDictionaryText = 0, kDictionaryNumber = 2, kDictionaryTick = 10;
+constexpr int kDictionaryLeft = 0, kDictionaryRight = 1, kDictionaryCenter = 2;
+
+// The caption of a field in the session's language, names in any case; kNoCaption when the dictionary has no
+// such row: the label keeps the caption it has then.
+std::string GetFieldCaption(const std::string& table, const std::string& field);
+inline const std::string kNoCaption = "\t";
+
+// Gives the grid the table's selected columns, from the column `firstColumn` (1 or more) on, and behind them
+// a hidden one for the row's key, which the caller fills. The grid is emptied and locked. The result is the
+// columns' fields, "a,b,c"; "" when none is selected.
+std::string SetupGridColumns(const std::string& table, Grid& grid, int firstColumn);
+// Keeps the widths of the columns that SetupGridColumns made, for all users, and says so.
+void SaveGridColumnWidths(const std::string& table, const Grid& grid, int firstColumn);
+
+// Opens the code list editor in use; see CodeListEditor for the arguments and the text that comes back.
+std::string OpenBriefPicker(const std::string& table, const std::string& code, BriefKind kind);
+
+// Lets the user rename the field that the label's tag names, and choose its code list. True when the label
+// has taken a new caption.
+bool SetControlCaption(Label& control, const std::string& table);
+
+} // namespace jxc

@@ -1,0 +1,85 @@
+#include "settings/frmRs_RptSet.h"
+
+#include "session/database/recordset.h"
+#include "session/database/routines.h"
+#include "session/edit_filter.h"
+#include "session/session.h"
+#include "settings/column_dictionary.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kCaptionBytes = 30;
+constexpr int kCodeListBytes = 20;
+const std::string kListOfLists = "99999999";
+
+std::string CaptionField() {
+    return "FieldName_" + std::to_string(session.Language);
+}
+
+void ShowField(frmRs_RptSet& s) {
+    const std::string which =
+        s.Field.empty() ? CaptionField() + "=" + InQuotes(s.ModelName) : "FieldName=" + InQuotes(s.Field);
+    const Recordset row(Conn(), "Select " + CaptionField() +
+                                    ",FieldBriefType,FieldName,FEnabled from RptListDetail "
+                                    "where ftable=" +
+                                    InQuotes(s.TabelName) + " And " + which);
+    s.txtName.text.clear();
+    s.txtItemNo.text.clear();
+    s.txtItemNo.enabled = s.Command3.enabled = true;
+    if (row.AtEnd())
+        return;
+    s.txtName.text = row[CaptionField()].AsText();
+    s.txtItemNo.text = row["FieldBriefType"].AsText();
+    if (s.Field.empty())
+        s.Field = row["FieldName"].AsText();
+    s.txtItemNo.enabled = s.Command3.enabled = row["FEnabled"].IsNull() || row["FEnabled"].AsLong() != 0;
+}
+
+void FindCodeList(frmRs_RptSet& s) {
+    const std::string chosen = OpenBriefPicker("", kListOfLists, BriefKind::ChooseList);
+    if (!chosen.empty())
+        s.txtItemNo.text = chosen;
+}
+
+void Confirm(frmRs_RptSet& s) {
+    if (s.txtName.text.empty())
+        return;
+    Conn().Execute("UpDate rptListDetail Set " + CaptionField() + "=" + InQuotes(s.txtName.text) +
+                   ",FieldBriefType=" + InQuotes(s.txtItemNo.text) +
+                   " where ftable=" + InQuotes(s.TabelName) + " and FieldName=" + InQuotes(s.Field));
+    session.RptSetResult = s.txtName.text;
+    s.Close();
+}
+
+} // namespace
+
+frmRs_RptSet::frmRs_RptSet() : Screen("frmRs_RptSet") {
+    AddTextProperty("TabelName", TabelName);
+    AddTextProperty("Field", Field);
+    AddTextProperty("ModelName", ModelName);
+    AddNumberProperty("ItemEnable", ItemEnable);
+    FilterKeys(txtName, kCaptionBytes);
+    FilterKeys(txtItemNo, kCodeListBytes);
+    for (TextBox* box : {&txtName, &txtItemNo})
+        box->onLeave = [box] { return CheckNoQuote(box->text); };
+    Command3.onClick = [this] { FindCodeList(*this); };
+    CmdOk.onClick = [this] { Confirm(*this); };
+    CmdCancel.onClick = [this] {
+        session.RptSetResult = txtName.text;
+        Close();
+    };
+}
+
+void frmRs_RptSet::Open() {
+    title = "项目设置";
+    ShowField(*this);
+    MoveFocus(&txtName);
+}
+
+void RegisterSettingsScreens() {
+    RegisterScreen("frmRs_RptSet", [] { return std::make_unique<frmRs_RptSet>(); });
+}
+
+} // namespace jxc

@@ -1,0 +1,27 @@
+// A field of the column dictionary: its caption in the session's language and the code list it takes.
+#pragma once
+
+#include "controls/screen.h"
+
+namespace jxc {
+
+struct frmRs_RptSet : Screen {
+    frmRs_RptSet();
+    void Open() override;
+
+    TextBox txtName{*this, "txtName"};
+    TextBox txtItemNo{*this, "txtItemNo"}; // number of the code list, "" for none
+    Button Command3{*this, "Command3", "查找项目内容"};
+    Button CmdOk{*this, "CmdOk", "确定"};
+    Button CmdCancel{*this, "CmdCancel", "取消"};
+
+    // Set by the opener: the table, and the field by its name or, with Field "", by its present caption.
+    std::string TabelName;
+    std::string Field;
+    std::string ModelName;
+    int ItemEnable = 0; // of no effect: the row's own FEnabled decides
+};
+
+void RegisterSettingsScreens();
+
+} // namespace jxc

@@ -1,0 +1,87 @@
+// What every editor of the host owes its users: a title as menus name it, a word for every box, a key for
+// every button, and a save that is whole or not at all.
+#include "host/editors/host_editors.h"
+
+#include <set>
+
+#include "controls/gestures.h"
+#include "controls/scripted_view.h"
+#include "host/editors/frmHostCards.h"
+#include "host/screens.h"
+#include "session/session.h"
+#include "tests/support/sample_company.h"
+
+namespace jxc::test {
+
+namespace {
+
+class HostEditorScreens : public testing::TestWithParam<EngineKind> {
+  protected:
+    void SetUp() override {
+        if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
+            GTEST_SKIP() << reason;
+        RegisterAllScreens();
+        ResetScreens();
+        sample = std::make_unique<SampleCompany>(GetParam());
+        sample->SignedIn();
+    }
+
+    ScriptedView view;
+    ViewInUse inUse{view};
+    std::unique_ptr<SampleCompany> sample;
+};
+ON_BOTH_ENGINES(HostEditorScreens);
+
+TEST_P(HostEditorScreens, OpenByNameAndCanBeWorkedByKeyboard) {
+    ASSERT_EQ(HostEditors().size(), 5U);
+    for (const HostEditor& editor : HostEditors()) {
+        view.OnScreen(std::string(editor.screen), [&](Screen& screen) {
+            EXPECT_EQ(screen.title, editor.title);
+            EXPECT_NE(screen.Focus(), nullptr);
+            std::set<char> keys;
+            for (const Control* control : screen.Controls()) {
+                if (control->kind != ControlKind::Grid) {
+                    EXPECT_NE(control->caption, "") << control->name;
+                }
+                const size_t mark = control->caption.find('&');
+                if (control->kind == ControlKind::Button) {
+                    ASSERT_NE(mark, std::string::npos) << control->name;
+                    EXPECT_TRUE(keys.insert(control->caption[mark + 1]).second) << control->name;
+                }
+            }
+        });
+        OpenHostEditor(editor.screen);
+        EXPECT_EQ(view.screens.back(), editor.screen);
+        EXPECT_EQ(session.Conn, nullptr);
+    }
+    EXPECT_THROW(OpenHostEditor("frmDj02"), ScreenError);
+    EXPECT_TRUE(view.boxes.empty());
+}
+
+// The addresses of a card are deleted before the card: when that fails they come back, and the screen stays.
+TEST_P(HostEditorScreens, SaveWholeOrNotAtAll) {
+    view.OnScreen("frmHostCards", [&](Screen& screen) {
+        auto& s = dynamic_cast<frmHostCards&>(screen);
+        EnterText(s, s.txtSeek, "X004");
+        Click(s, s.cmdSeek);
+        Click(s, s.cmdDelete);
+        Conn().SetObserver([](std::string_view sql) {
+            if (sql.starts_with("Delete From cards"))
+                throw DatabaseError("disk full");
+        });
+        Click(s, s.cmdSave);
+        EXPECT_EQ(view.boxes.back().text, "disk full");
+        EXPECT_EQ(s.mode, EditorMode::Delete);
+        EXPECT_FALSE(Conn().InTransaction());
+        EXPECT_EQ(One("select count(*) from tJXC_KhAdd Where fKhID=13"), "2");
+        Conn().SetObserver(nullptr);
+        Click(s, s.cmdSave);
+        EXPECT_EQ(s.mode, EditorMode::Browse);
+        EXPECT_EQ(One("select count(*) from tJXC_KhAdd Where fKhID=13"), "0");
+    });
+    OpenHostEditor("frmHostCards");
+}
+
+} // namespace
+
+} // namespace jxc::test
