@@ -52,6 +52,12 @@ class GridBinding : public Binding {
         --quiet_;
     }
 
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Resize && object == table_.viewport())
+            FillWidth();
+        return Binding::eventFilter(object, event);
+    }
+
     void TakeFocus(Qt::FocusReason reason) override {
         table_.setFocus(reason);
         if (!table_.currentIndex().isValid() && model_.rowCount() > 0)
@@ -108,17 +114,37 @@ class GridBinding : public Binding {
 
     // Widths come from the model; those that the person drags go back into it.
     void ShowColumns() {
-        const int character = table_.fontMetrics().horizontalAdvance('0');
         for (int column = 1; column <= grid_.ColumnCount(); ++column) {
             const GridColumn& settings = grid_.Column(column);
             if (table_.isColumnHidden(column - 1) != settings.hidden)
                 table_.setColumnHidden(column - 1, settings.hidden);
-            const int width = static_cast<int>(settings.width * character) + kCellMargin;
-            if (!settings.hidden && table_.columnWidth(column - 1) != width)
-                table_.setColumnWidth(column - 1, width);
+            if (!settings.hidden && column != lastShown_ && table_.columnWidth(column - 1) != WidthOf(settings))
+                table_.setColumnWidth(column - 1, WidthOf(settings));
         }
         const bool typing = !grid_.readOnly;
         table_.setSelectionBehavior(typing ? QAbstractItemView::SelectItems : QAbstractItemView::SelectRows);
+        FillWidth();
+    }
+
+    int WidthOf(const GridColumn& column) const {
+        return static_cast<int>(column.width * table_.fontMetrics().horizontalAdvance('0')) + kCellMargin;
+    }
+
+    // The last column takes the room that is left over; the model keeps its own width.
+    void FillWidth() {
+        int width = 0;
+        lastShown_ = 0;
+        for (int column = 1; column <= model_.columnCount(); ++column)
+            if (!grid_.Column(column).hidden) {
+                width += WidthOf(grid_.Column(column));
+                lastShown_ = column;
+            }
+        if (lastShown_ == 0)
+            return;
+        ++quiet_;
+        const int spare = std::max(0, table_.viewport()->width() - width);
+        table_.setColumnWidth(lastShown_ - 1, WidthOf(grid_.Column(lastShown_)) + spare);
+        --quiet_;
     }
 
     void TakeWidth(int section, int width) {
@@ -301,6 +327,7 @@ class GridBinding : public Binding {
     QTableView& table_;
     GridModel model_;
     CellEditor editor_;
+    int lastShown_ = 0;     // the column that fills the width
     int quiet_ = 0;         // what the table says meanwhile is our own doing
     bool committed_ = true; // the last typed cell was taken without a message
 };

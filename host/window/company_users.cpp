@@ -1,24 +1,32 @@
 #include "host/window/company_users.h"
 
+#include "host/user_settings.h"
+#include "session/database/late_columns.h"
 #include "session/database/recordset.h"
 #include "session/session.h"
 
 namespace jxc {
 
-std::vector<CompanyUser> CompanyUsers() {
-    std::vector<CompanyUser> users;
-    for (Recordset row(Conn(), "Select fName From tRsBasic Order By fCode"); !row.AtEnd(); row.MoveNext())
-        users.push_back({row["fName"].AsText(), "9999999999", users.empty()});
-    if (users.empty())
-        users.push_back({"管理员", "9999999999", true});
-    return users;
+namespace {
+
+std::vector<std::string> Names(const std::string& sql) {
+    std::vector<std::string> names;
+    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext())
+        names.push_back(row[size_t{0}].AsText());
+    return names;
 }
 
-std::string SupervisorOf(const std::vector<CompanyUser>& users) {
-    for (const CompanyUser& user : users)
-        if (user.supervisor)
-            return user.name;
-    return users.empty() ? "" : users.front().name;
+} // namespace
+
+std::vector<std::string> CompanyUsers() {
+    EnsureLateTable("tHostUser");
+    std::vector<std::string> names =
+        Names("Select fUserName From tHostUser Order By fSupervisor Desc, fUserName");
+    if (names.empty())
+        names = Names("Select fName From tRsBasic Order By fCode");
+    if (names.empty())
+        names.push_back("管理员");
+    return names;
 }
 
 } // namespace jxc

@@ -6,15 +6,8 @@
 
 namespace jxc {
 
-struct CompanyUser {
-    std::string name;
-    std::string rights; // myPower
-    bool supervisor = false;
-};
-
-// In the order in which they were entered. The session's connection must be open.
-std::vector<CompanyUser> CompanyUsers();
-// The supervisor's name; of a company that names none, the first user's.
-std::string SupervisorOf(const std::vector<CompanyUser>& users);
+// Those entered as users; of a company without users the handlers of its documents, and one nameless
+// administrator when it has none. The supervisor stands first. The session's connection must be open.
+std::vector<std::string> CompanyUsers();
 
 } // namespace jxc

@@ -6,8 +6,10 @@
 #include "host/company/backup.h"
 #include "host/company/create_company.h"
 #include "host/company_address.h"
+#include "host/editors/host_editors.h"
+#include "host/user_settings.h"
 #include "host/window/company_users.h"
-#include "session/company_visit.h"
+#include "host/window/recent_documents.h"
 #include "session/database/recordset.h"
 #include "session/period.h"
 #include "session/session.h"
@@ -17,7 +19,8 @@ namespace jxc {
 
 namespace {
 
-constexpr int kRecent = 8;
+constexpr std::int16_t kEntryScreen = 13;
+constexpr int kRecent = 8;          // companies
 constexpr int kNode = Qt::UserRole; // subject * 1000 + item of a tree node
 
 QString WithoutMnemonic(const std::string& caption) {
@@ -33,7 +36,7 @@ QString ShownName(const std::string& company) {
 // What the host reads of a company when it opens it.
 struct CompanyFacts {
     std::string name;
-    std::vector<CompanyUser> users;
+    std::vector<std::string> users;
     std::string period;
 };
 
@@ -51,6 +54,11 @@ CompanyFacts ReadFacts(const std::string& company) {
     return facts;
 }
 
+UserRights RightsOf(const std::string& company, const std::string& user) {
+    const OpenCompany open(company);
+    return UserSettings(user);
+}
+
 } // namespace
 
 MainWindow::MainWindow() {
@@ -64,26 +72,7 @@ MainWindow::MainWindow() {
     tree_->setMinimumWidth(220);
     splitter->addWidget(tree_);
 
-    auto* page = new QWidget;
-    auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(28, 24, 28, 24);
-    heading_ = new QLabel;
-    QFont large = heading_->font();
-    large.setPointSizeF(large.pointSizeF() * 1.7);
-    large.setBold(true);
-    heading_->setFont(large);
-    purpose_ = new QLabel;
-    purpose_->setWordWrap(true);
-    commands_ = new QVBoxLayout;
-    companyLine_ = new QLabel;
-    companyLine_->setTextFormat(Qt::PlainText);
-    layout->addWidget(heading_);
-    layout->addWidget(purpose_);
-    layout->addSpacing(16);
-    layout->addLayout(commands_);
-    layout->addStretch();
-    layout->addWidget(companyLine_);
-    splitter->addWidget(page);
+    splitter->addWidget(CommandPage());
     splitter->setStretchFactor(1, 1);
     setCentralWidget(splitter);
 
@@ -98,6 +87,38 @@ MainWindow::MainWindow() {
     });
     BuildCompanyMenu();
     restoreGeometry(memory_.value("mainWindow").toByteArray());
+}
+
+// The right side: what the selected screen is for, its commands, and the last documents of its type.
+QWidget* MainWindow::CommandPage() {
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(28, 24, 28, 24);
+    heading_ = new QLabel;
+    QFont large = heading_->font();
+    large.setPointSizeF(large.pointSizeF() * 1.7);
+    large.setBold(true);
+    heading_->setFont(large);
+    purpose_ = new QLabel;
+    purpose_->setWordWrap(true);
+    commands_ = new QVBoxLayout;
+    recentHeading_ = new QLabel("最近的单据（回车或双击打开）");
+    documents_ = new RecentDocuments([this](int type, std::int32_t key) { OpenDocument(type, key); });
+    auto* hint = new QLabel("键盘：↑↓ 选择，回车打开，Alt 进入菜单；窗口中回车到下一栏，Esc 到退出按钮。");
+    hint->setForegroundRole(QPalette::PlaceholderText);
+    companyLine_ = new QLabel;
+    companyLine_->setTextFormat(Qt::PlainText);
+    layout->addWidget(heading_);
+    layout->addWidget(purpose_);
+    layout->addSpacing(16);
+    layout->addLayout(commands_);
+    layout->addSpacing(16);
+    layout->addWidget(recentHeading_);
+    layout->addWidget(documents_, 1);
+    layout->addStretch();
+    layout->addWidget(hint);
+    layout->addWidget(companyLine_);
+    return page;
 }
 
 MainWindow::~MainWindow() {
@@ -136,24 +157,21 @@ bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& us
         Warn(S(windowTitle()), error.what());
         return false;
     }
-    const auto known = std::find_if(facts.users.begin(), facts.users.end(),
-                                    [&](const CompanyUser& each) { return each.name == user; });
-    if (!user.empty() && known == facts.users.end()) {
+    const std::string signedIn = user.empty() ? facts.users.front() : user;
+    const UserRights rights = RightsOf(company, signedIn);
+    if (!rights.known) {
         Warn(S(windowTitle()), "帐套中没有用户“" + user + "”。");
         return false;
     }
-    const CompanyUser signedIn = known != facts.users.end() ? *known
-                                 : facts.users.empty()      ? CompanyUser{}
-                                                            : facts.users.front();
     company_ = company;
     ResetScreens();
     UseCompany(control_, company);
     control_.CompName(facts.name);
-    control_.UserName(signedIn.name);
-    control_.ZgName(SupervisorOf(facts.users));
-    control_.myPower(signedIn.rights);
+    control_.UserName(signedIn);
+    control_.ZgName(rights.ZgName);
+    control_.myPower(rights.myPower);
     setWindowTitle("lzJxc 进销存 — " + Q(facts.name));
-    companyLine_->setText("帐套：" + ShownName(company) + "    用户：" + Q(signedIn.name) + "    会计期间：" +
+    companyLine_->setText("帐套：" + ShownName(company) + "    用户：" + Q(signedIn) + "    会计期间：" +
                           Q(facts.period));
     {
         const OpenCompany open(company);
@@ -226,17 +244,38 @@ void MainWindow::ShowItem(QTreeWidgetItem* node) {
         connect(button, &QPushButton::clicked, this, [this, entry] { Start(entry); });
         commands_->addWidget(button);
     }
+    ShowDocuments(item);
+}
+
+void MainWindow::ShowDocuments(const MenuItemRow& item) {
+    const bool hasDocuments =
+        std::any_of(item.entries.begin(), item.entries.end(),
+                    [](const MenuEntry& entry) { return entry.action == kEntryScreen; });
+    recentHeading_->setVisible(hasDocuments);
+    documents_->setVisible(hasDocuments);
+    if (hasDocuments)
+        Guard([&] {
+            const OpenCompany open(company_);
+            documents_->Show(item.entries.front().myType);
+        });
+}
+
+void MainWindow::OpenDocument(int type, std::int32_t key) {
+    control_.Refresh(kEntryScreen,
+                     {{"Action", 0}, {"invType", type}, {"OldType", 0}, {"oldInvID", key}, {"JzState", 0}});
+    ShowItem(tree_->currentItem());
 }
 
 void MainWindow::Start(const MenuEntry& entry) {
     if (!entry.screen.empty()) {
-        VisitCompany([&] { ShowModal(ScreenNamed(entry.screen)); });
+        OpenHostEditor(entry.screen);
         if (entry.screen == "frmHostCompany" || entry.screen == "frmHostUsers")
             OpenCompanyOf(company_, session.UserName);
         return;
     }
     control_.myType(entry.myType);
     control_.Refresh(entry.action);
+    ShowItem(tree_->currentItem());
 }
 
 const MenuEntry* MainWindow::FindEntry(const QString& itemCaption, const QString& entryCaption) const {
@@ -326,8 +365,8 @@ void MainWindow::BackUp() {
 
 void MainWindow::ChangeUser() {
     QStringList users;
-    for (const CompanyUser& user : ReadFacts(company_).users)
-        users << Q(user.name);
+    for (const std::string& user : ReadFacts(company_).users)
+        users << Q(user);
     const QString user = ChosenUser(users);
     if (!user.isEmpty())
         OpenCompanyOf(company_, S(user));

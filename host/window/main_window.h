@@ -15,7 +15,7 @@ class QVBoxLayout;
 
 namespace jxc {
 
-class QtView;
+class RecentDocuments;
 
 class MainWindow : public QMainWindow {
   public:
@@ -35,8 +35,11 @@ class MainWindow : public QMainWindow {
   private:
     void BuildMenus();
     void BuildCompanyMenu();
+    QWidget* CommandPage();
     void FillTree();
     void ShowItem(QTreeWidgetItem* item);
+    void ShowDocuments(const MenuItemRow& item);
+    void OpenDocument(int type, std::int32_t key);
     void ShowRecent();
     void ChooseCompany();
     void NewCompany();
@@ -55,6 +58,8 @@ class MainWindow : public QMainWindow {
     QLabel* heading_ = nullptr;
     QLabel* purpose_ = nullptr;
     QVBoxLayout* commands_ = nullptr;
+    QLabel* recentHeading_ = nullptr;
+    RecentDocuments* documents_ = nullptr;
     QLabel* companyLine_ = nullptr;
     QMenu* recent_ = nullptr;
     std::vector<QAction*> subjectMenus_;

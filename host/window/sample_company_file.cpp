@@ -5,6 +5,7 @@
 #include "host/company/create_company.h"
 #include "host/company/sample_month.h"
 #include "host/company_address.h"
+#include "host/user_settings.h"
 #include "host/window/company_users.h"
 
 namespace jxc {
@@ -12,16 +13,16 @@ namespace jxc {
 void MakeSampleCompany(const std::string& file) {
     CreateCompany(0, file, CompanyKind::Sample);
     try {
-        std::vector<CompanyUser> users;
-        {
-            const OpenCompany open(file);
-            users = CompanyUsers();
-        }
         lzJxc control;
         UseCompany(control, file);
-        control.UserName(SupervisorOf(users));
-        control.ZgName(SupervisorOf(users));
-        control.myPower(users.front().rights);
+        {
+            const OpenCompany open(file);
+            const std::string user = CompanyUsers().front();
+            const UserRights rights = UserSettings(user);
+            control.UserName(user);
+            control.ZgName(rights.ZgName);
+            control.myPower(rights.myPower);
+        }
         PlaySampleMonth(control);
     } catch (const std::exception&) {
         for (const char* ending : {"", "-wal", "-shm"}) {

@@ -120,6 +120,19 @@ void Queries(PictureBook& book) {
     }
 }
 
+void Editors(PictureBook& book) {
+    WindowScript& script = book.Script();
+    for (const auto& [item, name] : {std::pair("客户资料", "cards"),
+                                     {"货币", "moneys"},
+                                     {"内部资金帐户", "accounts"},
+                                     {"公司资料", "company"},
+                                     {"用户与权限", "users"}}) {
+        book.Open(item, "打开");
+        book.Take(name);
+        script.Click("cmdQuit");
+    }
+}
+
 } // namespace
 
 int TakePictures(const std::string& folder) {
@@ -134,10 +147,12 @@ int TakePictures(const std::string& folder) {
     if (!window.OpenCompanyOf(company, ""))
         return 1;
     PictureBook book(window, Q(folder));
+    book.Script().Then([&window] { window.SelectItem("入库单"); });
     book.Take("main");
     ReceiptPictures(book);
     OtherDocuments(book);
     Queries(book);
+    Editors(book);
     book.Script().Run();
     if (!book.Script().Failure().empty())
         std::cerr << book.Script().Failure() << std::endl;

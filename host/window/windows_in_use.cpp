@@ -32,6 +32,14 @@ void SpeakChinese(QApplication& application) {
         QApplication::installTranslator(texts);
 }
 
+// What is only shown must be as easy to read as what can be changed.
+void DarkenDisabledTexts() {
+    QPalette palette = QApplication::palette();
+    for (const auto role : {QPalette::Text, QPalette::WindowText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x48, 0x48, 0x48));
+    QApplication::setPalette(palette);
+}
+
 } // namespace
 
 WindowsInUse::WindowsInUse() : application_(Prepared(argc_), argv_) {
@@ -39,6 +47,7 @@ WindowsInUse::WindowsInUse() : application_(Prepared(argc_), argv_) {
     QApplication::setOrganizationName("lzJxc");
     QApplication::setStyle("Fusion");
     SpeakChinese(application_);
+    DarkenDisabledTexts();
     RegisterAllScreens();
     ComponentsInUse().printer = std::make_unique<PreviewPrinter>();
 }
