@@ -14,7 +14,6 @@ namespace {
 
 const std::string kAllTypes = "仓库明细查询";
 constexpr int kTextBytes = 50;
-constexpr int kNumberBytes = 12;
 
 int ListTab(const frmDj01& s) {
     return s.chkDj.value ? kDocumentTab : kLineTab;
@@ -92,8 +91,6 @@ void WireFilters(frmDj01& s) {
             FilterKeys(*box, kTextBytes);
             box->onLeave = [box] { return CheckNoQuote(box->text); };
         }
-    for (TextBox& box : s.txtPrice)
-        FilterKeys(box, kNumberBytes, true);
     for (ListBox* list : {&s.cboInvJbr, &s.cboCk[0]})
         list->onLeave = [list] {
             return ComboIndexByText(*list, list->text) >= 0 || CheckNoQuote(list->text);
