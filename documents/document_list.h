@@ -36,12 +36,11 @@ struct DayRange {
 std::optional<DayRange> FilteredDays(const frmDj01& s);
 
 // -- list_grids.cpp
-// The columns of both grids, with the company's decimals and memo captions; they have no rows then.
-void SetUpListGrids(frmDj01& s, const Parameters& parameters);
 // Fills the grid that the query is for and empties the other.
 void FillGrids(frmDj01& s, const ListQuery& query);
 // The rows as they are now, in the order and with the document selected that they had.
 void RefreshList(frmDj01& s);
+Grid& GridOf(frmDj01& s, bool lines);
 // The grid in front; null on the filter tab.
 Grid* FrontGrid(frmDj01& s);
 

@@ -3,6 +3,7 @@
 #include "controls/text.h"
 #include "controls/view.h"
 #include "documents/document_list.h"
+#include "documents/list_columns.h"
 #include "session/edit_filter.h"
 #include "session/grid_routines.h"
 #include "session/lists.h"
@@ -62,7 +63,7 @@ void List(frmDj01& s) {
     const ListQuery query = BuildQuery(s);
     FillGrids(s, query);
     s.shown = query;
-    if ((query.lines ? s.Grid2 : s.Grid1).RowCount() > 0)
+    if (GridOf(s, query.lines).RowCount() > 0)
         GoToTab(s, ListTab(s));
     else
         Warn(s.title, "未有符合条件的单据记录！");
@@ -128,6 +129,7 @@ void WireCommands(frmDj01& s) {
         stock.SetProperty("myState", 0);
         ShowModal(stock);
     };
+    s.cmdColSet.onClick = [&s] { ChooseColumns(s); };
     s.cmdQuit.onClick = [&s] { s.Close(); };
 }
 

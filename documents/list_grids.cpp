@@ -1,8 +1,7 @@
-// The two grids of the document list.
-
-#include <span>
+// Documents and lines into the two grids of the list, with their colours.
 
 #include "documents/document_list.h"
+#include "documents/list_columns.h"
 #include "session/database/recordset.h"
 #include "session/grid_routines.h"
 #include "session/session.h"
@@ -11,82 +10,10 @@ namespace jxc {
 
 namespace {
 
-enum class Show { Text, Day, Status, Product, Quantity, Price, Amount, Hidden };
-
-struct ListColumn {
-    const char* caption;
-    const char* field;
-    double width;
-    Show show = Show::Text;
-};
-
-constexpr ListColumn kDocumentColumns[] = {{"日期", "fInvDate", 10, Show::Day},
-                                           {"单号", "fInvNo", 15},
-                                           {"客户", "CompName", 24},
-                                           {"仓库", "fCkName", 10},
-                                           {"仓库2", "fCkName2", 10},
-                                           {"订单号", "fHtNo", 15},
-                                           {"摘要", "fInvMemo", 12},
-                                           {"状态", "fFlag", 8, Show::Status},
-                                           {"登录人", "fInvDLR", 8},
-                                           {"经办人", "fInvJbr", 8},
-                                           {"审核人", "fInvSHR", 8},
-                                           {"fInvType", "fInvType", 0, Show::Hidden},
-                                           {"fInvID", "fInvID", 0, Show::Hidden}};
-
-constexpr int kMemo1 = 13;
-constexpr int kMemo2 = 14;
-constexpr ListColumn kLineColumns[] = {{"日期", "fInvDate", 10, Show::Day},
-                                       {"单据类", "fSetName", 10},
-                                       {"单号", "fInvNo", 15},
-                                       {"客户", "CompName", 24},
-                                       {"仓库", "fCkName", 10},
-                                       {"编码", "fCpCode", 12},
-                                       {"品名规格", "fCpName", 30, Show::Product},
-                                       {"单位", "fCpUnit", 6},
-                                       {"数量", "fInvSL", 9, Show::Quantity},
-                                       {"单价", "fInvDJ", 10, Show::Price},
-                                       {"金额", "fInvJE", 12, Show::Amount},
-                                       {"税额", "fInvTax", 10, Show::Amount},
-                                       {"", "fInvOther1", 14},
-                                       {"", "fInvOther2", 14},
-                                       {"登录人", "fInvDLR", 8},
-                                       {"经办人", "fInvJbr", 8},
-                                       {"审核人", "fInvSHR", 8},
-                                       {"fInvType", "fInvType", 0, Show::Hidden},
-                                       {"fInvID", "fInvID", 0, Show::Hidden}};
-
 constexpr Color kApproved = Rgb(0xE0, 0xE0, 0xE0);
 constexpr Color kStopped = Rgb(0x80, 0x80, 0x80);
 constexpr Color kReturn = Rgb(255, 0, 0);
 constexpr int kStoppedFlag = 1;
-
-std::span<const ListColumn> ColumnsOf(bool lines) {
-    return lines ? std::span<const ListColumn>(kLineColumns) : std::span<const ListColumn>(kDocumentColumns);
-}
-
-Grid& GridOf(frmDj01& s, bool lines) {
-    return lines ? s.Grid2 : s.Grid1;
-}
-
-void SetUpGrid(Grid& grid, std::span<const ListColumn> columns, const Parameters& parameters) {
-    std::vector<GridColumn> shown;
-    for (const ListColumn& column : columns) {
-        const bool number =
-            column.show == Show::Quantity || column.show == Show::Price || column.show == Show::Amount;
-        shown.push_back({.caption = column.caption,
-                         .type = number ? CellType::Number : CellType::Text,
-                         .decimals = column.show == Show::Quantity ? parameters.quantityDecimals
-                                     : column.show == Show::Price  ? parameters.priceDecimals
-                                                                   : 2,
-                         .width = column.width,
-                         .hidden = column.show == Show::Hidden,
-                         .locked = true,
-                         .alignment = number ? Alignment::Right : Alignment::Left});
-    }
-    grid.SetColumns(std::move(shown));
-    grid.readOnly = true;
-}
 
 const char* StatusText(const Value& flag) {
     const char* const texts[] = {"", "中止执行", "执行中", "完毕"};
@@ -166,16 +93,6 @@ void SelectAgain(Grid& grid, int row, std::int64_t document) {
 
 } // namespace
 
-void SetUpListGrids(frmDj01& s, const Parameters& parameters) {
-    SetUpGrid(s.Grid1, kDocumentColumns, parameters);
-    SetUpGrid(s.Grid2, kLineColumns, parameters);
-    const std::string* const memos[] = {&parameters.memo1, &parameters.memo2};
-    for (const int column : {kMemo1, kMemo2}) {
-        s.Grid2.Column(column).caption = *memos[column - kMemo1];
-        s.Grid2.Column(column).hidden = memos[column - kMemo1]->empty();
-    }
-}
-
 void FillGrids(frmDj01& s, const ListQuery& query) {
     Recordset rows(Conn(), query.sql);
     for (Grid* grid : {&s.Grid1, &s.Grid2}) {
@@ -206,6 +123,10 @@ void RefreshList(frmDj01& s) {
     }
     SelectAgain(grid, row, document);
     ShowRowMenu(s);
+}
+
+Grid& GridOf(frmDj01& s, bool lines) {
+    return lines ? s.Grid2 : s.Grid1;
 }
 
 Grid* FrontGrid(frmDj01& s) {

@@ -1,6 +1,7 @@
 // The document list on paper, headed by the filters it was asked with.
 
 #include "documents/document_list.h"
+#include "documents/list_columns.h"
 #include "session/database/routines.h"
 #include "session/print_grid.h"
 
@@ -23,9 +24,9 @@ FieldList FilterSummary(const frmDj01& s) {
 void PrintList(frmDj01& s) {
     const Grid* grid = FrontGrid(s);
     if (grid == &s.Grid1)
-        PrintGrid(*grid, "单据查询", "lzJxc_Dj01", "", FilterSummary(s));
+        PrintGrid(*grid, "单据查询", ListKey(false), "", FilterSummary(s));
     else if (grid == &s.Grid2)
-        PrintGrid(*grid, "单据明细查询", "lzJxc_Dj02", "", FilterSummary(s));
+        PrintGrid(*grid, "单据明细查询", ListKey(true), "", FilterSummary(s));
 }
 
 } // namespace jxc
