@@ -2,7 +2,7 @@
 
 #include "controls/text.h"
 #include "documents/document_list.h"
-#include "documents/document_lists.h"
+#include "documents/shared_lists.h"
 #include "session/database/routines.h"
 #include "session/lists.h"
 #include "session/session.h"

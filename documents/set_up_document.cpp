@@ -4,7 +4,7 @@
 
 #include "controls/text.h"
 #include "documents/document_entry.h"
-#include "documents/document_lists.h"
+#include "documents/shared_lists.h"
 #include "session/grid_routines.h"
 #include "session/lists.h"
 #include "session/period.h"

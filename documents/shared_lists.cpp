@@ -1,4 +1,4 @@
-#include "documents/document_lists.h"
+#include "documents/shared_lists.h"
 
 #include "controls/text.h"
 #include "session/lists.h"
