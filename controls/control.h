@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -172,6 +173,7 @@ struct Tabs : Control {
     Tabs(Screen& screen, std::string name, std::vector<std::string> captions)
         : Control(screen, std::move(name), ControlKind::Tabs), captions(std::move(captions)) {}
     std::vector<std::string> captions;
+    std::set<int> disabledTabs; // shown, but not to be chosen
     int index = 0;
     std::function<void()> onChange;
     Value Shown() const override { return std::int64_t{index}; }

@@ -214,6 +214,8 @@ int ItemWithText(const ListBox& list, const std::string& text) {
 void ChooseTab(Screen& screen, Tabs& tabs, int index) {
     if (index < 0 || index >= static_cast<int>(tabs.captions.size()))
         throw GestureRefused(tabs.name + " 没有第 " + std::to_string(index) + " 页。");
+    if (tabs.disabledTabs.contains(index))
+        throw GestureRefused(tabs.name + " 的“" + tabs.captions[static_cast<size_t>(index)] + "”不可用。");
     if (!GoTo(screen, tabs))
         return;
     tabs.index = index;

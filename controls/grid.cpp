@@ -162,11 +162,27 @@ Color Grid::BackColor(int row, int column) const {
     return column >= held.colorFrom ? held.color : kNormalColor;
 }
 
+void Grid::SetRowTextColor(int row, Color color) {
+    CheckPlace(row, 1);
+    rows_[static_cast<size_t>(row - 1)].textColor = color;
+}
+
+Color Grid::TextColor(int row) const {
+    CheckPlace(row, 1);
+    return rows_[static_cast<size_t>(row - 1)].textColor;
+}
+
 void Grid::Sort(int column, bool ascending) {
     const auto at = static_cast<size_t>(column - 1);
+    // A row that moves takes its cells along where they lie in memory: by them the selected one is known.
+    const Value* selected =
+        selectedRow > 0 ? rows_[static_cast<size_t>(selectedRow - 1)].cells.data() : nullptr;
     std::stable_sort(rows_.begin(), rows_.end(), [&](const Row& a, const Row& b) {
         return ascending ? Before(a.cells[at], b.cells[at]) : Before(b.cells[at], a.cells[at]);
     });
+    for (int row = 1; selected && row <= RowCount(); ++row)
+        if (rows_[static_cast<size_t>(row - 1)].cells.data() == selected)
+            selectedRow = row;
     sortedColumn = column;
     sortedAscending = ascending;
 }

@@ -70,8 +70,12 @@ struct Grid : Control {
 
     void SetRowColor(int row, int fromColumn, Color color);
     Color BackColor(int row, int column) const;
+    // The colour of a row's texts, before that of their columns.
+    void SetRowTextColor(int row, Color color);
+    Color TextColor(int row) const;
 
-    // Sorts by a column's values: nothing before numbers before texts; equal rows keep their order.
+    // Sorts by a column's values: nothing before numbers before texts; equal rows keep their order. Colours
+    // and selection stay with their rows.
     void Sort(int column, bool ascending);
     // The column of the last sort, and its direction; 0 when the rows are as filled.
     int sortedColumn = 0;
@@ -90,12 +94,16 @@ struct Grid : Control {
     std::function<void(int column)> onHeading;
     std::function<void(int row)> onSelect;
     std::function<void(int row)> onDoubleClick;
+    // The items that the right button offers on a row, in their order; none for no menu. They act on the
+    // selected row.
+    std::function<std::vector<Command*>(int row)> rowMenu;
 
   private:
     struct Row {
         std::vector<Value> cells;
         Color color = kNormalColor;
         int colorFrom = 1;
+        Color textColor = kNormalColor;
     };
     struct Formula {
         int column;

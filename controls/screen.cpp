@@ -98,6 +98,13 @@ Screen& ScreenNamed(std::string_view name) {
     throw ScreenError("本版本尚未提供该功能（" + std::string(name) + "）。");
 }
 
+ScreenToShow::ScreenToShow(std::string_view name) : screen_(&ScreenNamed(name)) {
+    if (!screen_->IsOpen())
+        return;
+    another_ = Table().find(name)->second.make();
+    screen_ = another_.get();
+}
+
 void ResetScreens() {
     for (auto& [name, entry] : Table())
         entry.instance.reset();

@@ -89,6 +89,19 @@ void RegisterScreen(std::string name, std::function<std::unique_ptr<Screen>()> m
 Screen* FindScreen(std::string_view name);
 // The same, but a ScreenError for people when there is none.
 Screen& ScreenNamed(std::string_view name);
+// The screen of that name to be shown now: the kept instance or, while that one is open, another that lives
+// as long as this. So a picker can stand over a screen of its own kind without touching it. A ScreenError
+// when none is registered.
+class ScreenToShow {
+  public:
+    explicit ScreenToShow(std::string_view name);
+    Screen& operator*() const { return *screen_; }
+    Screen* operator->() const { return screen_; }
+
+  private:
+    std::unique_ptr<Screen> another_;
+    Screen* screen_;
+};
 // Forgets the instances, so that the next use starts afresh (a new company, the next test).
 void ResetScreens();
 

@@ -3,6 +3,7 @@
 #include "controls/text.h"
 #include "controls/view.h"
 #include "documents/document_entry.h"
+#include "documents/frmDj01.h"
 #include "session/edit_filter.h"
 #include "session/lists.h"
 #include "session/lookups.h"
@@ -165,6 +166,7 @@ std::int64_t frmDj02::CustomerId() const {
 }
 
 void RegisterDocumentScreens() {
+    RegisterScreen("frmDj01", [] { return std::make_unique<frmDj01>(); });
     RegisterScreen("frmDj02", [] { return std::make_unique<frmDj02>(); });
 }
 

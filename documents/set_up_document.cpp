@@ -4,9 +4,9 @@
 
 #include "controls/text.h"
 #include "documents/document_entry.h"
+#include "documents/shared_lists.h"
 #include "session/grid_routines.h"
 #include "session/lists.h"
-#include "session/lookups.h"
 #include "session/period.h"
 #include "session/rights.h"
 #include "session/session.h"
@@ -28,25 +28,14 @@ void KeepText(const frmDj02& s, ListBox& list, const std::string& text) {
     list.SetText(text);
 }
 
-void FillWarehouses(ListBox& list, int kind) {
-    if (kind == -1)
-        return list.Clear();
-    FillCombo(WarehouseFilter(kind, "Select fCkName,0 as aaa from tJXC_Ck") + " Order By fCkCode", list);
-}
-
 void FillLists(frmDj02& s) {
-    FillCombo("Select fSetNo, fSetName from tJXC_InvSet Where fSetNo<50 And fSetNoUse_<>1 Order By fRowID",
-              s.cboInvType, 3, true);
-    s.cboInvType.SetIndex(ComboIndexByLeftValue(s.cboInvType, s.invType, 3));
+    FillTypes(s.cboInvType, s.invType);
     FillWarehouses(s.cboCkName, s.type.fSetCkType1);
     FillWarehouses(s.cboCkName2, s.type.fSetCkType2);
     s.cboInvMemo.text.clear();
     RefillSummaries(s);
-    FillCombo("Select MoneyCode,0 as aa from Moneys Order By MoneyType desc", s.cboInvHb);
-    FillCombo("Select fName,0 as aa from " +
-                  std::string(s.parameters.handlersFromSalespeople ? "tJXC_Yj_Jbr" : "tRsBasic") +
-                  " Order By fCode",
-              s.cboInvJbr);
+    FillCurrencies(s.cboInvHb);
+    FillHandlers(s.cboInvJbr, s.parameters.handlersFromSalespeople);
 }
 
 void Show(bool shown, std::initializer_list<Control*> controls) {
@@ -140,7 +129,7 @@ void SetUpDocument(frmDj02& s) {
 }
 
 void ChooseType(frmDj02& s) {
-    const int chosen = static_cast<int>(Val(MidText(s.cboInvType.Chosen(), 1, 3)));
+    const int chosen = TypeOf(s.cboInvType.Chosen());
     if (s.cboInvType.Index() < 0 || chosen == s.invType)
         return;
     if (const auto type = ReadTypeRow(chosen)) {

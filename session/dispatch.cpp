@@ -44,17 +44,20 @@ void FixedState(Screen& screen) {
 void StateOfType(Screen& screen) {
     screen.SetProperty("myState", session.myType);
 }
-void Untick(Screen& screen, const char* box) {
+void Tick(Screen& screen, const char* box, bool ticked) {
     if (auto* toggle = dynamic_cast<Toggle*>(screen.Find(box)))
-        toggle->value = false;
+        toggle->value = ticked;
 }
+// The screen is kept between calls: the box that the other call cleared is ticked again.
 void HeaderList(Screen& screen) {
     screen.SetProperty("invType", session.myType);
-    Untick(screen, "chkDjMx");
+    Tick(screen, "chkDj", true);
+    Tick(screen, "chkDjMx", false);
 }
 void LineList(Screen& screen) {
     screen.SetProperty("invType", session.myType);
-    Untick(screen, "chkDj");
+    Tick(screen, "chkDj", false);
+    Tick(screen, "chkDjMx", true);
 }
 // A host that calls the entry screen wants to write a new document.
 void NewDocument(Screen& screen) {

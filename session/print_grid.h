@@ -4,12 +4,13 @@
 #include <string>
 
 #include "controls/grid.h"
+#include "session/components.h"
 
 namespace jxc {
 
-// Hands the grid with the session's CompanyFieldList to the printer. An empty grid prints nothing and says
-// nothing.
+// Hands the grid to the printer, headed by the session's CompanyFieldList and `fields` behind it. An empty
+// grid prints nothing and says nothing.
 void PrintGrid(const Grid& grid, const std::string& title, const std::string& typeName,
-               const std::string& amount);
+               const std::string& amount, const FieldList& fields = {});
 
 } // namespace jxc

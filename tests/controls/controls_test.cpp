@@ -118,8 +118,14 @@ TEST(GridModel, SortsStablyAndMarksTheHeading) {
     GridSort(desk.grid, 2);
     EXPECT_EQ(order(), "dabc");
     EXPECT_EQ(desk.grid.Column(2).caption, "数量↑");
+    // Colours and selection go with their row.
+    desk.grid.selectedRow = 2;
+    desk.grid.SetRowTextColor(2, Rgb(255, 0, 0));
     GridSort(desk.grid, 2);
     EXPECT_EQ(order(), "bcad");
+    EXPECT_EQ(desk.grid.selectedRow, 3);
+    EXPECT_EQ(desk.grid.TextColor(3), 255);
+    EXPECT_EQ(desk.grid.TextColor(2), kNormalColor);
     EXPECT_EQ(desk.grid.Column(2).caption, "数量↓");
     GridSort(desk.grid, 1);
     EXPECT_EQ(order(), "abcd");

@@ -74,6 +74,17 @@ const Statement kSelects[] = {
      "And "
      "Convert(varchar(10),a.fInvDate,120) Between '2003-07-01' And '2003-07-31' And b.fInvDJ >= 2.5 Order By "
      "a.fInvDate,a.fInvNo"},
+    {"select distinct a.*,c.CompName From ((tJXC_CkHt01 a Inner Join tJXC_CkHt02 b On a.fInvID=b.fInvID)  "
+     "Left join Cards c On a.fKhID=c.fID)  left join tJXC_Cp d on b.fCpid=d.fCpID Where 1=1 And "
+     "a.fInvType=23 And b.fInvInOut=1 And a.fInvJBR Like '%x%' And a.fInvHb='x' And a.fInvDate = #2003-07-01# "
+     "And a.fInvNo like 'x%' And b.fCkName like '%x%' And (d.fCpName Like '%x%' Or d.fCpGG Like '%x%') And "
+     "d.fCpZy='x' And b.fInvDJ  = -2.5 And a.fInvJE <> 0 Order By a.fInvDate,a.fInvNo",
+     "select distinct a.*,c.CompName From ((tJXC_CkHt01 a Inner Join tJXC_CkHt02 b On a.fInvID=b.fInvID)  "
+     "Left join Cards c On a.fKhID=c.fID)  left join tJXC_Cp d on b.fCpid=d.fCpID Where 1=1 And "
+     "a.fInvType=23 And b.fInvInOut=1 And a.fInvJBR Like '%x%' And a.fInvHb='x' And "
+     "Convert(varchar(10),a.fInvDate,120) = '2003-07-01' And a.fInvNo like 'x%' And b.fCkName like '%x%' And "
+     "(d.fCpName Like '%x%' Or d.fCpGG Like '%x%') And d.fCpZy='x' And b.fInvDJ  = -2.5 And a.fInvJE <> 0 "
+     "Order By a.fInvDate,a.fInvNo"},
     {"select b.*,a.fInvType,a.fInvDLR,c.CompName,d.fCpCode,e.fSetName From (((tJXC_CkDj_Bak02 b Left join "
      "tJXC_CkDj_Bak01 a "
      "On a.fInvID=b.fInvID)  Left join Cards c On a.fKhID=c.fID)  Left join tJXC_Cp d On b.fCpID=d.fCpID)  "

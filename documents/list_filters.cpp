@@ -1,0 +1,131 @@
+// The filters of the document list: their lists, and which of them the type ticked leaves.
+
+#include "controls/text.h"
+#include "documents/document_list.h"
+#include "documents/shared_lists.h"
+#include "session/database/routines.h"
+#include "session/lists.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+const std::vector<std::string> kOperators = {" =", "<=", ">=", "<>"};
+
+void Show(bool shown, std::initializer_list<Control*> controls) {
+    for (Control* control : controls)
+        control->visible = shown;
+}
+
+void ClearBoxes(frmDj01& s) {
+    for (Control* control : s.Controls())
+        if (auto* box = dynamic_cast<CheckBox*>(control); box && box != &s.chkDj && box != &s.chkDjMx)
+            box->value = false;
+        else if (auto* text = dynamic_cast<TextBox*>(control))
+            text->text.clear();
+    for (int i = 0; i < 3; ++i)
+        s.optSelect[i].value = i == 2;
+}
+
+// The company names some filters itself; one without a name is not offered.
+void NameBox(CheckBox& box, TextBox& text, const std::string& caption) {
+    box.caption = caption;
+    Show(!caption.empty(), {&box, &text});
+}
+
+void NameFilters(frmDj01& s, const Parameters& parameters) {
+    NameBox(s.chkCp[2], s.txtCp[2], DbScalar("Select BriefTypeName From Brief Where BriefType='fCpZy'"));
+    NameBox(s.chkCp[3], s.txtCp[3], DbScalar("Select BriefTypeName From Brief Where BriefType='fCpCd'"));
+    NameBox(s.chkBz[0], s.txtBz[0], parameters.memo1);
+    NameBox(s.chkBz[1], s.txtBz[1], parameters.memo2);
+}
+
+void FillFilterLists(frmDj01& s, const Parameters& parameters) {
+    FillCurrencies(s.cboHb);
+    s.cboHb.SetIndex(s.cboHb.items.empty() ? -1 : 0);
+    FillHandlers(s.cboInvJbr, parameters.handlersFromSalespeople);
+    s.cboCrType.items = {"入库", "出库"};
+    s.cboCrType.SetIndex(0);
+    for (ListBox& list : s.cboPrice) {
+        list.items = kOperators;
+        list.SetIndex(0);
+    }
+}
+
+void TickModesType(frmDj01& s) {
+    FillTypes(s.cboInvType, s.InvType());
+    if (s.Mode() != ListMode::AllTypes && s.cboInvType.Index() < 0)
+        throw ScreenError("没有单据类型 " + std::to_string(s.InvType()) + "。");
+    s.chkInvType.value = s.cboInvType.Index() >= 0;
+}
+
+// A filter that the type has no use for is unticked, so that it cannot hide documents unseen.
+void Offer(bool offered, CheckBox& box, EditBox& text) {
+    Show(offered, {&box, &text});
+    if (offered)
+        return;
+    box.value = false;
+    text.text.clear();
+}
+
+void OfferWarehouse(frmDj01& s, int at, int kind, const std::string& caption) {
+    ListBox& list = s.cboCk[at];
+    FillWarehouses(list, kind);
+    Offer(kind != -1, s.chkCk[at], list);
+    if (kind == -1)
+        return;
+    s.chkCk[at].caption = caption;
+    list.SetIndex(list.items.empty() ? -1 : 0);
+}
+
+void ApplyType(frmDj01& s, int number) {
+    const auto type = ReadTypeRow(number);
+    if (!type)
+        return;
+    Offer(type->HasCustomer(), s.chkKh, s.txtKh);
+    OfferWarehouse(s, 0, type->fSetCkType1, type->fSetCkName1);
+    OfferWarehouse(s, 1, type->fSetCkType2, type->fSetCkName2);
+    Offer(type->fSetDjDd_, s.chkDd, s.txtDd);
+}
+
+} // namespace
+
+std::optional<int> TickedType(const frmDj01& s) {
+    if (!s.chkInvType.value || s.cboInvType.Index() < 0)
+        return std::nullopt;
+    return TypeOf(s.cboInvType.Chosen());
+}
+
+void ApplyTickedType(frmDj01& s) {
+    if (s.chkInvType.value && s.cboInvType.Index() < 0 && !s.cboInvType.items.empty())
+        s.cboInvType.SetIndex(0);
+    s.cboInvType.enabled = s.chkInvType.value;
+    const auto type = TickedType(s);
+    ApplyType(s, type.value_or(kTypeWithoutTick));
+    if (type)
+        return;
+    s.chkCk[0].caption = "仓库";
+    Offer(false, s.chkCk[1], s.cboCk[1]);
+}
+
+void OfferLists(frmDj01& s) {
+    s.chkDjMx.value = s.chkDjMx.value || !s.chkDj.value;
+    s.SSTab1.disabledTabs.clear();
+    if (!s.chkDj.value)
+        s.SSTab1.disabledTabs.insert(kDocumentTab);
+    if (!s.chkDjMx.value)
+        s.SSTab1.disabledTabs.insert(kLineTab);
+}
+
+void ResetFilters(frmDj01& s, const Parameters& parameters) {
+    ClearBoxes(s);
+    NameFilters(s, parameters);
+    FillFilterLists(s, parameters);
+    s.dtpDate[0].date = parameters.periodStart;
+    s.dtpDate[1].date = parameters.periodEnd;
+    TickModesType(s);
+    ApplyTickedType(s);
+}
+
+} // namespace jxc

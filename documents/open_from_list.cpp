@@ -1,0 +1,158 @@
+// From the document list into frmDj02: the commands, the menu of a row, and the picker's answer.
+
+#include "controls/text.h"
+#include "controls/view.h"
+#include "documents/document_list.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+const std::string kClosedBook = "tJXC_CkDj_Bak";
+constexpr int kFromRow = -1;
+constexpr int kNumberColumn = 2; // of Grid1
+
+// The next documents of the chain from plan to sale, and the returns. The first part of a name is the menu.
+struct Conversion {
+    int source;
+    int target;
+    const char* name;
+    const char* caption;
+};
+constexpr Conversion kConversions[] = {
+    {20, 21, "mnuJhAsk", "产生：询价单"},
+    {20, 23, "mnuJhOrder", "产生：采购订单"},
+    {20, 1, "mnuJhIn", "产生：入库单"},
+    {21, 23, "mnuXjAskOrder", "生成：采购订单"},
+    {21, 1, "mnuXjAskIn", "生成：入库单"},
+    {21, 22, "mnuXjAskQuote", "转为：报价单"},
+    {22, 24, "mnuBjAskOrder", "生成：销售订单"},
+    {22, 2, "mnuBjAskOut", "生成：出库单"},
+    {22, 6, "mnuBjAskConsign", "生成：代销发货单"},
+    {22, 21, "mnuBjAskAsk", "转为：询价单"},
+    {23, 1, "mnuCgOrderIn", "生成：入库单"},
+    {23, 24, "mnuCgOrderOrder", "转为：销售订单"},
+    {24, 2, "mnuXsOrderOut", "生成：出库单"},
+    {24, 6, "mnuXsOrderConsign", "生成：代销发货单"},
+    {24, 23, "mnuXsOrderOrder", "转为：采购订单"},
+    {1, 2, "mnuRkInvOut", "生成：出库单"},
+    {1, 6, "mnuRkInvConsign", "生成：代销发货单"},
+    {1, -1, "mnuRkInvBack", "产生：入库退货单"},
+    {2, -2, "mnuCkInvBack", "产生：出库退货单"},
+    {5, -5, "mnuLsInvBack", "产生：零售退货单"},
+    {6, -6, "mnuDxInv1Back", "产生：代销退货单"},
+    {7, -7, "mnuDxInv2Back", "产生：代销结退单"},
+};
+
+// Either list ends in approver, type and key.
+int TypeColumn(const Grid& grid) {
+    return grid.ColumnCount() - 1;
+}
+int ApproverColumn(const Grid& grid) {
+    return grid.ColumnCount() - 2;
+}
+
+// The grid in front when a row of it is selected.
+Grid* GridWithSelection(frmDj01& s) {
+    Grid* grid = FrontGrid(s);
+    return grid && grid->selectedRow > 0 ? grid : nullptr;
+}
+
+int TypeOfRow(const Grid& grid, int row) {
+    return static_cast<int>(grid.Cell(row, TypeColumn(grid)).AsLong());
+}
+
+bool TakeSelectedDocument(frmDj01& s) {
+    const Grid* grid = GridWithSelection(s);
+    if (!grid)
+        return false;
+    s.invID = static_cast<std::int32_t>(grid->Cell(grid->selectedRow, grid->ColumnCount()).AsLong());
+    s.approver = grid->Text(grid->selectedRow, ApproverColumn(*grid));
+    return s.invID >= 1;
+}
+
+// Why the document in hand is not for the action; "" when it is.
+std::string Refusal(const frmDj01& s, DocAction action) {
+    const bool approved = !s.approver.empty();
+    if (action == DocAction::Change || action == DocAction::Delete || action == DocAction::Approve)
+        return approved ? "该单据已经审核！" : "";
+    if (action != DocAction::Reverse)
+        return "";
+    if (!approved)
+        return "该单据尚未审核！";
+    if (session.UserName != session.ZgName && session.UserName != s.approver)
+        return "反审核：必须是“系统管理员”或者是该单据原“审核人”，才能够操作！";
+    return "";
+}
+
+} // namespace
+
+void OpenDocument(frmDj01& s, DocAction action, int type, int fromType, int rowFlag) {
+    if (action != DocAction::New || rowFlag == kFromRow) {
+        if (!TakeSelectedDocument(s))
+            return;
+        if (const std::string refusal = Refusal(s, action); !refusal.empty())
+            return Warn(s.title, refusal);
+    }
+    const ScreenToShow entry("frmDj02"); // a picker stands over the document being entered
+    entry->SetProperty("JzState", EqualsNoCase(s.shown.stem, kClosedBook) ? 1 : 0);
+    entry->SetProperty("oldInvID", s.invID);
+    entry->SetProperty("Action", static_cast<int>(action));
+    entry->SetProperty("invType", type);
+    entry->SetProperty("OldType", action == DocAction::New ? fromType : type);
+    ShowModal(*entry);
+    if (action != DocAction::Query)
+        RefreshList(s);
+}
+
+void RunAction(frmDj01& s, DocAction action) {
+    if (action == DocAction::New) {
+        if (const auto type = TickedType(s))
+            OpenDocument(s, action, *type, 0, 0);
+        else
+            Inform(s.title, "请选择单据类型！");
+        return;
+    }
+    if (const Grid* grid = GridWithSelection(s))
+        OpenDocument(s, action, TypeOfRow(*grid, grid->selectedRow), 0, 0);
+}
+
+void PickDocument(frmDj01& s) {
+    if (GridWithSelection(s) != &s.Grid1)
+        return;
+    s.DjCode = s.Grid1.Text(s.Grid1.selectedRow, kNumberColumn);
+    s.DjJz = s.chkJz.value ? 1 : 0;
+    s.Close();
+}
+
+void AddConversions(frmDj01& s) {
+    for (const Conversion& c : kConversions) {
+        s.conversions.push_back(std::make_unique<ConversionItem>(s, c.name, c.caption, c.source, c.target));
+        s.conversions.back()->onClick = [&s, &c] {
+            OpenDocument(s, DocAction::New, c.target, c.source, kFromRow);
+        };
+    }
+}
+
+std::vector<Command*> MenuOfRow(frmDj01& s, int row) {
+    std::vector<Command*> items;
+    const int type = TypeOfRow(s.Grid1, row);
+    for (const auto& item : s.conversions)
+        if (item->source == type)
+            items.push_back(item.get());
+    items.push_back(&s.mnuShCheck);
+    items.push_back(&s.mnuShUncheck);
+    return items;
+}
+
+void ShowRowMenu(frmDj01& s) {
+    for (const auto& item : s.conversions)
+        item->visible = false;
+    s.mnuShCheck.visible = s.mnuShUncheck.visible = false;
+    if (GridWithSelection(s) == &s.Grid1)
+        for (Command* item : MenuOfRow(s, s.Grid1.selectedRow))
+            item->visible = true;
+}
+
+} // namespace jxc

@@ -1,0 +1,239 @@
+// What the document list shows and hands on beyond its texts: colours, the menu of a row, the picker over a
+// document being entered, print-outs, the choice of columns.
+#include <gtest/gtest.h>
+
+#include "controls/gestures.h"
+#include "documents/document_list.h"
+#include "documents/frmDj02.h"
+#include "host/company_address.h"
+#include "host/screens.h"
+#include "session/components.h"
+#include "session/frmBrief.h"
+#include "session/session.h"
+#include "tests/support/clerk.h"
+#include "tests/support/sample_company.h"
+
+namespace jxc::test {
+
+namespace {
+
+class DocumentList : public testing::TestWithParam<EngineKind> {
+  protected:
+    void SetUp() override {
+        if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
+            GTEST_SKIP() << reason;
+        RegisterAllScreens();
+        ResetScreens();
+        company = std::make_unique<SampleCompany>(GetParam());
+        control = company->SignedIn();
+        open = std::make_unique<OpenCompany>(company->Address());
+        clerk = std::make_unique<Clerk>();
+    }
+    void TearDown() override {
+        clerk.reset();
+        ResetScreens();
+    }
+    // Opens the list as a host or a document does, and works on it.
+    void Show(int mode, bool lines, const std::function<void(frmDj01&)>& work) {
+        auto& s = static_cast<frmDj01&>(ScreenNamed("frmDj01"));
+        s.SetProperty("invType", mode);
+        s.chkDj.value = !lines;
+        s.chkDjMx.value = lines;
+        clerk->view.OnScreen("frmDj01", [&](Screen& screen) { work(static_cast<frmDj01&>(screen)); });
+        ShowModal(s);
+    }
+    void Receive(const std::string& code, bool approved) {
+        const int key = clerk->Save({.type = 1, .customer = "G001", .lines = {{code, 5, 400}}});
+        if (approved) {
+            EXPECT_TRUE(clerk->Approve(1, key));
+        }
+    }
+
+    std::unique_ptr<SampleCompany> company;
+    lzJxc control;
+    std::unique_ptr<OpenCompany> open;
+    std::unique_ptr<Clerk> clerk;
+};
+ON_BOTH_ENGINES(DocumentList);
+
+constexpr Color kApproved = 0xE0E0E0;
+constexpr Color kGrey = 0x808080;
+constexpr Color kRed = 255;
+
+TEST_P(DocumentList, ColoursTellStateAndReturns) {
+    Receive("CPU001", true);
+    Receive("CPU002", false);
+    Receive("CPU003", false);
+    Receive("CPU004", false);
+    Do("Update tJXC_CkDj01 Set fInvType=-1 Where fInvID=3 Or fInvID=4");
+    Do("Update tJXC_CkDj01 Set fFlag=1 Where fInvID=4 Or fInvID=5");
+    Show(1, false, [](frmDj01& s) {
+        Grid& grid = s.Grid1;
+        ASSERT_EQ(grid.RowCount(), 4);
+        EXPECT_EQ(grid.BackColor(1, 1), kApproved);
+        EXPECT_EQ(grid.BackColor(1, 11), kApproved);
+        EXPECT_EQ(grid.BackColor(2, 1), kNormalColor);
+        EXPECT_EQ(grid.TextColor(1), kNormalColor);
+        EXPECT_EQ(grid.TextColor(2), kRed);
+        EXPECT_EQ(grid.TextColor(3), kGrey); // a stopped return
+        EXPECT_EQ(grid.TextColor(4), kGrey);
+        ClickHeading(s, grid, 2);
+        ClickHeading(s, grid, 2);
+        EXPECT_EQ(grid.BackColor(4, 1), kApproved);
+        EXPECT_EQ(grid.TextColor(3), kRed);
+    });
+    Show(1, true, [](frmDj01& s) {
+        Click(s, s.cmdList);
+        ASSERT_EQ(s.Grid2.RowCount(), 4);
+        EXPECT_EQ(s.Grid2.BackColor(1, 1), kApproved);
+        EXPECT_EQ(s.Grid2.BackColor(2, 1), kNormalColor);
+        EXPECT_EQ(s.Grid2.TextColor(2), kNormalColor);
+    });
+}
+
+TEST_P(DocumentList, RightButtonOffersTheConversionsOfTheRow) {
+    const std::vector<std::pair<int, Lines>> menus{
+        {20, {"产生：询价单", "产生：采购订单", "产生：入库单"}},
+        {21, {"生成：采购订单", "生成：入库单", "转为：报价单"}},
+        {22, {"生成：销售订单", "生成：出库单", "生成：代销发货单", "转为：询价单"}},
+        {23, {"生成：入库单", "转为：销售订单"}},
+        {24, {"生成：出库单", "生成：代销发货单", "转为：采购订单"}},
+        {1, {"生成：出库单", "生成：代销发货单", "产生：入库退货单"}},
+        {2, {"产生：出库退货单"}},
+        {5, {"产生：零售退货单"}},
+        {6, {"产生：代销退货单"}},
+        {7, {"产生：代销结退单"}},
+        {-1, {}},
+        {3, {}},
+        {31, {}}};
+    Show(99, false, [&](frmDj01& s) {
+        s.Grid1.SetRowCount(1);
+        for (const auto& [type, expected] : menus) {
+            s.Grid1.FillCell(1, 12, type);
+            Lines captions;
+            for (const Command* item : s.Grid1.rowMenu(1))
+                captions.push_back(item->caption);
+            Lines all = expected;
+            all.insert(all.end(), {"单据审核", "单据反审核"});
+            EXPECT_EQ(captions, all) << type;
+        }
+    });
+}
+
+TEST_P(DocumentList, PickerAnswersWithTheDocumentChosen) {
+    Receive("CPU001", true);
+    Receive("CPU002", false);
+    auto& s = static_cast<frmDj01&>(ScreenNamed("frmDj01"));
+    const auto pick = [&](const std::function<void()>& choose) {
+        Show(201, false, [&](frmDj01&) {
+            EXPECT_EQ(s.cboInvType.text, "1  入库单");
+            EXPECT_TRUE(s.cmdSelect.visible);
+            EXPECT_TRUE(s.CmdAction[0].visible); // on the filter tab, too
+            Click(s, s.cmdList);
+            EXPECT_EQ(s.Grid1.RowCount(), 2);
+            choose();
+        });
+        return s.GetProperty("DjCode").AsText() + "|" + s.GetProperty("DjJz").AsText();
+    };
+    const auto asked = clerk->view.screens.size();
+    EXPECT_EQ(pick([&] { DoubleClickRow(s, s.Grid1, 2); }), "20261105RK002|0");
+    EXPECT_FALSE(s.IsOpen());
+    EXPECT_EQ(pick([&] {
+                  SelectRow(s, s.Grid1, 1);
+                  SetToggle(s, s.chkJz, true);
+                  Click(s, s.cmdSelect);
+              }),
+              "20261105RK001|1");
+    EXPECT_EQ(pick([&] { Click(s, s.cmdSelect); }), "|0"); // no row, no choice
+    EXPECT_EQ(clerk->view.screens.size(), asked + 3);      // nothing was opened beside the picker
+}
+
+TEST_P(DocumentList, PickerLeavesTheDocumentBeneathAlone) {
+    Receive("CPU001", false);
+    clerk->Enter({.type = 2, .customer = "X001", .lines = {{"CPU002", 3, 700}}}, [&](frmDj02& entry) {
+        std::string opened;
+        clerk->view.OnScreen("frmDj02", [&](Screen& screen) {
+            EXPECT_NE(&screen, &entry);
+            opened = static_cast<frmDj02&>(screen).Number();
+        });
+        Show(201, false, [&](frmDj01& s) {
+            Click(s, s.cmdList);
+            SelectRow(s, s.Grid1, 1);
+            Click(s, s.CmdAction[0]);
+        });
+        EXPECT_EQ(opened, "20261105RK001");
+        EXPECT_TRUE(entry.IsOpen());
+        EXPECT_EQ(entry.invType, 2);
+        EXPECT_EQ(entry.Grid2.Text(1, 1), "CPU002");
+    });
+}
+
+TEST_P(DocumentList, PrintsUnderItsFilters) {
+    class Recorder : public Printer {
+      public:
+        explicit Recorder(std::vector<std::string>& told) : told_(told) {}
+        void Print(const GridPrintJob& job) override {
+            told_ = {job.title, job.typeName, std::to_string(job.grid->RowCount())};
+            told_.insert(told_.end(), job.header.begin(), job.header.end());
+        }
+        void Print(const TemplatePrintJob&) override {}
+
+      private:
+        std::vector<std::string>& told_;
+    };
+    std::vector<std::string> told;
+    auto builtIn = std::exchange(ComponentsInUse().printer, std::make_unique<Recorder>(told));
+    session.CompanyFieldList = {"<单位>", "远帆"};
+    Receive("CPU001", false);
+    Show(1, false, [&](frmDj01& s) {
+        Click(s, s.cmdPrint);
+        EXPECT_EQ(told, (Lines{"单据查询", "lzJxc_Dj01", "1", "<单位>", "远帆", "查询内容", "查询",
+                               "起始日期", "", "截止日期", "", "仓库备注", ""}));
+        s.chkDate.value = s.chkCk[0].value = true;
+        s.dtpDate[1].date.reset();
+        Click(s, s.cmdPrint);
+        EXPECT_EQ(told,
+                  (Lines{"单据查询", "lzJxc_Dj01", "1", "<单位>", "远帆", "查询内容", "查询", "起始日期",
+                         "2026-11-01", "截止日期", "2026-11-01", "仓库备注", "进货、批发出货"}));
+    });
+    told.clear();
+    Show(1, true, [&](frmDj01& s) {
+        ChooseTab(s, s.SSTab1, kLineTab);
+        Click(s, s.cmdPrint); // nothing listed, nothing printed
+        EXPECT_TRUE(told.empty());
+        Click(s, s.cmdList);
+        Click(s, s.cmdPrint);
+        EXPECT_EQ(told.at(0) + told.at(1), "单据明细查询lzJxc_Dj02");
+    });
+    EXPECT_EQ(session.CompanyFieldList, (Lines{"<单位>", "远帆"}));
+    ComponentsInUse().printer = std::move(builtIn);
+}
+
+TEST_P(DocumentList, HidesTheColumnsThatTheCompanyDoesNotWant) {
+    clerk->view.OnScreen("frmBrief", [](Screen& screen) {
+        auto& columns = static_cast<frmBrief&>(screen);
+        EXPECT_EQ(columns.title, "栏目设置");
+        ASSERT_EQ(columns.Grid1.RowCount(), 11); // those that can be seen
+        EXPECT_EQ(columns.Grid1.Text(6, 2), "订单号");
+        TypeCell(columns, columns.Grid1, 6, 1, "0");
+        Click(columns, columns.cmdOk);
+    });
+    Show(1, false, [](frmDj01& s) {
+        EXPECT_FALSE(s.Grid1.Column(6).hidden);
+        Click(s, s.cmdColSet);
+        EXPECT_TRUE(s.Grid1.Column(6).hidden);
+        EXPECT_FALSE(s.Grid1.Column(7).hidden);
+        EXPECT_TRUE(s.Grid1.Column(13).hidden);
+    });
+    ResetScreens();
+    Show(99, false, [](frmDj01& s) {
+        EXPECT_TRUE(s.Grid1.Column(6).hidden);
+        EXPECT_FALSE(s.Grid2.Column(6).hidden);
+        EXPECT_FALSE(s.Grid2.Column(13).hidden); // "备注"
+        EXPECT_TRUE(s.Grid2.Column(14).hidden);  // without a name
+    });
+}
+
+} // namespace
+
+} // namespace jxc::test
