@@ -319,6 +319,12 @@ class GridBinding : public Binding {
         if (index.isValid() && !table_.selectionModel()->isSelected(index))
             table_.setCurrentIndex(index);
         QMenu menu(&table_);
+        if (index.isValid() && grid_.rowMenu) {
+            for (Command* command : grid_.rowMenu(index.row() + 1))
+                menu.addAction(Q(command->caption), this,
+                               [this, command] { window_.Do([&] { Click(window_.Shown(), *command); }); });
+            menu.addSeparator();
+        }
         AddGridCommands(menu, window_, grid_, window_.Shown().title, Selected());
         menu.exec(table_.viewport()->mapToGlobal(at));
     }

@@ -88,7 +88,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     case Qt::BackgroundRole:
         return Colored(grid_.BackColor(row, column));
     case Qt::ForegroundRole:
-        return Colored(settings.textColor);
+        return Colored(grid_.TextColor(row) != kNormalColor ? grid_.TextColor(row) : settings.textColor);
     default:
         return {};
     }
