@@ -84,7 +84,8 @@ int main(int argc, char** argv) {
     std::string pictures;
     tour->add_option("--shots", pictures, "驱动各窗口，把每个窗口的图片存入目录");
     CLI::App* open = app.add_subcommand("open", "打开主窗口");
-    open->add_option("COMPANY", company, "文件，或 postgresql://... 地址")->required();
+    CLI::Option* companyToOpen = open->add_option("COMPANY", company, "文件，或 postgresql://... 地址");
+    open->add_flag("--sample", sample, "样例公司，没有就建立")->excludes(companyToOpen);
     open->add_option("--user", user, "登录用户");
 #endif
 
@@ -101,7 +102,7 @@ int main(int argc, char** argv) {
         if (*tour && !pictures.empty())
             return TakePictures(pictures);
         if (*open || app.get_subcommands().empty())
-            return RunWindows(company, user);
+            return RunWindows(company, user, sample);
 #endif
         if (*tour)
             return PlayTour(company);

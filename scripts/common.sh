@@ -2,9 +2,10 @@
 # Sourced, not run. Expects `set -euo pipefail`; works from any current directory.
 
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-# The CMake preset: release, or ci where warnings are errors. Both build in build/release.
+# The CMake preset: release, or ci where warnings are errors, both in build/release; no-view without the windows.
 preset="${JXC_PRESET:-release}"
 build="$root/build/release"
+[[ "$preset" != no-view ]] || build="$root/build/no-view"
 
 packages=(g++ cmake ninja-build ccache pkg-config
     libsqlite3-dev libpq-dev libmuparser-dev nlohmann-json3-dev libcli11-dev
@@ -45,16 +46,17 @@ install_packages() {
 # build_targets [TARGET...]: configures and builds; without targets, everything.
 build_targets() {
     local warnings=(-DJXC_WERROR=OFF)
-    if [[ "$preset" == ci ]]; then
-        warnings=() # the preset turns them on
-    fi
+    case "$preset" in
+    ci) warnings=() ;; # the preset turns them on
+    no-view) warnings+=(-DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON) ;; # as on a machine without it
+    esac
     say "configuring (preset $preset)"
     mkdir -p "$root/build"
     (cd "$root" && cmake --preset "$preset" "${warnings[@]}" >"$root/build/configure.log" 2>&1) || {
         cat "$root/build/configure.log" >&2
         fail "configuring failed"
     }
-    say "building ${*:-everything} in build/release"
+    say "building ${*:-everything} in ${build#"$root"/}"
     cmake --build "$build" ${1:+--target "$@"}
 }
 

@@ -59,11 +59,16 @@ class TabsBinding : public Binding {
         Binding::Refresh();
         const QSignalBlocker silent(shown_);
         for (int i = 0; i < shown_.count() && i < static_cast<int>(tabs_.captions.size()); ++i)
-            shown_.setTabText(i, Q(tabs_.captions[static_cast<size_t>(i)]));
+            ShowTab(i);
         shown_.setCurrentIndex(tabs_.index);
     }
 
   private:
+    void ShowTab(int tab) {
+        shown_.setTabText(tab, Q(tabs_.captions[static_cast<size_t>(tab)]));
+        shown_.setTabEnabled(tab, !tabs_.disabledTabs.contains(tab));
+    }
+
     Tabs& tabs_;
     QTabWidget& shown_;
 };

@@ -179,11 +179,18 @@ bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& us
     }
     FillTree();
     BuildMenus();
-    QStringList recent = memory_.value("recent").toStringList();
-    recent.removeAll(Q(company));
-    recent.prepend(Q(company));
-    memory_.setValue("recent", recent.mid(0, kRecent));
+    Remember(company);
     return true;
+}
+
+// A password is not written down: the server's own file of passwords, or the person, gives it again.
+void MainWindow::Remember(const std::string& company) {
+    const QString address =
+        DialectOf(company) == 0 ? Q(company) : QUrl(Q(company)).toString(QUrl::RemovePassword);
+    QStringList recent = memory_.value("recent").toStringList();
+    recent.removeAll(address);
+    recent.prepend(address);
+    memory_.setValue("recent", recent.mid(0, kRecent));
 }
 
 void MainWindow::FillTree() {
@@ -306,7 +313,7 @@ void MainWindow::ChooseCompany() {
     window.setWindowTitle("打开帐套");
     auto* layout = new QVBoxLayout(&window);
     layout->addWidget(new QLabel("帐套文件，或数据库服务器上的地址（postgresql://…）："));
-    auto* address = new QLineEdit(Q(company_));
+    auto* address = new QLineEdit(DialectOf(company_) == 0 ? Q(company_) : ShownName(company_));
     address->setMinimumWidth(460);
     auto* browse = new QPushButton("浏览(&B)...");
     auto* line = new QHBoxLayout;

@@ -40,6 +40,7 @@ class MainWindow : public QMainWindow {
     void ShowItem(QTreeWidgetItem* item);
     void ShowDocuments(const MenuItemRow& item);
     void OpenDocument(int type, std::int32_t key);
+    void Remember(const std::string& company);
     void ShowRecent();
     void ChooseCompany();
     void NewCompany();

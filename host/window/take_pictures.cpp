@@ -110,6 +110,21 @@ void OtherDocuments(PictureBook& book) {
     script.Click("cmdQuit");
 }
 
+void Lists(PictureBook& book) {
+    WindowScript& script = book.Script();
+    book.Open("仓库单据查询", "打开");
+    book.Take("filters");
+    script.Click("cmdList");
+    book.Take("list");
+    script.Press(Qt::Key_Escape);
+    script.Press(Qt::Key_Return);
+    book.Open("出库单", "明细列表");
+    script.Click("cmdList");
+    book.Take("lines");
+    script.Press(Qt::Key_Escape);
+    script.Press(Qt::Key_Return);
+}
+
 void Queries(PictureBook& book) {
     WindowScript& script = book.Script();
     for (const auto& [item, name] :
@@ -151,6 +166,7 @@ int TakePictures(const std::string& folder) {
     book.Take("main");
     ReceiptPictures(book);
     OtherDocuments(book);
+    Lists(book);
     Queries(book);
     Editors(book);
     book.Script().Run();

@@ -13,9 +13,14 @@ namespace jxc {
 
 namespace {
 
-// The company of somebody who has none yet.
+std::string LastCompany() {
+    const QStringList recent = QSettings("lzJxc", "jxc").value("recent").toStringList();
+    const QString last = recent.value(0);
+    return last.startsWith("postgres") || QFileInfo::exists(last) ? S(last) : "";
+}
+
 std::string SampleCompany() {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/lzJxc";
     QDir().mkpath(folder);
     const QString file = folder + "/样例公司.db";
     if (!QFileInfo::exists(file))
@@ -23,22 +28,18 @@ std::string SampleCompany() {
     return S(file);
 }
 
-std::string LastCompany() {
-    const QStringList recent = QSettings("lzJxc", "jxc").value("recent").toStringList();
-    const QString last = recent.value(0);
-    return last.startsWith("postgres") || QFileInfo::exists(last) ? S(last) : "";
-}
-
 } // namespace
 
-int RunWindows(const std::string& company, const std::string& user) {
+int RunWindows(const std::string& company, const std::string& user, bool sample) {
     const WindowsInUse windows;
     MainWindow window;
-    std::string wanted = company.empty() ? LastCompany() : company;
+    std::string wanted = company;
+    if (wanted.empty() && !sample)
+        wanted = LastCompany();
     if (wanted.empty())
         wanted = SampleCompany();
     window.show();
-    if (!window.OpenCompanyOf(wanted, user) && company.empty())
+    if (!window.OpenCompanyOf(wanted, user) && company.empty() && !sample)
         window.OpenCompanyOf(SampleCompany(), "");
     return QApplication::exec();
 }
