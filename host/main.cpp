@@ -6,6 +6,7 @@
 #include <CLI/CLI.hpp>
 
 #include "host/check.h"
+#include "host/company/backup.h"
 #include "host/company/create_company.h"
 #include "host/company_address.h"
 #include "host/robot.h"
@@ -52,6 +53,18 @@ int Check(const std::string& company) {
     return violations.empty() ? 0 : 1;
 }
 
+int BackUp(const std::string& company, const std::string& file) {
+    BackUpCompany(company, file);
+    std::cout << "备份完毕，并已检查可以读出：" << file << std::endl;
+    return 0;
+}
+
+int Restore(const std::string& file, const std::string& company) {
+    RestoreCompany(file, company);
+    std::cout << "帐套已恢复：" << company << std::endl;
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -89,6 +102,14 @@ int main(int argc, char** argv) {
     open->add_option("--user", user, "登录用户");
 #endif
 
+    std::string copy;
+    CLI::App* backup = app.add_subcommand("backup", "备份帐套文件，别人可以继续工作");
+    backup->add_option("COMPANY", company, "帐套文件")->required();
+    backup->add_option("FILE", copy, "备份文件，须尚不存在")->required();
+    CLI::App* restore = app.add_subcommand("restore", "从备份恢复为新的帐套");
+    restore->add_option("FILE", copy, "备份文件")->required();
+    restore->add_option("COMPANY", company, "帐套文件，须尚不存在")->required();
+
     CLI::App* check = app.add_subcommand("check", "检查帐套，每处不符一行");
     check->add_option("COMPANY", company, "文件，或 postgresql://... 地址")->required();
 
@@ -106,6 +127,10 @@ int main(int argc, char** argv) {
 #endif
         if (*tour)
             return PlayTour(company);
+        if (*backup)
+            return BackUp(company, copy);
+        if (*restore)
+            return Restore(copy, company);
         return Check(company);
     } catch (const std::exception& error) {
         std::cerr << error.what() << std::endl;

@@ -101,7 +101,7 @@ QWidget* MainWindow::CommandPage() {
     heading_->setFont(large);
     purpose_ = new QLabel;
     purpose_->setWordWrap(true);
-    commands_ = new QVBoxLayout;
+    commands_ = new QHBoxLayout;
     recentHeading_ = new QLabel("最近的单据（回车或双击打开）");
     documents_ = new RecentDocuments([this](int type, std::int32_t key) { OpenDocument(type, key); });
     auto* hint = new QLabel("键盘：↑↓ 选择，回车打开，Alt 进入菜单；窗口中回车到下一栏，Esc 到退出按钮。");
@@ -246,11 +246,12 @@ void MainWindow::ShowItem(QTreeWidgetItem* node) {
     purpose_->setText(Q(item.purpose));
     for (const MenuEntry& entry : item.entries) {
         auto* button = new QPushButton(Q(entry.caption));
-        button->setMinimumSize(180, 34);
+        button->setMinimumSize(150, 34);
         button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         connect(button, &QPushButton::clicked, this, [this, entry] { Start(entry); });
         commands_->addWidget(button);
     }
+    commands_->addStretch();
     ShowDocuments(item);
 }
 

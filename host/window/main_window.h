@@ -11,7 +11,7 @@
 class QLabel;
 class QTreeWidget;
 class QTreeWidgetItem;
-class QVBoxLayout;
+class QHBoxLayout;
 
 namespace jxc {
 
@@ -58,7 +58,7 @@ class MainWindow : public QMainWindow {
     QTreeWidget* tree_ = nullptr;
     QLabel* heading_ = nullptr;
     QLabel* purpose_ = nullptr;
-    QVBoxLayout* commands_ = nullptr;
+    QHBoxLayout* commands_ = nullptr;
     QLabel* recentHeading_ = nullptr;
     RecentDocuments* documents_ = nullptr;
     QLabel* companyLine_ = nullptr;
