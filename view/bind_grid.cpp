@@ -142,13 +142,14 @@ class GridBinding : public Binding {
         if (lastShown_ == 0)
             return;
         ++quiet_;
-        const int spare = std::max(0, table_.viewport()->width() - width);
-        table_.setColumnWidth(lastShown_ - 1, WidthOf(grid_.Column(lastShown_)) + spare);
+        spare_ = std::max(0, table_.viewport()->width() - width);
+        table_.setColumnWidth(lastShown_ - 1, WidthOf(grid_.Column(lastShown_)) + spare_);
         --quiet_;
     }
 
     void TakeWidth(int section, int width) {
-        if (quiet_ == 0 && section < grid_.ColumnCount() && width > 0)
+        const bool filled = section + 1 == lastShown_ && spare_ > 0;
+        if (quiet_ == 0 && section < grid_.ColumnCount() && width > 0 && !filled)
             grid_.Column(section + 1).width =
                 double(width - kCellMargin) / table_.fontMetrics().horizontalAdvance('0');
     }
@@ -334,6 +335,7 @@ class GridBinding : public Binding {
     GridModel model_;
     CellEditor editor_;
     int lastShown_ = 0;     // the column that fills the width
+    int spare_ = 0;         // the pixels that it has over its own
     int quiet_ = 0;         // what the table says meanwhile is our own doing
     bool committed_ = true; // the last typed cell was taken without a message
 };

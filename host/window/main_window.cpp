@@ -40,6 +40,20 @@ struct CompanyFacts {
     std::string period;
 };
 
+// In a window that is no dialog Enter does not press buttons by itself.
+class CommandButton : public QPushButton {
+  public:
+    using QPushButton::QPushButton;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            click();
+        else
+            QPushButton::keyPressEvent(event);
+    }
+};
+
 CompanyFacts ReadFacts(const std::string& company) {
     const OpenCompany open(company);
     LoadPeriodSettings();
@@ -244,8 +258,15 @@ void MainWindow::ShowItem(QTreeWidgetItem* node) {
         subjects_[static_cast<size_t>(place / 1000)].items[static_cast<size_t>(place % 1000)];
     heading_->setText(Q(item.caption));
     purpose_->setText(Q(item.purpose));
+    QWidget* before = tree_;
     for (const MenuEntry& entry : item.entries) {
-        auto* button = new QPushButton(Q(entry.caption));
+        auto* button = new CommandButton(Q(entry.caption));
+        setTabOrder(before, button);
+        before = button;
+        if (entry.action == kEntryScreen) {
+            button->setShortcut(Qt::Key_F6);
+            button->setText(Q(entry.caption) + "  F6");
+        }
         button->setMinimumSize(150, 34);
         button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         connect(button, &QPushButton::clicked, this, [this, entry] { Start(entry); });

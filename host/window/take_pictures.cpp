@@ -82,6 +82,10 @@ void ReceiptPictures(PictureBook& book) {
     book.Line("CPF004", "100", "6.5");
     script.Click("cmdLoadKh2");
     book.Take("receipt");
+    script.Click("cmdZy");
+    book.Take("summaries");
+    script.Press(Qt::Key_Escape);
+    script.Press(Qt::Key_Return);
     script.Click("cmdSave");
     book.Take("save-question");
     script.Click("OK");
