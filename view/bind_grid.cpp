@@ -98,6 +98,18 @@ class GridBinding : public Binding {
         }
     }
 
+    // Input methods that compose in a window of their own send the finished text at once. It starts the
+    // typing of a cell as a key does; the table alone would open the editor and lose the text.
+    bool OnInput(QInputMethodEvent& event) override {
+        const QModelIndex at = table_.currentIndex();
+        if (event.commitString().isEmpty() || !TypesAt(at) || table_.indexWidget(at))
+            return false;
+        table_.edit(at);
+        if (QWidget* editor = table_.indexWidget(at))
+            QCoreApplication::sendEvent(editor, &event);
+        return true;
+    }
+
   private:
     void LookOfTable() {
         table_.setContextMenuPolicy(Qt::CustomContextMenu);
@@ -118,7 +130,8 @@ class GridBinding : public Binding {
             const GridColumn& settings = grid_.Column(column);
             if (table_.isColumnHidden(column - 1) != settings.hidden)
                 table_.setColumnHidden(column - 1, settings.hidden);
-            if (!settings.hidden && column != lastShown_ && table_.columnWidth(column - 1) != WidthOf(settings))
+            if (!settings.hidden && column != lastShown_ &&
+                table_.columnWidth(column - 1) != WidthOf(settings))
                 table_.setColumnWidth(column - 1, WidthOf(settings));
         }
         const bool typing = !grid_.readOnly;

@@ -156,14 +156,15 @@ void ScreenWindow::Refresh() {
 }
 
 // Where the screen has its focus, the window has it too. A screen without one gets the control where the
-// window has its own.
+// window has its own, unless a routine is at work: one that leaves a control has the focus nowhere until it
+// is done.
 void ScreenWindow::ShowFocus() {
     Binding* here = BindingOf(focusWidget());
     if (Control* wanted = screen_.Focus()) {
         Binding* there = BindingOf(*wanted);
         if (there && there != here)
             there->TakeFocus(Qt::OtherFocusReason);
-    } else if (here && here->TakesFocus() && here->control.IsUsable() &&
+    } else if (depth_ == 1 && here && here->TakesFocus() && here->control.IsUsable() &&
                !dynamic_cast<Command*>(&here->control)) {
         screen_.MoveFocus(&here->control);
     }
