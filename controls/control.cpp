@@ -86,7 +86,7 @@ bool EditBox::PressKey(int keyCode) {
     if (keyCode == 0 && text == before)
         return false;
     if (keyCode == kPaste) {
-        Insert(CurrentView().Clipboard());
+        Insert(ClipboardLine());
     } else if (keyCode == kBackspace) {
         if (selLength == 0 && selStart > 0) {
             --selStart;

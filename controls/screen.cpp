@@ -74,8 +74,13 @@ void ShowModal(Screen& screen) {
         Warn(screen.title, error.what());
         return;
     }
-    if (screen.IsOpen())
-        CurrentView().RunModal(screen);
+    try {
+        if (screen.IsOpen())
+            CurrentView().RunModal(screen);
+    } catch (...) {
+        screen.Close();
+        throw;
+    }
     screen.Close();
 }
 

@@ -31,6 +31,9 @@ struct Screen {
     // Loads what the screen shows when it opens. It may show messages, and may Close() the screen again.
     virtual void Open() = 0;
 
+    // What is asked of a person who leaves by the window, where typed work would be lost; "" for nothing.
+    virtual std::string UnsavedWork() const { return ""; }
+
     bool IsOpen() const { return open_; }
     void Close() { open_ = false; }
 

@@ -45,6 +45,11 @@ ViewInUse::~ViewInUse() {
     inUse = before_;
 }
 
+std::string ClipboardLine() {
+    const std::string text = CurrentView().Clipboard();
+    return text.substr(0, text.find_first_of("\r\n"));
+}
+
 void Warn(const std::string& title, const std::string& text) {
     CurrentView().ShowBox({title, text, BoxIcon::Warning, {BoxButton::OK}});
 }

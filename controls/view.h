@@ -53,6 +53,9 @@ class ViewInUse {
     View* before_;
 };
 
+// What a box of one line takes of the clipboard: its text up to the first line end.
+std::string ClipboardLine();
+
 void Warn(const std::string& title, const std::string& text);
 void Inform(const std::string& title, const std::string& text);
 bool AskOkCancel(const std::string& title, const std::string& text); // true for OK

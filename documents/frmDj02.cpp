@@ -92,7 +92,9 @@ void WireKitPanel(frmDj02& s) {
             if (key == "Enter")
                 SeekFinishedProduct(s, byCode);
         };
-        box.onLeave = [&s, byCode] {
+        box.onLeave = [&s, &box, byCode] {
+            if (!CheckNoQuote(box.text))
+                return false;
             SeekFinishedProduct(s, byCode);
             return true;
         };
@@ -106,7 +108,10 @@ void WireKitPanel(frmDj02& s) {
 void WireLinesAndFoot(frmDj02& s) {
     s.Grid2.onEnter = [&s] { EnterGrid(s); };
     s.Grid2.onEnterKey = [&s] { AppendLine(s); };
-    s.Grid2.onCellLeave = [&s](int row, int column) { LeaveCell(s, row, column); };
+    s.Grid2.onCellLeave = [&s](int row, int column) {
+        s.typedInto = true;
+        LeaveCell(s, row, column);
+    };
     s.cmdAddRow.onClick = [&s] { InsertLine(s); };
     s.cmdDeleteRow.onClick = [&s] { DeleteLine(s); };
     s.txtSum.locked = true;
@@ -143,6 +148,7 @@ frmDj02::frmDj02() : Screen("frmDj02") {
 void frmDj02::Open() {
     if (Action < 0 || Action > 5)
         throw ScreenError("frmDj02 的 Action 须为 0 至 5。");
+    typedInto = false;
     SetUpDocument(*this);
     const bool fromSource = InHand() == DocAction::New && OldType > 0 && oldInvID > 0;
     if (InHand() == DocAction::New && !fromSource) {
@@ -158,7 +164,13 @@ void frmDj02::Open() {
     }
     if (!LoadDocument(*this, fromSource ? OldType : invType, oldInvID))
         return Close();
-    MoveFocus(IsEditing(InHand()) ? static_cast<Control*>(&dtpInvDate) : &cmdSave);
+    MoveFocus(IsEditing(InHand()) ? static_cast<Control*>(&dtpInvDate)
+              : cmdSave.enabled   ? static_cast<Control*>(&cmdSave)
+                                  : &Grid2);
+}
+
+std::string frmDj02::UnsavedWork() const {
+    return typedInto && IsEditing(InHand()) ? "单据尚未存盘，放弃所输入的内容？" : "";
 }
 
 std::int64_t frmDj02::CustomerId() const {

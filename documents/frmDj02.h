@@ -17,6 +17,7 @@ namespace jxc {
 struct frmDj02 : Screen {
     frmDj02();
     void Open() override;
+    std::string UnsavedWork() const override;
 
     // The upper panel: the document's header.
     Frame fraHead{*this, "fraHead"};
@@ -110,6 +111,7 @@ struct frmDj02 : Screen {
     Parameters parameters;
     // The stored document as it was loaded; approval, change and deletion go on only while it is still so.
     StoredDocument asLoaded;
+    bool typedInto = false;           // lines were typed since the document was loaded, saved or begun
     std::int32_t finishedProduct = 0; // fCpID of a kit document's product
 
     DocAction InHand() const { return static_cast<DocAction>(Action); }

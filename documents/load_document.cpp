@@ -143,6 +143,7 @@ void StartFromSource(frmDj02& s) {
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
     const std::string stem = BookStem(sourceType, s.JzState == 1);
     s.txtSsSf.text = "0.00";
+    s.typedInto = false;
     try {
         // Before the rest is read: a change in between is noticed.
         StoredDocument stored = ReadStored(stem, key);

@@ -4,18 +4,15 @@
 
 #include "controls/text.h"
 #include "documents/document_entry.h"
-#include "session/company_fields.h"
 #include "session/print_grid.h"
-#include "session/session.h"
 
 namespace jxc {
 
 void PrintDocument(frmDj02& s) {
-    session.CompanyFieldList.clear();
-    CompanyFields();
-    const auto add = [](const std::string& key, const std::string& value) {
-        session.CompanyFieldList.push_back(key);
-        session.CompanyFieldList.push_back(value);
+    FieldList fields;
+    const auto add = [&fields](const std::string& key, const std::string& value) {
+        fields.push_back(key);
+        fields.push_back(value);
     };
     add("日期", s.dtpInvDate.date ? IsoText(*s.dtpInvDate.date) : "");
     add("单号", s.Number());
@@ -32,7 +29,7 @@ void PrintDocument(frmDj02& s) {
     add("经办人", s.cboInvJbr.text);
     add(s.lblSum.caption, s.txtSum.text);
     const std::string typeName = MidText(s.cboInvType.Chosen(), 4);
-    PrintGrid(s.Grid2, s.type.fSetName, typeName, FormatFixed(std::fabs(Val(s.txtSum.text)), 2));
+    PrintGrid(s.Grid2, s.type.fSetName, typeName, FormatFixed(std::fabs(Val(s.txtSum.text)), 2), fields);
 }
 
 } // namespace jxc

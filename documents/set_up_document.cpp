@@ -157,6 +157,7 @@ void RefillSummaries(frmDj02& s) {
 }
 
 void ResetDocument(frmDj02& s) {
+    s.typedInto = false;
     s.dtpInvDate.date = s.invType == 0 ? s.parameters.periodStart : Today();
     for (TextBox* box : {&s.txtNo, &s.txtHtNo, &s.txtKhSeek}) {
         box->text.clear();

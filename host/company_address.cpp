@@ -1,5 +1,7 @@
 #include "host/company_address.h"
 
+#include <regex>
+
 #include "session/database/open_connection.h"
 #include "session/session.h"
 
@@ -7,6 +9,17 @@ namespace jxc {
 
 int DialectOf(const std::string& company) {
     return company.starts_with("postgresql://") || company.starts_with("postgres://") ? 1 : 0;
+}
+
+std::string WithoutPassword(const std::string& company) {
+    if (DialectOf(company) == 0)
+        return company;
+    static const std::regex inUser("(//[^/@:]*):[^/@]*@");
+    static const std::regex inQuery("([?&])password=[^&]*&?", std::regex::icase);
+    std::string shown = std::regex_replace(std::regex_replace(company, inUser, "$1@"), inQuery, "$1");
+    while (shown.ends_with('?') || shown.ends_with('&'))
+        shown.pop_back();
+    return shown;
 }
 
 void UseCompany(lzJxc& control, const std::string& company) {

@@ -9,6 +9,8 @@ namespace jxc {
 
 // 0 for a file (SQLite, the Jet form of statements), 1 for an address (PostgreSQL, the SQL Server form).
 int DialectOf(const std::string& company);
+// The address without a password, for people to see and for what is written down; a file as it is.
+std::string WithoutPassword(const std::string& company);
 // Points the control at the company.
 void UseCompany(lzJxc& control, const std::string& company);
 

@@ -23,7 +23,7 @@ using namespace jxc;
 int Create(const std::string& company, bool sample, bool bare) {
     const CompanyKind kind = sample ? CompanyKind::Sample : bare ? CompanyKind::Bare : CompanyKind::Default;
     CreateCompany(DialectOf(company), company, kind);
-    std::cout << "帐套已建立：" << company << std::endl;
+    std::cout << "帐套已建立：" << WithoutPassword(company) << std::endl;
     return 0;
 }
 

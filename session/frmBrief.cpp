@@ -55,9 +55,13 @@ void FillColumns(frmBrief& s) {
                           " Order By fieldID");
 }
 
-// The entries as typed: no quote, no code twice, no entry without a name. False after a message.
-bool EntriesAreSound(const frmBrief& s) {
+// The entries as typed: no quote, no code twice, no entry without a name; rows with nothing in them are left
+// out. False after a message.
+bool EntriesAreSound(frmBrief& s) {
     std::set<std::string> codes;
+    for (int row = s.Grid1.RowCount(); row >= 1; --row)
+        if (Trim(s.Grid1.Text(row, 1)).empty() && Trim(s.Grid1.Text(row, 2)).empty())
+            s.Grid1.RemoveRow(row);
     for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
         const std::string code = Trim(s.Grid1.Text(row, 1));
         const std::string name = Trim(s.Grid1.Text(row, 2));

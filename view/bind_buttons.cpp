@@ -50,8 +50,12 @@ class TabsBinding : public Binding {
     TabsBinding(ScreenWindow& window, Tabs& tabs, QTabWidget& shown)
         : Binding(window, tabs, shown), tabs_(tabs), shown_(shown) {
         connect(&shown_, &QTabWidget::currentChanged, this, [this](int index) {
-            if (index != tabs_.index)
+            if (index == tabs_.index)
+                return;
+            if (window_.FinishTyping())
                 window_.Do([&] { ChooseTab(window_.Shown(), tabs_, index); });
+            else
+                window_.Refresh();
         });
     }
     bool TakesFocus() const override { return false; } // its pages' fields do
@@ -80,13 +84,18 @@ class CommandBinding : public Binding {
         if (auto* push = qobject_cast<QPushButton*>(&button)) {
             push->setAutoDefault(false);
         }
-        connect(&button_, &QAbstractButton::clicked, this,
-                [this, &command] { window_.Do([&] { Click(window_.Shown(), command); }); });
+        connect(&button_, &QAbstractButton::clicked, this, [this, &command] { Press(command); });
     }
     void Refresh() override {
         Binding::Refresh();
         if (button_.text() != Q(control.caption))
             button_.setText(Q(control.caption));
+    }
+
+  private:
+    void Press(Command& command) {
+        if (window_.FinishTyping() && (&command != window_.LeaveCommand() || window_.MayLeave()))
+            window_.Do([&] { Click(window_.Shown(), command); });
     }
 
   protected:
@@ -121,7 +130,10 @@ class ToggleBinding : public Binding {
         button_.setAutoExclusive(false); // the model clears the others of its group
         connect(&button_, &QAbstractButton::clicked, this, [this](bool on) {
             const bool wanted = on || toggle_.kind == ControlKind::Option;
-            window_.Do([&] { Tick(window_.Shown(), toggle_, wanted); });
+            if (window_.FinishTyping())
+                window_.Do([&] { Tick(window_.Shown(), toggle_, wanted); });
+            else
+                window_.Refresh();
         });
     }
     void Refresh() override {

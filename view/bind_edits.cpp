@@ -55,7 +55,9 @@ class EditLine {
             return Type(kBackspace);
         if (key.key() == Qt::Key_Delete)
             return DeleteAhead();
-        const bool command = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+        if (key.modifiers() & Qt::ControlModifier)
+            return !LeavesText(key);
+        const bool command = key.modifiers() & (Qt::AltModifier | Qt::MetaModifier);
         if (command || key.text().isEmpty() || !key.text().at(0).isPrint())
             return false;
         TypeText(key.text());
@@ -73,6 +75,23 @@ class EditLine {
     }
 
   private:
+    // Of the keys with Ctrl those that copy or move; others would change the widget's text alone.
+    static bool LeavesText(const QKeyEvent& key) {
+        switch (key.key()) {
+        case Qt::Key_A:
+        case Qt::Key_C:
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Home:
+        case Qt::Key_End:
+        case Qt::Key_Insert:
+        case Qt::Key_Tab:
+            return true;
+        default:
+            return false;
+        }
+    }
+
     bool TakesText() const {
         const auto* list = dynamic_cast<const ListBox*>(&box_);
         return !list || list->editable;
@@ -168,8 +187,11 @@ class ListBinding : public Binding {
             edit_ = std::make_unique<EditLine>(window, list, *box_.lineEdit());
             Watch(*box_.lineEdit());
         }
-        connect(&box_, &QComboBox::activated, this,
-                [this](int index) { window_.Do([&] { PickItem(window_.Shown(), list_, index); }); });
+        // Also by the letters and arrow keys that a closed list takes.
+        connect(&box_, &QComboBox::currentIndexChanged, this, [this](int index) {
+            if (index >= 0)
+                window_.Do([&] { PickItem(window_.Shown(), list_, index); });
+        });
     }
 
     void Refresh() override {
@@ -195,8 +217,8 @@ class ListBinding : public Binding {
 
   protected:
     bool OnKey(QKeyEvent& key) override {
-        const bool moves = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down || key.key() == Qt::Key_F4;
-        if (moves && (key.modifiers() & Qt::AltModifier || key.key() == Qt::Key_F4)) {
+        const bool moves = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
+        if (moves && key.modifiers() & Qt::AltModifier) {
             box_.showPopup();
             return true;
         }
@@ -237,6 +259,11 @@ class DateBinding : public Binding {
 
     bool eventFilter(QObject* object, QEvent* event) override {
         return event->type() == QEvent::Wheel || Binding::eventFilter(object, event);
+    }
+
+    bool FinishTyping() override {
+        edit_.interpretText();
+        return true;
     }
 
   protected:

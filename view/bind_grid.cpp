@@ -39,8 +39,6 @@ class GridBinding : public Binding {
         });
         connect(table_.horizontalHeader(), &QHeaderView::sectionResized, this,
                 [this](int section, int, int width) { TakeWidth(section, width); });
-        connect(&table_, &QWidget::customContextMenuRequested, this,
-                [this](const QPoint& at) { ShowMenu(at); });
     }
 
     void Refresh() override {
@@ -55,6 +53,10 @@ class GridBinding : public Binding {
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::Resize && object == table_.viewport())
             FillWidth();
+        if (event->type() == QEvent::ContextMenu) {
+            ShowMenu(static_cast<QContextMenuEvent&>(*event));
+            return true;
+        }
         return Binding::eventFilter(object, event);
     }
 
@@ -62,6 +64,20 @@ class GridBinding : public Binding {
         table_.setFocus(reason);
         if (!table_.currentIndex().isValid() && model_.rowCount() > 0)
             GoToCell(1, FirstColumn());
+    }
+
+    bool FinishTyping() override {
+        QWidget* line = table_.indexWidget(table_.currentIndex());
+        if (!line)
+            return true;
+        committed_ = true;
+        const QPointer<QWidget> held = line;
+        emit editor_.commitData(line);
+        if (held)
+            emit editor_.closeEditor(held, QAbstractItemDelegate::NoHint);
+        const bool quiet = committed_;
+        committed_ = true;
+        return quiet;
     }
 
   protected:
@@ -82,13 +98,15 @@ class GridBinding : public Binding {
             TurnCheck(table_.currentIndex());
             return true;
         }
+        if (key.modifiers() & Qt::ControlModifier)
+            return false; // pages are turned so
         switch (key.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
             LeaveCell(CellExit::Enter);
             return true;
         case Qt::Key_Tab:
-            LeaveCell(key.modifiers() & Qt::ControlModifier ? CellExit::Stay : CellExit::Tab);
+            LeaveCell(CellExit::Tab);
             return true;
         case Qt::Key_Backtab:
             window_.Step(false);
@@ -112,7 +130,6 @@ class GridBinding : public Binding {
 
   private:
     void LookOfTable() {
-        table_.setContextMenuPolicy(Qt::CustomContextMenu);
         table_.setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::EditKeyPressed |
                                QAbstractItemView::DoubleClicked);
         table_.setTabKeyNavigation(false);
@@ -257,8 +274,6 @@ class GridBinding : public Binding {
             return;
         case CellExit::Backtab:
             return window_.Step(false);
-        case CellExit::Stay:
-            return window_.Step(true);
         }
     }
 
@@ -299,48 +314,77 @@ class GridBinding : public Binding {
         return range;
     }
 
-    // Cell by cell, as if typed; columns that take no typing are passed over. The first refusal ends it.
+    // Cell by cell, as if typed. Columns that take no typing, and cells that already show the text, are
+    // passed over; the first text that is not taken ends it, and is told.
     void Paste() {
-        const int firstRow = grid_.selectedRow;
+        int row = grid_.selectedRow;
         const int firstColumn = grid_.selectedColumn;
-        if (grid_.readOnly || firstRow < 1)
+        if (grid_.readOnly || row < 1)
             return;
-        int row = firstRow;
         for (const std::string& line : Split(CurrentView().Clipboard(), '\n')) {
-            if (Trim(line).empty())
-                continue;
-            int column = firstColumn;
-            for (std::string text : Split(line, '\t')) {
-                while (column <= grid_.ColumnCount() && grid_.Column(column).hidden)
-                    ++column;
-                if (column > grid_.ColumnCount())
-                    break;
-                std::erase(text, '\r');
-                if (grid_.CanType(column))
-                    Commit(row, column, Q(text));
-                if (!committed_) {
-                    committed_ = true;
-                    return;
-                }
-                ++column;
-            }
-            ++row;
+            if (!Trim(line).empty() && !PasteRow(row++, firstColumn, line))
+                return;
+            if (!window_.Shown().IsOpen())
+                return;
         }
     }
 
-    void ShowMenu(const QPoint& at) {
-        const QModelIndex index = table_.indexAt(at);
+    bool PasteRow(int row, int column, const std::string& line) {
+        for (std::string text : Split(line, '\t')) {
+            while (column <= grid_.ColumnCount() && grid_.Column(column).hidden)
+                ++column;
+            if (column > grid_.ColumnCount())
+                return true;
+            std::erase(text, '\r');
+            if (grid_.CanType(column) && !Shows(row, column, text) && !PasteCell(row, column, text))
+                return false;
+            ++column;
+        }
+        return true;
+    }
+
+    bool Shows(int row, int column, const std::string& text) const {
+        return row <= grid_.RowCount() &&
+               (grid_.ShownText(row, column) == text || EditText(grid_, row, column) == Q(text));
+    }
+
+    bool PasteCell(int row, int column, const std::string& text) {
+        Commit(row, column, Q(text));
+        const bool taken = committed_;
+        committed_ = true;
+        const bool lost = !Trim(text).empty() && row <= grid_.RowCount() && grid_.Text(row, column).empty();
+        if (taken && lost)
+            Warn(window_.Shown().title, "第 " + std::to_string(row) + " 行“" + grid_.Column(column).caption +
+                                            "”不接受“" + text + "”，粘贴到此为止。");
+        return taken && !lost;
+    }
+
+    // The mouse means the row under it, the menu key the selected one.
+    void ShowMenu(const QContextMenuEvent& event) {
+        if (!window_.FinishTyping())
+            return;
+        const bool byKey = event.reason() == QContextMenuEvent::Keyboard;
+        const QPoint under = table_.viewport()->mapFromGlobal(event.globalPos());
+        const QModelIndex index = byKey ? table_.currentIndex() : table_.indexAt(under);
         if (index.isValid() && !table_.selectionModel()->isSelected(index))
             table_.setCurrentIndex(index);
         QMenu menu(&table_);
-        if (index.isValid() && grid_.rowMenu) {
-            for (Command* command : grid_.rowMenu(index.row() + 1))
-                menu.addAction(Q(command->caption), this,
-                               [this, command] { window_.Do([&] { Click(window_.Shown(), *command); }); });
-            menu.addSeparator();
-        }
+        if (index.isValid() && grid_.rowMenu)
+            AddRowCommands(menu, index.row() + 1);
         AddGridCommands(menu, window_, grid_, window_.Shown().title, Selected());
-        menu.exec(table_.viewport()->mapToGlobal(at));
+        if (!menu.isEmpty())
+            menu.exec(byKey ? table_.viewport()->mapToGlobal(table_.visualRect(index).bottomLeft())
+                            : event.globalPos());
+    }
+
+    void AddRowCommands(QMenu& menu, int row) {
+        for (Command* command : grid_.rowMenu(row)) {
+            QAction* item = menu.addAction(Q(command->caption), this, [this, command] {
+                window_.Do([&] { Click(window_.Shown(), *command); });
+            });
+            item->setEnabled(command->IsUsable());
+        }
+        menu.addSeparator();
     }
 
     Grid& grid_;

@@ -50,6 +50,8 @@ bool Binding::eventFilter(QObject* object, QEvent* event) {
 }
 
 bool Binding::OnKey(QKeyEvent& key) {
+    if (key.modifiers() & Qt::ControlModifier)
+        return false; // pages are turned so
     switch (key.key()) {
     case Qt::Key_Tab:
         window_.Step(true);
@@ -68,6 +70,8 @@ bool Binding::OnKey(QKeyEvent& key) {
 
 void Binding::PressEnter() {
     Screen& screen = window_.Shown();
+    if (!FinishTyping())
+        return;
     const bool quiet = !control.onKey || window_.Do([&] { PressKey(screen, control, "Enter"); });
     const bool still = !screen.Focus() || screen.Focus() == &control;
     if (quiet && screen.IsOpen() && still)

@@ -21,6 +21,9 @@ class Binding : public QObject {
     virtual void Refresh();
     virtual bool TakesFocus() const { return true; }
     virtual void TakeFocus(Qt::FocusReason reason) { widget.setFocus(reason); }
+    // Hands over what is typed but not yet in the model: an open cell, half a date. False when that raised a
+    // message.
+    virtual bool FinishTyping() { return true; }
 
     Control& control;
     QWidget& widget;

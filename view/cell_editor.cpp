@@ -104,8 +104,10 @@ bool CellEditor::eventFilter(QObject* object, QEvent* event) {
     const std::optional<CellExit> exit = ExitOf(static_cast<QKeyEvent&>(*event), *line);
     if (!exit)
         return QStyledItemDelegate::eventFilter(object, event);
+    const QPointer<QLineEdit> held = line; // a message of the commit may have closed it
     emit commitData(line);
-    emit closeEditor(line, NoHint);
+    if (held)
+        emit closeEditor(held, NoHint);
     leave_(*exit);
     return true;
 }

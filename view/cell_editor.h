@@ -10,7 +10,7 @@
 namespace jxc {
 
 // How a cell is left: the way that the selection goes next.
-enum class CellExit { Stay, Enter, Tab, Backtab, Up, Down };
+enum class CellExit { Enter, Tab, Backtab, Up, Down };
 
 class CellEditor : public QStyledItemDelegate {
   public:

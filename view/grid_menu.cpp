@@ -67,11 +67,12 @@ GridPrintJob JobOf(const Grid& grid, const std::string& title) {
 // Asks for a file and writes it; what goes wrong is told.
 void SaveTo(QWidget& window, const std::string& title, const QString& kind, const QString& ending,
             const std::function<void(const QString&)>& save) {
-    QString file = QFileDialog::getSaveFileName(&window, kind, Q(title) + ending, "*" + ending);
-    if (file.isEmpty())
+    QFileDialog dialog(&window, kind, Q(title) + ending, "*" + ending);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(ending.mid(1)); // before the dialog asks about a file that is there
+    if (dialog.exec() != QDialog::Accepted)
         return;
-    if (!file.endsWith(ending, Qt::CaseInsensitive))
-        file += ending;
+    const QString file = dialog.selectedFiles().front();
     try {
         save(file);
         Inform(title, "已保存：" + S(file));

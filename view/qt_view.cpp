@@ -42,6 +42,41 @@ constexpr int kPatience = 300; // milliseconds before a progress window shows
 
 } // namespace
 
+// The step that long work is at. The person can do nothing with it, not even close it: the work holds a
+// transaction.
+class ProgressWindow : public QDialog {
+  public:
+    explicit ProgressWindow(QWidget* parent)
+        : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
+        setModal(true);
+        setMinimumWidth(360);
+        auto* layout = new QVBoxLayout(this);
+        layout->addWidget(step_);
+        layout->addWidget(bar_);
+        if (parent)
+            setWindowTitle(parent->windowTitle());
+        sinceBegin_.start();
+    }
+
+    void Show(const QString& step, int done, int total) {
+        step_->setText(step);
+        bar_->setRange(0, total);
+        bar_->setValue(done);
+        if (!isVisible() && sinceBegin_.elapsed() < kPatience)
+            return;
+        show();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+
+    void reject() override {}
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+
+  private:
+    QLabel* step_ = new QLabel;
+    QProgressBar* bar_ = new QProgressBar;
+    QElapsedTimer sinceBegin_;
+};
+
 QtView::QtView() = default;
 QtView::~QtView() = default;
 
@@ -74,26 +109,14 @@ BoxButton QtView::ShowBox(const MessageBox& box) {
                                     : box.buttons[static_cast<size_t>(clicked - buttons.begin())];
 }
 
-// The step is painted, but nothing that the person does is taken until the work is done.
 void QtView::ShowProgress(const std::string& step, int done, int total) {
     if (total <= 0) {
         progress_.reset();
         return;
     }
-    if (!progress_) {
-        progress_ = std::make_unique<QProgressDialog>(Front());
-        progress_->setWindowModality(Qt::ApplicationModal);
-        progress_->setCancelButton(nullptr);
-        progress_->setMinimumDuration(kPatience);
-        progress_->setAutoClose(false);
-        progress_->setAutoReset(false);
-        if (Front())
-            progress_->setWindowTitle(Front()->windowTitle());
-    }
-    progress_->setLabelText(Q(step));
-    progress_->setMaximum(total);
-    progress_->setValue(done);
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (!progress_)
+        progress_ = std::make_unique<ProgressWindow>(Front());
+    progress_->Show(Q(step), done, total);
 }
 
 void QtView::ShowNotice(const std::string& title, const std::string& text) {

@@ -5,12 +5,11 @@
 #include <memory>
 #include <vector>
 
-#include <QProgressDialog>
-
 #include "controls/view.h"
 
 namespace jxc {
 
+class ProgressWindow;
 class ScreenWindow;
 
 class QtView : public View {
@@ -34,7 +33,7 @@ class QtView : public View {
 
   private:
     std::vector<ScreenWindow*> windows_; // the open ones, the one in front last
-    std::unique_ptr<QProgressDialog> progress_;
+    std::unique_ptr<ProgressWindow> progress_;
     int boxesShown_ = 0;
 };
 

@@ -21,6 +21,7 @@ ScreenWindow::ScreenWindow(QtView& view, Screen& screen, QWidget* parent)
     LoadForm();
     BindControls();
     AddFunctionKeys();
+    AddTabKeys();
     if (session.Language != 0)
         setFont(QFont("MS Sans Serif"));
     Refresh();
@@ -43,7 +44,7 @@ void ScreenWindow::LoadForm() {
     layout->addWidget(form_);
     resize(form_->size());
     if (QGuiApplication::platformName() != "offscreen") // its display has a size of no meaning
-        resize(size().boundedTo(QGuiApplication::primaryScreen()->availableGeometry().size()));
+        resize(size().boundedTo(screen()->availableGeometry().size() - QSize(8, 40))); // with its frame
 }
 
 void ScreenWindow::BindControls() {
@@ -78,12 +79,33 @@ void ScreenWindow::AddFunctionKeys() {
     layout()->addWidget(keys_);
 }
 
+// Ctrl+Tab and Ctrl+PgDn turn to the next page that can be chosen.
+void ScreenWindow::AddTabKeys() {
+    if (!form_->findChild<QTabWidget*>())
+        return;
+    for (const auto& [keys, step] :
+         {std::pair("Ctrl+Tab", 1), {"Ctrl+PgDown", 1}, {"Ctrl+Shift+Tab", -1}, {"Ctrl+PgUp", -1}})
+        connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this,
+                [this, step = step] { TurnTab(step); });
+}
+
+void ScreenWindow::TurnTab(int step) {
+    auto* tabs = form_->findChild<QTabWidget*>();
+    const int pages = tabs->count();
+    for (int page = (tabs->currentIndex() + step + pages) % pages; page != tabs->currentIndex();
+         page = (page + step + pages) % pages)
+        if (tabs->isTabEnabled(page))
+            return tabs->setCurrentIndex(page);
+}
+
 void ScreenWindow::ShowFunctionKeys() {
     QStringList told;
     for (const QAbstractButton* button : withKeys_)
         if (button->isVisibleTo(this) && button->isEnabled())
             told << button->property("fkey").toString() + " " +
                         button->text().remove(QRegularExpression("\\(&.\\)|&"));
+    if (form_->findChild<QTabWidget*>())
+        told << "Ctrl+Tab 换页";
     keys_->setText(told.join("    "));
     keys_->setVisible(!told.isEmpty());
 }
@@ -113,6 +135,11 @@ bool ScreenWindow::Do(const std::function<void()>& gesture) {
     return accepted && boxes == view_.BoxesShown();
 }
 
+bool ScreenWindow::FinishTyping() {
+    return depth_ > 0 || std::all_of(bindings_.begin(), bindings_.end(),
+                                     [](const auto& binding) { return binding->FinishTyping(); });
+}
+
 bool ScreenWindow::Arrive(Control& control) {
     if (depth_ > 0 || !screen_.IsOpen() || screen_.Focus() == &control)
         return true;
@@ -125,7 +152,7 @@ bool ScreenWindow::Arrive(Control& control) {
 
 void ScreenWindow::Step(bool forward) {
     QWidget* from = focusWidget();
-    if (!from)
+    if (!from || !FinishTyping())
         return;
     Binding* here = BindingOf(from);
     const auto next = [forward](QWidget* w) {
@@ -184,7 +211,7 @@ Binding* ScreenWindow::BindingOf(const QWidget* widget) const {
 }
 
 Command* ScreenWindow::LeaveCommand() const {
-    for (const char* name : {"cmdQuit", "cmdCancel", "CmdCancel"})
+    for (const char* name : {"cmdQuit", "cmdCancel", "CmdCancel", "cmdSeekCancel"})
         if (auto* command = dynamic_cast<Command*>(screen_.Find(name)); command && command->IsUsable())
             return command;
     return nullptr;
@@ -203,8 +230,15 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
     Leave();
 }
 
+bool ScreenWindow::MayLeave() {
+    const std::string question = screen_.UnsavedWork();
+    return question.empty() || AskYesNo(screen_.title, question);
+}
+
 void ScreenWindow::Leave() {
     Command* leave = LeaveCommand();
+    if (!FinishTyping() || !MayLeave())
+        return;
     Do([&] {
         if (leave && leave->onClick)
             leave->onClick();

@@ -34,11 +34,19 @@ class ScreenWindow : public QDialog {
     // Runs a gesture and shows what it did. Nothing thrown leaves: a refused gesture only beeps, an error is
     // told. False when the gesture was refused, or raised a message box.
     bool Do(const std::function<void()>& gesture);
+    // What the person is typing goes into the models: before a command acts on them. False when that raised a
+    // message: the person looks at it first.
+    bool FinishTyping();
     // Has the control take the focus of the screen; false when it must not.
     bool Arrive(Control& control);
     // Moves the focus to the next field in tab order, if the present one lets it go.
     void Step(bool forward);
     void Refresh();
+
+    // The command by which the person leaves; null when the screen has none to be used.
+    Command* LeaveCommand() const;
+    // False when the person would lose work by leaving, and rather stays.
+    bool MayLeave();
 
     // The binding of a control, of a widget or of one of its inner widgets; null when there is none.
     Binding* BindingOf(const Control& control) const;
@@ -54,8 +62,9 @@ class ScreenWindow : public QDialog {
     void AddFunctionKeys();
     void ShowFunctionKeys();
     void ShowFocus();
+    void AddTabKeys();
+    void TurnTab(int step);
     void Leave();
-    Command* LeaveCommand() const;
 
     QtView& view_;
     Screen& screen_;

@@ -21,6 +21,7 @@ namespace {
 
 constexpr std::int16_t kEntryScreen = 13;
 constexpr int kRecent = 8;          // companies
+constexpr int kPatience = 150;      // milliseconds
 constexpr int kNode = Qt::UserRole; // subject * 1000 + item of a tree node
 
 QString WithoutMnemonic(const std::string& caption) {
@@ -28,17 +29,8 @@ QString WithoutMnemonic(const std::string& caption) {
 }
 
 QString ShownName(const std::string& company) {
-    if (DialectOf(company) != 0)
-        return QUrl(Q(company)).toDisplayString(QUrl::RemovePassword);
-    return QFileInfo(Q(company)).fileName();
+    return DialectOf(company) != 0 ? Q(WithoutPassword(company)) : QFileInfo(Q(company)).fileName();
 }
-
-// What the host reads of a company when it opens it.
-struct CompanyFacts {
-    std::string name;
-    std::vector<std::string> users;
-    std::string period;
-};
 
 // In a window that is no dialog Enter does not press buttons by itself.
 class CommandButton : public QPushButton {
@@ -54,26 +46,37 @@ class CommandButton : public QPushButton {
     }
 };
 
-CompanyFacts ReadFacts(const std::string& company) {
-    const OpenCompany open(company);
-    LoadPeriodSettings();
-    CompanyFacts facts;
+std::string CompanyName() {
     const Recordset header(Conn(), "select * from myCompany");
-    if (!header.AtEnd())
-        facts.name =
-            header["FullName"].AsText().empty() ? header["CompName"].AsText() : header["FullName"].AsText();
-    facts.users = CompanyUsers();
-    if (session.PeriodStart && session.PeriodEnd)
-        facts.period = IsoText(*session.PeriodStart) + " 至 " + IsoText(*session.PeriodEnd);
-    return facts;
-}
-
-UserRights RightsOf(const std::string& company, const std::string& user) {
-    const OpenCompany open(company);
-    return UserSettings(user);
+    if (header.AtEnd())
+        return "";
+    return header["FullName"].AsText().empty() ? header["CompName"].AsText() : header["FullName"].AsText();
 }
 
 } // namespace
+
+// Everything is read before anything changes. The rights of the screens offered are those of the user.
+CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string& user) {
+    const OpenCompany open(company);
+    LoadPeriodSettings();
+    CompanyFacts facts;
+    facts.name = CompanyName();
+    facts.users = CompanyUsers();
+    facts.user = user.empty() ? facts.users.front() : user;
+    facts.rights = UserSettings(facts.user);
+    if (!facts.rights.known)
+        throw std::runtime_error("帐套中没有用户“" + facts.user + "”。");
+    if (session.PeriodStart && session.PeriodEnd)
+        facts.period = IsoText(*session.PeriodStart) + " 至 " + IsoText(*session.PeriodEnd);
+    const std::string userBefore = session.UserName;
+    const std::string rightsBefore = session.myPower;
+    control_.UserName(facts.user);
+    control_.myPower(facts.rights.myPower);
+    facts.subjects = SubjectsOf();
+    control_.UserName(userBefore);
+    control_.myPower(rightsBefore);
+    return facts;
+}
 
 MainWindow::MainWindow() {
     setWindowTitle("lzJxc 进销存");
@@ -90,15 +93,16 @@ MainWindow::MainWindow() {
     splitter->setStretchFactor(1, 1);
     setCentralWidget(splitter);
 
-    connect(tree_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) { ShowItem(item); });
+    connect(tree_, &QTreeWidget::currentItemChanged, this, [this] { ShowItem(); });
     connect(tree_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
         if (item->childCount() > 0)
             return;
         const int place = item->data(0, kNode).toInt();
-        Start(subjects_[static_cast<size_t>(place / 1000)]
-                  .items[static_cast<size_t>(place % 1000)]
-                  .entries.front());
+        StartGuarded(subjects_[static_cast<size_t>(place / 1000)]
+                         .items[static_cast<size_t>(place % 1000)]
+                         .entries.front());
     });
+    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { NewDocument(); });
     BuildCompanyMenu();
     restoreGeometry(memory_.value("mainWindow").toByteArray());
 }
@@ -113,12 +117,18 @@ QWidget* MainWindow::CommandPage() {
     large.setPointSizeF(large.pointSizeF() * 1.7);
     large.setBold(true);
     heading_->setFont(large);
+    heading_->setTextFormat(Qt::PlainText);
     purpose_ = new QLabel;
     purpose_->setWordWrap(true);
     commands_ = new QHBoxLayout;
     recentHeading_ = new QLabel("最近的单据（回车或双击打开）");
-    documents_ = new RecentDocuments([this](int type, std::int32_t key) { OpenDocument(type, key); });
-    auto* hint = new QLabel("键盘：↑↓ 选择，回车打开，Alt 进入菜单；窗口中回车到下一栏，Esc 到退出按钮。");
+    patience_.setSingleShot(true);
+    patience_.setInterval(kPatience);
+    connect(&patience_, &QTimer::timeout, this, [this] { ShowDocuments(); });
+    documents_ =
+        new RecentDocuments([this](int type, std::int32_t key) { Guard([&] { OpenDocument(type, key); }); });
+    auto* hint = new QLabel(
+        "键盘：↑↓ 选择，回车打开，F6 新增单据，Alt 进入菜单；窗口中回车到下一栏，Esc 到退出按钮。");
     hint->setForegroundRole(QPalette::PlaceholderText);
     companyLine_ = new QLabel;
     companyLine_->setTextFormat(Qt::PlainText);
@@ -164,43 +174,53 @@ void MainWindow::BuildCompanyMenu() {
 }
 
 bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& user) {
-    CompanyFacts facts;
-    try {
-        facts = ReadFacts(company);
-    } catch (const std::exception& error) {
-        Warn(S(windowTitle()), error.what());
-        return false;
+    const std::string passwordBefore = session.Password;
+    for (;;) {
+        try {
+            TakeCompany(company, ReadFacts(company, user));
+            return true;
+        } catch (const std::exception& error) {
+            const bool asks =
+                DialectOf(company) != 0 && std::string(error.what()).find("拒绝登录") != std::string::npos;
+            if (asks && AskPassword(company))
+                continue;
+            control_.Password(passwordBefore);
+            Warn(S(windowTitle()), error.what());
+            return false;
+        }
     }
-    const std::string signedIn = user.empty() ? facts.users.front() : user;
-    const UserRights rights = RightsOf(company, signedIn);
-    if (!rights.known) {
-        Warn(S(windowTitle()), "帐套中没有用户“" + user + "”。");
-        return false;
-    }
+}
+
+// The password of the server goes into the session only.
+bool MainWindow::AskPassword(const std::string& company) {
+    bool given = false;
+    const QString password = QInputDialog::getText(this, "数据库密码", Q(WithoutPassword(company)),
+                                                   QLineEdit::Password, "", &given);
+    if (given)
+        control_.Password(S(password));
+    return given;
+}
+
+void MainWindow::TakeCompany(const std::string& company, CompanyFacts facts) {
     company_ = company;
     ResetScreens();
     UseCompany(control_, company);
     control_.CompName(facts.name);
-    control_.UserName(signedIn);
-    control_.ZgName(rights.ZgName);
-    control_.myPower(rights.myPower);
+    control_.UserName(facts.user);
+    control_.ZgName(facts.rights.ZgName);
+    control_.myPower(facts.rights.myPower);
+    subjects_ = std::move(facts.subjects);
     setWindowTitle("lzJxc 进销存 — " + Q(facts.name));
-    companyLine_->setText("帐套：" + ShownName(company) + "    用户：" + Q(signedIn) + "    会计期间：" +
+    companyLine_->setText("帐套：" + ShownName(company) + "    用户：" + Q(facts.user) + "    会计期间：" +
                           Q(facts.period));
-    {
-        const OpenCompany open(company);
-        subjects_ = SubjectsOf();
-    }
     FillTree();
     BuildMenus();
     Remember(company);
-    return true;
 }
 
 // A password is not written down: the server's own file of passwords, or the person, gives it again.
 void MainWindow::Remember(const std::string& company) {
-    const QString address =
-        DialectOf(company) == 0 ? Q(company) : QUrl(Q(company)).toString(QUrl::RemovePassword);
+    const QString address = Q(WithoutPassword(company));
     QStringList recent = memory_.value("recent").toStringList();
     recent.removeAll(address);
     recent.prepend(address);
@@ -221,7 +241,7 @@ void MainWindow::FillTree() {
     tree_->expandAll();
     if (QTreeWidgetItem* first = tree_->topLevelItem(0); first && first->childCount() > 0)
         tree_->setCurrentItem(first->child(0));
-    ShowItem(tree_->currentItem());
+    ShowItem();
     tree_->setFocus();
 }
 
@@ -235,76 +255,101 @@ void MainWindow::BuildMenus() {
         for (const MenuItemRow& item : subject.items) {
             if (item.entries.size() == 1) {
                 menu->addAction(Q(item.caption), this,
-                                [this, entry = item.entries.front()] { Start(entry); });
+                                [this, entry = item.entries.front()] { StartGuarded(entry); });
                 continue;
             }
             QMenu* ways = menu->addMenu(Q(item.caption));
             for (const MenuEntry& entry : item.entries)
-                ways->addAction(Q(entry.caption), this, [this, entry] { Start(entry); });
+                ways->addAction(Q(entry.caption), this, [this, entry] { StartGuarded(entry); });
         }
         subjectMenus_.push_back(menuBar()->insertMenu(help, menu));
     }
 }
 
-void MainWindow::ShowItem(QTreeWidgetItem* node) {
+void MainWindow::ShowItem() {
     while (QLayoutItem* old = commands_->takeAt(0)) {
         delete old->widget();
         delete old;
     }
-    if (!node || node->parent() == nullptr)
+    const MenuItemRow* shown = SelectedItem();
+    if (!shown)
         return;
-    const int place = node->data(0, kNode).toInt();
-    const MenuItemRow& item =
-        subjects_[static_cast<size_t>(place / 1000)].items[static_cast<size_t>(place % 1000)];
+    const MenuItemRow& item = *shown;
     heading_->setText(Q(item.caption));
     purpose_->setText(Q(item.purpose));
     QWidget* before = tree_;
     for (const MenuEntry& entry : item.entries) {
         auto* button = new CommandButton(Q(entry.caption));
-        setTabOrder(before, button);
-        before = button;
-        if (entry.action == kEntryScreen) {
-            button->setShortcut(Qt::Key_F6);
-            button->setText(Q(entry.caption) + "  F6");
-        }
         button->setMinimumSize(150, 34);
         button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        connect(button, &QPushButton::clicked, this, [this, entry] { Start(entry); });
+        connect(button, &QPushButton::clicked, this, [this, entry] { StartGuarded(entry); });
         commands_->addWidget(button);
+        setTabOrder(before, button);
+        before = button;
     }
     commands_->addStretch();
-    ShowDocuments(item);
+    patience_.start();
 }
 
-void MainWindow::ShowDocuments(const MenuItemRow& item) {
+const MenuItemRow* MainWindow::SelectedItem() const {
+    QTreeWidgetItem* node = tree_->currentItem();
+    if (!node || !node->parent())
+        return nullptr;
+    const int place = node->data(0, kNode).toInt();
+    return &subjects_[static_cast<size_t>(place / 1000)].items[static_cast<size_t>(place % 1000)];
+}
+
+// Reading them waits until the person stays on an item: each step of the arrow keys would open the company.
+void MainWindow::ShowDocuments() {
+    const MenuItemRow* item = SelectedItem();
     const bool hasDocuments =
-        std::any_of(item.entries.begin(), item.entries.end(),
-                    [](const MenuEntry& entry) { return entry.action == kEntryScreen; });
+        item && std::any_of(item->entries.begin(), item->entries.end(),
+                            [](const MenuEntry& entry) { return entry.action == kEntryScreen; });
     recentHeading_->setVisible(hasDocuments);
     documents_->setVisible(hasDocuments);
     if (hasDocuments)
-        Guard([&] {
-            const OpenCompany open(company_);
-            documents_->Show(item.entries.front().myType);
-        });
+        Guard([&] { documents_->Show(item->entries.front().myType); });
 }
 
 void MainWindow::OpenDocument(int type, std::int32_t key) {
     control_.Refresh(kEntryScreen,
                      {{"Action", 0}, {"invType", type}, {"OldType", 0}, {"oldInvID", key}, {"JzState", 0}});
-    ShowItem(tree_->currentItem());
+    ShowDocuments();
+}
+
+void MainWindow::StartGuarded(const MenuEntry& entry) {
+    Guard([this, entry] { Start(entry); });
 }
 
 void MainWindow::Start(const MenuEntry& entry) {
     if (!entry.screen.empty()) {
         OpenHostEditor(entry.screen);
         if (entry.screen == "frmHostCompany" || entry.screen == "frmHostUsers")
-            OpenCompanyOf(company_, session.UserName);
+            ReopenCompany();
         return;
     }
     control_.myType(entry.myType);
     control_.Refresh(entry.action);
-    ShowItem(tree_->currentItem());
+    ShowDocuments();
+}
+
+void MainWindow::NewDocument() {
+    const MenuItemRow* item = SelectedItem();
+    if (!item)
+        return;
+    for (const MenuEntry& entry : item->entries)
+        if (entry.action == kEntryScreen)
+            return StartGuarded(entry);
+}
+
+// A user who was renamed or went away is followed by the company's first.
+void MainWindow::ReopenCompany() {
+    const std::vector<std::string> users = [&] {
+        const OpenCompany open(company_);
+        return CompanyUsers();
+    }();
+    const bool stays = std::find(users.begin(), users.end(), session.UserName) != users.end();
+    OpenCompanyOf(company_, stays ? session.UserName : users.front());
 }
 
 const MenuEntry* MainWindow::FindEntry(const QString& itemCaption, const QString& entryCaption) const {
@@ -335,7 +380,7 @@ void MainWindow::ChooseCompany() {
     window.setWindowTitle("打开帐套");
     auto* layout = new QVBoxLayout(&window);
     layout->addWidget(new QLabel("帐套文件，或数据库服务器上的地址（postgresql://…）："));
-    auto* address = new QLineEdit(DialectOf(company_) == 0 ? Q(company_) : ShownName(company_));
+    auto* address = new QLineEdit(Q(WithoutPassword(company_)));
     address->setMinimumWidth(460);
     auto* browse = new QPushButton("浏览(&B)...");
     auto* line = new QHBoxLayout;
@@ -380,6 +425,8 @@ void MainWindow::NewCompany() {
 }
 
 void MainWindow::BackUp() {
+    if (DialectOf(company_) != 0)
+        return BackUpCompany(company_, ""); // says what serves instead
     const QString name =
         QFileInfo(Q(company_)).completeBaseName() + QDate::currentDate().toString("-yyyyMMdd") + ".db";
     QFileDialog dialog(this, "备份帐套", QDir::homePath() + "/" + name, "帐套 (*.db)");
@@ -394,7 +441,7 @@ void MainWindow::BackUp() {
 
 void MainWindow::ChangeUser() {
     QStringList users;
-    for (const std::string& user : ReadFacts(company_).users)
+    for (const std::string& user : ReadFacts(company_, session.UserName).users)
         users << Q(user);
     const QString user = ChosenUser(users);
     if (!user.isEmpty())

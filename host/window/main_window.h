@@ -4,7 +4,9 @@
 
 #include <QMainWindow>
 #include <QSettings>
+#include <QTimer>
 
+#include "host/user_settings.h"
 #include "host/window/screen_menu.h"
 #include "session/lzjxc.h"
 
@@ -16,6 +18,16 @@ class QHBoxLayout;
 namespace jxc {
 
 class RecentDocuments;
+
+// What the host reads of a company when it opens it for a user.
+struct CompanyFacts {
+    std::string name;
+    std::string period;
+    std::vector<std::string> users;
+    std::string user;
+    UserRights rights;
+    std::vector<Subject> subjects;
+};
 
 class MainWindow : public QMainWindow {
   public:
@@ -35,10 +47,17 @@ class MainWindow : public QMainWindow {
   private:
     void BuildMenus();
     void BuildCompanyMenu();
+    CompanyFacts ReadFacts(const std::string& company, const std::string& user);
+    void TakeCompany(const std::string& company, CompanyFacts facts);
+    bool AskPassword(const std::string& company);
+    void ReopenCompany();
+    void StartGuarded(const MenuEntry& entry);
     QWidget* CommandPage();
     void FillTree();
-    void ShowItem(QTreeWidgetItem* item);
-    void ShowDocuments(const MenuItemRow& item);
+    const MenuItemRow* SelectedItem() const; // null when a subject is selected
+    void ShowItem();
+    void ShowDocuments();
+    void NewDocument();
     void OpenDocument(int type, std::int32_t key);
     void Remember(const std::string& company);
     void ShowRecent();
@@ -63,6 +82,7 @@ class MainWindow : public QMainWindow {
     RecentDocuments* documents_ = nullptr;
     QLabel* companyLine_ = nullptr;
     QMenu* recent_ = nullptr;
+    QTimer patience_;
     std::vector<QAction*> subjectMenus_;
 };
 

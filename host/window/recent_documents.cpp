@@ -4,6 +4,7 @@
 
 #include "controls/text.h"
 #include "session/book.h"
+#include "session/database/open_connection.h"
 #include "session/database/recordset.h"
 #include "session/session.h"
 #include "view/text.h"
@@ -31,10 +32,14 @@ void RecentDocuments::Show(int type) {
     type_ = type;
     setRowCount(0);
     const std::string stem = BookStem(type, false);
+    Connection connection;
+    OpenConnection(session.SQLData, connection, session.UserPath, session.Password, session.UserID,
+                   session.Default);
     Recordset found(
-        Conn(), "Select Top 15 a.fInvDate,a.fInvNo,c.CompName,a.fInvJE,a.fInvDLR,a.fInvSHR,a.fInvID From " +
-                    stem + "01 a Left Join Cards c On a.fKhID=c.fID Where a.fInvType=" +
-                    std::to_string(type) + " Order By a.fInvNo Desc");
+        connection,
+        "Select Top 15 a.fInvDate,a.fInvNo,c.CompName,a.fInvJE,a.fInvDLR,a.fInvSHR,a.fInvID From " + stem +
+            "01 a Left Join Cards c On a.fKhID=c.fID Where a.fInvType=" + std::to_string(type) +
+            " Order By a.fInvNo Desc");
     for (; !found.AtEnd(); found.MoveNext()) {
         const int row = rowCount();
         insertRow(row);

@@ -12,7 +12,7 @@ class RecentDocuments : public QTableWidget {
     // `open` shows the document of a key.
     explicit RecentDocuments(std::function<void(int type, std::int32_t key)> open);
 
-    // Reads them anew; the session's connection must be open.
+    // Reads them anew, over a connection of its own: a screen may be open on the session's.
     void Show(int type);
 
   private:

@@ -57,7 +57,6 @@ class PictureBook {
             if (index < 0)
                 throw std::runtime_error(S(list) + " 没有 " + S(item));
             box->setCurrentIndex(index);
-            emit box->activated(index);
         });
     }
 

@@ -5,9 +5,9 @@
 
 namespace jxc {
 
-// Shows the main window with the company, "" for the last one; with `sample`, or when there is no last one, the
-// sample company, which is made among the program's own data on first use. `user` "" for the company's first.
-// Returns the exit code when the window has been closed.
+// Shows the main window with the company, "" for the last one; with `sample`, or when there is no last one,
+// the sample company, which is made among the program's own data on first use. `user` "" for the company's
+// first. Returns the exit code when the window has been closed.
 int RunWindows(const std::string& company, const std::string& user, bool sample);
 
 // Drives the windows through a sample company made for it and saves a picture of each as PNG in `folder`,

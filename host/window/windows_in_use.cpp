@@ -32,9 +32,13 @@ void SpeakChinese(QApplication& application) {
         QApplication::installTranslator(texts);
 }
 
-// What is only shown must be as easy to read as what can be changed.
-void DarkenDisabledTexts() {
-    QPalette palette = QApplication::palette();
+// Rows are coloured for dark texts on a light ground, whatever the desktop prefers. What is only shown must
+// be as easy to read as what can be changed.
+void SetColors() {
+    QPalette palette(QColor(0xef, 0xef, 0xef));
+    palette.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(0x70, 0x70, 0x70));
     for (const auto role : {QPalette::Text, QPalette::WindowText})
         palette.setColor(QPalette::Disabled, role, QColor(0x48, 0x48, 0x48));
     QApplication::setPalette(palette);
@@ -47,7 +51,7 @@ WindowsInUse::WindowsInUse() : application_(Prepared(argc_), argv_) {
     QApplication::setOrganizationName("lzJxc");
     QApplication::setStyle("Fusion");
     SpeakChinese(application_);
-    DarkenDisabledTexts();
+    SetColors();
     RegisterAllScreens();
     ComponentsInUse().printer = std::make_unique<PreviewPrinter>();
 }

@@ -51,12 +51,21 @@ constexpr const char* kSettings = "set datestyle to 'ISO, MDY';"
                                   "set client_min_messages to warning;"
                                   "set jit to off";
 
+// The library quotes an address that it cannot read, with the password in it.
+std::string WithoutAddress(std::string reason) {
+    const size_t from = reason.find("\"postgres");
+    const size_t to = from == std::string::npos ? from : reason.find('"', from + 1);
+    if (to != std::string::npos)
+        reason.replace(from, to + 1 - from, "\"postgresql://...\"");
+    return reason;
+}
+
 } // namespace
 
 PostgresPipeline::PostgresPipeline(const ServerAddress& address) : connection_(Connect(address)) {
     if (PQstatus(connection_) != CONNECTION_OK) {
         const bool refused = PQconnectionNeedsPassword(connection_) || PQconnectionUsedPassword(connection_);
-        const std::string reason = Trimmed(PQerrorMessage(connection_));
+        const std::string reason = WithoutAddress(Trimmed(PQerrorMessage(connection_)));
         PQfinish(connection_);
         throw DatabaseError(
             (refused ? "数据库服务器拒绝登录，请检查用户名和密码：" : "不能连接数据库服务器：") + reason);
