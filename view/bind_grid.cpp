@@ -298,7 +298,9 @@ class GridBinding : public Binding {
         return range;
     }
 
-    // Cell by cell, as if typed; columns that take no typing are passed over. The first refusal ends it.
+    // Cell by cell, as if typed; columns that take no typing are passed over, and so are texts that are
+    // empty or shown already: a name typed again behind its code would look for another product. The first
+    // refusal ends it.
     void Paste() {
         const int firstRow = grid_.selectedRow;
         const int firstColumn = grid_.selectedColumn;
@@ -315,7 +317,8 @@ class GridBinding : public Binding {
                 if (column > grid_.ColumnCount())
                     break;
                 std::erase(text, '\r');
-                if (grid_.CanType(column))
+                const bool shown = row <= grid_.RowCount() && EditText(grid_, row, column) == Q(text);
+                if (grid_.CanType(column) && !text.empty() && !shown)
                     Commit(row, column, Q(text));
                 if (!committed_) {
                     committed_ = true;
