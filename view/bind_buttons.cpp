@@ -58,8 +58,10 @@ class TabsBinding : public Binding {
     void Refresh() override {
         Binding::Refresh();
         const QSignalBlocker silent(shown_);
-        for (int i = 0; i < shown_.count() && i < static_cast<int>(tabs_.captions.size()); ++i)
+        for (int i = 0; i < shown_.count() && i < static_cast<int>(tabs_.captions.size()); ++i) {
             shown_.setTabText(i, Q(tabs_.captions[static_cast<size_t>(i)]));
+            shown_.setTabEnabled(i, !tabs_.disabledTabs.contains(i));
+        }
         shown_.setCurrentIndex(tabs_.index);
     }
 
