@@ -110,6 +110,13 @@ ScreenToShow::ScreenToShow(std::string_view name) : screen_(&ScreenNamed(name)) 
     screen_ = another_.get();
 }
 
+std::vector<std::string> ScreenNames() {
+    std::vector<std::string> names;
+    for (const auto& [name, entry] : Table())
+        names.push_back(name);
+    return names;
+}
+
 void ResetScreens() {
     for (auto& [name, entry] : Table())
         entry.instance.reset();

@@ -105,6 +105,8 @@ class ScreenToShow {
     std::unique_ptr<Screen> another_;
     Screen* screen_;
 };
+// The names in the table, in alphabetical order.
+std::vector<std::string> ScreenNames();
 // Forgets the instances, so that the next use starts afresh (a new company, the next test).
 void ResetScreens();
 

@@ -9,7 +9,7 @@ build="$root/build/release"
 
 packages=(g++ cmake ninja-build ccache pkg-config
     libsqlite3-dev libpq-dev libmuparser-dev nlohmann-json3-dev libcli11-dev
-    qt6-base-dev qt6-tools-dev libqt6opengl6-dev qt6-translations-l10n fonts-wqy-zenhei libxlsxwriter-dev
+    qt6-base-dev qt6-tools-dev libqt6opengl6-dev qt6-translations-l10n fonts-wqy-zenhei libxlsxwriter-dev unzip
     postgresql libgtest-dev libgmock-dev libbenchmark-dev)
 
 say() { printf '== %s\n' "$*"; }

@@ -235,6 +235,10 @@ class ListBinding : public Binding {
     std::vector<std::string> shown_; // the items as they were last filled in
 };
 
+QDate DayOnCalendar(const Date& date) {
+    return {YearOf(date), MonthOf(date), DayOf(date)};
+}
+
 // The widget always holds a date; its least one stands for none.
 class DateBinding : public Binding {
   public:
@@ -251,8 +255,7 @@ class DateBinding : public Binding {
     void Refresh() override {
         Binding::Refresh();
         const QSignalBlocker silent(edit_);
-        const QDate shown = box_.date ? QDate(YearOf(*box_.date), MonthOf(*box_.date), DayOf(*box_.date))
-                                      : edit_.minimumDate();
+        const QDate shown = box_.date ? DayOnCalendar(*box_.date) : edit_.minimumDate();
         if (edit_.date() != shown)
             edit_.setDate(shown);
     }
@@ -274,7 +277,7 @@ class DateBinding : public Binding {
             return true;
         }
         if (!box_.date && !key.text().isEmpty() && key.text().at(0).isDigit()) {
-            edit_.setDate(QDate::currentDate());
+            edit_.setDate(DayOnCalendar(Today()));
             edit_.setSelectedSection(QDateTimeEdit::YearSection);
         }
         return Binding::OnKey(key);

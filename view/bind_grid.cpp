@@ -314,8 +314,9 @@ class GridBinding : public Binding {
         return range;
     }
 
-    // Cell by cell, as if typed. Columns that take no typing, and cells that already show the text, are
-    // passed over; the first text that is not taken ends it, and is told.
+    // Cell by cell, as if typed. Columns that take no typing, empty texts, and cells that already show the
+    // text, are passed over: a name typed again behind its code would look for another product. The first
+    // text that is not taken ends it, and is told.
     void Paste() {
         int row = grid_.selectedRow;
         const int firstColumn = grid_.selectedColumn;
@@ -336,7 +337,7 @@ class GridBinding : public Binding {
             if (column > grid_.ColumnCount())
                 return true;
             std::erase(text, '\r');
-            if (grid_.CanType(column) && !Shows(row, column, text) && !PasteCell(row, column, text))
+            if (grid_.CanType(column) && !text.empty() && !Shows(row, column, text) && !PasteCell(row, column, text))
                 return false;
             ++column;
         }

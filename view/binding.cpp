@@ -32,21 +32,27 @@ bool Binding::eventFilter(QObject* object, QEvent* event) {
     case QEvent::InputMethod:
         return OnInput(static_cast<QInputMethodEvent&>(*event));
     case QEvent::MouseButtonPress:
-        // A field that the present one does not let us reach is not entered; buttons ask when they are
-        // clicked.
-        return TakesFocus() && !dynamic_cast<Command*>(&control) && !window_.Arrive(control);
+        return !MayEnter();
     case QEvent::FocusIn: {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
-        const bool byPerson = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
-        if (byPerson && TakesFocus() && !dynamic_cast<Command*>(&control) && !window_.Arrive(control))
-            QMetaObject::invokeMethod(
-                this, [this] { GiveFocusBack(); }, Qt::QueuedConnection);
+        const bool byKeys = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+                            reason != Qt::MouseFocusReason; // the press behind it asks
+        if (byKeys)
+            MayEnter();
         break;
     }
     default:
         break;
     }
     return QObject::eventFilter(object, event);
+}
+
+bool Binding::MayEnter() {
+    if (!TakesFocus() || dynamic_cast<Command*>(&control) || window_.Arrive(control))
+        return true;
+    QMetaObject::invokeMethod(
+        this, [this] { GiveFocusBack(); }, Qt::QueuedConnection);
+    return false;
 }
 
 bool Binding::OnKey(QKeyEvent& key) {

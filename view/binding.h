@@ -39,6 +39,9 @@ class Binding : public QObject {
     virtual bool OnInput(QInputMethodEvent&) { return false; }
     // Enter: the model's own meaning of it, then on to the next field.
     void PressEnter();
+    // Whether the person may go on in this field. One that the present field does not let them reach is not
+    // entered; buttons ask when they are clicked.
+    bool MayEnter();
     // Puts the focus back where the screen has it.
     void GiveFocusBack();
 

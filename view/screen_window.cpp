@@ -143,7 +143,7 @@ bool ScreenWindow::FinishTyping() {
 bool ScreenWindow::Arrive(Control& control) {
     if (depth_ > 0 || !screen_.IsOpen() || screen_.Focus() == &control)
         return true;
-    if (!control.IsUsable())
+    if (!control.IsUsable() || !FinishTyping())
         return false;
     bool arrived = false;
     Do([&] { arrived = GoTo(screen_, control); });

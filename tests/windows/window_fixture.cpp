@@ -3,7 +3,6 @@
 #include <QTest>
 
 #include "host/company_address.h"
-#include "tests/support/clerk.h"
 
 namespace jxc::test {
 
@@ -36,6 +35,15 @@ void Activate(QWidget& window) {
         return;
     window.activateWindow();
     QCoreApplication::processEvents();
+}
+
+bool AnyButtonDown() {
+    const auto windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+        const auto buttons = window->findChildren<QAbstractButton*>();
+        return std::any_of(buttons.begin(), buttons.end(),
+                           [](const auto* button) { return button->isDown(); });
+    });
 }
 
 } // namespace
@@ -108,6 +116,9 @@ QWidget& Person::Front() {
          {QApplication::activePopupWidget(), QApplication::activeModalWidget(), QApplication::activeWindow()})
         if (window)
             return *window;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && qobject_cast<QMainWindow*>(window))
+            return *window;
     throw std::runtime_error("no window is in front");
 }
 
@@ -115,6 +126,9 @@ void Person::Press(int key, Qt::KeyboardModifiers held) {
     ++keys;
     Activate(Front());
     QTest::keyClick(HandleOf(Front()), static_cast<Qt::Key>(key), held);
+    if (held & Qt::AltModifier) { // a button is seen to go down before it acts
+        EXPECT_TRUE(QTest::qWaitFor([] { return !AnyButtonDown(); }));
+    }
 }
 
 void Person::Type(const QString& ascii) {
@@ -215,12 +229,12 @@ void Windows::Open(int action, int type, const std::function<void()>& work, cons
     EXPECT_TRUE(worked);
 }
 
-int Windows::Save(int type, bool approve) {
+int Windows::Save(const DocumentInput& input, bool approve) {
     const OpenCompany open(company.Address());
     Clerk clerk;
-    const int key = clerk.Save(TypicalDocument(type));
+    const int key = clerk.Save(input);
     EXPECT_GT(key, 0) << clerk.LastBox();
-    EXPECT_TRUE(!approve || clerk.Approve(type, key)) << clerk.LastBox();
+    EXPECT_TRUE(!approve || clerk.Approve(input.type, key)) << clerk.LastBox();
     ResetScreens();
     return key;
 }

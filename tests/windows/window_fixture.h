@@ -11,6 +11,7 @@
 
 #include <QtWidgets>
 
+#include "tests/support/clerk.h"
 #include "tests/support/sample_company.h"
 #include "view/screen_window.h"
 #include "view/text.h"
@@ -85,8 +86,9 @@ class Windows : public testing::Test {
     // Opens the host's screen of that number and works in its window.
     void Open(int action, int type, const std::function<void()>& work, const ScreenProperties& more = {});
     void Enter(int type, const std::function<void()>& work) { Open(13, type, work, {{"Action", 1}}); }
-    // Saves a typical document, and approves it. Its key.
-    int Save(int type, bool approve = false);
+    // Saves a document, of a type a typical one, and approves it. Its key.
+    int Save(const DocumentInput& input, bool approve = false);
+    int Save(int type, bool approve = false) { return Save(TypicalDocument(type), approve); }
     // Rows of the company, cells joined by "|".
     std::vector<std::string> Rows(const std::string& sql) const;
 

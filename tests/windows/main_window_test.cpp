@@ -1,0 +1,130 @@
+// The main window: what it offers of a company, its last documents, another company, and a new one.
+#include <QTest>
+
+#include "host/window/main_window.h"
+#include "tests/windows/window_fixture.h"
+
+namespace jxc::test {
+
+namespace {
+
+class Main : public Windows {
+  protected:
+    void SetUp() override {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        ASSERT_TRUE(window.OpenCompanyOf(company.Address(), ""));
+    }
+    // The items below a branch of the tree.
+    Texts Branch(const QString& subject) const {
+        Texts items;
+        const auto found = window.findChild<QTreeWidget*>("screens")->findItems(subject, Qt::MatchExactly);
+        for (int i = 0; !found.isEmpty() && i < found.front()->childCount(); ++i)
+            items.push_back(S(found.front()->child(i)->text(0)));
+        return items;
+    }
+    // What the person sees below a caption of the menu bar.
+    Texts Menu(const QString& caption) {
+        Texts captions;
+        for (QAction* menu : window.menuBar()->actions())
+            if (menu->text() == caption) {
+                person.Next([&] { captions = person.MenuCaptions(); });
+                person.Click(*window.menuBar(), window.menuBar()->actionGeometry(menu).center());
+            }
+        return captions;
+    }
+    MainWindow window;
+};
+
+TEST_F(Main, OffersTheDocumentTypesBySubject) {
+    const Texts purchase{"计划采购单", "采购寻价单", "采购订单", "入库单", "入库退货单"};
+    EXPECT_EQ(Branch("采购"), purchase);
+    EXPECT_EQ(Menu("采购(&B)"), purchase);
+    const Texts sale{"销售报价单", "销售订单",   "出库单",     "出库退货单", "零售单",
+                     "零售退货单", "代销发货单", "代销退货单", "代销结算单", "代销结退单"};
+    EXPECT_EQ(Branch("销售"), sale);
+    EXPECT_EQ(Menu("销售(&S)"), sale);
+    EXPECT_EQ(Branch("仓库"), (Texts{"期初单", "调库单", "盘点单", "生产组装单", "生产拆分单"}));
+    EXPECT_EQ(S(window.windowTitle()).find("lzJxc 进销存 — "), 0U);
+}
+
+TEST_F(Main, MenuStartsAnEntry) {
+    person.Next([&] { // the types of the subject
+        for (int i = 0; i < 3; ++i)
+            person.Press(Qt::Key_Down);
+        person.Next([&] { // the ways into receipts
+            person.Next([&] { EXPECT_EQ(S(person.Front().windowTitle()), "入库单：新增"); });
+            person.Press(Qt::Key_N);
+        });
+        person.Press(Qt::Key_Right);
+    });
+    person.Press(Qt::Key_B, Qt::AltModifier);
+}
+
+TEST_F(Main, ShowsAndOpensTheLastDocuments) {
+    Save(1);
+    Save(1, true);
+    window.SelectItem("入库单");
+    const auto& last = person.Find<QTableWidget>("recentDocuments");
+    ASSERT_EQ(last.rowCount(), 2); // the youngest first: 3 x 610 + 5 x 171.50
+    EXPECT_EQ(S(last.item(0, 0)->text() + " " + last.item(0, 1)->text() + " " + last.item(0, 3)->text()),
+              "2026-11-05 20261105RK002 2,687.50");
+    EXPECT_EQ(S(last.item(0, 5)->text()) + S(last.item(1, 5)->text()), "马文涛");
+    person.Next([&] { EXPECT_EQ(person.Text("txtNo"), "20261105RK001"); });
+    person.Click(*last.viewport(), last.visualItemRect(last.item(1, 1)).center());
+    person.Press(Qt::Key_Return);
+    window.SelectItem("客户资料");
+    EXPECT_FALSE(last.isVisible());
+}
+
+TEST_F(Main, TellsOfAMissingCompanyAndKeepsTheOneOpen) {
+    const QString title = window.windowTitle();
+    EXPECT_FALSE(window.OpenCompanyOf("/nowhere/none.db", ""));
+    EXPECT_EQ(person.Boxes(), Texts{"数据库文件 /nowhere/none.db 不存在。"});
+    EXPECT_EQ(window.windowTitle(), title);
+    EXPECT_EQ(Branch("采购").size(), 5U);
+}
+
+TEST_F(Main, NewCompanyTakesItsFirstCard) {
+    const QTemporaryDir folder;
+    const std::string file = S(folder.filePath("新公司.db"));
+    person.Next([&] {
+        person.Next([&] {
+            person.Find<QLineEdit>("fileNameEdit").setText(Q(file));
+            person.Press(Qt::Key_Return);
+        });
+        person.Press(Qt::Key_N);
+    });
+    person.Press(Qt::Key_F, Qt::AltModifier);
+    EXPECT_EQ(person.Boxes(), Texts{"帐套已建立。请先在[资料]中输入公司、仓库、产品与客户。"});
+    window.SelectItem("客户资料");
+    person.Next([&] {
+        person.Press(Qt::Key_A, Qt::AltModifier);
+        EXPECT_EQ(person.Focus(), "txtCompCode");
+        person.Press(Qt::Key_S, Qt::AltModifier);
+        EXPECT_EQ(person.Boxes(), Texts{"[编号]不能为空值！"});
+        person.Enter("K'001");
+        EXPECT_EQ(person.Boxes(), Texts{"文本错误: 文本中不可含有<引号>或<单引号> !"});
+        person.Press(Qt::Key_A, Qt::ControlModifier);
+        person.Enter("K001");
+        person.Compose("远山商行");
+        person.Press(Qt::Key_Return);
+        person.Press(Qt::Key_Down); // the kind: a supplier
+        person.Press(Qt::Key_Return);
+        person.Press(Qt::Key_S, Qt::AltModifier);
+        EXPECT_EQ(person.Focus(), "txtCompCode"); // the next card
+        for (int i = 0; i < 4; ++i) // to the cancel button, out of the card; to the quit button, out
+            person.Press(Qt::Key_Escape);
+        EXPECT_FALSE(QApplication::activeModalWidget());
+    });
+    person.Find("screens").setFocus();
+    person.Press(Qt::Key_Return);
+    EXPECT_EQ(person.Boxes(), Texts{});
+    const jxc::Rows cards = QueryCompany(file, "select CompCode,CompName,fType0 from cards");
+    ASSERT_EQ(cards.Count(), 1U);
+    EXPECT_EQ(cards.At(0, 0).AsText() + cards.At(0, 1).AsText() + cards.At(0, 2).AsText(), "K001远山商行1");
+}
+
+} // namespace
+
+} // namespace jxc::test
