@@ -363,8 +363,11 @@ const MenuEntry* MainWindow::FindEntry(const QString& itemCaption, const QString
 
 void MainWindow::SelectItem(const QString& item) {
     const auto found = tree_->findItems(item, Qt::MatchExactly | Qt::MatchRecursive);
-    if (!found.isEmpty())
-        tree_->setCurrentItem(found.front());
+    if (found.isEmpty())
+        return;
+    tree_->setCurrentItem(found.front());
+    patience_.stop();
+    ShowDocuments();
 }
 
 void MainWindow::ShowRecent() {
