@@ -12,6 +12,7 @@
 
 #include "controls/grid.h"
 #include "controls/screen.h"
+#include "session/components.h"
 
 namespace jxc {
 
@@ -30,6 +31,7 @@ struct ListQuery {
     std::string sql = {};
     std::string stem = {};
     bool lines = false;
+    FieldList summary = {}; // its filters, for the print-out
 };
 
 struct frmDj01 : Screen {

@@ -1,4 +1,4 @@
-// The document list on paper, headed by the filters it was asked with.
+// The document list on paper, headed by the filters it was asked with, whatever they read now.
 
 #include "documents/document_list.h"
 #include "documents/list_columns.h"
@@ -6,8 +6,6 @@
 #include "session/print_grid.h"
 
 namespace jxc {
-
-namespace {
 
 // Nothing for a filter that is off: the list is not limited by it.
 FieldList FilterSummary(const frmDj01& s) {
@@ -19,14 +17,12 @@ FieldList FilterSummary(const frmDj01& s) {
             "仓库备注", DbScalar("Select fCkMemo from tJXC_Ck Where fCkName=" + InQuotes(warehouse))};
 }
 
-} // namespace
-
 void PrintList(frmDj01& s) {
     const Grid* grid = FrontGrid(s);
     if (grid == &s.Grid1)
-        PrintGrid(*grid, "单据查询", ListKey(false), "", FilterSummary(s));
+        PrintGrid(*grid, "单据查询", ListKey(false), "", s.shown.summary);
     else if (grid == &s.Grid2)
-        PrintGrid(*grid, "单据明细查询", ListKey(true), "", FilterSummary(s));
+        PrintGrid(*grid, "单据明细查询", ListKey(true), "", s.shown.summary);
 }
 
 } // namespace jxc

@@ -55,7 +55,7 @@ class SqliteStatement : public EngineStatement {
         while (Step()) {
             const int columns = sqlite3_column_count(statement_);
             for (int i = 0; i < columns; ++i)
-                rows.cells.push_back(Cell(i));
+                AddCell(rows.cells, i);
         }
         cellsBefore_ = std::min<size_t>(rows.cells.size(), 1 << 17);
         // Behind the first step: a statement that had to be prepared again may have other columns.
@@ -100,17 +100,21 @@ class SqliteStatement : public EngineStatement {
         }
     }
 
-    Value Cell(int column) const {
+    void AddCell(std::vector<Value>& cells, int column) const {
         switch (sqlite3_column_type(statement_, column)) {
         case SQLITE_INTEGER:
-            return Value(static_cast<std::int64_t>(sqlite3_column_int64(statement_, column)));
+            cells.emplace_back(static_cast<std::int64_t>(sqlite3_column_int64(statement_, column)));
+            break;
         case SQLITE_FLOAT:
-            return Value(sqlite3_column_double(statement_, column));
+            cells.emplace_back(sqlite3_column_double(statement_, column));
+            break;
         case SQLITE_NULL:
-            return Value();
+            cells.emplace_back();
+            break;
         default: {
             const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
-            return Value(std::string(text, static_cast<size_t>(sqlite3_column_bytes(statement_, column))));
+            cells.emplace_back(
+                std::string_view(text, static_cast<size_t>(sqlite3_column_bytes(statement_, column))));
         }
         }
     }
@@ -270,7 +274,8 @@ void SqliteEngine::ExecuteScript(const std::string& sql) {
 
 void SqliteEngine::CopyTo(const std::string& file) {
     SqliteStatement(db_, "vacuum into ?").Run(std::vector<Value>{file});
-    std::filesystem::permissions(file, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    std::filesystem::permissions(file,
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
 }
 
 void SqliteEngine::Adopt() {
