@@ -104,6 +104,7 @@ void OtherDocuments(PictureBook& book) {
     book.Line("CPU002", "1", "");
     book.Take("assembly");
     script.Click("cmdQuit");
+    script.Click("Yes"); // what was typed is given up
     book.Open("盘点单", "新增");
     book.Choose("cboCkName", "总部仓");
     book.To("Grid2");
@@ -111,6 +112,7 @@ void OtherDocuments(PictureBook& book) {
     book.Line("MEM002", "40", "");
     book.Take("stocktake");
     script.Click("cmdQuit");
+    script.Click("Yes"); // what was typed is given up
 }
 
 void Lists(PictureBook& book) {
