@@ -314,41 +314,15 @@ class GridBinding : public Binding {
         return range;
     }
 
-    // Cell by cell, as if typed. Columns that take no typing, empty texts, and cells that already show the
-    // text, are passed over: a name typed again behind its code would look for another product. The first
-    // text that is not taken ends it, and is told.
     void Paste() {
-        int row = grid_.selectedRow;
-        const int firstColumn = grid_.selectedColumn;
-        if (grid_.readOnly || row < 1)
-            return;
-        for (const std::string& line : Split(CurrentView().Clipboard(), '\n')) {
-            if (!Trim(line).empty() && !PasteRow(row++, firstColumn, line))
-                return;
-            if (!window_.Shown().IsOpen())
-                return;
-        }
+        if (!grid_.readOnly && grid_.selectedRow >= 1)
+            PasteCells(grid_, CurrentView().Clipboard(),
+                       [this](int row, int column, const std::string& text) {
+                           return PasteCell(row, column, text) && window_.Shown().IsOpen();
+                       });
     }
 
-    bool PasteRow(int row, int column, const std::string& line) {
-        for (std::string text : Split(line, '\t')) {
-            while (column <= grid_.ColumnCount() && grid_.Column(column).hidden)
-                ++column;
-            if (column > grid_.ColumnCount())
-                return true;
-            std::erase(text, '\r');
-            if (grid_.CanType(column) && !text.empty() && !Shows(row, column, text) && !PasteCell(row, column, text))
-                return false;
-            ++column;
-        }
-        return true;
-    }
-
-    bool Shows(int row, int column, const std::string& text) const {
-        return row <= grid_.RowCount() &&
-               (grid_.ShownText(row, column) == text || EditText(grid_, row, column) == Q(text));
-    }
-
+    // A text that is not taken is told.
     bool PasteCell(int row, int column, const std::string& text) {
         Commit(row, column, Q(text));
         const bool taken = committed_;

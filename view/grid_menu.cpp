@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <xlsxwriter.h>
 
+#include "controls/text.h"
 #include "controls/view.h"
 #include "session/html_pages.h"
 #include "session/session.h"
@@ -38,6 +39,11 @@ std::string PlainText(const Grid& grid, int row, int column) {
     if (grid.Column(column).type == CellType::Number)
         std::erase(text, ',');
     return text;
+}
+
+bool Shows(const Grid& grid, int row, int column, const std::string& text) {
+    return row <= grid.RowCount() &&
+           (grid.ShownText(row, column) == text || PlainText(grid, row, column) == text);
 }
 
 void WriteCell(lxw_worksheet* sheet, int row, int column, const Value& value, lxw_format* format) {
@@ -100,6 +106,27 @@ std::string CopiedText(const Grid& grid, const CellRange& range, bool captions) 
     for (int row = range.firstRow; row <= range.lastRow; ++row)
         add([&](int column) { return PlainText(grid, row, column); });
     return text;
+}
+
+void PasteCells(const Grid& grid, const std::string& text,
+                const std::function<bool(int, int, const std::string&)>& type) {
+    int row = grid.selectedRow;
+    const int first = grid.selectedColumn;
+    for (const std::string& line : Split(text, '\n')) {
+        if (Trim(line).empty())
+            continue;
+        const std::vector<int> columns = VisibleColumns(grid, first, grid.ColumnCount());
+        const std::vector<std::string> cells = Split(line, '\t');
+        for (size_t i = 0; i < std::min(columns.size(), cells.size()); ++i) {
+            std::string cell = cells[i];
+            std::erase(cell, '\r');
+            const bool passed =
+                cell.empty() || !grid.CanType(columns[i]) || Shows(grid, row, columns[i], cell);
+            if (!passed && !type(row, columns[i], cell))
+                return;
+        }
+        ++row;
+    }
 }
 
 void SaveAsCsv(const Grid& grid, const QString& file) {

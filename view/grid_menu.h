@@ -1,6 +1,8 @@
 // What a person can do with any grid: copy, preview and print, save as PDF, XLSX and CSV.
 #pragma once
 
+#include <functional>
+
 #include <QMenu>
 #include <QString>
 
@@ -20,6 +22,12 @@ CellRange WholeGrid(const Grid& grid);
 // The visible cells as a spreadsheet takes them: tabs between columns, a line per row; with the captions
 // above.
 std::string CopiedText(const Grid& grid, const CellRange& range, bool captions);
+
+// Types a copied block into the cells from the selected one on, as CopiedText gives it. Columns that take no
+// typing, empty texts, and cells that already show the text, are passed over: a name typed again behind its
+// code would look for another product. `type` returns false for a text that is not taken; that ends it.
+void PasteCells(const Grid& grid, const std::string& text,
+                const std::function<bool(int row, int column, const std::string& text)>& type);
 
 // Each writes the visible columns with their captions; a file that cannot be written is a std::runtime_error.
 void SaveAsCsv(const Grid& grid, const QString& file); // UTF-8 with its mark, so that spreadsheets know it

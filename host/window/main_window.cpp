@@ -1,17 +1,8 @@
 #include "host/window/main_window.h"
 
-#include <filesystem>
-
 #include "controls/view.h"
-#include "host/company/backup.h"
-#include "host/company/create_company.h"
-#include "host/company_address.h"
 #include "host/editors/host_editors.h"
-#include "host/user_settings.h"
-#include "host/window/company_users.h"
 #include "host/window/recent_documents.h"
-#include "session/database/recordset.h"
-#include "session/period.h"
 #include "session/session.h"
 #include "view/text.h"
 
@@ -20,16 +11,11 @@ namespace jxc {
 namespace {
 
 constexpr std::int16_t kEntryScreen = 13;
-constexpr int kRecent = 8;          // companies
 constexpr int kPatience = 150;      // milliseconds
 constexpr int kNode = Qt::UserRole; // subject * 1000 + item of a tree node
 
 QString WithoutMnemonic(const std::string& caption) {
     return Q(caption).remove(QRegularExpression("\\(&.\\)|&"));
-}
-
-QString ShownName(const std::string& company) {
-    return DialectOf(company) != 0 ? Q(WithoutPassword(company)) : QFileInfo(Q(company)).fileName();
 }
 
 // In a window that is no dialog Enter does not press buttons by itself.
@@ -46,37 +32,7 @@ class CommandButton : public QPushButton {
     }
 };
 
-std::string CompanyName() {
-    const Recordset header(Conn(), "select * from myCompany");
-    if (header.AtEnd())
-        return "";
-    return header["FullName"].AsText().empty() ? header["CompName"].AsText() : header["FullName"].AsText();
-}
-
 } // namespace
-
-// Everything is read before anything changes. The rights of the screens offered are those of the user.
-CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string& user) {
-    const OpenCompany open(company);
-    LoadPeriodSettings();
-    CompanyFacts facts;
-    facts.name = CompanyName();
-    facts.users = CompanyUsers();
-    facts.user = user.empty() ? facts.users.front() : user;
-    facts.rights = UserSettings(facts.user);
-    if (!facts.rights.known)
-        throw std::runtime_error("帐套中没有用户“" + facts.user + "”。");
-    if (session.PeriodStart && session.PeriodEnd)
-        facts.period = IsoText(*session.PeriodStart) + " 至 " + IsoText(*session.PeriodEnd);
-    const std::string userBefore = session.UserName;
-    const std::string rightsBefore = session.myPower;
-    control_.UserName(facts.user);
-    control_.myPower(facts.rights.myPower);
-    facts.subjects = SubjectsOf();
-    control_.UserName(userBefore);
-    control_.myPower(rightsBefore);
-    return facts;
-}
 
 MainWindow::MainWindow() {
     setWindowTitle("lzJxc 进销存");
@@ -171,60 +127,6 @@ void MainWindow::BuildCompanyMenu() {
     company->addAction("退出(&X)", QKeySequence::Quit, this, [this] { close(); });
     QMenu* help = menuBar()->addMenu("帮助(&H)");
     help->addAction("关于(&A)", this, [this] { About(); });
-}
-
-bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& user) {
-    const std::string passwordBefore = session.Password;
-    for (;;) {
-        try {
-            TakeCompany(company, ReadFacts(company, user));
-            return true;
-        } catch (const std::exception& error) {
-            const bool asks =
-                DialectOf(company) != 0 && std::string(error.what()).find("拒绝登录") != std::string::npos;
-            if (asks && AskPassword(company))
-                continue;
-            control_.Password(passwordBefore);
-            Warn(S(windowTitle()), error.what());
-            return false;
-        }
-    }
-}
-
-// The password of the server goes into the session only.
-bool MainWindow::AskPassword(const std::string& company) {
-    bool given = false;
-    const QString password = QInputDialog::getText(this, "数据库密码", Q(WithoutPassword(company)),
-                                                   QLineEdit::Password, "", &given);
-    if (given)
-        control_.Password(S(password));
-    return given;
-}
-
-void MainWindow::TakeCompany(const std::string& company, CompanyFacts facts) {
-    company_ = company;
-    ResetScreens();
-    UseCompany(control_, company);
-    control_.CompName(facts.name);
-    control_.UserName(facts.user);
-    control_.ZgName(facts.rights.ZgName);
-    control_.myPower(facts.rights.myPower);
-    subjects_ = std::move(facts.subjects);
-    setWindowTitle("lzJxc 进销存 — " + Q(facts.name));
-    companyLine_->setText("帐套：" + ShownName(company) + "    用户：" + Q(facts.user) + "    会计期间：" +
-                          Q(facts.period));
-    FillTree();
-    BuildMenus();
-    Remember(company);
-}
-
-// A password is not written down: the server's own file of passwords, or the person, gives it again.
-void MainWindow::Remember(const std::string& company) {
-    const QString address = Q(WithoutPassword(company));
-    QStringList recent = memory_.value("recent").toStringList();
-    recent.removeAll(address);
-    recent.prepend(address);
-    memory_.setValue("recent", recent.mid(0, kRecent));
 }
 
 void MainWindow::FillTree() {
@@ -342,16 +244,6 @@ void MainWindow::NewDocument() {
             return StartGuarded(entry);
 }
 
-// A user who was renamed or went away is followed by the company's first.
-void MainWindow::ReopenCompany() {
-    const std::vector<std::string> users = [&] {
-        const OpenCompany open(company_);
-        return CompanyUsers();
-    }();
-    const bool stays = std::find(users.begin(), users.end(), session.UserName) != users.end();
-    OpenCompanyOf(company_, stays ? session.UserName : users.front());
-}
-
 const MenuEntry* MainWindow::FindEntry(const QString& itemCaption, const QString& entryCaption) const {
     for (const Subject& subject : subjects_)
         for (const MenuItemRow& item : subject.items)
@@ -368,98 +260,6 @@ void MainWindow::SelectItem(const QString& item) {
     tree_->setCurrentItem(found.front());
     patience_.stop();
     ShowDocuments();
-}
-
-void MainWindow::ShowRecent() {
-    recent_->clear();
-    for (const QString& company : memory_.value("recent").toStringList())
-        recent_->addAction(ShownName(S(company)), this, [this, company] { OpenCompanyOf(S(company), ""); })
-            ->setToolTip(company);
-    recent_->setEnabled(!recent_->isEmpty());
-}
-
-void MainWindow::ChooseCompany() {
-    QDialog window(this);
-    window.setWindowTitle("打开帐套");
-    auto* layout = new QVBoxLayout(&window);
-    layout->addWidget(new QLabel("帐套文件，或数据库服务器上的地址（postgresql://…）："));
-    auto* address = new QLineEdit(Q(WithoutPassword(company_)));
-    address->setMinimumWidth(460);
-    auto* browse = new QPushButton("浏览(&B)...");
-    auto* line = new QHBoxLayout;
-    line->addWidget(address);
-    line->addWidget(browse);
-    layout->addLayout(line);
-    auto* buttons = new QDialogButtonBox;
-    buttons->addButton("打开(&O)", QDialogButtonBox::AcceptRole);
-    buttons->addButton("取消(&C)", QDialogButtonBox::RejectRole);
-    layout->addWidget(buttons);
-    connect(browse, &QPushButton::clicked, &window, [&] {
-        const QString file =
-            QFileDialog::getOpenFileName(&window, "打开帐套", address->text(), "帐套 (*.db);;所有文件 (*)");
-        if (!file.isEmpty())
-            address->setText(file);
-    });
-    connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
-    if (window.exec() == QDialog::Accepted && !address->text().trimmed().isEmpty())
-        OpenCompanyOf(S(address->text().trimmed()), "");
-}
-
-void MainWindow::NewCompany() {
-    QString file =
-        QFileDialog::getSaveFileName(this, "新建帐套", QDir::homePath() + "/我的公司.db", "帐套 (*.db)");
-    if (file.isEmpty())
-        return;
-    if (QFileInfo(file).suffix().isEmpty())
-        file += ".db";
-    if (QFileInfo::exists(file))
-        throw std::runtime_error("文件已经存在，请另取名称：" + S(file));
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    try {
-        CreateCompany(0, S(file), CompanyKind::Default);
-    } catch (const std::exception&) {
-        QApplication::restoreOverrideCursor();
-        throw;
-    }
-    QApplication::restoreOverrideCursor();
-    if (OpenCompanyOf(S(file), ""))
-        Inform(S(windowTitle()), "帐套已建立。请先在[资料]中输入公司、仓库、产品与客户。");
-}
-
-void MainWindow::BackUp() {
-    if (DialectOf(company_) != 0)
-        return BackUpCompany(company_, ""); // says what serves instead
-    const QString name =
-        QFileInfo(Q(company_)).completeBaseName() + QDate::currentDate().toString("-yyyyMMdd") + ".db";
-    QFileDialog dialog(this, "备份帐套", QDir::homePath() + "/" + name, "帐套 (*.db)");
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    const std::string file = S(dialog.selectedFiles().front());
-    BackUpCompany(company_, file);
-    Inform(S(windowTitle()), "备份完毕，并已检查可以读出：\n" + file);
-}
-
-void MainWindow::ChangeUser() {
-    QStringList users;
-    for (const std::string& user : ReadFacts(company_, session.UserName).users)
-        users << Q(user);
-    const QString user = ChosenUser(users);
-    if (!user.isEmpty())
-        OpenCompanyOf(company_, S(user));
-}
-
-QString MainWindow::ChosenUser(const QStringList& users) {
-    QInputDialog dialog(this);
-    dialog.setWindowTitle("更换用户");
-    dialog.setLabelText("用户：");
-    dialog.setComboBoxItems(users);
-    dialog.setTextValue(Q(session.UserName));
-    dialog.setOkButtonText("确定(&O)");
-    dialog.setCancelButtonText("取消(&C)");
-    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
 }
 
 void MainWindow::About() {

@@ -83,6 +83,8 @@ TEST_F(Main, TellsOfAMissingCompanyAndKeepsTheOneOpen) {
     EXPECT_EQ(person.Boxes(), Texts{"数据库文件 /nowhere/none.db 不存在。"});
     EXPECT_EQ(window.windowTitle(), title);
     EXPECT_EQ(Branch("采购").size(), 5U);
+    person.Next([&] { EXPECT_EQ(S(person.Front().windowTitle()), "库存统计"); });
+    window.Start(*window.FindEntry("库存统计", "打开"));
 }
 
 TEST_F(Main, NewCompanyTakesItsFirstCard) {

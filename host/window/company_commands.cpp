@@ -1,0 +1,232 @@
+// The company that the main window stands for: opened for a user, chosen, made, backed up.
+
+#include <stdexcept>
+
+#include "controls/view.h"
+#include "host/company/backup.h"
+#include "host/company/create_company.h"
+#include "host/company_address.h"
+#include "host/window/company_users.h"
+#include "host/window/main_window.h"
+#include "session/database/recordset.h"
+#include "session/period.h"
+#include "session/session.h"
+#include "view/text.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kRecent = 8; // companies
+
+QString ShownName(const std::string& company) {
+    return DialectOf(company) != 0 ? Q(WithoutPassword(company)) : QFileInfo(Q(company)).fileName();
+}
+
+std::string CompanyName() {
+    const Recordset header(Conn(), "select * from myCompany");
+    if (header.AtEnd())
+        return "";
+    return header["FullName"].AsText().empty() ? header["CompName"].AsText() : header["FullName"].AsText();
+}
+
+// The screens offered follow from the rights of the user who is to sign in; the one before comes back.
+class SignedInMeanwhile {
+  public:
+    SignedInMeanwhile(lzJxc& control, const CompanyFacts& facts)
+        : control_(control), user_(session.UserName), rights_(session.myPower) {
+        control.UserName(facts.user);
+        control.myPower(facts.rights.myPower);
+    }
+    ~SignedInMeanwhile() {
+        control_.UserName(user_);
+        control_.myPower(rights_);
+    }
+    SignedInMeanwhile(const SignedInMeanwhile&) = delete;
+    SignedInMeanwhile& operator=(const SignedInMeanwhile&) = delete;
+
+  private:
+    lzJxc& control_;
+    std::string user_;
+    std::string rights_;
+};
+
+} // namespace
+
+// Everything is read before anything changes.
+CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string& user) {
+    const OpenCompany open(company);
+    LoadPeriodSettings();
+    CompanyFacts facts;
+    facts.name = CompanyName();
+    facts.users = CompanyUsers();
+    facts.user = user.empty() ? facts.users.front() : user;
+    facts.rights = UserSettings(facts.user);
+    if (!facts.rights.known)
+        throw std::runtime_error("帐套中没有用户“" + facts.user + "”。");
+    if (session.PeriodStart && session.PeriodEnd)
+        facts.period = IsoText(*session.PeriodStart) + " 至 " + IsoText(*session.PeriodEnd);
+    const SignedInMeanwhile asUser(control_, facts);
+    facts.subjects = SubjectsOf();
+    return facts;
+}
+
+bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& user) {
+    const std::string passwordBefore = session.Password;
+    for (;;) {
+        try {
+            TakeCompany(company, ReadFacts(company, user));
+            return true;
+        } catch (const std::exception& error) {
+            const bool asks =
+                DialectOf(company) != 0 && std::string(error.what()).find("拒绝登录") != std::string::npos;
+            if (asks && AskPassword(company))
+                continue;
+            control_.Password(passwordBefore);
+            if (HasCompany())
+                UseCompany(control_, company_); // the one before stays open
+            Warn(S(windowTitle()), error.what());
+            return false;
+        }
+    }
+}
+
+// The password of the server goes into the session only.
+bool MainWindow::AskPassword(const std::string& company) {
+    bool given = false;
+    const QString password = QInputDialog::getText(this, "数据库密码", Q(WithoutPassword(company)),
+                                                   QLineEdit::Password, "", &given);
+    if (given)
+        control_.Password(S(password));
+    return given;
+}
+
+void MainWindow::TakeCompany(const std::string& company, CompanyFacts facts) {
+    company_ = company;
+    ResetScreens();
+    UseCompany(control_, company);
+    control_.CompName(facts.name);
+    control_.UserName(facts.user);
+    control_.ZgName(facts.rights.ZgName);
+    control_.myPower(facts.rights.myPower);
+    subjects_ = std::move(facts.subjects);
+    setWindowTitle("lzJxc 进销存 — " + Q(facts.name));
+    companyLine_->setText("帐套：" + ShownName(company) + "    用户：" + Q(facts.user) + "    会计期间：" +
+                          Q(facts.period));
+    FillTree();
+    BuildMenus();
+    Remember(company);
+}
+
+// A password is not written down: the server's own file of passwords, or the person, gives it again.
+void MainWindow::Remember(const std::string& company) {
+    const QString address = Q(WithoutPassword(company));
+    QStringList recent = memory_.value("recent").toStringList();
+    recent.removeAll(address);
+    recent.prepend(address);
+    memory_.setValue("recent", recent.mid(0, kRecent));
+}
+
+// A user who was renamed or went away is followed by the company's first.
+void MainWindow::ReopenCompany() {
+    const std::vector<std::string> users = [&] {
+        const OpenCompany open(company_);
+        return CompanyUsers();
+    }();
+    const bool stays = std::find(users.begin(), users.end(), session.UserName) != users.end();
+    OpenCompanyOf(company_, stays ? session.UserName : users.front());
+}
+
+void MainWindow::ShowRecent() {
+    recent_->clear();
+    for (const QString& company : memory_.value("recent").toStringList())
+        recent_->addAction(ShownName(S(company)), this, [this, company] { OpenCompanyOf(S(company), ""); })
+            ->setToolTip(company);
+    recent_->setEnabled(!recent_->isEmpty());
+}
+
+void MainWindow::ChooseCompany() {
+    QDialog window(this);
+    window.setWindowTitle("打开帐套");
+    auto* layout = new QVBoxLayout(&window);
+    layout->addWidget(new QLabel("帐套文件，或数据库服务器上的地址（postgresql://…）："));
+    auto* address = new QLineEdit(Q(WithoutPassword(company_)));
+    address->setMinimumWidth(460);
+    auto* browse = new QPushButton("浏览(&B)...");
+    auto* line = new QHBoxLayout;
+    line->addWidget(address);
+    line->addWidget(browse);
+    layout->addLayout(line);
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton("打开(&O)", QDialogButtonBox::AcceptRole);
+    buttons->addButton("取消(&C)", QDialogButtonBox::RejectRole);
+    layout->addWidget(buttons);
+    connect(browse, &QPushButton::clicked, &window, [&] {
+        const QString file =
+            QFileDialog::getOpenFileName(&window, "打开帐套", address->text(), "帐套 (*.db);;所有文件 (*)");
+        if (!file.isEmpty())
+            address->setText(file);
+    });
+    connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
+    if (window.exec() == QDialog::Accepted && !address->text().trimmed().isEmpty())
+        OpenCompanyOf(S(address->text().trimmed()), "");
+}
+
+void MainWindow::NewCompany() {
+    QString file =
+        QFileDialog::getSaveFileName(this, "新建帐套", QDir::homePath() + "/我的公司.db", "帐套 (*.db)");
+    if (file.isEmpty())
+        return;
+    if (QFileInfo(file).suffix().isEmpty())
+        file += ".db";
+    if (QFileInfo::exists(file))
+        throw std::runtime_error("文件已经存在，请另取名称：" + S(file));
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    try {
+        CreateCompany(0, S(file), CompanyKind::Default);
+    } catch (const std::exception&) {
+        QApplication::restoreOverrideCursor();
+        throw;
+    }
+    QApplication::restoreOverrideCursor();
+    if (OpenCompanyOf(S(file), ""))
+        Inform(S(windowTitle()), "帐套已建立。请先在[资料]中输入公司、仓库、产品与客户。");
+}
+
+void MainWindow::BackUp() {
+    if (DialectOf(company_) != 0)
+        return BackUpCompany(company_, ""); // says what serves instead
+    const QString name =
+        QFileInfo(Q(company_)).completeBaseName() + QDate::currentDate().toString("-yyyyMMdd") + ".db";
+    QFileDialog dialog(this, "备份帐套", QDir::homePath() + "/" + name, "帐套 (*.db)");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const std::string file = S(dialog.selectedFiles().front());
+    BackUpCompany(company_, file);
+    Inform(S(windowTitle()), "备份完毕，并已检查可以读出：\n" + file);
+}
+
+void MainWindow::ChangeUser() {
+    QStringList users;
+    for (const std::string& user : ReadFacts(company_, session.UserName).users)
+        users << Q(user);
+    const QString user = ChosenUser(users);
+    if (!user.isEmpty())
+        OpenCompanyOf(company_, S(user));
+}
+
+QString MainWindow::ChosenUser(const QStringList& users) {
+    QInputDialog dialog(this);
+    dialog.setWindowTitle("更换用户");
+    dialog.setLabelText("用户：");
+    dialog.setComboBoxItems(users);
+    dialog.setTextValue(Q(session.UserName));
+    dialog.setOkButtonText("确定(&O)");
+    dialog.setCancelButtonText("取消(&C)");
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+}
+
+} // namespace jxc
