@@ -103,14 +103,16 @@ void SaveColumns(const frmBrief& s) {
 }
 
 void Confirm(frmBrief& s) {
-    const int row = s.Grid1.selectedRow;
     if (s.kind == BriefKind::EditEntries) {
         if (!EntriesAreSound(s))
             return;
         SaveEntries(s);
     } else if (s.kind == BriefKind::SelectColumns) {
+        if (SumGridColumn(s.Grid1, 1) == 0)
+            return Warn(s.title, "请至少选择一个栏目！");
         SaveColumns(s);
     }
+    const int row = s.Grid1.selectedRow;
     if (s.kind == BriefKind::SelectColumns)
         s.chosen = s.table;
     else if (row > 0)

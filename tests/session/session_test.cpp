@@ -283,6 +283,8 @@ TEST_P(Company, CodeListsAreEditedOnTheirScreen) {
         EXPECT_EQ(view.boxes.back().text, "编号 99 重复！");
         EXPECT_TRUE(screen.IsOpen());
         TypeCell(screen, grid, rows + 1, 1, "98");
+        PressKey(screen, grid, "Enter"); // a row begun and left empty is no entry
+        EXPECT_EQ(grid.RowCount(), rows + 2);
         SelectRow(screen, grid, rows + 1);
         Click(screen, ok);
     });

@@ -204,8 +204,17 @@ TEST_P(Dictionary, ColumnsAreSelectedAndOrderedOnTheirScreen) {
     });
     EXPECT_EQ(OpenBriefPicker("tJXC_Cp", "", BriefKind::SelectColumns), "tJXC_Cp");
     EXPECT_TRUE(SetupGridColumns("tJXC_Cp", caller.Grid1, 1).starts_with("fCpGG,fCpName,fCpUnit,"));
-    view.OnScreen("frmBrief",
-                  [](Screen& screen) { Click(screen, dynamic_cast<Button&>(*screen.Find("cmdCancel"))); });
+    view.OnScreen("frmBrief", [this](Screen& screen) {
+        auto& grid = dynamic_cast<Grid&>(*screen.Find("Grid1"));
+        for (int row = 1; row <= grid.RowCount(); ++row)
+            TypeCell(screen, grid, row, 1, "0");
+        view.boxes.clear();
+        Click(screen, dynamic_cast<Button&>(*screen.Find("cmdOk"))); // a list without columns shows nothing
+        ASSERT_EQ(view.boxes.size(), 1U);
+        EXPECT_EQ(view.boxes.front().text, "请至少选择一个栏目！");
+        EXPECT_TRUE(screen.IsOpen());
+        Click(screen, dynamic_cast<Button&>(*screen.Find("cmdCancel")));
+    });
     EXPECT_EQ(OpenBriefPicker("tJXC_Cp", "", BriefKind::SelectColumns), "");
 }
 
