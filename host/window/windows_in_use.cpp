@@ -1,6 +1,7 @@
 #include "host/window/windows_in_use.h"
 
 #include <cstdlib>
+#include <iostream>
 
 #include <QLibraryInfo>
 #include <QTranslator>
@@ -8,15 +9,23 @@
 #include "host/screens.h"
 #include "session/components.h"
 #include "view/page_printer.h"
+#include "view/text.h"
 
 namespace jxc {
 
 namespace {
 
+// Windows in memory know no size hints, and say so at each one.
+void LeaveOutSizeHints(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.startsWith("This plugin does not support propagateSizeHints"))
+        std::cerr << S(qFormatLogMessage(type, context, text)) << std::endl;
+}
+
 // Without a display the windows are painted into memory.
 void ChoosePlatform() {
     if (!std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY"))
         setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    qInstallMessageHandler(LeaveOutSizeHints);
 }
 
 int& Prepared(int& argc) {
