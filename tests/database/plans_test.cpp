@@ -70,8 +70,8 @@ const char* const kBothForms[] = {
     "Select a.fCpID,a.fCkName,a.fInvSL,b.fCpPrice0,fInvInOut From tJXC_CkDj02 a Left Join tJXC_Cp b On "
     "a.fCpID=b.fCpID Where "
     "a.fInvID=77 Order By a.fCpID,a.fCkName",
-    "Select * From tJXC_CkTj Where fCpID In (Select fCpID From tJXC_CkDj02 Where fInvID=77) And fCkName In "
-    "(Select fCkName From tJXC_CkDj02 Where fInvID=77)",
+    "Select fQcSl,fCpID From tJXC_CkTj Where fCkName='A' And fCpID In (Select fCpID From tJXC_CkDj02 Where "
+    "fInvID=77 And fCkName='A')",
     "select fKcSl from tJXC_CkTj Where fCpID=77 And fCkName='A'",
     "select fInv1,fRowID,fCkName,fCpID,fInvSL from tJXC_CkDj02 Where fInvID=77 Order By fInv1,fRowID",
     "select a.fCpID,a.fInvSL,sum(b.fKcSl) as fKcSl from (tJXC_CkTj b Left Join tJXC_Ck c On "
