@@ -5,6 +5,7 @@
 #include <array>
 #include <iterator>
 #include <list>
+#include <memory_resource>
 #include <unordered_map>
 #include <vector>
 
@@ -65,6 +66,7 @@ class WarehouseStock {
         figures_.reserve(stored_.RecordCount());
         for (; !stored_.AtEnd(); stored_.MoveNext()) {
             Figures& figures = figures_[stored_[kProduct].AsLong()];
+            ofStored_.push_back(&figures);
             for (size_t field = 0; field < kFieldCount; ++field)
                 figures[field] = stored_[field].AsDouble();
         }
@@ -84,7 +86,7 @@ class WarehouseStock {
     void Write(const Counters& counters) {
         for (size_t row = 0; row < stored_.RecordCount(); ++row) {
             stored_.MoveTo(row);
-            const Figures& figures = figures_[stored_[kProduct].AsLong()];
+            const Figures& figures = *ofStored_[row];
             for (Field field : {counters.quantity, counters.value, counters.cost, kKcSL, kKcDj, kKcJE})
                 if (field != kFieldCount)
                     stored_.Set(field, figures[field]);
@@ -118,7 +120,9 @@ class WarehouseStock {
 
     std::string name_;
     Recordset stored_;
-    std::unordered_map<std::int64_t, Figures> figures_; // by product
+    std::pmr::monotonic_buffer_resource memory_; // of the figures, which come and go together
+    std::pmr::unordered_map<std::int64_t, Figures> figures_{&memory_}; // by product
+    std::vector<const Figures*> ofStored_;                             // by the place of the stored row
     std::vector<std::int64_t> newProducts_;
 };
 
