@@ -60,8 +60,6 @@ std::vector<Command*> MenuOfRow(frmDj01& s, int row);
 void ShowRowMenu(frmDj01& s);
 
 // -- print_list.cpp
-// The filters as they stand, as a print-out tells them.
-FieldList FilterSummary(const frmDj01& s);
 void PrintList(frmDj01& s);
 
 } // namespace jxc

@@ -63,7 +63,6 @@ void List(frmDj01& s) {
     const ListQuery query = BuildQuery(s);
     FillGrids(s, query);
     s.shown = query;
-    s.shown.summary = FilterSummary(s);
     if (GridOf(s, query.lines).RowCount() > 0)
         GoToTab(s, ListTab(s));
     else

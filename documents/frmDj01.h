@@ -7,12 +7,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "controls/grid.h"
 #include "controls/screen.h"
-#include "session/components.h"
 
 namespace jxc {
 
@@ -31,7 +31,10 @@ struct ListQuery {
     std::string sql = {};
     std::string stem = {};
     bool lines = false;
-    FieldList summary = {}; // its filters, for the print-out
+    // What the filters read then, for the print-out.
+    std::optional<Date> from = {};
+    std::optional<Date> to = {};
+    std::string warehouse = {};
 };
 
 struct frmDj01 : Screen {

@@ -3,10 +3,10 @@
 #include <set>
 
 #include "documents/document_list.h"
-#include "session/components.h"
 #include "session/database/recordset.h"
 #include "session/grid_routines.h"
 #include "session/session.h"
+#include "settings/column_dictionary.h"
 
 namespace jxc {
 
@@ -90,7 +90,6 @@ void HideUnselected(frmDj01& s, bool lines) {
 
 void AddToDictionary(Recordset& dictionary, const std::string& key, int place, const ListColumn& definition,
                      const GridColumn& column) {
-    constexpr int kText = 0, kNumber = 2; // the dictionary's cell types
     dictionary.AddNew();
     dictionary.Set("ftable", key);
     dictionary.Set("fieldID", place);
@@ -98,9 +97,9 @@ void AddToDictionary(Recordset& dictionary, const std::string& key, int place, c
     dictionary.Set("FieldName_0", column.caption);
     dictionary.Set("FieldName_1", column.caption);
     dictionary.Set("FieldGridWidth", column.width);
-    dictionary.Set("FieldDataType", column.type == CellType::Number ? kNumber : kText);
+    dictionary.Set("FieldDataType", column.type == CellType::Number ? kDictionaryNumber : kDictionaryText);
     dictionary.Set("FieldDataDeci", column.decimals);
-    dictionary.Set("FieldHAlign", column.alignment == Alignment::Right ? 1 : 0);
+    dictionary.Set("FieldHAlign", column.alignment == Alignment::Right ? kDictionaryRight : kDictionaryLeft);
     dictionary.Set("FieldSelected", 1);
     dictionary.Set("FieldBriefType", "");
     dictionary.Set("FEnabled", 1);
@@ -146,7 +145,7 @@ void ChooseColumns(frmDj01& s) {
     const bool lines = s.SSTab1.index == kLineTab || (s.SSTab1.index == kFilterTab && !s.chkDj.value);
     ClearSortMark(GridOf(s, lines)); // no part of a caption
     CompleteDictionary(s, lines);
-    if (!ComponentsInUse().codeLists->Edit(ListKey(lines), "", BriefKind::SelectColumns).empty())
+    if (!OpenBriefPicker(ListKey(lines), "", BriefKind::SelectColumns).empty())
         HideUnselected(s, lines);
 }
 

@@ -1,4 +1,5 @@
-// The document list on paper, headed by the filters it was asked with, whatever they read now.
+// The document list on paper, headed by the dates and the warehouse it was asked with, whatever they read
+// now.
 
 #include "documents/document_list.h"
 #include "documents/list_columns.h"
@@ -7,22 +8,24 @@
 
 namespace jxc {
 
-// Nothing for a filter that is off: the list is not limited by it.
-FieldList FilterSummary(const frmDj01& s) {
-    const auto days = FilteredDays(s);
-    const std::string warehouse = s.chkCk[0].value ? s.cboCk[0].text : "";
+namespace {
+
+FieldList FilterSummary(const ListQuery& query) {
+    const auto text = [](const std::optional<Date>& day) { return day ? IsoText(*day) : ""; };
     return {"查询内容", "查询",
-            "起始日期", days ? IsoText(days->first) : "",
-            "截止日期", days ? IsoText(days->last.value_or(days->first)) : "",
-            "仓库备注", DbScalar("Select fCkMemo from tJXC_Ck Where fCkName=" + InQuotes(warehouse))};
+            "起始日期", text(query.from),
+            "截止日期", text(query.to),
+            "仓库备注", DbScalar("Select fCkMemo from tJXC_Ck Where fCkName=" + InQuotes(query.warehouse))};
 }
+
+} // namespace
 
 void PrintList(frmDj01& s) {
     const Grid* grid = FrontGrid(s);
     if (grid == &s.Grid1)
-        PrintGrid(*grid, "单据查询", ListKey(false), "", s.shown.summary);
+        PrintGrid(*grid, "单据查询", ListKey(false), "", FilterSummary(s.shown));
     else if (grid == &s.Grid2)
-        PrintGrid(*grid, "单据明细查询", ListKey(true), "", s.shown.summary);
+        PrintGrid(*grid, "单据明细查询", ListKey(true), "", FilterSummary(s.shown));
 }
 
 } // namespace jxc

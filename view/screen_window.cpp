@@ -102,8 +102,7 @@ void ScreenWindow::ShowFunctionKeys() {
     QStringList told;
     for (const QAbstractButton* button : withKeys_)
         if (button->isVisibleTo(this) && button->isEnabled())
-            told << button->property("fkey").toString() + " " +
-                        button->text().remove(QRegularExpression("\\(&.\\)|&"));
+            told << button->property("fkey").toString() + " " + WithoutMnemonic(S(button->text()));
     if (form_->findChild<QTabWidget*>())
         told << "Ctrl+Tab 换页";
     keys_->setText(told.join("    "));

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include <QRegularExpression>
 #include <QString>
 
 namespace jxc {
@@ -12,6 +13,11 @@ inline QString Q(const std::string& text) {
 }
 inline std::string S(const QString& text) {
     return text.toStdString();
+}
+
+// A caption without the letter that Alt presses: "打印(&P)" reads "打印".
+inline QString WithoutMnemonic(const std::string& caption) {
+    return Q(caption).remove(QRegularExpression("\\(&.\\)|&"));
 }
 
 } // namespace jxc

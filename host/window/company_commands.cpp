@@ -73,22 +73,24 @@ CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string
 
 bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& user) {
     const std::string passwordBefore = session.Password;
-    for (;;) {
+    std::string failure;
+    for (bool again = true; again;) {
         try {
             TakeCompany(company, ReadFacts(company, user));
             return true;
+        } catch (const LoginError& error) {
+            failure = error.what();
+            again = AskPassword(company);
         } catch (const std::exception& error) {
-            const bool asks =
-                DialectOf(company) != 0 && std::string(error.what()).find("拒绝登录") != std::string::npos;
-            if (asks && AskPassword(company))
-                continue;
-            control_.Password(passwordBefore);
-            if (HasCompany())
-                UseCompany(control_, company_); // the one before stays open
-            Warn(S(windowTitle()), error.what());
-            return false;
+            failure = error.what();
+            again = false;
         }
     }
+    control_.Password(passwordBefore);
+    if (HasCompany())
+        UseCompany(control_, company_); // the one before stays open
+    Warn(S(windowTitle()), failure);
+    return false;
 }
 
 // The password of the server goes into the session only.

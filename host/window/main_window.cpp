@@ -14,10 +14,6 @@ constexpr std::int16_t kEntryScreen = 13;
 constexpr int kPatience = 150;      // milliseconds
 constexpr int kNode = Qt::UserRole; // subject * 1000 + item of a tree node
 
-QString WithoutMnemonic(const std::string& caption) {
-    return Q(caption).remove(QRegularExpression("\\(&.\\)|&"));
-}
-
 // In a window that is no dialog Enter does not press buttons by itself.
 class CommandButton : public QPushButton {
   public:

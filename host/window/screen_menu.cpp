@@ -162,10 +162,10 @@ void AddDocumentTypes(SubjectList& subjects) {
         const std::string name = types["fSetName"].AsText();
         MenuItemRow item{name, PurposeOfType(type), {}};
         if (list)
-            item.entries.push_back({"单据列表(&L)", kList, type, "", ""});
-        item.entries.push_back({"新增(&N)", kEntry, type, "", ""});
+            item.entries.push_back({"单据列表(&L)", kList, type, ""});
+        item.entries.push_back({"新增(&N)", kEntry, type, ""});
         if (list)
-            item.entries.push_back({"明细列表(&M)", kLineList, type, "", ""});
+            item.entries.push_back({"明细列表(&M)", kLineList, type, ""});
         subjects.Add(SubjectOfType(type), std::move(item));
     }
 }
@@ -177,14 +177,12 @@ std::vector<Subject> SubjectsOf() {
     AddDocumentTypes(subjects);
     for (const FixedEntry& entry : kFixed)
         if (FindScreen(entry.screen) && Allowed(entry.module))
-            subjects.Add(
-                entry.subject,
-                {entry.caption, entry.purpose, {{"打开(&O)", entry.action, entry.myType, entry.module, ""}}});
+            subjects.Add(entry.subject,
+                         {entry.caption, entry.purpose, {{"打开(&O)", entry.action, entry.myType, ""}}});
     for (const Editor& editor : kEditors)
         if (FindScreen(editor.screen) && Allowed(editor.module))
-            subjects.Add(
-                editor.subject,
-                {editor.caption, editor.purpose, {{"打开(&O)", -1, -1, editor.module, editor.screen}}});
+            subjects.Add(editor.subject,
+                         {editor.caption, editor.purpose, {{"打开(&O)", -1, -1, editor.screen}}});
     return subjects.Filled();
 }
 

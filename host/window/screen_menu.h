@@ -14,7 +14,6 @@ struct MenuEntry {
     std::string caption;
     std::int16_t action = -1;
     std::int16_t myType = -1;
-    std::string module; // of the host's table, whose right is needed; "" for everyone
     std::string screen;
 };
 

@@ -1,9 +1,5 @@
 #include "host/window/window_program.h"
 
-#include <cstdlib>
-#include <filesystem>
-
-#include "host/screens.h"
 #include "host/window/main_window.h"
 #include "host/window/sample_company_file.h"
 #include "host/window/windows_in_use.h"

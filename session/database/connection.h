@@ -30,6 +30,12 @@ class DatabaseError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+// The server does not let this user in: the name or the password is wrong, or missing.
+class LoginError : public DatabaseError {
+  public:
+    using DatabaseError::DatabaseError;
+};
+
 // An update by row found its row changed or gone since it was read.
 class ConflictError : public DatabaseError {
   public:

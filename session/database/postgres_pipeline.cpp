@@ -67,8 +67,9 @@ PostgresPipeline::PostgresPipeline(const ServerAddress& address) : connection_(C
         const bool refused = PQconnectionNeedsPassword(connection_) || PQconnectionUsedPassword(connection_);
         const std::string reason = WithoutAddress(Trimmed(PQerrorMessage(connection_)));
         PQfinish(connection_);
-        throw DatabaseError(
-            (refused ? "数据库服务器拒绝登录，请检查用户名和密码：" : "不能连接数据库服务器：") + reason);
+        if (refused)
+            throw LoginError("数据库服务器拒绝登录，请检查用户名和密码：" + reason);
+        throw DatabaseError("不能连接数据库服务器：" + reason);
     }
     PQsetNoticeProcessor(
         connection_, [](void*, const char*) {}, nullptr);

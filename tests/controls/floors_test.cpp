@@ -8,8 +8,9 @@
 namespace {
 
 TEST(Floors, IncludeDownwardsOnly) {
-    const std::vector<std::string> floors{"controls", "session", "settings", "master", "documents",
-                                          "stock",    "close",   "performance", "analysis", "view", "host"};
+    const std::vector<std::string> floors{"controls",  "session", "settings", "master",
+                                          "documents", "stock",   "close",    "performance",
+                                          "analysis",  "view",    "host"};
     const std::filesystem::path root(JXC_ROOT);
     int files = 0;
     for (size_t floor = 0; floor < floors.size(); ++floor) {
@@ -22,7 +23,8 @@ TEST(Floors, IncludeDownwardsOnly) {
             std::ifstream file(entry.path());
             for (std::string line; std::getline(file, line);)
                 for (size_t above = floor + 1; above < floors.size(); ++above)
-                    EXPECT_FALSE(line.starts_with("#include \"" + floors[above] + "/")) << entry.path() << ": " << line;
+                    EXPECT_FALSE(line.starts_with("#include \"" + floors[above] + "/"))
+                        << entry.path() << ": " << line;
         }
     }
     EXPECT_GT(files, 100);

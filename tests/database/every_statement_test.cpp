@@ -76,7 +76,8 @@ const Statement kSelects[] = {
      "a.fInvDate,a.fInvNo"},
     {"select distinct a.*,c.CompName From ((tJXC_CkHt01 a Inner Join tJXC_CkHt02 b On a.fInvID=b.fInvID)  "
      "Left join Cards c On a.fKhID=c.fID)  left join tJXC_Cp d on b.fCpid=d.fCpID Where 1=1 And "
-     "a.fInvType=23 And b.fInvInOut=1 And a.fInvJBR Like '%x%' And a.fInvHb='x' And a.fInvDate = #2003-07-01# "
+     "a.fInvType=23 And b.fInvInOut=1 And a.fInvJBR Like '%x%' And a.fInvHb='x' And a.fInvDate = "
+     "#2003-07-01# "
      "And a.fInvNo like 'x%' And b.fCkName like '%x%' And (d.fCpName Like '%x%' Or d.fCpGG Like '%x%') And "
      "d.fCpZy='x' And b.fInvDJ  = -2.5 And a.fInvJE <> 0 Order By a.fInvDate,a.fInvNo",
      "select distinct a.*,c.CompName From ((tJXC_CkHt01 a Inner Join tJXC_CkHt02 b On a.fInvID=b.fInvID)  "

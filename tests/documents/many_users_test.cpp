@@ -78,16 +78,9 @@ bool WorkThrough(const SampleCompany& company, int documents) {
     return true;
 }
 
-class ManyUsers : public testing::TestWithParam<EngineKind> {
+class ManyUsers : public OnSampleCompany {
   protected:
-    void SetUp() override {
-        if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
-            GTEST_SKIP() << reason;
-        company = std::make_unique<SampleCompany>(GetParam());
-        WidenNumbers(company->Address());
-        ResetScreens();
-    }
-    std::unique_ptr<SampleCompany> company;
+    void Begin() override { WidenNumbers(company->Address()); }
 };
 ON_BOTH_ENGINES(ManyUsers);
 

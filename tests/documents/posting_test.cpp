@@ -17,20 +17,16 @@ namespace jxc::test {
 
 namespace {
 
-class Posting : public testing::TestWithParam<EngineKind> {
+class Posting : public OnSampleCompany {
   protected:
-    void SetUp() override {
-        if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
-            GTEST_SKIP() << reason;
-        company = std::make_unique<SampleCompany>(GetParam());
-        control = company->SignedIn();
+    void Begin() override {
         open = std::make_unique<OpenCompany>(company->Address());
         clerk = std::make_unique<Clerk>();
         StockUp();
     }
     void TearDown() override {
         clerk.reset();
-        ResetScreens();
+        OnSampleCompany::TearDown();
     }
     // Goods in every warehouse, and an order with a balance.
     void StockUp() {
@@ -54,8 +50,6 @@ class Posting : public testing::TestWithParam<EngineKind> {
         return key;
     }
 
-    std::unique_ptr<SampleCompany> company;
-    lzJxc control;
     std::unique_ptr<OpenCompany> open;
     std::unique_ptr<Clerk> clerk;
 };

@@ -7,7 +7,6 @@
 #include "controls/gestures.h"
 #include "controls/scripted_view.h"
 #include "host/editors/frmHostCards.h"
-#include "host/screens.h"
 #include "session/session.h"
 #include "tests/support/sample_company.h"
 
@@ -15,20 +14,10 @@ namespace jxc::test {
 
 namespace {
 
-class HostEditorScreens : public testing::TestWithParam<EngineKind> {
+class HostEditorScreens : public OnSampleCompany {
   protected:
-    void SetUp() override {
-        if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
-            GTEST_SKIP() << reason;
-        RegisterAllScreens();
-        ResetScreens();
-        sample = std::make_unique<SampleCompany>(GetParam());
-        sample->SignedIn();
-    }
-
     ScriptedView view;
     ViewInUse inUse{view};
-    std::unique_ptr<SampleCompany> sample;
 };
 ON_BOTH_ENGINES(HostEditorScreens);
 

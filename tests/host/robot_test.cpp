@@ -1,5 +1,5 @@
-// The robot's protocol: one reply a request, boxes where they arise, errors that change nothing; the same replies on
-// both engines.
+// The robot's protocol: one reply a request, boxes where they arise, errors that change nothing; the same
+// replies on both engines.
 #include <sstream>
 
 #include <gtest/gtest.h>
@@ -102,7 +102,8 @@ TEST_P(RobotOnCompany, EntersADocumentAndLosesNothingItSaved) {
     lzJxc control = company.SignedIn();
     const auto replies = Drive(control, kReceipt);
     ASSERT_EQ(replies.size(), 25U);
-    EXPECT_EQ(replies[0], json({{"ok", true}, {"waiting", "screen"}, {"screen", "frmDj02"}, {"title", "入库单：新增"}}));
+    EXPECT_EQ(replies[0],
+              json({{"ok", true}, {"waiting", "screen"}, {"screen", "frmDj02"}, {"title", "入库单：新增"}}));
     for (size_t i = 1; i <= 13; ++i)
         EXPECT_EQ(replies[i]["ok"], false) << i << " " << replies[i];
     EXPECT_EQ(replies[15]["value"], "20261105RK001");
@@ -119,7 +120,8 @@ TEST_P(RobotOnCompany, EntersADocumentAndLosesNothingItSaved) {
     EXPECT_EQ(replies[23]["ok"], false);
     // The requests end at the printing question: it counts as No, the screen closes, what was saved stays.
     EXPECT_EQ(replies[24]["box"]["text"], "单据新增完毕。打印本张单据？");
-    EXPECT_EQ(QueryCompany(company.Address(), "select fInvNo from tJXC_CkDj01").At(0, 0).AsText(), "20261105RK001");
+    EXPECT_EQ(QueryCompany(company.Address(), "select fInvNo from tJXC_CkDj01").At(0, 0).AsText(),
+              "20261105RK001");
     EXPECT_EQ(session.Conn, nullptr);
 }
 

@@ -72,20 +72,12 @@ TEST(Control, KeepsItsPropertiesInTheBag) {
     EXPECT_EQ(control.myType(), -1);
 }
 
-class Company : public testing::TestWithParam<EngineKind> {
+class Company : public OnSampleCompany {
   protected:
-    void SetUp() override {
-        if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
-            GTEST_SKIP() << reason;
-        RegisterAllScreens();
-        sample = std::make_unique<SampleCompany>(GetParam());
-        control = sample->SignedIn();
-    }
-    void Open() { open = std::make_unique<OpenCompany>(sample->Address()); }
+    void Open() { open = std::make_unique<OpenCompany>(company->Address()); }
 
     ScriptedView view;
     ViewInUse inUse{view};
-    std::unique_ptr<SampleCompany> sample;
     std::unique_ptr<OpenCompany> open;
     lzJxc control;
 };

@@ -5,7 +5,6 @@
 #include "controls/gestures.h"
 #include "controls/scripted_view.h"
 #include "host/company_address.h"
-#include "host/screens.h"
 #include "session/session.h"
 #include "settings/frmRs_RptSet.h"
 #include "tests/support/sample_company.h"
@@ -21,18 +20,13 @@ struct Caller : Screen {
     Label lblCpCw{*this, "lblCpCw", "仓位"};
 };
 
-class Dictionary : public testing::TestWithParam<EngineKind> {
+class Dictionary : public OnSampleCompany {
   protected:
-    void SetUp() override {
-        if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
-            GTEST_SKIP() << reason;
-        RegisterAllScreens();
-        ResetScreens();
-        sample = std::make_unique<SampleCompany>(GetParam());
-        sample->SignedIn();
-        open = std::make_unique<OpenCompany>(sample->Address());
+    void Begin() override { open = std::make_unique<OpenCompany>(company->Address()); }
+    void TearDown() override {
+        session.Language = 0;
+        OnSampleCompany::TearDown();
     }
-    void TearDown() override { session.Language = 0; }
     void OnSettings(const std::function<void(frmRs_RptSet&)>& act) {
         view.OnScreen("frmRs_RptSet", [act](Screen& screen) { act(dynamic_cast<frmRs_RptSet&>(screen)); });
     }
@@ -44,7 +38,6 @@ class Dictionary : public testing::TestWithParam<EngineKind> {
 
     ScriptedView view;
     ViewInUse inUse{view};
-    std::unique_ptr<SampleCompany> sample;
     std::unique_ptr<OpenCompany> open;
     Caller caller;
 };

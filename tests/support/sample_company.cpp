@@ -8,6 +8,7 @@
 
 #include "host/company/create_company.h"
 #include "host/company_address.h"
+#include "host/screens.h"
 #include "session/database/open_connection.h"
 
 namespace jxc::test {
@@ -109,6 +110,16 @@ lzJxc SampleCompany::SignedIn() const {
     control.Language(0);
     control.myType(-1);
     return control;
+}
+
+void OnSampleCompany::SetUp() {
+    if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
+        GTEST_SKIP() << reason;
+    RegisterAllScreens();
+    ResetScreens();
+    company = std::make_unique<SampleCompany>(GetParam());
+    control = company->SignedIn();
+    Begin();
 }
 
 Rows QueryCompany(const std::string& address, const std::string& sql) {

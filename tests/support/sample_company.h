@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "controls/screen.h"
 #include "session/lzjxc.h"
 #include "tests/support/test_company.h"
 
@@ -26,6 +27,19 @@ class SampleCompany {
     EngineKind kind_;
     std::string name_;
     std::string address_;
+};
+
+// Every test of a suite runs on a sample company of its own, on both engines, with all screens fresh and a
+// clerk signed in.
+class OnSampleCompany : public testing::TestWithParam<EngineKind> {
+  protected:
+    void SetUp() override;
+    void TearDown() override { ResetScreens(); }
+    // What a suite does before each test; a test that is skipped does not come here.
+    virtual void Begin() {}
+
+    std::unique_ptr<SampleCompany> company;
+    lzJxc control;
 };
 
 // Rows of a statement on a connection of its own, so that it also works between screens.
