@@ -4,10 +4,10 @@
 #include <cstdio>
 #include <filesystem>
 
-#include <libpq-fe.h>
 #include <unistd.h>
 
 #include "bench/history.h"
+#include "bench/server.h"
 #include "host/company/create_company.h"
 #include "session/database/open_connection.h"
 
@@ -15,22 +15,10 @@ namespace jxc::bench {
 
 namespace {
 
-// Runs a command on the server's maintenance database.
-void OnServer(const Options& options, const std::string& command) {
-    PGconn* server = PQconnectdb(options.server.c_str());
-    PGresult* result = PQexec(server, command.c_str());
-    const bool succeeded = PQresultStatus(result) == PGRES_COMMAND_OK;
-    const std::string reason = PQerrorMessage(server);
-    PQclear(result);
-    PQfinish(server);
-    if (!succeeded)
-        throw DatabaseError(command + ": " + reason);
-}
-
 std::string AddressOf(const Options& options, EngineKind kind, const std::string& name) {
     if (kind == EngineKind::Sqlite)
         return options.folder + "/" + name + ".db";
-    return options.server + (options.server.find('?') == std::string::npos ? "?" : "&") + "dbname=" + name;
+    return AddressOnServer(options.server, name);
 }
 
 std::string NewName() {
@@ -67,7 +55,8 @@ CompanyPair::CompanyPair(const Options& options, EngineKind kind, int documents)
       system_(AddressOf(options, kind, systemName_)), floor_(AddressOf(options, kind, floorName_)) {
     try {
         if (kind == EngineKind::Postgres)
-            OnServer(options, "create database " + systemName_ + " template template0 encoding 'UTF8'");
+            OnServer(options.server,
+                     "create database " + systemName_ + " template template0 encoding 'UTF8'");
         CreateCompany(kind == EngineKind::Postgres, system_, CompanyKind::Sample);
         Connection company;
         Open(company, kind, system_);
@@ -94,9 +83,9 @@ void CompanyPair::Copy() const {
         sync();
         return;
     }
-    OnServer(options_, "create database " + floorName_ + " template " + systemName_);
+    OnServer(options_.server, "create database " + floorName_ + " template " + systemName_);
     try {
-        OnServer(options_, "checkpoint");
+        OnServer(options_.server, "checkpoint");
     } catch (const DatabaseError& error) {
         std::fprintf(stderr, "%s\n", error.what());
     }
@@ -106,7 +95,7 @@ void CompanyPair::Remove() const {
     try {
         for (const std::string* name : {&systemName_, &floorName_}) {
             if (kind_ == EngineKind::Postgres)
-                OnServer(options_, "drop database if exists " + *name + " with (force)");
+                OnServer(options_.server, "drop database if exists " + *name + " with (force)");
             else
                 for (const char* ending : {"", "-wal", "-shm"})
                     std::filesystem::remove(AddressOf(options_, kind_, *name) + ending);

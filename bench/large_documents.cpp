@@ -1,6 +1,7 @@
 // Documents of 10 and of 5,000 lines, of four types, against the floor on SQLite: the seconds of the save
 // command for saving, approval and reversal, entry and loading of the screen apart. JXC_BENCH_ROUNDS sets the
-// rounds.
+// rounds. With JXC_TEST_PG, the URI of a maintenance database, also the first documents of companies made on
+// that server the moment before, of which its statistics know nothing.
 
 #include <algorithm>
 #include <chrono>
@@ -12,6 +13,7 @@
 #include <unistd.h>
 
 #include "bench/large_floor.h"
+#include "bench/server.h"
 #include "controls/gestures.h"
 #include "controls/scripted_view.h"
 #include "controls/text.h"
@@ -38,10 +40,9 @@ std::string ProductCode(int n) {
 }
 
 // A company with products enough for the longest document.
-void MakeCompany(const std::string& file) {
-    std::filesystem::remove(file);
-    CreateCompany(0, file, CompanyKind::Sample);
-    const OpenCompany open(file);
+void MakeCompany(const std::string& address) {
+    CreateCompany(DialectOf(address), address, CompanyKind::Sample);
+    const OpenCompany open(address);
     Transaction transaction(Conn());
     for (int n = 0; n < kMostLines; ++n)
         Conn().Execute("Insert Into tJXC_Cp "
@@ -192,6 +193,32 @@ void PrintRow(int type, int lines, const Times& system, const Times& floor) {
                 ratio(fSave + fApprove, save + approve));
 }
 
+// A company of its own for each type, the longest document at once: the slowest of the rounds counts.
+void MeasureNewCompanies(const std::string& server, int rounds) {
+    std::printf("\non companies made the moment before, on the server; milliseconds, median and slowest\n"
+                "type  lines            save         approve         reverse\n");
+    const std::string name = "jxc_large_" + std::to_string(getpid());
+    for (const int type : {1, 2, 3, 31}) {
+        Times times;
+        for (int round = 0; round < rounds; ++round) {
+            OnServer(server, "create database " + name + " template template0 encoding 'UTF8'");
+            MakeCompany(AddressOnServer(server, name));
+            {
+                const OpenCompany open(AddressOnServer(server, name));
+                SystemRoad road;
+                LargeDocument document = DocumentOf(type, kMostLines, round);
+                RunSystem(road, document, times);
+            }
+            OnServer(server, "drop database " + name + " with (force)");
+        }
+        std::printf("%4d %6d", type, kMostLines);
+        for (const std::vector<double>* seconds : {&times.save, &times.approve, &times.reverse})
+            std::printf("  %6.0f %7.0f", Median(*seconds) * 1e3,
+                        *std::max_element(seconds->begin(), seconds->end()) * 1e3);
+        std::printf("\n");
+    }
+}
+
 int Main() {
     RegisterAllScreens();
     const char* given = std::getenv("JXC_BENCH_ROUNDS");
@@ -227,6 +254,8 @@ int Main() {
     for (const char* company : {"_system.db", "_floor.db"})
         for (const char* ending : {"", "-wal", "-shm"})
             std::filesystem::remove(stem + company + ending);
+    if (const char* server = std::getenv("JXC_TEST_PG"))
+        MeasureNewCompanies(server, rounds);
     return 0;
 }
 

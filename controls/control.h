@@ -63,6 +63,7 @@ struct Frame : Control {
 // A command button or a menu item.
 struct Command : Control {
     std::function<void()> onClick;
+    bool dropsWork = false; // what was typed and not saved is gone after it: a person is asked first
 
   protected:
     using Control::Control;

@@ -1,5 +1,7 @@
 #include "controls/gestures.h"
 
+#include <cmath>
+
 #include "controls/text.h"
 #include "controls/view.h"
 
@@ -15,7 +17,7 @@ void Guarded(Screen& screen, const Routine& routine) {
     } catch (const GestureRefused&) {
         throw;
     } catch (const std::exception& error) {
-        Warn(screen.title, error.what());
+        WarnOfError(screen.title, error);
     }
 }
 
@@ -36,36 +38,6 @@ void RequireColumn(const Grid& grid, int column) {
         throw GestureRefused(grid.name + " 没有第 " + std::to_string(column) + " 列。");
 }
 
-// A tick is set by 1 or true and taken away by 0, false or nothing.
-Value TypedTick(const GridColumn& column, const std::string& text) {
-    const std::string typed = LowerCase(Trim(text));
-    if (typed == "1" || typed == "true")
-        return 1;
-    if (typed == "0" || typed == "false" || typed.empty())
-        return 0;
-    throw GestureRefused("“" + column.caption + "”只能是 1 或 0。");
-}
-
-// The value that typing `text` into a cell of the column gives.
-Value TypedValue(const GridColumn& column, const std::string& text) {
-    if (column.type == CellType::Text)
-        return column.maxBytes > 0 ? TruncateToBytes(text, column.maxBytes) : text;
-    if (column.type == CellType::Check)
-        return TypedTick(column, text);
-    std::string digits;
-    for (const char c : text)
-        if (c != ',')
-            digits += c;
-    if (Trim(digits).empty())
-        return {};
-    if (!IsNumericText(digits))
-        throw GestureRefused("“" + column.caption + "”只能输入数字。");
-    const double number = Val(digits);
-    if (RoundDecimal(number, column.decimals) != number)
-        throw GestureRefused("“" + column.caption + "”最多 " + std::to_string(column.decimals) + " 位小数。");
-    return number;
-}
-
 // Types the whole new text key by key over the selected old one. When a key is refused the old text comes
 // back.
 void ReplaceText(EditBox& box, const std::string& text) {
@@ -73,6 +45,14 @@ void ReplaceText(EditBox& box, const std::string& text) {
     box.SelectAll();
     if (text.empty()) {
         box.PressKey(8);
+        return;
+    }
+    if (!box.onKeyPress) { // nobody looks at the single keys
+        std::string typed = text;
+        std::erase_if(typed, [](char c) { return static_cast<unsigned char>(c) < ' '; });
+        box.Insert(typed);
+        if (box.onChange)
+            box.onChange();
         return;
     }
     for (const char32_t point : ToCodePoints(text))
@@ -108,7 +88,42 @@ int ColumnAfter(const Grid& grid, int column) {
     return 0;
 }
 
+// A tick is set by 1 or true and taken away by 0, false or nothing.
+Value TypedTick(const GridColumn& column, const std::string& text) {
+    const std::string typed = LowerCase(Trim(text));
+    if (typed == "1" || typed == "true")
+        return 1;
+    if (typed == "0" || typed == "false" || typed.empty())
+        return 0;
+    throw GestureRefused("“" + column.caption + "”只能是 1 或 0。");
+}
+
+void RequireBelow(const GridColumn& column, double figure) {
+    if (!std::isfinite(figure) || (column.below > 0 && std::fabs(figure) >= column.below))
+        throw GestureRefused("“" + column.caption + "”必须小于 " + FormatFixed(column.below, 0, true) + "。");
+}
+
 } // namespace
+
+Value TypedValue(const GridColumn& column, const std::string& text) {
+    if (column.type == CellType::Text)
+        return column.maxBytes > 0 ? TruncateToBytes(text, column.maxBytes) : text;
+    if (column.type == CellType::Check)
+        return TypedTick(column, text);
+    std::string digits;
+    for (const char c : text)
+        if (c != ',')
+            digits += c;
+    if (Trim(digits).empty())
+        return {};
+    if (!IsNumericText(digits))
+        throw GestureRefused("“" + column.caption + "”只能输入数字。");
+    const double number = Val(digits);
+    RequireBelow(column, number);
+    if (RoundDecimal(number, column.decimals) != number)
+        throw GestureRefused("“" + column.caption + "”最多 " + std::to_string(column.decimals) + " 位小数。");
+    return number;
+}
 
 bool LeaveFocus(Screen& screen) {
     Control* held = screen.Focus();
@@ -262,8 +277,15 @@ void TypeCell(Screen& screen, Grid& grid, int row, int column, const std::string
     }
     grid.selectedRow = row;
     grid.selectedColumn = column;
+    grid.refusedRow = 0;
+    const Value before = grid.Cell(row, column);
     Guarded(screen, [&] {
         grid.SetCell(row, column, typed);
+        if (const int beyond = grid.ColumnOutOfBounds(row); beyond > 0) {
+            const double figure = grid.Number(row, beyond);
+            grid.SetCell(row, column, before);
+            RequireBelow(grid.Column(beyond), figure);
+        }
         if (grid.onCellLeave)
             grid.onCellLeave(row, column);
     });
@@ -275,6 +297,8 @@ bool StepByEnter(Screen& screen, Grid& grid) {
     if (first == 0 || row < 1)
         return false;
     const bool blank = grid.Text(row, first).empty();
+    if (blank && grid.refusedRow == row)
+        return true; // something was typed here and found nothing: no Enter goes on from it
     const int next = blank ? 0 : ColumnAfter(grid, grid.selectedColumn);
     if (next != 0) {
         grid.selectedColumn = next;
@@ -289,11 +313,20 @@ bool StepByEnter(Screen& screen, Grid& grid) {
     return true;
 }
 
+void PasteBlock(Screen& screen, Grid& grid, const CellBlock& block) {
+    if (grid.readOnly || !grid.onPaste)
+        throw GestureRefused(grid.name + " 不能粘贴。");
+    if (!block.empty() && GoTo(screen, grid))
+        Guarded(screen, [&] { grid.onPaste(block); });
+}
+
 void SelectRow(Screen& screen, Grid& grid, int row) {
     RequireRow(grid, row);
     if (!GoTo(screen, grid))
         return;
     grid.selectedRow = row;
+    if (grid.refusedRow != row)
+        grid.refusedRow = 0;
     if (grid.onSelect)
         Guarded(screen, [&] { grid.onSelect(row); });
 }

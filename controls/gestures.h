@@ -48,12 +48,17 @@ void Click(Screen& screen, Command& command);
 void PressKey(Screen& screen, Control& control, const std::string& key);
 
 // Goes to the cell, types, leaves it. A row one past the last is appended by Enter on the last row where the
-// screen does so.
+// screen does so. A figure beyond its column's bound, typed or worked out from what was typed, refuses the
+// gesture; so does a row whose typed text found nothing: see Grid::refusedRow.
 void TypeCell(Screen& screen, Grid& grid, int row, int column, const std::string& text);
 // Enter in the selected cell, which has been left: selects the cell where a person types next, in the order of
 // the grid's enterColumns; behind the last row's last one, the screen's new row. False when there is none: the
 // focus then goes to the next control.
 bool StepByEnter(Screen& screen, Grid& grid);
+// The value that typing `text` into a cell of the column gives.
+Value TypedValue(const GridColumn& column, const std::string& text);
+// Pastes a block of cells into a grid that takes blocks.
+void PasteBlock(Screen& screen, Grid& grid, const CellBlock& block);
 void SelectRow(Screen& screen, Grid& grid, int row);
 void DoubleClickRow(Screen& screen, Grid& grid, int row);
 void ClickHeading(Screen& screen, Grid& grid, int column);

@@ -1,6 +1,7 @@
 #include "controls/grid.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "controls/screen.h"
 #include "controls/text.h"
@@ -31,17 +32,35 @@ void Grid::SetColumns(std::vector<GridColumn> columns) {
 }
 
 void Grid::SetFormula(int column, std::string_view formula) {
-    std::erase_if(formulas_, [&](const Formula& f) { return f.column == column; });
-    if (formula.empty())
+    const auto isOf = [&](const Formula& f) { return f.column == column; };
+    if (formula.empty()) {
+        std::erase_if(formulas_, isOf);
         return;
-    formulas_.push_back({column, std::string(formula), RowFormula(formula)});
-    for (const int read : formulas_.back().compiled.Reads())
-        if (read > ColumnCount()) {
-            formulas_.pop_back();
-            throw FormulaError("公式 " + std::string(formula) + " 有误：没有第 " + std::to_string(read) +
-                               " 列。");
-        }
+    }
+    Formula wanted{column, std::string(formula), RowFormula(formula)};
+    for (const int read : wanted.compiled.Reads())
+        if (read > ColumnCount())
+            throw FormulaError("公式 " + wanted.text + " 有误：没有第 " + std::to_string(read) + " 列。");
+    if (ReadsItself(wanted))
+        throw FormulaError("公式 " + wanted.text + " 循环引用。");
+    std::erase_if(formulas_, isOf);
+    formulas_.push_back(std::move(wanted));
     OrderFormulas();
+}
+
+// Straight, or over the formulas of other columns.
+bool Grid::ReadsItself(const Formula& wanted) const {
+    std::vector<int> reached = wanted.compiled.Reads();
+    for (size_t i = 0; i < reached.size(); ++i) {
+        if (reached[i] == wanted.column)
+            return true;
+        for (const Formula& other : formulas_)
+            if (other.column == reached[i])
+                for (const int read : other.compiled.Reads())
+                    if (std::find(reached.begin(), reached.end(), read) == reached.end())
+                        reached.push_back(read);
+    }
+    return false;
 }
 
 bool Grid::HasFormula(int column) const {
@@ -49,6 +68,7 @@ bool Grid::HasFormula(int column) const {
                        [&](const Formula& f) { return f.column == column; });
 }
 
+// A formula behind those that it reads; there is no circle among them.
 void Grid::OrderFormulas() {
     std::vector<Formula> ordered;
     while (!formulas_.empty()) {
@@ -57,11 +77,6 @@ void Grid::OrderFormulas() {
                                [&](int read) { return HasFormula(read); });
         };
         const auto next = std::find_if_not(formulas_.begin(), formulas_.end(), waits);
-        if (next == formulas_.end()) {
-            const std::string text = formulas_.front().text;
-            formulas_ = std::move(ordered);
-            throw FormulaError("公式 " + text + " 循环引用。");
-        }
         ordered.push_back(std::move(*next));
         formulas_.erase(next);
     }
@@ -81,7 +96,10 @@ void Grid::Evaluate(int row, std::optional<int> changed) {
         });
         if (!due)
             continue;
-        const Value value = formula.compiled.Evaluate([&](int column) { return Number(row, column); });
+        double result = formula.compiled.Evaluate([&](int column) { return Number(row, column); });
+        if (const GridColumn& settings = Column(formula.column); settings.rounded)
+            result = RoundDecimal(result, settings.decimals);
+        const Value value = result;
         Value& cell = rows_[static_cast<size_t>(row - 1)].cells[static_cast<size_t>(formula.column - 1)];
         if (cell == value)
             continue;
@@ -95,6 +113,15 @@ void Grid::Evaluate(int row, std::optional<int> changed) {
 void Grid::Recalculate() {
     for (int row = 1; row <= RowCount(); ++row)
         Evaluate(row, std::nullopt);
+}
+
+int Grid::ColumnOutOfBounds(int row) const {
+    for (int column = 1; column <= ColumnCount(); ++column) {
+        const double bound = Column(column).below;
+        if (bound > 0 && !(std::fabs(Number(row, column)) < bound)) // no number is not below either
+            return column;
+    }
+    return 0;
 }
 
 void Grid::SetRowCount(int rows) {

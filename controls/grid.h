@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "controls/cell_block.h"
 #include "controls/control.h"
 #include "controls/row_formula.h"
 
@@ -33,7 +34,9 @@ struct GridColumn {
     bool locked = false; // against typing
     Alignment alignment = Alignment::Left;
     Color textColor = kNormalColor;
-    int maxBytes = 0; // typed text is cut to this many bytes, 0 for no limit
+    int maxBytes = 0;     // typed text is cut to this many bytes, 0 for no limit
+    double below = 0;     // what is typed may not make a figure of the column this large, 0 for no bound
+    bool rounded = false; // the formula's result has the column's decimals, as it is shown
 };
 
 struct Grid : Control {
@@ -44,11 +47,14 @@ struct Grid : Control {
     int ColumnCount() const { return static_cast<int>(columns_.size()); }
     GridColumn& Column(int column) { return columns_.at(static_cast<size_t>(column - 1)); }
     const GridColumn& Column(int column) const { return columns_.at(static_cast<size_t>(column - 1)); }
-    // "" removes the formula. A formula that reads itself, straight or over others, is a FormulaError.
+    // "" removes the formula. A formula that reads itself, straight or over others, is a FormulaError, which
+    // changes nothing.
     void SetFormula(int column, std::string_view formula);
     bool HasFormula(int column) const;
     // Works the formulas out anew for every row.
     void Recalculate();
+    // The first column of the row with a figure that is not finite or reaches its column's bound; 0 for none.
+    int ColumnOutOfBounds(int row) const;
 
     // Rows.
     int RowCount() const { return static_cast<int>(rows_.size()); }
@@ -86,11 +92,16 @@ struct Grid : Control {
     // The columns that Enter leads through while rows are typed; empty for all that take typing.
     std::vector<int> enterColumns;
     bool readOnly = false; // no typing at all
+    // The row whose typed text was not taken and is gone: its cell keeps the cursor until something is taken
+    // there or the person goes elsewhere. 0 for none.
+    int refusedRow = 0;
     bool CanType(int column) const { return !readOnly && !Column(column).locked && !HasFormula(column); }
 
     std::function<void(int row, int column)> onCellChange;
     std::function<void(int row, int column)> onCellLeave; // a person leaves a cell that was typed into
     std::function<void()> onEnterKey;                     // Enter on the last row
+    // Takes a block of cells whole or not at all; without it a view types a pasted block cell by cell.
+    std::function<void(const CellBlock& block)> onPaste;
     std::function<void(int column)> onHeading;
     std::function<void(int row)> onSelect;
     std::function<void(int row)> onDoubleClick;
@@ -111,6 +122,7 @@ struct Grid : Control {
         RowFormula compiled;
     };
     void CheckPlace(int row, int column) const;
+    bool ReadsItself(const Formula& wanted) const;
     void OrderFormulas();
     // Evaluates the row's formulas in dependency order, all of them or those that `changed` reaches.
     void Evaluate(int row, std::optional<int> changed);

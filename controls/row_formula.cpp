@@ -72,12 +72,13 @@ void DefineLanguage(mu::Parser& parser) {
     parser.DefineOprt("*", Multiply, mu::prMUL_DIV);
     parser.DefineOprt("/", Divide, mu::prMUL_DIV);
     parser.DefineOprt("^", Power, mu::prPOW, mu::oaRIGHT);
-    parser.DefineFun("IF", If);
+    for (const char* spelling : {"IF", "If", "iF", "if"})
+        parser.DefineFun(spelling, If);
 }
 
-// The column of "J#" or "AA#"; 0 for any other name.
+// The column of "J#" or "AA#"; 0 for any other name. No grid has columns of more than three letters.
 int ColumnOf(const std::string& name) {
-    if (name.size() < 2 || name.back() != '#')
+    if (name.size() < 2 || name.size() > 4 || name.back() != '#')
         return 0;
     int column = 0;
     for (size_t i = 0; i + 1 < name.size(); ++i) {

@@ -71,7 +71,7 @@ void ShowModal(Screen& screen) {
         screen.Open();
     } catch (const std::exception& error) {
         screen.Close();
-        Warn(screen.title, error.what());
+        WarnOfError(screen.title, error);
         return;
     }
     try {

@@ -31,8 +31,10 @@ struct Screen {
     // Loads what the screen shows when it opens. It may show messages, and may Close() the screen again.
     virtual void Open() = 0;
 
-    // What is asked of a person who leaves by the window, where typed work would be lost; "" for nothing.
+    // What is asked of a person before typed work would be lost; "" when there is none.
     virtual std::string UnsavedWork() const { return ""; }
+    // Saves it, with the questions of saving. Work that is still unsaved afterwards was not.
+    virtual void SaveWork() {}
 
     bool IsOpen() const { return open_; }
     void Close() { open_ = false; }

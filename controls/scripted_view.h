@@ -26,15 +26,23 @@ class ScriptedView : public View {
     std::vector<MessageBox> boxes;    // shown so far
     std::vector<std::string> screens; // opened so far
     std::vector<std::string> notices;
+    std::vector<std::string> told; // lines beside the work
     std::vector<std::string> addresses;
     std::vector<std::string> steps; // of progress
     std::vector<std::string> dialled;
     std::string clipboard;
+    std::vector<int> waits; // the seconds told of each waiting, -1 at its end
+    bool patient = true;
 
     void RunModal(Screen& screen) override;
     BoxButton ShowBox(const MessageBox& box) override;
     void ShowProgress(const std::string& step, int done, int total) override;
     void ShowNotice(const std::string& title, const std::string& text) override;
+    void Signal(const std::string& text) override { told.push_back(text); }
+    bool KeepWaiting(int seconds) override {
+        waits.push_back(seconds);
+        return patient;
+    }
     void OpenAddress(const std::string& address) override { addresses.push_back(address); }
     void DialNumber(const std::string& number) override { dialled.push_back(number); }
     std::string Clipboard() override { return clipboard; }

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 
 namespace jxc {
 
@@ -50,7 +48,12 @@ double ParseNumber(std::string_view number) {
         number.remove_prefix(1);
     double value = 0;
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
-    return error == std::errc() ? value : 0;
+    if (error == std::errc())
+        return value;
+    // Too large for a number, unless it is too small.
+    const size_t exponent = number.find_first_of("eE");
+    const bool small = exponent != std::string_view::npos && number[exponent + 1] == '-';
+    return error == std::errc::result_out_of_range && !small ? HUGE_VAL : 0;
 }
 
 std::string_view WithoutLeadingBlanks(std::string_view text) {
@@ -125,14 +128,18 @@ double RoundDecimal(double number, int decimals, Halves halves) {
     }
     // The 15 digits a person would see, as digits and a decimal exponent.
     char text[40];
-    std::snprintf(text, sizeof text, "%.14e", std::fabs(number));
-    const int exponent = std::atoi(text + 17);
+    const char* const end =
+        std::to_chars(text, text + sizeof text, std::fabs(number), std::chars_format::scientific, 14).ptr;
+    int exponent = 0; // behind "d.dddddddddddddde" and its sign
+    std::from_chars(text + 18, end, exponent);
+    if (text[17] == '-')
+        exponent = -exponent;
     std::string digits;
     digits += text[0];
     digits.append(text + 2, 14);
     const int kept = exponent + 1 + decimals; // digits before the cut
     if (kept >= static_cast<int>(digits.size()))
-        return ParseNumber((number < 0 ? "-" : "") + std::string(text));
+        return ParseNumber((number < 0 ? "-" : "") + std::string(text, static_cast<size_t>(end - text)));
     if (kept < 0)
         return 0;
     const std::string rest = digits.substr(static_cast<size_t>(kept));
@@ -156,8 +163,9 @@ double RoundDecimal(double number, int decimals, Halves halves) {
 std::string FormatFixed(double number, int decimals, bool thousands) {
     const double rounded = RoundDecimal(number, decimals);
     char buffer[400];
-    std::snprintf(buffer, sizeof buffer, "%.*f", decimals, std::fabs(rounded));
-    std::string text = buffer;
+    const auto [end, error] =
+        std::to_chars(buffer, buffer + sizeof buffer, std::fabs(rounded), std::chars_format::fixed, decimals);
+    std::string text(buffer, end);
     if (thousands) {
         size_t point = text.find('.');
         if (point == std::string::npos)

@@ -1,5 +1,6 @@
 // Texts as users type and read them: UTF-8, leading-number conversion, display of numbers, lengths in bytes
-// of the local code page (where a Chinese character counts 2).
+// of the local code page (where a Chinese character counts 2). The decimal point is a point whatever the
+// country's locale says: no number passes through the C library's formatting.
 #pragma once
 
 #include <string>
@@ -8,7 +9,8 @@
 
 namespace jxc {
 
-// The number at the start of `text` after blanks: sign, digits, point, exponent; 0 when there is none.
+// The number at the start of `text` after blanks: sign, digits, point, exponent; 0 when there is none, infinite
+// when it is too large for a number.
 double Val(std::string_view text);
 // Whether the whole text, blanks around it apart, is one number.
 bool IsNumericText(std::string_view text);

@@ -1,5 +1,9 @@
 #include "controls/view.h"
 
+#include <typeinfo>
+
+#include "controls/log.h"
+
 namespace jxc {
 
 namespace {
@@ -16,6 +20,10 @@ std::string_view ButtonName(BoxButton button) {
         return "Yes";
     case BoxButton::No:
         return "No";
+    case BoxButton::Save:
+        return "Save";
+    case BoxButton::Discard:
+        return "Discard";
     }
     return "";
 }
@@ -54,6 +62,21 @@ void Warn(const std::string& title, const std::string& text) {
     CurrentView().ShowBox({title, text, BoxIcon::Warning, {BoxButton::OK}});
 }
 
+void WarnOfFailure(const std::string& title, const std::string& text, const std::string& cause) {
+    const bool itself = text == cause; // there is no more to tell
+    Log(title, itself ? text : text + " " + cause);
+    CurrentView().ShowBox({title, text, BoxIcon::Warning, {BoxButton::OK}, itself ? "" : cause});
+}
+
+void WarnOfError(const std::string& title, const std::exception& error) {
+    if (dynamic_cast<const std::runtime_error*>(&error)) {
+        Log(title, error.what());
+        return Warn(title, error.what());
+    }
+    WarnOfFailure(title, "程序出现内部错误，本次操作没有完成。请把日志交给技术支持：" + LogFile(),
+                  std::string(typeid(error).name()) + "：" + error.what());
+}
+
 void Inform(const std::string& title, const std::string& text) {
     CurrentView().ShowBox({title, text, BoxIcon::Information, {BoxButton::OK}});
 }
@@ -66,6 +89,12 @@ bool AskOkCancel(const std::string& title, const std::string& text) {
 bool AskYesNo(const std::string& title, const std::string& text) {
     const MessageBox box{title, text, BoxIcon::Question, {BoxButton::Yes, BoxButton::No}};
     return CurrentView().ShowBox(box) == BoxButton::Yes;
+}
+
+BoxButton AskSaveOrDiscard(const std::string& title, const std::string& text) {
+    MessageBox box{title, text, BoxIcon::Question, {BoxButton::Save, BoxButton::Discard, BoxButton::Cancel}};
+    box.preset = 2;
+    return CurrentView().ShowBox(box);
 }
 
 } // namespace jxc

@@ -2,6 +2,7 @@
 // at a time.
 #pragma once
 
+#include <exception>
 #include <string>
 #include <vector>
 
@@ -10,16 +11,18 @@
 namespace jxc {
 
 enum class BoxIcon { Information, Warning, Question };
-enum class BoxButton { OK, Cancel, Yes, No };
+enum class BoxButton { OK, Cancel, Yes, No, Save, Discard };
 
 struct MessageBox {
     std::string title;
     std::string text;
     BoxIcon icon = BoxIcon::Information;
     std::vector<BoxButton> buttons{BoxButton::OK};
+    std::string details = {}; // the cause as the engine told it, shown on demand; "" for none
+    size_t preset = 0;        // the button that Enter presses
 };
 
-std::string_view ButtonName(BoxButton button); // "OK", "Cancel", "Yes", "No"
+std::string_view ButtonName(BoxButton button); // "OK", "Cancel", "Yes", "No" ...
 std::string_view IconName(BoxIcon icon);       // "information", "warning", "question"
 
 class View {
@@ -32,7 +35,12 @@ class View {
     virtual void ShowProgress(const std::string& step, int done, int total) = 0;
     // A text to read, or a tree to print.
     virtual void ShowNotice(const std::string& title, const std::string& text) = 0;
+    // A line beside the work and a sound; nothing waits for an answer, so the next key answers nothing.
+    virtual void Signal(const std::string& text) = 0;
     // Opens a file, mail or web address with the desktop's program.
+    // The database has not answered for so many seconds, perhaps because another user is saving; -1 when it has.
+    // False when the person gives up: the work then fails with that reason.
+    virtual bool KeepWaiting(int seconds) = 0;
     virtual void OpenAddress(const std::string& address) = 0;
     // Starts the dialer with a number, "" without one; nothing where the platform has no dialer.
     virtual void DialNumber(const std::string& number) = 0;
@@ -53,12 +61,32 @@ class ViewInUse {
     View* before_;
 };
 
+// Ends the report of long work however its block is left.
+struct ProgressEnds {
+    ProgressEnds() = default;
+    ~ProgressEnds() {
+        try {
+            CurrentView().ShowProgress("", 0, 0);
+        } catch (...) { // a view that fails here has no more to end
+        }
+    }
+    ProgressEnds(const ProgressEnds&) = delete;
+    ProgressEnds& operator=(const ProgressEnds&) = delete;
+};
+
 // What a box of one line takes of the clipboard: its text up to the first line end.
 std::string ClipboardLine();
 
 void Warn(const std::string& title, const std::string& text);
+// The message of work that failed; its cause goes to the log and is shown on demand.
+void WarnOfFailure(const std::string& title, const std::string& text, const std::string& cause);
+// An error that no routine expected: a fault of the program, told as such. Errors of people and of the world are
+// runtime errors with a text for people, which is told as it is.
+void WarnOfError(const std::string& title, const std::exception& error);
 void Inform(const std::string& title, const std::string& text);
 bool AskOkCancel(const std::string& title, const std::string& text); // true for OK
 bool AskYesNo(const std::string& title, const std::string& text);    // true for Yes
+// What becomes of typed work: Save, Discard or Cancel, and Enter means Cancel.
+BoxButton AskSaveOrDiscard(const std::string& title, const std::string& text);
 
 } // namespace jxc

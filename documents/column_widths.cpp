@@ -22,6 +22,10 @@ int ColumnOf(const Grid& grid, const Recordset& row) {
 
 } // namespace
 
+std::string ColumnWidthsStatement() {
+    return kColumns;
+}
+
 void LoadColumnWidths(frmDj02& s) {
     for (Recordset row(Conn(), kColumns); !row.AtEnd(); row.MoveNext())
         if (const int column = ColumnOf(s.Grid2, row); column > 0 && row["FieldGridWidth"].AsDouble() > 0)

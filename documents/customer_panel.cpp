@@ -18,15 +18,22 @@ std::string KindText(std::int64_t kind) {
     return kind == 1 ? "“供应商”" : kind == 2 ? "“销售商”" : kind == 3 ? "“代销商”" : "";
 }
 
+std::string AddressesStatement(std::int64_t id) {
+    return "select fKhAdd from tJXC_KhAdd Where fKhID = " + std::to_string(id) + " Order by fKhAdd";
+}
+
+std::string CardStatement(std::int64_t id) {
+    return "select fID,name,compname,CompAdd,postcode,CompCode,telphone,handphone,fax,E_mail,http,fType0 "
+           "from cards where fID=" +
+           std::to_string(id);
+}
+
 void FillAddresses(frmDj02& s, std::int64_t id) {
     const std::string shown = s.cboKhAdd.text;
     s.cboKhAdd.Clear();
-    if (id > 0) {
-        const std::string sql =
-            "select fKhAdd from tJXC_KhAdd Where fKhID = " + std::to_string(id) + " Order by fKhAdd";
-        for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext())
+    if (id > 0)
+        for (Recordset row(Conn(), AddressesStatement(id)); !row.AtEnd(); row.MoveNext())
             s.cboKhAdd.items.push_back(row["fKhAdd"].AsText());
-    }
     s.cboKhAdd.text = shown;
 }
 
@@ -47,11 +54,7 @@ bool FillCardFields(frmDj02& s, const Recordset& card) {
 }
 
 Recordset CardOf(std::int64_t id) {
-    return Recordset(
-        Conn(),
-        "select fID,name,compname,CompAdd,postcode,CompCode,telphone,handphone,fax,E_mail,http,fType0 "
-        "from cards where fID=" +
-            std::to_string(id));
+    return Recordset(Conn(), CardStatement(id));
 }
 
 bool ConfirmAddress(const frmDj02& s, const char* verb, const std::string& address) {
@@ -91,6 +94,7 @@ void SeekCustomer(frmDj02& s) {
 void RefreshCustomer(frmDj02& s) {
     s.txtKhSeek.tag.clear();
     const std::int64_t id = s.CustomerId();
+    const ReadAhead ahead(Conn(), {{CardStatement(id)}, {AddressesStatement(id)}});
     const Recordset card = CardOf(id);
     FillCardFields(s, card);
     FillAddresses(s, id);
@@ -112,7 +116,9 @@ void ShowCustomer(frmDj02& s, std::int64_t id) {
     ClearCardFields(s);
     if (id <= 0)
         return;
-    const Recordset row(Conn(), "select fID,CompCode,compname from cards Where fID = " + std::to_string(id));
+    const std::string sql = "select fID,CompCode,compname from cards Where fID = " + std::to_string(id);
+    const ReadAhead ahead(Conn(), {{sql}, {CardStatement(id)}, {AddressesStatement(id)}});
+    const Recordset row(Conn(), sql);
     if (row.AtEnd()) {
         s.txtKhSeek.tag = std::to_string(id);
         s.txtKhSeek.text = "(" + std::to_string(id) + ") - Error";

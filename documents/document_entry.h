@@ -2,26 +2,41 @@
 // that write to the database say so.
 #pragma once
 
+#include <map>
 #include <string>
+#include <vector>
 
 #include "documents/frmDj02.h"
+#include "session/database/connection.h"
 
 namespace jxc {
 
 // -- set_up_document.cpp: captions, visibility and lists by the type
+// Whether a received or paid amount may be entered with a document of the type: at the moment of approval.
+bool OffersPayment(const frmDj02& s, const TypeRow& type);
 // Reads type row and parameters and shapes the screen. A ScreenError when the type is not in use.
 void SetUpDocument(frmDj02& s);
 // Empties everything for the next new document and goes to the date.
 void ResetDocument(frmDj02& s);
-// Another type for the new document: its row is read, the screen stays as it is.
-void ChooseType(frmDj02& s);
 // Warehouses and summaries anew, the choice kept.
 void RefillWarehouses(frmDj02& s);
 void RefillSummaries(frmDj02& s);
 
+// -- choose_type.cpp
+// Another type for the new document: its row is read, the screen stays as it is; title, sign and automatic number
+// follow. A type whose documents have another shape is refused, with a message that says where to begin one.
+void ChooseType(frmDj02& s);
+
+// -- unsaved_work.cpp
+// What a person can type into the document, as one text: two documents with the same text are alike. The number
+// of a new document is not part of it, nor are rows without a product.
+std::string TypedWork(const frmDj02& s);
+
 // -- load_document.cpp: a stored document into the screen
 // Shows "该[单号]已不存在!" when it is gone, "系统数据错误，操作已经取消！" on any error; false then.
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key);
+// The statement of its lines on one side (fInv1), with their products: 0, or 1 for a kit's finished product.
+std::string LinesStatement(const std::string& stem, std::int32_t key, int fInv1);
 // The document before or after the one shown; no hit disables that direction.
 void StepToDocument(frmDj02& s, bool next);
 
@@ -41,23 +56,43 @@ void DeleteLine(frmDj02& s);
 void EnterGrid(frmDj02& s);
 void LeaveCell(frmDj02& s, int row, int column);
 void RefreshGridStock(frmDj02& s); // stock and reference price of all rows
-void RefreshRowStock(frmDj02& s, int row);
+// Today's stock and reference price of the products in all rows, read at once; one that is gone has neither.
+struct LineFigures {
+    std::map<std::int64_t, double> stock, reference;
+};
+LineFigures ReadLineFigures(const frmDj02& s);
+void ShowRowFigures(frmDj02& s, int row, const LineFigures& figures);
 void RefreshTotals(frmDj02& s);
-void SetReturnSign(frmDj02& s);  // after chkTh changed
-void SpreadTaxRate(frmDj02& s);  // the rate field into every row
-void SpreadDiscount(frmDj02& s); // the discount field into every row, unless it is 0
+void SetReturnSign(frmDj02& s); // after chkTh changed
+// The rate field, or the discount field unless it is 0, into every row. False when it is out of bounds: a message
+// has told so, and the field keeps the focus.
+bool SpreadTaxRate(frmDj02& s);
+bool SpreadDiscount(frmDj02& s);
+
+// -- paste_lines.cpp
+// Lines from a spreadsheet, in the order code, quantity, price, memo; a block as wide as the grid is its own, column by
+// column. One column elsewhere goes down the lines that are there. Existing lines are never overwritten, and the
+// block is taken whole or not at all: a message names the rows that do not fit.
+void PasteLines(frmDj02& s, const CellBlock& block);
+// A line of the product, its stock and prices read; 0 when the code names none. Part of line entry.
+std::int32_t FillLineByCode(frmDj02& s, int row, const std::string& code);
+std::vector<Connection::Expected> LineStatements(const frmDj02& s, const std::string& code); // that it reads
 
 // -- header_fields.cpp
-bool LeaveDate(frmDj02& s); // not before the period; in Action 1 the number follows
+void MakeNumber(frmDj02& s); // the automatic number by date and rule; one too long for the field is told
+bool LeaveDate(frmDj02& s);  // not before the period; in Action 1 the number follows
 void ChooseWarehouse(frmDj02& s, bool second);
 void ChooseCurrency(frmDj02& s);
-void FormatPayment(frmDj02& s);
+std::string RateStatement(const std::string& currency); // with which it reads the rate
+void ShowRate(frmDj02& s, double rate);
+void LeaveRate(frmDj02& s);     // a rate that is none is told, and the one before comes back
+bool FormatPayment(frmDj02& s); // false when it is out of bounds: a message has told so
 
 // -- kit_panel.cpp: the finished product of assembly and dismantling
 void SeekFinishedProduct(frmDj02& s, bool byCode); // by what was typed; not found empties the panel
 void LoadFinishedProduct(frmDj02& s, const std::string& stem, std::int32_t key);
 void ClearFinishedProduct(frmDj02& s);
-void ChangeKitQuantity(frmDj02& s); // the parts follow
+bool ChangeKitQuantity(frmDj02& s); // the parts follow; false when it is out of bounds
 double KitQuantity(const frmDj02& s);
 
 // -- card_links.cpp: what lies beside the document
@@ -69,6 +104,7 @@ void OpenWarehouses(frmDj02& s);
 void OpenSummaries(frmDj02& s);
 
 // -- column_widths.cpp: widths of the grid's columns, kept in the dictionary of printed documents
+std::string ColumnWidthsStatement();
 void LoadColumnWidths(frmDj02& s);
 void SaveColumnWidths(frmDj02& s); // writes tJXC_rptListDetail
 

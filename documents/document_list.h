@@ -36,8 +36,18 @@ struct DayRange {
 std::optional<DayRange> FilteredDays(const frmDj01& s);
 
 // -- list_grids.cpp
-// Fills the grid that the query is for and empties the other.
-void FillGrids(frmDj01& s, const ListQuery& query);
+// Fills the grid that the query is for and empties the other. Without rows, unless `empties`, everything stays as it
+// is; the number of rows.
+size_t FillGrids(frmDj01& s, const ListQuery& query, bool empties);
+// How the rows of a grid were sorted and which was selected, to be found again when they are filled anew.
+struct SortAndSelection {
+    std::string sortedField; // "" when the rows are in the query's order
+    bool ascending = true;
+    int row = 0;
+    std::int64_t document = 0;
+};
+SortAndSelection KeepSortAndSelection(frmDj01& s, bool lines);
+void RefillList(frmDj01& s, const SortAndSelection& kept);
 // The rows as they are now, in the order and with the document selected that they had.
 void RefreshList(frmDj01& s);
 Grid& GridOf(frmDj01& s, bool lines);
@@ -45,6 +55,8 @@ Grid& GridOf(frmDj01& s, bool lines);
 Grid* FrontGrid(frmDj01& s);
 
 // -- open_from_list.cpp
+// Whether the rows shown are of closed periods, which are read only.
+bool ShowsClosedBook(const frmDj01& s);
 // Hands a document to frmDj02 and refreshes the list afterwards. With rowFlag -1, and for every action but a
 // new document, it is the selected row's; nothing happens without one. `fromType` is the source's type of a
 // new document, 0 without a source.

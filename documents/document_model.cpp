@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "controls/text.h"
+#include "documents/bounds.h"
 
 namespace jxc {
 
@@ -19,6 +20,12 @@ GridColumn Number(const char* caption, int decimals, double width = 10) {
             .alignment = Alignment::Right};
 }
 
+GridColumn Number(const char* caption, int decimals, double width, double bound) {
+    GridColumn column = Number(caption, decimals, width);
+    column.below = bound;
+    return column;
+}
+
 std::vector<GridColumn> LineColumns(const TypeRow& type, const Parameters& parameters) {
     const bool stocktake = type.IsStocktake();
     std::vector<GridColumn> columns{
@@ -26,14 +33,14 @@ std::vector<GridColumn> LineColumns(const TypeRow& type, const Parameters& param
         {.caption = "品名规格", .width = 28},
         {.caption = "单位", .width = 6},
         Number(stocktake ? "帐面数" : "库存数", parameters.quantityDecimals),
-        Number("实盘数", parameters.quantityDecimals),
-        Number(stocktake ? "盈亏数" : "数量", parameters.quantityDecimals),
+        Number("实盘数", parameters.quantityDecimals, 10, below::kQuantity),
+        Number(stocktake ? "盈亏数" : "数量", parameters.quantityDecimals, 10, below::kQuantity),
         Number("参考价", parameters.priceDecimals),
         Number("折扣率", 4),
-        Number("单价", parameters.priceDecimals),
-        Number("金额", 2, 12),
-        Number("税率", 4, 8),
-        Number("税额", 2),
+        Number("单价", parameters.priceDecimals, 10, below::kPrice),
+        Number("金额", 2, 12, below::kAmount),
+        Number("税率", 4, 8, below::kTaxRate),
+        Number("税额", 2, 10, below::kAmount),
         {.caption = parameters.memo1, .width = 14, .maxBytes = kMemoBytes},
         {.caption = parameters.memo2, .width = 14, .maxBytes = kMemoBytes},
         Number("结余数", parameters.quantityDecimals),
@@ -64,8 +71,10 @@ void SetFormulas(Grid& grid, const TypeRow& type, const Parameters& parameters, 
         return;
     }
     grid.SetFormula(line::kAmount, "F#*I#");
-    if (type.fSetDjType2 == 5)
+    if (type.fSetDjType2 == 5) {
         grid.SetFormula(line::kPrice, "G#*H#");
+        grid.Column(line::kPrice).rounded = true; // the amount is that of the price that is seen and stored
+    }
     if (type.IsStocktake())
         grid.SetFormula(line::kQuantity, "E#-D#");
     if (parameters.taxWay == TaxWay::OnTop)

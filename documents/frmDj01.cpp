@@ -49,25 +49,32 @@ void GoToTab(frmDj01& s, int tab) {
     ShowTab(s);
 }
 
-// Closed documents are read only.
+// Closed documents are read only: those that are shown, whatever has been ticked for the next query.
 void AllowActions(frmDj01& s) {
+    const bool closed = ShowsClosedBook(s);
     if (s.Mode() == ListMode::OneType)
         for (const DocAction action :
              {DocAction::New, DocAction::Change, DocAction::Delete, DocAction::Approve})
-            s.CmdAction[static_cast<int>(action)].enabled = !s.chkJz.value;
+            s.CmdAction[static_cast<int>(action)].enabled = !closed;
     s.mnuShCheck.enabled = s.mnuShUncheck.enabled = s.CmdAction[static_cast<int>(DocAction::Approve)].enabled;
 }
 
+// A query without a hit leaves the rows of the one before, with all that hangs on them. The first one is kept all
+// the same: a document that is entered from the empty list appears in it.
 void List(frmDj01& s) {
+    const std::string before = s.title;
     ShowTitle(s);
     const ListQuery query = BuildQuery(s);
-    FillGrids(s, query);
-    s.shown = query;
-    if (GridOf(s, query.lines).RowCount() > 0)
-        GoToTab(s, ListTab(s));
-    else
-        Warn(s.title, "未有符合条件的单据记录！");
+    const bool first = s.shown.sql.empty();
+    const size_t rows = FillGrids(s, query, first);
+    if (rows > 0 || first)
+        s.shown = query;
     AllowActions(s);
+    if (rows > 0)
+        return GoToTab(s, ListTab(s));
+    Warn(s.title, "未有符合条件的单据记录！");
+    if (!first)
+        s.title = before;
 }
 
 void ShowAllCommands(frmDj01& s) {

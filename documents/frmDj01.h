@@ -26,12 +26,23 @@ struct ConversionItem : MenuItem {
     const int target;
 };
 
+// What a column of the list makes of its field.
+enum class Show { Text, Day, Status, Product, Quantity, Price, Amount, Hidden };
+
+struct ListColumn {
+    std::string caption;
+    std::string field;
+    double width;
+    Show show = Show::Text;
+    bool unselected = false; // the company does not want to see it
+};
+
 // What a query asks: its statement, the stem of the book it reads, and whether it gives lines or documents.
 struct ListQuery {
     std::string sql = {};
     std::string stem = {};
     bool lines = false;
-    // What the filters read then, for the print-out.
+    // What the filters read then, for the print-out; nothing of those that were not ticked.
     std::optional<Date> from = {};
     std::optional<Date> to = {};
     std::string warehouse = {};
@@ -119,6 +130,8 @@ struct frmDj01 : Screen {
     std::string DjCode;
     std::uint8_t DjJz = 0;
 
+    // The columns of Grid1 and Grid2 in their order.
+    std::vector<ListColumn> columns[2];
     // The query whose rows are shown; without a statement before the first.
     ListQuery shown;
     // The document in hand and its approver.

@@ -1,5 +1,6 @@
 #include "documents/frmDj02.h"
 
+#include "controls/gestures.h"
 #include "controls/text.h"
 #include "controls/view.h"
 #include "documents/document_entry.h"
@@ -7,12 +8,11 @@
 #include "session/edit_filter.h"
 #include "session/lists.h"
 #include "session/lookups.h"
+#include "settings/document_numbers.h"
 
 namespace jxc {
 
 namespace {
-
-constexpr int kNumberBytes = 20;
 
 void WireHead(frmDj02& s) {
     for (Control* control : std::initializer_list<Control*>{
@@ -30,8 +30,12 @@ void WireHead(frmDj02& s) {
     FilterKeys(s.txtInvHbDl, 12, true);
     FilterKeys(s.txtTaxRate, 8, true);
     FilterKeys(s.txtZkl, 8, true);
-    for (TextBox* box : {&s.txtNo, &s.txtHtNo, &s.txtKhSeek})
-        box->onLeave = [box] { return CheckNoQuote(box->text); };
+    for (TextBox* box : {&s.txtNo, &s.txtHtNo})
+        box->onLeave = [box] {
+            box->text = Trim(box->text); // a number has no outer blanks
+            return CheckNoQuote(box->text);
+        };
+    s.txtKhSeek.onLeave = [&s] { return CheckNoQuote(s.txtKhSeek.text); };
     for (ListBox* box : {&s.cboInvMemo, &s.cboInvJbr})
         box->onLeave = [box] { return ComboIndexByText(*box, box->text) >= 0 || CheckNoQuote(box->text); };
 
@@ -54,17 +58,11 @@ void WireHead(frmDj02& s) {
     };
     s.mnuKhAddDelete.onClick = [&s] { DeleteAddress(s); };
     s.txtInvHbDl.onLeave = [&s] {
-        s.txtInvHbDl.text = FormatFixed(Val(s.txtInvHbDl.text), 4);
+        LeaveRate(s);
         return true;
     };
-    s.txtTaxRate.onLeave = [&s] {
-        SpreadTaxRate(s);
-        return true;
-    };
-    s.txtZkl.onLeave = [&s] {
-        SpreadDiscount(s);
-        return true;
-    };
+    s.txtTaxRate.onLeave = [&s] { return SpreadTaxRate(s); };
+    s.txtZkl.onLeave = [&s] { return SpreadDiscount(s); };
     s.chkTh.onChange = [&s] { SetReturnSign(s); };
     s.cmdLoadKh2.onClick = [&s] { s.fraKh2.visible = !s.fraKh2.visible; };
 }
@@ -99,27 +97,19 @@ void WireKitPanel(frmDj02& s) {
             return true;
         };
     }
-    s.txtInvSL.onLeave = [&s] {
-        ChangeKitQuantity(s);
-        return true;
-    };
+    s.txtInvSL.onLeave = [&s] { return ChangeKitQuantity(s); };
 }
 
 void WireLinesAndFoot(frmDj02& s) {
     s.Grid2.onEnter = [&s] { EnterGrid(s); };
     s.Grid2.onEnterKey = [&s] { AppendLine(s); };
-    s.Grid2.onCellLeave = [&s](int row, int column) {
-        s.typedInto = true;
-        LeaveCell(s, row, column);
-    };
+    s.Grid2.onCellLeave = [&s](int row, int column) { LeaveCell(s, row, column); };
+    s.Grid2.onPaste = [&s](const CellBlock& block) { PasteLines(s, block); };
     s.cmdAddRow.onClick = [&s] { InsertLine(s); };
     s.cmdDeleteRow.onClick = [&s] { DeleteLine(s); };
     s.txtSum.locked = true;
     s.txtSum2.locked = true;
-    s.txtSsSf.onLeave = [&s] {
-        FormatPayment(s);
-        return true;
-    };
+    s.txtSsSf.onLeave = [&s] { return FormatPayment(s); };
     s.cmdCp.onClick = [&s] { OpenProducts(s); };
     s.cmdCk.onClick = [&s] { OpenWarehouses(s); };
     s.cmdZy.onClick = [&s] { OpenSummaries(s); };
@@ -127,6 +117,8 @@ void WireLinesAndFoot(frmDj02& s) {
     s.cmdPrevious.onClick = [&s] { StepToDocument(s, false); };
     s.cmdNext.onClick = [&s] { StepToDocument(s, true); };
     s.cmdNew.onClick = [&s] { ResetDocument(s); };
+    for (Button* button : {&s.cmdPrevious, &s.cmdNext, &s.cmdNew, &s.cmdQuit})
+        button->dropsWork = true;
     s.cmdSave.onClick = [&s] { SaveDocument(s); };
     s.cmdQuit.onClick = [&s] { s.Close(); };
 }
@@ -148,13 +140,13 @@ frmDj02::frmDj02() : Screen("frmDj02") {
 void frmDj02::Open() {
     if (Action < 0 || Action > 5)
         throw ScreenError("frmDj02 的 Action 须为 0 至 5。");
-    typedInto = false;
     SetUpDocument(*this);
     const bool fromSource = InHand() == DocAction::New && OldType > 0 && oldInvID > 0;
     if (InHand() == DocAction::New && !fromSource) {
         oldInvID = 0;
         ResetDocument(*this);
         dtpInvDate.date = Today();
+        asBegun = TypedWork(*this);
         return;
     }
     if (oldInvID <= 0) {
@@ -170,7 +162,13 @@ void frmDj02::Open() {
 }
 
 std::string frmDj02::UnsavedWork() const {
-    return typedInto && IsEditing(InHand()) ? "单据尚未存盘，放弃所输入的内容？" : "";
+    const bool changed = IsEditing(InHand()) && cmdSave.enabled && TypedWork(*this) != asBegun;
+    return changed ? "单据尚未存盘，放弃所输入的内容？" : "";
+}
+
+void frmDj02::SaveWork() {
+    if (LeaveFocus(*this)) // what stands in the field in hand counts
+        SaveDocument(*this);
 }
 
 std::int64_t frmDj02::CustomerId() const {

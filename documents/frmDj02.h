@@ -18,6 +18,7 @@ struct frmDj02 : Screen {
     frmDj02();
     void Open() override;
     std::string UnsavedWork() const override;
+    void SaveWork() override;
 
     // The upper panel: the document's header.
     Frame fraHead{*this, "fraHead"};
@@ -38,7 +39,7 @@ struct frmDj02 : Screen {
     MenuItem mnuKhAddDelete{*this, "mnuKhAddDelete", "删除该地址"};
     Label lblInvHb{*this, "lblInvHb", "货币"};
     ListBox cboInvHb{*this, "cboInvHb"};
-    TextBox txtInvHbDl{*this, "txtInvHbDl", "1.0000"};
+    TextBox txtInvHbDl{*this, "txtInvHbDl", "1.0000"}; // its tag keeps the rate that was taken last
     Label lblTaxRate{*this, "lblTaxRate", "税率"};
     TextBox txtTaxRate{*this, "txtTaxRate", "0"};
     Label lblZkl{*this, "lblZkl", "单价=参考价ｘ折扣"};
@@ -109,9 +110,11 @@ struct frmDj02 : Screen {
     // Read at opening.
     TypeRow type;
     Parameters parameters;
+    std::string accountRule; // by which an approval will number its account entry, "" for none
     // The stored document as it was loaded; approval, change and deletion go on only while it is still so.
     StoredDocument asLoaded;
-    bool typedInto = false;           // lines were typed since the document was loaded, saved or begun
+    std::string asBegun;              // TypedWork() of the document as it was loaded or begun
+    std::string madeNumber;           // the automatic number that the date or the type gave last
     std::int32_t finishedProduct = 0; // fCpID of a kit document's product
 
     DocAction InHand() const { return static_cast<DocAction>(Action); }

@@ -2,6 +2,7 @@
 
 #include "controls/text.h"
 #include "controls/view.h"
+#include "documents/bounds.h"
 #include "documents/document_entry.h"
 #include "session/database/recordset.h"
 #include "session/database/routines.h"
@@ -31,6 +32,16 @@ void WarnOfSecondOpening(const frmDj02& s, const std::string& warehouse) {
 
 } // namespace
 
+void MakeNumber(frmDj02& s) {
+    s.madeNumber = NextDocumentNo(*s.dtpInvDate.date, s.type.fSetAutoNo, s.invType);
+    if (AnsiByteLength(s.madeNumber) > s.txtNo.maxBytes) {
+        Warn(s.title, "自动单号 " + s.madeNumber + " 超过 " + std::to_string(s.txtNo.maxBytes) +
+                          " 个字节，请在 [单据类型设置] 中缩短单号规则，或自行输入单号！");
+        s.madeNumber.clear();
+    }
+    s.txtNo.text = s.madeNumber;
+}
+
 bool LeaveDate(frmDj02& s) {
     if (!IsEditing(s.InHand()))
         return true;
@@ -41,7 +52,7 @@ bool LeaveDate(frmDj02& s) {
         s.dtpInvDate.date = s.parameters.periodStart;
     }
     if (s.InHand() == DocAction::New)
-        s.txtNo.text = NextDocumentNo(*s.dtpInvDate.date, s.type.fSetAutoNo, s.invType);
+        MakeNumber(s);
     return true;
 }
 
@@ -57,20 +68,40 @@ void ChooseWarehouse(frmDj02& s, bool second) {
     RefreshGridStock(s);
 }
 
-void ChooseCurrency(frmDj02& s) {
-    const std::string code = s.cboInvHb.Chosen();
-    if (code.empty()) {
-        s.txtInvHbDl.text = FormatFixed(1, 4);
-        return;
-    }
-    const std::string rate = DbScalar("Select MoneyRate from Moneys where MoneyCode=" + InQuotes(code));
-    s.txtInvHbDl.text = FormatFixed(Val(rate), 4);
+std::string RateStatement(const std::string& currency) {
+    return "Select MoneyRate from Moneys where MoneyCode=" + InQuotes(currency);
 }
 
-void FormatPayment(frmDj02& s) {
+void ChooseCurrency(frmDj02& s) {
+    const std::string code = s.cboInvHb.Chosen();
+    ShowRate(s, code.empty() ? 1 : Val(DbScalar(RateStatement(code))));
+}
+
+void ShowRate(frmDj02& s, double rate) {
+    s.txtInvHbDl.text = s.txtInvHbDl.tag = FormatFixed(rate, 4);
+}
+
+// The rate before comes back: a person who only wanted to choose another currency is not held here.
+void LeaveRate(frmDj02& s) {
+    const double rate = Val(s.txtInvHbDl.text);
+    if (s.txtInvHbDl.text == s.txtInvHbDl.tag)
+        return;
+    if (RoundDecimal(rate, 4) > 0 && !Reaches(rate, below::kRate))
+        return ShowRate(s, rate);
+    s.txtInvHbDl.text = s.txtInvHbDl.tag;
+    Warn(s.title, rate > 0 ? BoundText("汇率", below::kRate) : "汇率必须大于 0！");
+}
+
+bool FormatPayment(frmDj02& s) {
     std::string typed = s.txtSsSf.text;
     std::erase(typed, ',');
-    s.txtSsSf.text = IsNumericText(typed) ? FormatFixed(Val(typed), 2) : "0.00";
+    const double payment = IsNumericText(typed) ? Val(typed) : 0;
+    if (Reaches(payment, below::kAmount)) {
+        Warn(s.title, BoundText(s.lblSsSf.caption, below::kAmount));
+        return false;
+    }
+    s.txtSsSf.text = FormatFixed(payment, 2);
+    return true;
 }
 
 } // namespace jxc

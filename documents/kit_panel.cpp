@@ -2,6 +2,8 @@
 // says.
 
 #include "controls/text.h"
+#include "controls/view.h"
+#include "documents/bounds.h"
 #include "documents/document_entry.h"
 #include "session/database/recordset.h"
 #include "session/edit_filter.h"
@@ -47,9 +49,7 @@ void SeekFinishedProduct(frmDj02& s, bool byCode) {
 
 void LoadFinishedProduct(frmDj02& s, const std::string& stem, std::int32_t key) {
     ClearFinishedProduct(s);
-    const Recordset stored(Conn(), "Select a.*,b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit from " + stem + "02 a" +
-                                       " Left Join tJXC_Cp b On a.fCpID =b.fCpID " + " Where a.fInvID = " +
-                                       std::to_string(key) + " And fInv1 = 1" + " Order By a.fRowID");
+    const Recordset stored(Conn(), LinesStatement(stem, key, 1));
     if (stored.AtEnd())
         return;
     ShowFinishedProduct(s, static_cast<std::int32_t>(stored["fCpID"].AsLong()), stored["fCpCode"].AsText(),
@@ -58,19 +58,24 @@ void LoadFinishedProduct(frmDj02& s, const std::string& stem, std::int32_t key) 
     s.txtInvSL.text = s.txtInvSL.tag = NumberText(stored["fInvSL"].AsDouble());
 }
 
-void ChangeKitQuantity(frmDj02& s) {
+bool ChangeKitQuantity(frmDj02& s) {
     const double before = Val(s.txtInvSL.tag);
     const double now = KitQuantity(s);
+    if (Reaches(now, below::kQuantity)) {
+        Warn(s.title, BoundText("套数", below::kQuantity));
+        return false;
+    }
     s.txtInvSL.text = NumberText(now);
     if (now == 0)
-        return; // the lines still stand for the quantity before
+        return true; // the lines still stand for the quantity before
     s.txtInvSL.tag = s.txtInvSL.text;
     if (before == 0 || before == now || !IsEditing(s.InHand()))
-        return;
+        return true;
     for (int row = 1; row <= s.Grid2.RowCount(); ++row)
         s.Grid2.SetCell(row, line::kQuantity,
                         RoundDecimal(s.Grid2.Number(row, line::kQuantity) * now / before, 9));
     RefreshTotals(s);
+    return true;
 }
 
 } // namespace jxc

@@ -4,7 +4,9 @@
 
 #include "controls/text.h"
 #include "controls/view.h"
+#include "documents/bounds.h"
 #include "documents/document_entry.h"
+#include "session/database/recordset.h"
 #include "session/database/routines.h"
 #include "session/edit_filter.h"
 #include "session/grid_routines.h"
@@ -49,17 +51,33 @@ void FillProduct(frmDj02& s, int row, const ProductSought& found, std::int32_t i
     grid.SetCell(row, line::kProduct, std::int64_t{id});
 }
 
+ProductSought SoughtHere(const frmDj02& s) {
+    ProductSought sought;
+    sought.warehouse = StockWarehouse(s);
+    sought.stock = 0;
+    return sought;
+}
+
+// What was typed is gone, and must not be gone unseen by a person who types on: the cursor stays, and a line and a
+// sound tell it, for a box would be answered by the next Enter.
+void RefuseRow(Grid& grid, int row, const std::string& text) {
+    grid.refusedRow = row;
+    grid.selectedRow = row;
+    grid.selectedColumn = line::kCode;
+    CurrentView().Signal(text);
+}
+
 // The code or name typed into a row finds its product.
 void LeaveProductCell(frmDj02& s, int row, int column) {
     Grid& grid = s.Grid2;
-    ProductSought sought;
+    ProductSought sought = SoughtHere(s);
     const std::string typed = Trim(grid.Text(row, column));
+    if (typed.empty())
+        return ClearRow(grid, row);
     if (!CheckNoQuote(typed))
         return ClearRow(grid, row);
     grid.SetCell(row, column == line::kCode ? line::kName : line::kCode, Value());
     (column == line::kCode ? sought.code : sought.name) = typed;
-    sought.warehouse = StockWarehouse(s);
-    sought.stock = 0;
     std::int32_t id = 0;
     try {
         id = FindProduct(sought);
@@ -67,8 +85,10 @@ void LeaveProductCell(frmDj02& s, int row, int column) {
         ClearRow(grid, row); // a row never keeps a product that its code does not name
         throw;
     }
-    if (id == 0)
-        return ClearRow(grid, row);
+    if (id == 0) {
+        ClearRow(grid, row);
+        return RefuseRow(grid, row, "没有找到产品“" + typed + "”，该行已清空。");
+    }
     if (const int other = GridHasValue(grid, row, sought.code); other > 0) {
         Inform(s.title, "该产品已有输入！");
         ClearRow(grid, row);
@@ -87,6 +107,14 @@ void LeaveQuantityCell(frmDj02& s, int row) {
         for (const int column : {line::kUnit, line::kName, line::kCode})
             grid.SetCell(row, column, Value());
     }
+}
+
+// A line whose product has lost its reference price, or is gone, keeps the price that it has: that price stands in
+// for the reference, at no discount.
+void KeepPrice(Grid& grid, int row) {
+    const double price = grid.Number(row, line::kPrice);
+    grid.FillCell(row, line::kDiscount, 1);
+    grid.SetCell(row, line::kReference, price);
 }
 
 bool MayAddLine(const frmDj02& s) {
@@ -110,6 +138,19 @@ void AppendLine(frmDj02& s) {
     grid.selectedColumn = line::kCode;
 }
 
+std::vector<Connection::Expected> LineStatements(const frmDj02& s, const std::string& code) {
+    return ProductStatements(code, StockWarehouse(s));
+}
+
+std::int32_t FillLineByCode(frmDj02& s, int row, const std::string& code) {
+    ProductSought sought = SoughtHere(s);
+    sought.code = code;
+    const std::int32_t id = FindProduct(sought);
+    if (id != 0)
+        FillProduct(s, row, sought, id);
+    return id;
+}
+
 void CutToMaxRows(frmDj02& s) {
     if (s.parameters.maxRows == 0 || s.Grid2.RowCount() <= s.parameters.maxRows)
         return;
@@ -124,6 +165,8 @@ void InsertLine(frmDj02& s) {
     GridAppendRow(s.Grid2, 1);
     if (s.Grid2.RowCount() > before)
         SetRates(s, s.Grid2.selectedRow);
+    s.Grid2.selectedColumn = line::kCode; // what is typed next is the new row's product
+    s.MoveFocus(&s.Grid2);
 }
 
 void DeleteLine(frmDj02& s) {
@@ -149,25 +192,51 @@ void LeaveCell(frmDj02& s, int row, int column) {
     RefreshTotals(s);
 }
 
-void RefreshRowStock(frmDj02& s, int row) {
+LineFigures ReadLineFigures(const frmDj02& s) {
+    std::vector<std::int64_t> products;
+    for (int row = 1; row <= s.Grid2.RowCount(); ++row)
+        if (const std::int64_t product = s.Grid2.Cell(row, line::kProduct).AsLong(); product != 0)
+            products.push_back(product);
+    LineFigures figures;
+    if (products.empty())
+        return figures;
+    const std::string warehouse = StockWarehouse(s), field = PriceField(s.type.fSetDjType1);
+    const std::string prices = "Select fCpID," + field + " From tJXC_Cp Where fCpID" + InKeys(products);
+    std::vector<Connection::Expected> together{{StockQtysStatement(warehouse, products)}};
+    if (!field.empty())
+        together.push_back({prices});
+    const ReadAhead ahead(Conn(), together);
+    figures.stock = GetStockQtys(warehouse, products);
+    if (!field.empty())
+        for (Recordset row(Conn(), prices); !row.AtEnd(); row.MoveNext())
+            figures.reference[row[size_t{0}].AsLong()] = row[size_t{1}].AsDouble();
+    return figures;
+}
+
+void ShowRowFigures(frmDj02& s, int row, const LineFigures& figures) {
     Grid& grid = s.Grid2;
-    const auto product = static_cast<std::int32_t>(grid.Cell(row, line::kProduct).AsLong());
+    const std::int64_t product = grid.Cell(row, line::kProduct).AsLong();
     if (product == 0)
         return;
-    grid.SetCell(row, line::kStock, GetStockQty(StockWarehouse(s), product));
-    const std::string field = PriceField(s.type.fSetDjType1);
-    if (field.empty())
-        return;
-    const std::string price =
-        DbScalar("Select " + field + " From tJXC_Cp Where fCpID=" + std::to_string(product));
-    grid.SetCell(row, line::kReference, Val(price));
+    const auto of = [&](const std::map<std::int64_t, double>& known) {
+        const auto figure = known.find(product);
+        return figure == known.end() ? 0 : figure->second;
+    };
+    grid.SetCell(row, line::kStock, of(figures.stock));
+    const double reference = of(figures.reference); // none where the type shows none
+    const bool atDiscount = IsEditing(s.InHand()) && s.type.fSetDjType2 == 5;
+    if (reference == 0 && atDiscount && grid.Number(row, line::kPrice) != 0)
+        KeepPrice(grid, row);
+    else if (!PriceField(s.type.fSetDjType1).empty())
+        grid.SetCell(row, line::kReference, reference);
 }
 
 void RefreshGridStock(frmDj02& s) {
     if (!IsEditing(s.InHand()))
         return;
+    const LineFigures figures = ReadLineFigures(s);
     for (int row = 1; row <= s.Grid2.RowCount(); ++row)
-        RefreshRowStock(s, row);
+        ShowRowFigures(s, row, figures);
     RefreshTotals(s);
 }
 
@@ -177,7 +246,7 @@ void RefreshTotals(frmDj02& s) {
 }
 
 void SetReturnSign(frmDj02& s) {
-    const bool marked = s.chkTh.value;
+    const bool marked = s.chkTh.value && !s.type.IsStocktake(); // a stocktake's quantity is its difference
     s.lblTh.visible = s.shpTh.visible = marked;
     s.Grid2.Column(line::kQuantity).textColor = marked ? Rgb(255, 0, 0) : kNormalColor;
     if (marked)
@@ -186,22 +255,34 @@ void SetReturnSign(frmDj02& s) {
     RefreshTotals(s);
 }
 
-void SpreadTaxRate(frmDj02& s) {
-    s.txtTaxRate.text = FormatFixed(Val(s.txtTaxRate.text), 4);
+bool SpreadTaxRate(frmDj02& s) {
+    const double rate = Val(s.txtTaxRate.text);
+    if (rate < 0 || Reaches(rate, below::kTaxRate)) {
+        Warn(s.title, "税率是 0 至 1 之间的小数，例如 0.13 ！");
+        return false;
+    }
+    s.txtTaxRate.text = FormatFixed(rate, 4);
     if (!IsEditing(s.InHand()) || s.txtTaxRate.text == s.txtTaxRate.tag)
-        return; // only a change goes into the rows
+        return true; // only a change goes into the rows
     s.txtTaxRate.tag = s.txtTaxRate.text;
     for (int row = 1; row <= s.Grid2.RowCount(); ++row)
         s.Grid2.SetCell(row, line::kTaxRate, Val(s.txtTaxRate.text));
+    return true;
 }
 
-void SpreadDiscount(frmDj02& s) {
+bool SpreadDiscount(frmDj02& s) {
     const double discount = Val(s.txtZkl.text);
-    if (discount == 0 || !IsEditing(s.InHand()))
-        return;
+    if (discount < 0 || Reaches(discount, below::kDiscount)) {
+        Warn(s.title, discount < 0 ? "折扣不能是负数！" : BoundText("折扣", below::kDiscount));
+        return false;
+    }
+    if (discount == 0 || !IsEditing(s.InHand()) || s.txtZkl.text == s.txtZkl.tag)
+        return true; // only a change goes into the rows
+    s.txtZkl.tag = s.txtZkl.text;
     for (int row = 1; row <= s.Grid2.RowCount(); ++row)
         s.Grid2.SetCell(row, line::kDiscount, discount);
     RefreshTotals(s);
+    return true;
 }
 
 } // namespace jxc

@@ -1,8 +1,7 @@
-// The columns of the document list's two grids: documents and lines. Their places are fixed; a company may
-// hide some of them by its column dictionary.
+// The columns of the document list's two grids: documents and lines. A company chooses which are shown, in which order
+// and under which captions, by its column dictionary.
 #pragma once
 
-#include <span>
 #include <string>
 
 #include "documents/frmDj01.h"
@@ -10,23 +9,13 @@
 
 namespace jxc {
 
-// What a column makes of its field.
-enum class Show { Text, Day, Status, Product, Quantity, Price, Amount, Hidden };
-
-struct ListColumn {
-    const char* caption;
-    const char* field;
-    double width;
-    Show show = Show::Text;
-};
-std::span<const ListColumn> ColumnsOf(bool lines);
-
 // What a list is called in print and in the dictionary.
 std::string ListKey(bool lines);
 
-// The columns of both grids, with the company's decimals, memo captions and hidden columns; they have no rows
-// then.
+// The columns of both grids, with the company's decimals, captions and order; they have no rows then.
 void SetUpListGrids(frmDj01& s, const Parameters& parameters);
+// The place of a field's column in the grid of documents or of lines, from 1; 0 when it has none.
+int ListColumnOf(const frmDj01& s, bool lines, const std::string& field);
 // Lets the user choose the columns of the list in front. Columns that the dictionary does not have yet are
 // written to it.
 void ChooseColumns(frmDj01& s);

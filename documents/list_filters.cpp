@@ -79,10 +79,19 @@ void OfferWarehouse(frmDj01& s, int at, int kind, const std::string& caption) {
     list.SetIndex(list.items.empty() ? -1 : 0);
 }
 
+// Without a type the list goes through all stock documents, wherever their lines are.
+void OfferAll(frmDj01& s) {
+    constexpr int kAnyWarehouse = 0;
+    Offer(true, s.chkKh, s.txtKh);
+    OfferWarehouse(s, 0, kAnyWarehouse, "仓库");
+    Offer(false, s.chkCk[1], s.cboCk[1]);
+    Offer(true, s.chkDd, s.txtDd);
+}
+
 void ApplyType(frmDj01& s, int number) {
     const auto type = ReadTypeRow(number);
     if (!type)
-        return;
+        return OfferAll(s);
     Offer(type->HasCustomer(), s.chkKh, s.txtKh);
     OfferWarehouse(s, 0, type->fSetCkType1, type->fSetCkName1);
     OfferWarehouse(s, 1, type->fSetCkType2, type->fSetCkName2);
@@ -101,12 +110,10 @@ void ApplyTickedType(frmDj01& s) {
     if (s.chkInvType.value && s.cboInvType.Index() < 0 && !s.cboInvType.items.empty())
         s.cboInvType.SetIndex(0);
     s.cboInvType.enabled = s.chkInvType.value;
-    const auto type = TickedType(s);
-    ApplyType(s, type.value_or(kTypeWithoutTick));
-    if (type)
-        return;
-    s.chkCk[0].caption = "仓库";
-    Offer(false, s.chkCk[1], s.cboCk[1]);
+    if (const auto type = TickedType(s))
+        ApplyType(s, *type);
+    else
+        OfferAll(s);
 }
 
 void OfferLists(frmDj01& s) {

@@ -33,7 +33,7 @@ std::string ProductText(const Value& name, const Value& spec) {
 // Rows into a grid, the fields' places looked up once: a list may be of very many rows.
 class GridFiller {
   public:
-    GridFiller(Grid& grid, std::span<const ListColumn> columns, const Recordset& rows, bool lines)
+    GridFiller(Grid& grid, const std::vector<ListColumn>& columns, const Recordset& rows, bool lines)
         : grid_(grid), columns_(columns), rows_(rows), lines_(lines), approver_(rows.OrdinalOf("fInvSHR")),
           type_(rows.OrdinalOf("fInvType")), special_(rows.OrdinalOf(lines ? "fCpGG" : "fFlag")) {
         for (const ListColumn& column : columns)
@@ -70,7 +70,7 @@ class GridFiller {
     }
 
     Grid& grid_;
-    std::span<const ListColumn> columns_;
+    const std::vector<ListColumn>& columns_;
     const Recordset& rows_;
     bool lines_;
     size_t approver_;
@@ -93,36 +93,50 @@ void SelectAgain(Grid& grid, int row, std::int64_t document) {
 
 } // namespace
 
-void FillGrids(frmDj01& s, const ListQuery& query) {
+size_t FillGrids(frmDj01& s, const ListQuery& query, bool empties) {
     Recordset rows(Conn(), query.sql);
+    if (rows.RecordCount() == 0 && !empties)
+        return 0;
     for (Grid* grid : {&s.Grid1, &s.Grid2}) {
         grid->Clear();
         ClearSortMark(*grid);
     }
     Grid& grid = GridOf(s, query.lines);
     grid.SetRowCount(static_cast<int>(rows.RecordCount()));
-    GridFiller filler(grid, ColumnsOf(query.lines), rows, query.lines);
+    GridFiller filler(grid, s.columns[query.lines], rows, query.lines);
     for (int at = 1; !rows.AtEnd(); rows.MoveNext(), ++at)
         filler.FillRow(at);
+    ShowRowMenu(s);
+    return rows.RecordCount();
+}
+
+SortAndSelection KeepSortAndSelection(frmDj01& s, bool lines) {
+    const Grid& grid = GridOf(s, lines);
+    SortAndSelection kept;
+    if (grid.sortedColumn > 0)
+        kept.sortedField = s.columns[lines][static_cast<size_t>(grid.sortedColumn - 1)].field;
+    kept.ascending = grid.sortedAscending;
+    kept.row = grid.selectedRow;
+    kept.document = kept.row > 0 ? DocumentOf(grid, kept.row) : 0;
+    return kept;
+}
+
+void RefillList(frmDj01& s, const SortAndSelection& kept) {
+    if (s.shown.sql.empty())
+        return;
+    FillGrids(s, s.shown, true);
+    Grid& grid = GridOf(s, s.shown.lines);
+    if (const int sorted = ListColumnOf(s, s.shown.lines, kept.sortedField); sorted > 0) {
+        GridSort(grid, sorted);
+        if (!kept.ascending)
+            GridSort(grid, sorted);
+    }
+    SelectAgain(grid, kept.row, kept.document);
     ShowRowMenu(s);
 }
 
 void RefreshList(frmDj01& s) {
-    if (s.shown.sql.empty())
-        return;
-    Grid& grid = GridOf(s, s.shown.lines);
-    const int row = grid.selectedRow;
-    const std::int64_t document = row > 0 ? DocumentOf(grid, row) : 0;
-    const int sorted = grid.sortedColumn;
-    const bool ascending = grid.sortedAscending;
-    FillGrids(s, s.shown);
-    if (sorted > 0) {
-        GridSort(grid, sorted);
-        if (!ascending)
-            GridSort(grid, sorted);
-    }
-    SelectAgain(grid, row, document);
-    ShowRowMenu(s);
+    RefillList(s, KeepSortAndSelection(s, s.shown.lines));
 }
 
 Grid& GridOf(frmDj01& s, bool lines) {

@@ -119,9 +119,12 @@ ListQuery BuildQuery(const frmDj01& s) {
     ListQuery query;
     query.stem = BookStem(TickedType(s).value_or(kTypeWithoutTick), s.chkJz.value);
     query.lines = !s.chkDj.value;
-    query.from = s.dtpDate[0].date;
-    query.to = s.dtpDate[1].date;
-    query.warehouse = s.cboCk[0].text;
+    if (s.chkDate.value) {
+        query.from = s.dtpDate[0].date;
+        query.to = s.dtpDate[1].date;
+    }
+    if (s.chkCk[0].value)
+        query.warehouse = s.cboCk[0].text;
     query.sql = (query.lines ? LinesFrom(query.stem) : DocumentsFrom(query.stem)) + " Where " + Condition(s) +
                 " Order By a.fInvDate,a.fInvNo";
     return query;

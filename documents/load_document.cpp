@@ -51,7 +51,7 @@ void LoadHeader(frmDj02& s, int sourceType, const Recordset& header) {
     s.txtNo.text = s.txtNo.tag = text("fInvNo");
     s.dtpInvDate.date = ParseDate(text("fInvDate"));
     ShowText(s, s.cboInvHb, text("fInvHb"));
-    s.txtInvHbDl.text = FormatFixed(header["fInvHbDl"].AsDouble(), 4);
+    ShowRate(s, header["fInvHbDl"].AsDouble());
     s.txtSum.text = FormatFixed(header["fInvJE"].AsDouble(), 2);
     ShowText(s, s.cboInvMemo, text("fInvMemo"));
     ShowText(s, s.cboInvJbr, text("fInvJbr"));
@@ -75,6 +75,9 @@ void LoadLine(frmDj02& s, int row, const Recordset& stored) {
     const auto fill = [&](int column, const char* field) { grid.FillCell(row, column, stored[field]); };
     fill(line::kProduct, "fCpID");
     fill(line::kCode, "fCpCode");
+    // The line of a product that is gone is still a line of its document; a new document takes none of it.
+    if (s.InHand() != DocAction::New && stored["fCpCode"].AsText().empty() && stored["fCpID"].AsLong() > 0)
+        grid.FillCell(row, line::kCode, "(" + stored["fCpID"].AsText() + ") - Error");
     grid.FillCell(row, line::kName, NameAndSpec(stored["fCpName"].AsText(), stored["fCpGG"].AsText()));
     fill(line::kUnit, "fCpUnit");
     fill(line::kQuantity, "fInvSL");
@@ -92,11 +95,11 @@ void LoadLine(frmDj02& s, int row, const Recordset& stored) {
 }
 
 // Stock and reference prices are today's; the book quantity of a stocktake stays the stored one.
-void CompleteLine(frmDj02& s, int row) {
+void CompleteLine(frmDj02& s, int row, const LineFigures& figures) {
     Grid& grid = s.Grid2;
     const double price = grid.Number(row, line::kPrice);
     const Value book = grid.Cell(row, line::kStock);
-    RefreshRowStock(s, row);
+    ShowRowFigures(s, row, figures);
     if (s.type.IsStocktake())
         grid.FillCell(row, line::kStock, book);
     if (IsEditing(s.InHand()) && s.type.fSetDjType2 == 5)
@@ -105,15 +108,14 @@ void CompleteLine(frmDj02& s, int row) {
 
 void LoadLines(frmDj02& s, const std::string& stem, std::int32_t key) {
     Grid& grid = s.Grid2;
-    Recordset stored(Conn(), "Select a.*,b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit from " + stem + "02 a" +
-                                 " Left Join tJXC_Cp b On a.fCpID =b.fCpID " + " Where a.fInvID = " +
-                                 std::to_string(key) + " And fInv1 = 0" + " Order By a.fRowID");
+    Recordset stored(Conn(), LinesStatement(stem, key, 0));
     grid.SetRowCount(0);
     grid.SetRowCount(static_cast<int>(stored.RecordCount()));
-    for (int row = 1; !stored.AtEnd(); stored.MoveNext(), ++row) {
+    for (int row = 1; !stored.AtEnd(); stored.MoveNext(), ++row)
         LoadLine(s, row, stored);
-        CompleteLine(s, row);
-    }
+    const LineFigures figures = ReadLineFigures(s);
+    for (int row = 1; row <= grid.RowCount(); ++row)
+        CompleteLine(s, row, figures);
     grid.Recalculate();
     grid.selectedRow = grid.RowCount() > 0 ? 1 : 0;
     const std::string total = s.txtSum.text;
@@ -133,25 +135,37 @@ void StartFromSource(frmDj02& s) {
     if (s.cboCkName2.items.size() == 1)
         s.cboCkName2.SetIndex(0);
     CutToMaxRows(s);
-    if (s.type.fSetDjBack_)
+    if (s.chkTh.value)
         SetReturnSign(s);
     RefreshGridStock(s);
 }
 
 } // namespace
 
+std::string LinesStatement(const std::string& stem, std::int32_t key, int fInv1) {
+    return "Select a.*,b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit from " + stem + "02 a" +
+           " Left Join tJXC_Cp b On a.fCpID =b.fCpID " + " Where a.fInvID = " + std::to_string(key) +
+           " And fInv1 = " + std::to_string(fInv1) + " Order By a.fRowID";
+}
+
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
     const std::string stem = BookStem(sourceType, s.JzState == 1);
     s.txtSsSf.text = "0.00";
-    s.typedInto = false;
     try {
         // Before the rest is read: a change in between is noticed.
+        std::vector<Connection::Expected> together{{StoredHeaderStatement(stem, key)},
+                                                   {StoredLinesStatement(stem, key)},
+                                                   {LinesStatement(stem, key, 0)}};
+        if (s.type.IsKit())
+            together.push_back({LinesStatement(stem, key, 1)});
+        const ReadAhead ahead(Conn(), together);
         StoredDocument stored = ReadStored(stem, key);
         if (!stored.Exists()) {
             Warn(s.title, "该[单号]已不存在!");
             return false;
         }
-        const Recordset header(Conn(), "select * from " + stem + "01 Where fInvID=" + std::to_string(key));
+        s.cmdSave.enabled = false; // until what the screen shows is a document again
+        const Recordset header(Conn(), StoredHeaderStatement(stem, key));
         LoadHeader(s, sourceType, header);
         LoadLines(s, stem, key);
         if (s.type.IsKit() && s.InHand() != DocAction::New)
@@ -163,20 +177,24 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
             StartFromSource(s);
         else
             s.asLoaded = std::move(stored);
+        if (s.InHand() == DocAction::Change) {
+            s.chkTh.value = s.type.fSetDjBack_; // the mark of the document before is not this one's
+            SetReturnSign(s);
+        }
+        s.asBegun = TypedWork(s);
         return true;
-    } catch (const DatabaseError&) {
-        s.cmdSave.enabled = false; // what the screen shows is no document
-        Warn(s.title, "系统数据错误，操作已经取消！");
+    } catch (const DatabaseError& error) {
+        WarnOfFailure(s.title, "系统数据错误，操作已经取消！", error.what());
         return false;
     }
 }
 
 void StepToDocument(frmDj02& s, bool next) {
     const std::string stem = BookStem(s.invType, s.JzState == 1);
-    const std::string hit =
-        DbScalar("Select Top 1 fInvID From " + stem + "01 " + " Where fInvType=" + std::to_string(s.invType) +
-                 (s.InHand() == DocAction::Change ? " And fInvShr=''" : "") + " And fInvNo" +
-                 (next ? ">" : "<") + "'" + s.Number() + "'" + " Order By fInvNo" + (next ? "" : " Desc"));
+    const std::string hit = DbScalar(
+        "Select Top 1 fInvID From " + stem + "01 " + " Where fInvType=" + std::to_string(s.invType) +
+        (s.InHand() == DocAction::Change ? " And fInvShr=''" : "") + " And fInvNo" + (next ? ">" : "<") +
+        "'" + s.Number() + "'" + " Order By fInvNo" + (next ? "" : " Desc") + ",fInvID Desc");
     if (hit.empty()) {
         (next ? s.cmdNext : s.cmdPrevious).enabled = false;
         (next ? s.cmdPrevious : s.cmdNext).enabled = true;

@@ -3,17 +3,16 @@
 #include "controls/text.h"
 #include "controls/view.h"
 #include "documents/document_list.h"
+#include "documents/list_columns.h"
 #include "session/session.h"
 
 namespace jxc {
 
 namespace {
 
-const std::string kClosedBook = "tJXC_CkDj_Bak";
 constexpr int kFromRow = -1;
-constexpr int kNumberColumn = 2; // of Grid1
 
-// The next documents of the chain from plan to sale, and the returns. The first part of a name is the menu.
+// The next documents of the chain from plan to sale, and the returns.
 struct Conversion {
     int source;
     int target;
@@ -21,36 +20,22 @@ struct Conversion {
     const char* caption;
 };
 constexpr Conversion kConversions[] = {
-    {20, 21, "mnuJhAsk", "产生：询价单"},
-    {20, 23, "mnuJhOrder", "产生：采购订单"},
-    {20, 1, "mnuJhIn", "产生：入库单"},
-    {21, 23, "mnuXjAskOrder", "生成：采购订单"},
-    {21, 1, "mnuXjAskIn", "生成：入库单"},
-    {21, 22, "mnuXjAskQuote", "转为：报价单"},
-    {22, 24, "mnuBjAskOrder", "生成：销售订单"},
-    {22, 2, "mnuBjAskOut", "生成：出库单"},
-    {22, 6, "mnuBjAskConsign", "生成：代销发货单"},
-    {22, 21, "mnuBjAskAsk", "转为：询价单"},
-    {23, 1, "mnuCgOrderIn", "生成：入库单"},
-    {23, 24, "mnuCgOrderOrder", "转为：销售订单"},
-    {24, 2, "mnuXsOrderOut", "生成：出库单"},
-    {24, 6, "mnuXsOrderConsign", "生成：代销发货单"},
-    {24, 23, "mnuXsOrderOrder", "转为：采购订单"},
-    {1, 2, "mnuRkInvOut", "生成：出库单"},
-    {1, 6, "mnuRkInvConsign", "生成：代销发货单"},
-    {1, -1, "mnuRkInvBack", "产生：入库退货单"},
-    {2, -2, "mnuCkInvBack", "产生：出库退货单"},
-    {5, -5, "mnuLsInvBack", "产生：零售退货单"},
-    {6, -6, "mnuDxInv1Back", "产生：代销退货单"},
-    {7, -7, "mnuDxInv2Back", "产生：代销结退单"},
+    {20, 21, "mnuJhToXj", "产生：询价单"},        {20, 23, "mnuJhToCg", "产生：采购订单"},
+    {20, 1, "mnuJhToRk", "产生：入库单"},         {21, 23, "mnuXjToOrder", "生成：采购订单"},
+    {21, 1, "mnuXjToInv", "生成：入库单"},        {21, 22, "mnuXjToBj", "转为：报价单"},
+    {22, 24, "mnuBjToOrder1", "生成：销售订单"},  {22, 2, "mnuBjToInv1", "生成：出库单"},
+    {22, 6, "mnuBjToInvDx1", "生成：代销发货单"}, {22, 21, "mnuBjToXj", "转为：询价单"},
+    {23, 1, "mnuCgToInv", "生成：入库单"},        {23, 24, "mnuCgToXs", "转为：销售订单"},
+    {24, 2, "mnuXsToInv", "生成：出库单"},        {24, 6, "mnuXsToInvDx", "生成：代销发货单"},
+    {24, 23, "mnuXsToCg", "转为：采购订单"},      {1, 2, "mnuRkToInvCk", "生成：出库单"},
+    {1, 6, "mnuRkToInvDx", "生成：代销发货单"},   {1, -1, "mnuRkInvBack", "产生：入库退货单"},
+    {2, -2, "mnuCkInvBack", "产生：出库退货单"},  {5, -5, "mnuLsInvBack", "产生：零售退货单"},
+    {6, -6, "mnuDxInvBack1", "产生：代销退货单"}, {7, -7, "mnuDxInvBack2", "产生：代销结退单"},
 };
 
-// Either list ends in approver, type and key.
+// Either list ends in type and key.
 int TypeColumn(const Grid& grid) {
     return grid.ColumnCount() - 1;
-}
-int ApproverColumn(const Grid& grid) {
-    return grid.ColumnCount() - 2;
 }
 
 // The grid in front when a row of it is selected.
@@ -68,7 +53,7 @@ bool TakeSelectedDocument(frmDj01& s) {
     if (!grid)
         return false;
     s.invID = static_cast<std::int32_t>(grid->Cell(grid->selectedRow, grid->ColumnCount()).AsLong());
-    s.approver = grid->Text(grid->selectedRow, ApproverColumn(*grid));
+    s.approver = grid->Text(grid->selectedRow, ListColumnOf(s, grid == &s.Grid2, "fInvSHR"));
     return s.invID >= 1;
 }
 
@@ -88,6 +73,10 @@ std::string Refusal(const frmDj01& s, DocAction action) {
 
 } // namespace
 
+bool ShowsClosedBook(const frmDj01& s) {
+    return EqualsNoCase(s.shown.stem, "tJXC_CkDj_Bak");
+}
+
 void OpenDocument(frmDj01& s, DocAction action, int type, int fromType, int rowFlag) {
     if (action != DocAction::New || rowFlag == kFromRow) {
         if (!TakeSelectedDocument(s))
@@ -96,7 +85,7 @@ void OpenDocument(frmDj01& s, DocAction action, int type, int fromType, int rowF
             return Warn(s.title, refusal);
     }
     const ScreenToShow entry("frmDj02"); // a picker stands over the document being entered
-    entry->SetProperty("JzState", EqualsNoCase(s.shown.stem, kClosedBook) ? 1 : 0);
+    entry->SetProperty("JzState", ShowsClosedBook(s) ? 1 : 0);
     entry->SetProperty("oldInvID", s.invID);
     entry->SetProperty("Action", static_cast<int>(action));
     entry->SetProperty("invType", type);
@@ -121,7 +110,7 @@ void RunAction(frmDj01& s, DocAction action) {
 void PickDocument(frmDj01& s) {
     if (GridWithSelection(s) != &s.Grid1)
         return;
-    s.DjCode = s.Grid1.Text(s.Grid1.selectedRow, kNumberColumn);
+    s.DjCode = s.Grid1.Text(s.Grid1.selectedRow, ListColumnOf(s, false, "fInvNo"));
     s.DjJz = s.chkJz.value ? 1 : 0;
     s.Close();
 }

@@ -1,5 +1,5 @@
 // The document list on paper, headed by the dates and the warehouse it was asked with, whatever they read
-// now.
+// now. A filter that was not ticked limited nothing, and its value stays empty.
 
 #include "documents/document_list.h"
 #include "documents/list_columns.h"

@@ -1,8 +1,11 @@
 // The save command: checks in a fixed order, then a new, changed, deleted, approved or reversed document.
 
+#include <optional>
+
 #include "controls/text.h"
 #include "controls/view.h"
 #include "documents/approval/run_approval.h"
+#include "documents/bounds.h"
 #include "documents/document_entry.h"
 #include "documents/write_document.h"
 #include "session/book.h"
@@ -45,8 +48,8 @@ bool DocumentInHand(frmDj02& s) {
 
 bool DateAndNumberGiven(frmDj02& s) {
     if (!s.dtpInvDate.date || *s.dtpInvDate.date < s.parameters.periodStart)
-        return Refuse(s, "单据日期：不能小于本期起始日期 " + IsoText(s.parameters.periodStart) + "！",
-                      &s.dtpInvDate);
+        return Refuse(s, DateRefusal(s.parameters.periodStart), &s.dtpInvDate);
+    s.txtNo.text = Trim(s.txtNo.text);
     if (s.Number().empty())
         return Refuse(s, "请输入单号！", &s.txtNo);
     return true;
@@ -79,17 +82,40 @@ bool CustomerGiven(frmDj02& s) {
     return Refuse(s, "请输入" + caption + "！", &s.txtKhSeek);
 }
 
+std::string WithNumber(const frmDj02& s) {
+    return "fInvNo = '" + s.Number() + "'";
+}
+
+std::string WithOrder(const frmDj02& s) {
+    return "fInvNo='" + s.txtHtNo.text + "'";
+}
+
+std::string OrderTypeStatement(const frmDj02& s) {
+    return "Select fInvType From tJXC_CkHt01 Where " + WithOrder(s);
+}
+
+// What the checks will ask, so that a server is waited for once. A number that they cut is asked for then.
+std::vector<Connection::Expected> AskedFirst(const frmDj02& s, const std::string& stem) {
+    std::vector<Connection::Expected> asked;
+    if (s.InHand() == DocAction::New)
+        asked.push_back({CountStatement(stem + "01", WithNumber(s))});
+    if (s.InHand() != DocAction::Delete && s.InHand() != DocAction::Reverse && !s.txtHtNo.text.empty()) {
+        asked.push_back({CountStatement("tJXC_CkHt01", WithOrder(s))});
+        asked.push_back({OrderTypeStatement(s)});
+    }
+    return asked;
+}
+
 bool OrderFits(frmDj02& s) {
     const std::string number = s.txtHtNo.text;
     if (s.InHand() == DocAction::Delete || s.InHand() == DocAction::Reverse || number.empty())
         return true;
-    const int found = DbCount("tJXC_CkHt01", "fInvNo='" + number + "'");
+    const int found = DbCount("tJXC_CkHt01", WithOrder(s));
     if (found < 0)
         return Refuse(s, "无法检查订单号 " + number + " 是否存在，操作已经取消！");
     if (found == 0)
         return Refuse(s, "订单号 " + number + " 不存在 ！", &s.txtHtNo);
-    const int orderType =
-        static_cast<int>(Val(DbScalar("Select fInvType From tJXC_CkHt01 Where fInvNo='" + number + "'")));
+    const int orderType = static_cast<int>(Val(DbScalar(OrderTypeStatement(s))));
     if (orderType == OrderTypeFor(s.invType))
         return true;
     return Refuse(s, s.title + "，不能对应 " + (orderType == 23 ? "采购" : "销售") + "订单 " + number + " ！",
@@ -108,7 +134,7 @@ void CutLongTexts(frmDj02& s) {
 // Why the number cannot be used in the book: `taken` when it is there, or that the check could not be made.
 // "" when free.
 std::string NumberRefusal(const frmDj02& s, const std::string& stem, const std::string& taken) {
-    const int count = DbCount(stem + "01", "fInvNo = '" + s.Number() + "'");
+    const int count = DbCount(stem + "01", WithNumber(s));
     if (count < 0)
         return "无法检查该[单号]是否已有存在，操作已经取消！";
     return count > 0 ? taken : "";
@@ -139,6 +165,18 @@ bool LinesGiven(frmDj02& s) {
     return Refuse(s, "请输入单据内容清单！", &s.Grid2);
 }
 
+// A deletion takes whatever stands.
+bool FiguresWithinBounds(frmDj02& s) {
+    const auto refusal = s.InHand() == DocAction::Delete ? std::nullopt : FigureOutOfBounds(s);
+    if (!refusal)
+        return true;
+    if (refusal->row > 0) {
+        s.Grid2.selectedRow = refusal->row;
+        s.Grid2.selectedColumn = refusal->column;
+    }
+    return Refuse(s, refusal->text, refusal->field);
+}
+
 // Runs the writing of a document in one transaction. `write` gives the reason why the document cannot be
 // written after all, "" when it was; a reason or a failure undoes everything and is told, and the input
 // stays. Nothing is asked while the transaction is open: other users wait for it.
@@ -149,15 +187,26 @@ bool InTransaction(frmDj02& s, const std::function<std::string()>& write) {
         refusal = write();
         if (refusal.empty())
             transaction.Commit();
-    } catch (const std::exception&) {
-        refusal = "系统存盘错误，操作已经取消！";
+    } catch (const DatabaseError& error) {
+        WarnOfFailure(s.title, "系统存盘错误，操作已经取消！", error.what());
+        return false;
     }
     return refusal.empty() || Refuse(s, refusal);
 }
 
-// Key and number are taken inside the transaction, where no other user can come between.
-std::string WriteNew(frmDj02& s, const std::string& stem) {
-    const std::string refusal = NumberRefusal(s, stem, kNumberTaken);
+// Key and number are taken inside the transaction, where no other user can come between. `ahead` holds on to
+// the rate with which the next document begins.
+std::string WriteNew(frmDj02& s, const std::string& stem, std::optional<ReadAhead>& ahead) {
+    const std::vector<std::string>& currencies = s.cboInvHb.items;
+    ahead.emplace(Conn(), std::vector<Connection::Expected>{
+                              {ParametersStatement()},
+                              {CountStatement(stem + "01", WithNumber(s))},
+                              {MaxStatement(stem + "01", "fInvID")},
+                              {HeaderStatement(s, stem), true},
+                              {RateStatement(currencies.empty() ? "" : currencies.front())}});
+    std::string refusal = DatedBeforePeriod(s);
+    if (refusal.empty())
+        refusal = NumberRefusal(s, stem, kNumberTaken);
     if (!refusal.empty())
         return refusal;
     s.oldInvID = DbMax(stem + "01", "fInvID") + 1;
@@ -173,7 +222,7 @@ void PrintSaved(frmDj02& s) {
     try {
         PrintDocument(s);
     } catch (const std::exception& error) {
-        Warn(s.title, error.what());
+        WarnOfError(s.title, error);
     }
 }
 
@@ -188,7 +237,8 @@ void SaveNew(frmDj02& s, const std::string& stem) {
         return;
     if (!AskOkCancel(s.title, s.title + "：" + s.Number() + "，确定？"))
         return;
-    if (!InTransaction(s, [&] { return WriteNew(s, stem); })) {
+    std::optional<ReadAhead> ahead;
+    if (!InTransaction(s, [&] { return WriteNew(s, stem, ahead); })) {
         s.oldInvID = 0;
         return;
     }
@@ -200,6 +250,13 @@ void SaveNew(frmDj02& s, const std::string& stem) {
     ResetDocument(s);
 }
 
+// Why the stored document may not be changed or deleted any more, "" when it may.
+std::string MayStillBeWritten(const frmDj02& s, const std::string& stem) {
+    const ReadAhead ahead(Conn(), CheckStatements(s, stem));
+    const std::string refusal = ChangedMeanwhile(s, stem);
+    return refusal.empty() ? DatedBeforePeriod(s) : refusal;
+}
+
 void SaveChange(frmDj02& s, const std::string& stem) {
     const std::string number = s.txtNo.tag;
     if (!FinishedProductGiven(s))
@@ -207,7 +264,7 @@ void SaveChange(frmDj02& s, const std::string& stem) {
     if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
         return;
     const auto write = [&] {
-        std::string refusal = ChangedMeanwhile(s, stem);
+        std::string refusal = MayStillBeWritten(s, stem);
         if (refusal.empty() && !EqualsNoCase(s.Number(), number))
             refusal = NumberRefusal(s, stem, s.Number() + kNumberTakenByOther);
         if (!refusal.empty())
@@ -231,7 +288,7 @@ void DeleteStored(frmDj02& s, const std::string& stem) {
     if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
         return;
     const auto write = [&] {
-        const std::string refusal = ChangedMeanwhile(s, stem);
+        std::string refusal = MayStillBeWritten(s, stem);
         if (refusal.empty() && !DeleteDocumentRows(stem, "fInvID=" + std::to_string(s.oldInvID)))
             throw DatabaseError("删除单据失败。");
         return refusal;
@@ -247,6 +304,7 @@ void DeleteStored(frmDj02& s, const std::string& stem) {
 
 void SaveDocument(frmDj02& s) {
     const std::string stem = BookStem(s.invType, false);
+    const ReadAhead ahead(Conn(), AskedFirst(s, stem));
     if (!MayGoOn(s, stem))
         return;
     if (s.InHand() == DocAction::Approve) {
@@ -257,7 +315,7 @@ void SaveDocument(frmDj02& s) {
         ReverseApproval(s);
         return;
     }
-    if (!LinesGiven(s))
+    if (!LinesGiven(s) || !FiguresWithinBounds(s))
         return;
     switch (s.InHand()) {
     case DocAction::New:

@@ -3,13 +3,16 @@
 #include <cstdlib>
 
 #include "controls/text.h"
+#include "documents/approval/stages.h"
 #include "documents/document_entry.h"
 #include "documents/shared_lists.h"
+#include "session/book.h"
 #include "session/grid_routines.h"
 #include "session/lists.h"
 #include "session/period.h"
 #include "session/rights.h"
 #include "session/session.h"
+#include "settings/document_numbers.h"
 
 namespace jxc {
 
@@ -43,14 +46,6 @@ void Show(bool shown, std::initializer_list<Control*> controls) {
         control->visible = shown;
 }
 
-// Whether a received or paid amount may be entered: at the moment of approval.
-bool OffersPayment(const frmDj02& s) {
-    const bool approving =
-        s.InHand() == DocAction::Approve || (s.InHand() == DocAction::New && s.parameters.approveOnSave);
-    return !PaymentCaption(s.type).empty() && s.type.fSetWlType > 0 && s.type.HasCustomer() &&
-           s.parameters.quickPayment && approving;
-}
-
 void ShapeByType(frmDj02& s) {
     const TypeRow& type = s.type;
     s.lblCkName.caption = FirstWarehouseCaption(type);
@@ -70,7 +65,8 @@ void ShapeByType(frmDj02& s) {
     Show(type.fSetDjType2 == 5, {&s.lblZkl, &s.txtZkl});
     Show(type.fSetDjType1 != -1, {&s.lblSum2, &s.txtSum2});
     Show(type.fSetDjBack_, {&s.lblTh, &s.shpTh});
-    Show(OffersPayment(s), {&s.lblSsSf, &s.txtSsSf});
+    Show(!type.IsStocktake(), {&s.chkTh});
+    Show(OffersPayment(s, type), {&s.lblSsSf, &s.txtSsSf});
     s.chkTh.value = type.fSetDjBack_;
     if (!type.fSetDjDd_)
         s.txtHtNo.text.clear();
@@ -94,7 +90,7 @@ void AllowByAction(frmDj02& s) {
 void SetStartingValues(frmDj02& s) {
     s.txtTaxRate.text = s.parameters.taxWay == TaxWay::None ? "0" : FormatFixed(s.parameters.taxRate, 4);
     s.txtTaxRate.tag = s.txtTaxRate.text;
-    s.txtZkl.text = s.InHand() == DocAction::New ? "1.00" : "0.00";
+    s.txtZkl.text = s.txtZkl.tag = s.InHand() == DocAction::New ? "1.00" : "0.00";
     s.txtSsSf.text = "0.00";
     s.txtMemo.text.clear();
     s.chkFlag.visible = s.InHand() == DocAction::Change;
@@ -112,12 +108,33 @@ void ChooseOnly(ListBox& list) {
 
 } // namespace
 
+bool OffersPayment(const frmDj02& s, const TypeRow& type) {
+    const bool approving =
+        s.InHand() == DocAction::Approve || (s.InHand() == DocAction::New && s.parameters.approveOnSave);
+    return !PaymentCaption(type).empty() && type.fSetWlType > 0 && type.HasCustomer() &&
+           s.parameters.quickPayment && approving;
+}
+
 void SetUpDocument(frmDj02& s) {
+    const ReadAhead settings(Conn(), {{TypeRowStatement(s.invType)},
+                                      {ParametersStatement()},
+                                      {PeriodStatement()},
+                                      {TypesStatement()},
+                                      {BriefStatement(kSummaries)},
+                                      {CurrenciesStatement()},
+                                      {HandlersStatement(false)},
+                                      {HandlersStatement(true)},
+                                      {ColumnWidthsStatement()},
+                                      {TypeRowStatement(kSeriesCustomerAccount)},
+                                      {TypeRowStatement(kSeriesMoneyAccount)}});
     const auto type = ReadTypeRow(s.invType);
-    if (!type)
+    if (!type || BookStem(s.invType, false).empty())
         throw ScreenError("没有单据类型 " + std::to_string(s.invType) + "。");
     s.type = *type;
     s.parameters = ReadParameters();
+    const int series = s.InHand() == DocAction::Approve ? AccountSeries(s.type) : 0;
+    const auto account = series != 0 ? ReadTypeRow(series) : std::nullopt;
+    s.accountRule = account ? account->fSetAutoNo : "";
     LoadPeriodSettings();
     s.title = s.type.fSetName + "：" + ActionWord(s.InHand());
     FillLists(s);
@@ -126,18 +143,6 @@ void SetUpDocument(frmDj02& s) {
     SetStartingValues(s);
     SetUpLineGrid(s.Grid2, s.type, s.parameters, s.InHand());
     LoadColumnWidths(s);
-}
-
-void ChooseType(frmDj02& s) {
-    const int chosen = TypeOf(s.cboInvType.Chosen());
-    if (s.cboInvType.Index() < 0 || chosen == s.invType)
-        return;
-    if (const auto type = ReadTypeRow(chosen)) {
-        s.invType = chosen;
-        s.type = *type;
-        s.chkTh.value = type->fSetDjBack_;
-        SetReturnSign(s);
-    }
 }
 
 void RefillWarehouses(frmDj02& s) {
@@ -157,7 +162,6 @@ void RefillSummaries(frmDj02& s) {
 }
 
 void ResetDocument(frmDj02& s) {
-    s.typedInto = false;
     s.dtpInvDate.date = s.invType == 0 ? s.parameters.periodStart : Today();
     for (TextBox* box : {&s.txtNo, &s.txtHtNo, &s.txtKhSeek}) {
         box->text.clear();
@@ -174,7 +178,9 @@ void ResetDocument(frmDj02& s) {
     s.chkFlag.value = false;
     s.lblSHR.caption.clear();
     Show(false, {&s.lblSHR, &s.shpSHR});
+    s.chkTh.value = s.type.fSetDjBack_; // the mark of the document before is not the next one's
     s.Grid2.Clear();
+    SetReturnSign(s);
     AppendLine(s);
     s.txtSsSf.text = "0.00";
     ClearFinishedProduct(s);
@@ -183,6 +189,7 @@ void ResetDocument(frmDj02& s) {
     s.asLoaded = {};
     s.cmdSave.enabled = true;
     s.MoveFocus(&s.dtpInvDate);
+    s.asBegun = TypedWork(s);
 }
 
 } // namespace jxc

@@ -12,9 +12,21 @@ constexpr int kNumberWidth = 3;
 
 } // namespace
 
+std::string TypesStatement() {
+    return "Select fSetNo, fSetName from tJXC_InvSet Where fSetNo<50 And fSetNoUse_<>1 Order By fRowID";
+}
+
+std::string CurrenciesStatement() {
+    return "Select MoneyCode,0 as aa from Moneys Order By MoneyType desc,MoneyCode";
+}
+
+std::string HandlersStatement(bool fromSalespeople) {
+    return "Select fName,0 as aa from " + std::string(fromSalespeople ? "tJXC_Yj_Jbr" : "tRsBasic") +
+           " Order By fCode";
+}
+
 void FillTypes(ListBox& list, int chosen) {
-    FillCombo("Select fSetNo, fSetName from tJXC_InvSet Where fSetNo<50 And fSetNoUse_<>1 Order By fRowID",
-              list, kNumberWidth, true);
+    FillCombo(TypesStatement(), list, kNumberWidth, true);
     list.SetIndex(ComboIndexByLeftValue(list, chosen, kNumberWidth));
 }
 
@@ -29,13 +41,11 @@ void FillWarehouses(ListBox& list, int kind) {
 }
 
 void FillCurrencies(ListBox& list) {
-    FillCombo("Select MoneyCode,0 as aa from Moneys Order By MoneyType desc", list);
+    FillCombo(CurrenciesStatement(), list);
 }
 
 void FillHandlers(ListBox& list, bool fromSalespeople) {
-    FillCombo("Select fName,0 as aa from " + std::string(fromSalespeople ? "tJXC_Yj_Jbr" : "tRsBasic") +
-                  " Order By fCode",
-              list);
+    FillCombo(HandlersStatement(fromSalespeople), list);
 }
 
 } // namespace jxc

@@ -13,6 +13,10 @@ int TypeOf(const std::string& item);
 void FillWarehouses(ListBox& list, int kind);
 // The currencies, the company's own first.
 void FillCurrencies(ListBox& list);
+// The statements of these lists but the warehouses, to be read ahead together.
+std::string TypesStatement();
+std::string CurrenciesStatement();
+std::string HandlersStatement(bool fromSalespeople);
 // The handlers: all staff, or the salespeople.
 void FillHandlers(ListBox& list, bool fromSalespeople);
 

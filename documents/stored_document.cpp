@@ -5,17 +5,21 @@
 
 namespace jxc {
 
+std::string StoredHeaderStatement(const std::string& stem, std::int32_t key) {
+    return "select * from " + stem + "01 Where fInvID=" + std::to_string(key);
+}
+
+std::string StoredLinesStatement(const std::string& stem, std::int32_t key) {
+    return "select fInv1,fRowID,fCkName,fCpID,fInvSL,fInvSL2,fInvDJ,fInvJE,fInvTax,fInvOther1,"
+           "fInvOther2 from " +
+           stem + "02 Where fInvID=" + std::to_string(key) + " Order By fInv1,fRowID";
+}
+
 StoredDocument ReadStored(const std::string& stem, std::int32_t key) {
-    const std::string where = " Where fInvID=" + std::to_string(key);
     StoredDocument stored;
-    stored.header = Conn().Query("select * from " + stem + "01" + where).cells;
+    stored.header = Conn().Query(StoredHeaderStatement(stem, key)).cells;
     if (stored.Exists())
-        stored.lines =
-            Conn()
-                .Query("select fInv1,fRowID,fCkName,fCpID,fInvSL,fInvSL2,fInvDJ,fInvJE,fInvTax,fInvOther1,"
-                       "fInvOther2 from " +
-                       stem + "02" + where + " Order By fInv1,fRowID")
-                .cells;
+        stored.lines = Conn().Query(StoredLinesStatement(stem, key)).cells;
     return stored;
 }
 

@@ -14,10 +14,16 @@ struct StoredDocument {
     std::vector<Value> header;
     std::vector<Value> lines;
 
+    // Of a line: the cells, and the places of its warehouse and product.
+    static constexpr size_t kLineCells = 11, kWarehouse = 2, kProduct = 3;
+
     bool Exists() const { return !header.empty(); }
     bool operator==(const StoredDocument&) const = default;
 };
 
+// The two statements with which a document is read, to be read ahead.
+std::string StoredHeaderStatement(const std::string& stem, std::int32_t key);
+std::string StoredLinesStatement(const std::string& stem, std::int32_t key);
 // Reads the document of key `key` in the book that `stem` names. One that is gone does not Exist.
 StoredDocument ReadStored(const std::string& stem, std::int32_t key);
 

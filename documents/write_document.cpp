@@ -134,9 +134,14 @@ void WriteFinishedProduct(const frmDj02& s, const std::string& stem) {
 
 } // namespace
 
+// Of a new document there is no row: none has the key 0, and the statement can be sent before its key is
+// known.
+std::string HeaderStatement(const frmDj02& s, const std::string& stem) {
+    return StoredHeaderStatement(stem, s.InHand() == DocAction::New ? 0 : s.oldInvID);
+}
+
 void WriteHeader(const frmDj02& s, const std::string& stem) {
-    Recordset row(Conn(), "select * from " + stem + "01 Where fInvID=" + std::to_string(s.oldInvID),
-                  Access::Write);
+    Recordset row(Conn(), HeaderStatement(s, stem), Access::Write);
     if (row.AtEnd()) {
         row.AddNew();
         row.Set("fInvID", std::int64_t{s.oldInvID});

@@ -14,10 +14,12 @@ std::string WithoutPassword(const std::string& company);
 // Points the control at the company.
 void UseCompany(lzJxc& control, const std::string& company);
 
-// The session's connection open on the company for its lifetime. A DatabaseError when it cannot be opened.
+// The session's connection open on the company for its lifetime; to look only, the company may be read-only
+// and is left as it is. A DatabaseError when it cannot be opened.
+enum class OpenFor { Work, Looking };
 class OpenCompany {
   public:
-    explicit OpenCompany(const std::string& company);
+    explicit OpenCompany(const std::string& company, OpenFor purpose = OpenFor::Work);
     ~OpenCompany();
     OpenCompany(const OpenCompany&) = delete;
     OpenCompany& operator=(const OpenCompany&) = delete;

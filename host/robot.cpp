@@ -17,7 +17,10 @@ json BoxAsJson(const MessageBox& box) {
     json buttons = json::array();
     for (const BoxButton button : box.buttons)
         buttons.push_back(ButtonName(button));
-    return {{"title", box.title}, {"text", box.text}, {"icon", IconName(box.icon)}, {"buttons", buttons}};
+    json told{{"title", box.title}, {"text", box.text}, {"icon", IconName(box.icon)}, {"buttons", buttons}};
+    if (!box.details.empty())
+        told["details"] = box.details;
+    return told;
 }
 
 // The answer that changes nothing.
@@ -69,7 +72,10 @@ std::optional<json> Robot::Await(const char* waiting, const MessageBox* box) {
             }
             if (box)
                 reply["box"] = BoxAsJson(*box);
+            if (!signal_.empty())
+                reply["signal"] = signal_;
         }
+        signal_.clear();
         source_.Reply(reply);
     }
     if (ended_)

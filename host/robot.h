@@ -2,9 +2,13 @@
 // when the program next waits for input, so a click that raises a message box is answered with that box.
 //
 // Requests: property, refresh, open (between screens; open names an editor of the host); controls, get, set,
-// choose, type, click, dblclick, select, menu, key, tab, heading, drop, close (on a screen); answer (in a
-// message box). A request that does not fit is answered with
-// {"ok":false,"error":...} and changes nothing. At the end of the requests all screens close without saving.
+// choose, type, paste, click, dblclick, select, menu, key, tab, heading, drop, close (on a screen); answer (in a
+// message box). "paste" puts a block of cells into a grid that takes blocks: {"op":"paste","control":"Grid2",
+// "value":"A1\t3\nB2\t4"}. A request that does not fit is answered with {"ok":false,"error":...} and changes
+// nothing. At the end of the requests all screens close without saving.
+//
+// A reply has "signal" with the line that the gesture raised beside the work, if it raised one (a code that found
+// nothing), and its box has "details" where the engine told the cause of a failure.
 #pragma once
 
 #include <iosfwd>
@@ -50,7 +54,9 @@ class Robot : public View {
     void RunModal(Screen& screen) override;
     BoxButton ShowBox(const MessageBox& box) override;
     void ShowProgress(const std::string&, int, int) override {}
+    void Signal(const std::string& text) override { signal_ = text; }
     void ShowNotice(const std::string& title, const std::string& text) override;
+    bool KeepWaiting(int) override { return true; }  // a script waits as long as the engine does
     void OpenAddress(const std::string&) override {} // a script needs no window beside its own
     void DialNumber(const std::string&) override {}
     std::string Clipboard() override { return clipboard_; }
@@ -69,6 +75,7 @@ class Robot : public View {
     std::vector<Screen*> screens_;          // open, the current one last
     std::optional<nlohmann::json> pending_; // the reply to be completed at the next wait
     bool ended_ = false;
+    std::string signal_; // the line told since the reply before
     std::string clipboard_;
 };
 

@@ -166,6 +166,10 @@ const std::map<std::string, Gesture>& Gestures() {
              TypeCell(screen, ControlOfKind<Grid>(screen, r, "表格"), PlaceOf(r, "row"), PlaceOf(r, "col"),
                       ValueOf(r, "value").AsText());
          }},
+        {"paste",
+         [](Screen& screen, const json& r) {
+             PasteBlock(screen, ControlOfKind<Grid>(screen, r, "表格"), ReadCells(TextOf(r, "value")));
+         }},
         {"click",
          [](Screen& screen, const json& r) { Click(screen, ControlOfKind<Button>(screen, r, "按钮")); }},
         {"menu",
@@ -193,12 +197,17 @@ const std::map<std::string, Gesture>& Gestures() {
 std::string TextOf(const json& request, const std::string& part) {
     if (!request.contains(part) || !request.at(part).is_string())
         throw RequestError("请求缺少文本 " + part + "。");
-    return request.at(part).get<std::string>();
+    const std::string text = request.at(part).get<std::string>();
+    if (text.find('\0') != std::string::npos)
+        throw RequestError(part + " 含有无效字符。");
+    return text;
 }
 
 std::int64_t NumberOf(const json& request, const std::string& part) {
     if (!request.contains(part) || !request.at(part).is_number_integer())
         throw RequestError("请求缺少整数 " + part + "。");
+    if (request.at(part).is_number_unsigned() && request.at(part).get<std::uint64_t>() > INT64_MAX)
+        throw RequestError(part + " 超出范围。");
     return request.at(part).get<std::int64_t>();
 }
 
@@ -211,11 +220,11 @@ Value ValueOf(const json& request, const std::string& part) {
     if (value.is_boolean())
         return std::int64_t{value.get<bool>()};
     if (value.is_number_integer())
-        return value.get<std::int64_t>();
+        return NumberOf(request, part);
     if (value.is_number())
         return value.get<double>();
     if (value.is_string())
-        return value.get<std::string>();
+        return TextOf(request, part);
     throw RequestError(part + " 须为文本、数字、true、false 或 null。");
 }
 

@@ -148,6 +148,12 @@ std::optional<json> GestureOf(const std::vector<std::string>& words) {
              request["control"] = word(1);
              return request;
          }},
+        {"paste",
+         [&] {
+             std::string cells = word(2); // "|" ends a cell, "\n" a row
+             std::replace(cells.begin(), cells.end(), '|', '\t');
+             return json{{"control", word(1)}, {"value", WithLineEnds(cells)}};
+         }},
         {"type",
          [&] {
              return json{
@@ -256,6 +262,8 @@ std::optional<json> Scenario::Perform(const Line& line) {
     }
     if (!error_.empty())
         Fail("此前的操作被拒绝：" + std::exchange(error_, ""));
+    if (verb == "signal")
+        return ExpectSignal(RestAfter(line.text, 1)), std::nullopt;
     if (verb == "box")
         return AnswerBox(RestAfter(line.text, 1));
     const bool beside =
@@ -322,6 +330,11 @@ void Scenario::ExpectScreen(const std::string& wanted) {
         Fail("当前在 " + (at.empty() ? "host" : at));
 }
 
+void Scenario::ExpectSignal(const std::string& text) {
+    if (signal_ != text)
+        Fail("提示行是 " + signal_);
+}
+
 void Scenario::ExpectRefusal(const std::string& text) {
     if (error_.empty())
         Fail("操作没有被拒绝");
@@ -338,6 +351,7 @@ void Scenario::Reply(const json& reply) {
     }
     waiting_ = reply.value("waiting", "");
     screen_ = reply.value("screen", "");
+    signal_ = reply.value("signal", "");
     box_ = reply.contains("box") ? std::optional<json>(reply["box"]) : std::nullopt;
     if (!asked_.empty())
         CheckAsked(reply);

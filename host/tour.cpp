@@ -6,10 +6,14 @@
 
 #include "host/check.h"
 #include "host/company/create_company.h"
+#include "host/company/default_settings.h"
+#include "host/company/prepare_database.h"
+#include "host/company/sample_company.h"
 #include "host/company_address.h"
 #include "host/scenario.h"
 #include "host/screens.h"
 #include "session/database/open_connection.h"
+#include "session/session.h"
 
 namespace jxc {
 
@@ -132,13 +136,28 @@ int Play(const std::string& company) {
     return 0;
 }
 
+// The tour enters and approves documents: never in the books of somebody's own company.
+void RequireSample(const std::string& company) {
+    const OpenCompany open(company);
+    const Rows name = Conn().Query("Select Top 1 CompName From myCompany");
+    if (name.Count() == 0 || name.At(0, 0).AsText() != kSampleCompany.name)
+        throw std::runtime_error("演示会录入并审核单据，只在样例公司中进行：" + WithoutPassword(company) +
+                                 " 不是样例公司。");
+}
+
 } // namespace
 
 int PlayTour(const std::string& company) {
     RegisterAllScreens();
     if (!company.empty()) {
-        if (DialectOf(company) != 0 || !std::filesystem::exists(company))
+        const bool onServer = DialectOf(company) != 0;
+        if (onServer ? HoldsCompany(company) : std::filesystem::exists(company)) {
+            RequireSample(company);
+        } else {
+            if (onServer)
+                PrepareDatabase(company, false);
             CreateCompany(DialectOf(company), company, CompanyKind::Sample);
+        }
         return Play(company);
     }
     const TemporaryFolder folder;

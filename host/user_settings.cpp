@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "session/database/late_columns.h"
 #include "session/database/recordset.h"
 #include "session/database/routines.h"
 #include "session/session.h"
@@ -24,7 +23,6 @@ std::string AllRights() {
 }
 
 UserRights UserSettings(const std::string& user) {
-    EnsureLateTable("tHostUser");
     const Recordset users(Conn(), "Select Top 1 fUserName From tHostUser");
     if (users.AtEnd())
         return {true, AllRights(), user};

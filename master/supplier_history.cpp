@@ -16,11 +16,12 @@ std::string WarningOf(const DatabaseError& error) {
     return std::string("刷新产品供应商错误：") + error.what();
 }
 
-// The first row of each product is its latest purchase.
+// The first row of each product is its latest purchase: of two on a day the document written later.
 void SetLatestSuppliers() {
     Recordset row(Conn(), "Select a.fCpID,a.fKhID,b.compname "
-                          "From tJXC_CpGys a Left Join cards b On a.fKhID=b.fID "
-                          "Order By a.fCpID,a.fInvDate Desc");
+                          "From (tJXC_CpGys a Left Join cards b On a.fKhID=b.fID) "
+                          "Left Join tJXC_CkDj01 c On a.fInvNo=c.fInvNo "
+                          "Order By a.fCpID,a.fInvDate Desc,c.fInvID Desc,a.fInvNo Desc");
     for (std::int64_t done = -1; !row.AtEnd(); row.MoveNext()) {
         const std::int64_t product = row["fCpID"].AsLong();
         if (product == done)

@@ -2,14 +2,17 @@
 # Sourced, not run. Expects `set -euo pipefail`; works from any current directory.
 
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-# The CMake preset: release, or ci where warnings are errors, both in build/release; no-view without the windows.
+# The CMake preset: release, or ci where warnings are errors, both in build/release; no-view without the windows;
+# sanitize for the core under the address and undefined behaviour sanitizers.
 preset="${JXC_PRESET:-release}"
 build="$root/build/release"
-[[ "$preset" != no-view ]] || build="$root/build/no-view"
+case "$preset" in
+no-view | sanitize) build="$root/build/$preset" ;;
+esac
 
 packages=(g++ cmake ninja-build ccache pkg-config
     libsqlite3-dev libpq-dev libmuparser-dev nlohmann-json3-dev libcli11-dev
-    qt6-base-dev qt6-tools-dev libqt6opengl6-dev qt6-translations-l10n fonts-wqy-zenhei libxlsxwriter-dev unzip
+    qt6-base-dev qt6-tools-dev libqt6opengl6-dev qt6-translations-l10n fonts-wqy-zenhei libxlsxwriter-dev unzip locales
     postgresql libgtest-dev libgmock-dev libbenchmark-dev)
 
 say() { printf '== %s\n' "$*"; }

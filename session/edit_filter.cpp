@@ -52,8 +52,8 @@ void FilterNumber(EditBox& box, int& keyCode, const std::u32string& insert) {
 void EditKeyFilter(EditBox& box, int& keyCode, int maxBytes, bool numeric) {
     if (maxBytes == 0 || (keyCode > 0 && keyCode < 32 && keyCode != kPaste))
         return;
-    const std::u32string insert = keyCode == kPaste ? ToCodePoints(ClipboardLine())
-                                                    : std::u32string(1, static_cast<char32_t>(keyCode));
+    const std::u32string insert =
+        keyCode == kPaste ? ToCodePoints(ClipboardLine()) : std::u32string(1, static_cast<char32_t>(keyCode));
     const int rest = AnsiByteLength(FromCodePoints(TextAfter(box, U"")));
     if (rest + AnsiByteLength(FromCodePoints(insert)) > maxBytes) {
         if (keyCode == kPaste)

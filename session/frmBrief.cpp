@@ -133,6 +133,22 @@ void MoveRow(Grid& grid, int distance) {
     grid.selectedRow = to;
 }
 
+// Another caption for the selected column, or another code list behind it.
+void RenameColumn(frmBrief& s) {
+    const int row = s.Grid1.selectedRow;
+    if (row < 1)
+        return;
+    Screen& field = ScreenNamed("frmRs_RptSet");
+    field.SetProperty("TabelName", s.table);
+    field.SetProperty("Field", s.Grid1.Text(row, 3));
+    field.SetProperty("ItemEnable", 0);
+    ShowModal(field);
+    if (session.RptSetResult.empty() || session.RptSetResult == s.Grid1.Text(row, 2))
+        return;
+    s.Grid1.SetCell(row, 2, session.RptSetResult);
+    s.chosen = s.table; // also when the order is left alone, the columns are to be shown anew
+}
+
 } // namespace
 
 frmBrief::frmBrief() : Screen("frmBrief") {
@@ -140,6 +156,7 @@ frmBrief::frmBrief() : Screen("frmBrief") {
     cmdDelete.onClick = [this] { GridAppendRow(Grid1, 2); };
     cmdUp.onClick = [this] { MoveRow(Grid1, -1); };
     cmdDown.onClick = [this] { MoveRow(Grid1, 1); };
+    cmdRename.onClick = [this] { RenameColumn(*this); };
     cmdOk.onClick = [this] { Confirm(*this); };
     cmdCancel.onClick = [this] { Close(); };
     Grid1.onDoubleClick = [this](int) {
@@ -157,7 +174,7 @@ void frmBrief::Open() {
     const bool entries = kind == BriefKind::EditEntries;
     const bool columns = kind == BriefKind::SelectColumns;
     cmdAdd.visible = cmdDelete.visible = entries;
-    cmdUp.visible = cmdDown.visible = columns;
+    cmdUp.visible = cmdDown.visible = cmdRename.visible = columns;
     Grid1.onEnterKey = nullptr;
     if (entries)
         Grid1.onEnterKey = [this] { GridAppendRow(Grid1, 1); };

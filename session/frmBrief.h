@@ -18,6 +18,7 @@ struct frmBrief : Screen {
     Button cmdDelete{*this, "cmdDelete", "删除(&D)"};
     Button cmdUp{*this, "cmdUp", "上移(&U)"};
     Button cmdDown{*this, "cmdDown", "下移(&N)"};
+    Button cmdRename{*this, "cmdRename", "改名(&M)"};
     Button cmdOk{*this, "cmdOk", "确定(&O)"};
     Button cmdCancel{*this, "cmdCancel", "取消(&C)"};
 

@@ -1,5 +1,7 @@
 #include "session/html_pages.h"
 
+#include "session/print_grid.h"
+
 namespace jxc {
 
 namespace {
@@ -34,20 +36,14 @@ std::string Head(const std::string& title) {
            ".number{text-align:right}.pairs td{border:none}</style></head>\n<body>\n";
 }
 
-// The header's pairs, three to a row; those without a value are left out. Keys stand in "<" and ">" for
-// templates only.
+// The header's pairs, three to a row.
 std::string Pairs(const FieldList& fields) {
     std::string html = "<table class=\"pairs\" width=\"100%\">\n<tr>";
     int shown = 0;
-    for (size_t i = 0; i + 1 < fields.size(); i += 2) {
-        if (fields[i + 1].empty())
-            continue;
-        std::string key = fields[i];
-        if (key.size() > 2 && key.front() == '<' && key.back() == '>')
-            key = key.substr(1, key.size() - 2);
+    for (const auto& [key, value] : ShownHeader(fields)) {
         if (shown > 0 && shown % 3 == 0)
             html += "</tr>\n<tr>";
-        html += "<td>" + Escaped(key) + "：" + Escaped(fields[i + 1]) + "</td>";
+        html += "<td>" + Escaped(key) + "：" + Escaped(value) + "</td>";
         ++shown;
     }
     return html + "</tr>\n</table>\n";
@@ -81,7 +77,7 @@ std::string GridPage(const GridPrintJob& job) {
     std::string html =
         Head(job.title) + "<h1>" + Escaped(job.title) + "</h1>\n" + Pairs(job.header) + GridTable(*job.grid);
     if (!job.amount.empty())
-        html += "<p>" + Escaped(job.amount) + "</p>\n";
+        html += "<p>" + Escaped(kAmountCaption) + "：" + Escaped(job.amount) + "</p>\n";
     return html + kEnd;
 }
 

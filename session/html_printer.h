@@ -1,5 +1,6 @@
 // Prints to an HTML file in the folder "Sheet" below PowerPath (the system's temporary folder when that is
-// empty), and opens it with the desktop's program.
+// empty), and opens it with the desktop's program. Only this user can read the file; it is removed when the program
+// ends.
 #pragma once
 
 #include "session/components.h"

@@ -25,12 +25,14 @@ void FillDistinctCombo(const std::string& table, ListBox& list, const std::strin
     }
 }
 
+std::string BriefStatement(const std::string& briefType) {
+    return "select * from briefDetail where briefType='" + briefType + "' Order By briefcode";
+}
+
 void FillBriefCombo(ListBox& list, const std::string& briefType, bool withCode) {
     if (briefType.empty())
         return;
-    const std::string sql =
-        "select * from briefDetail where briefType='" + briefType + "' Order By briefcode";
-    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
+    for (Recordset row(Conn(), BriefStatement(briefType)); !row.AtEnd(); row.MoveNext()) {
         const std::string name = row["BriefName"].AsText();
         list.items.push_back(withCode ? row["BriefCode"].AsText() + "\t" + name : name);
     }

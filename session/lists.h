@@ -15,6 +15,7 @@ void FillCombo(const std::string& sql, ListBox& list, int width = 0, bool withKe
 void FillDistinctCombo(const std::string& table, ListBox& list, const std::string& fields,
                        const std::string& where, const std::string& tail, bool twoColumns);
 // Adds the entries of a code list: the name, or the code, a tab and the name. The list is not cleared.
+std::string BriefStatement(const std::string& briefType);
 void FillBriefCombo(ListBox& list, const std::string& briefType, bool withCode);
 
 // The first item whose first `width` characters, or whose text from the character `start` on, count as the

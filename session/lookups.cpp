@@ -49,19 +49,34 @@ std::optional<std::string> PickProduct(const std::string& code, const std::strin
     return kProducts + " And fCpID = " + std::to_string(session.SelectedProductID) + " Order By fCpCode";
 }
 
-std::optional<std::string> StatementByCode(const std::string& code) {
-    const std::string exact = kProducts + " And fCpCode = '" + code + "' Order By fCpCode";
-    if (!Recordset(Conn(), exact).AtEnd())
-        return exact;
-    const std::string pattern = LikePattern(code);
-    const std::string count = "Select COUNT(*) "
-                              " From tJXC_Cp Where fCpFlag<>1 And fCpCode like '" +
-                              pattern + "'";
-    const auto hits = Recordset(Conn(), count)[size_t{0}].AsLong();
+// The statements of a search by code: the exact code, how many have it in their codes, and the stock of the exact one.
+struct ByCode {
+    std::string exact, count, stock;
+};
+
+ByCode StatementsByCode(const std::string& code, const std::string& warehouse) {
+    const std::string ofCode = " Inner Join tJXC_Cp c On c.fCpID=a.fCpID";
+    const std::string isCode = "c.fCpFlag<>1 And c.fCpCode = '" + code + "'";
+    return {
+        kProducts + " And fCpCode = '" + code + "' Order By fCpCode,fCpID Desc",
+        "Select COUNT(*) "
+        " From tJXC_Cp Where fCpFlag<>1 And fCpCode like '" +
+            LikePattern(code) + "'",
+        warehouse.empty()
+            ? "select sum(a.fKcSl) as fKcSl from (tJXC_CkTj a Left Join tJXC_Ck b On a.fCkName=b.fCkName)" +
+                  ofCode + " Where " + isCode + " And (b.fCkType2=0 Or b.fCkType2=1)"
+            : "select a.fKcSl from tJXC_CkTj a" + ofCode + " Where " + isCode +
+                  " And a.fCkName=" + InQuotes(warehouse)};
+}
+
+std::optional<std::string> StatementByCode(const std::string& code, const ByCode& statements) {
+    if (!Recordset(Conn(), statements.exact).AtEnd())
+        return statements.exact;
+    const auto hits = Recordset(Conn(), statements.count)[size_t{0}].AsLong();
     if (hits == 0)
         return std::nullopt;
     if (hits == 1)
-        return kProducts + " And fCpCode like '" + pattern + "'";
+        return kProducts + " And fCpCode like '" + LikePattern(code) + "'";
     return PickProduct(code, "");
 }
 
@@ -78,10 +93,20 @@ std::optional<std::string> StatementByName(const std::string& name) {
 
 } // namespace
 
+std::vector<Connection::Expected> ProductStatements(const std::string& code, const std::string& warehouse) {
+    const ByCode statements = StatementsByCode(code, warehouse);
+    return {{statements.exact}, {statements.stock}};
+}
+
 std::int32_t FindProduct(ProductSought& sought) {
     if (sought.code.empty() && sought.name.empty())
         return 0;
-    const auto statement = !sought.code.empty() ? StatementByCode(sought.code) : StatementByName(sought.name);
+    const bool byCode = !sought.code.empty();
+    const ByCode statements = byCode ? StatementsByCode(sought.code, sought.warehouse) : ByCode{};
+    // A line's code costs one waiting for a server.
+    const ReadAhead ahead(Conn(), byCode ? ProductStatements(sought.code, sought.warehouse)
+                                         : std::vector<Connection::Expected>{});
+    const auto statement = byCode ? StatementByCode(sought.code, statements) : StatementByName(sought.name);
     if (!statement)
         return 0;
     const Recordset row(Conn(), *statement);
@@ -95,8 +120,14 @@ std::int32_t FindProduct(ProductSought& sought) {
     sought.barCode = row["fCpBarCode"].AsText();
     for (int i = 0; i < 4; ++i)
         sought.price[i] = row["fCpPrice" + std::to_string(i)].AsDouble();
-    if (sought.stock >= 0)
+    if (sought.stock < 0)
+        return id;
+    if (*statement != statements.exact || row.RecordCount() > 1) {
         sought.stock = GetStockQty(sought.warehouse, id);
+    } else {
+        const Recordset stock(Conn(), statements.stock);
+        sought.stock = stock.AtEnd() ? 0 : stock["fKcSl"].AsDouble();
+    }
     return id;
 }
 
@@ -114,6 +145,23 @@ double GetStockQty(const std::string& warehouse, std::int32_t fCpID) {
     return row.AtEnd() ? 0 : row["fKcSl"].AsDouble();
 }
 
+std::string StockQtysStatement(const std::string& warehouse, std::span<const std::int64_t> products) {
+    return warehouse.empty() ? "select a.fCpID,sum(a.fKcSl) as fKcSl from tJXC_CkTj a"
+                               " Left Join tJXC_Ck b On a.fCkName=b.fCkName"
+                               " Where a.fCpID" +
+                                   InKeys(products) + " And (b.fCkType2=0 Or b.fCkType2=1) Group By a.fCpID"
+                             : "select fCpID,fKcSl from tJXC_CkTj Where fCpID" + InKeys(products) +
+                                   " And fCkName=" + InQuotes(warehouse);
+}
+
+std::map<std::int64_t, double> GetStockQtys(const std::string& warehouse,
+                                            std::span<const std::int64_t> products) {
+    std::map<std::int64_t, double> stock;
+    for (Recordset row(Conn(), StockQtysStatement(warehouse, products)); !row.AtEnd(); row.MoveNext())
+        stock[row[size_t{0}].AsLong()] = row["fKcSl"].AsDouble();
+    return stock;
+}
+
 int FindCustomerCard(ListBox& list, const std::string& text) {
     const std::string key = UpperCase(text);
     if (key.empty())
@@ -127,7 +175,7 @@ int FindCustomerCard(ListBox& list, const std::string& text) {
                           "E_mail,HomeEmail,http,HomeHttp "
                           "from cards "
                           " Where " +
-                              where + " Order by compname,name");
+                              where + " Order by compname,name,fID Desc");
     list.Clear();
     for (; !row.AtEnd() && list.items.size() < kMostCards; row.MoveNext())
         list.items.push_back(CustomerRow(row["compname"].AsText(), row["fID"].AsLong()));

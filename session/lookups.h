@@ -2,9 +2,13 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "controls/control.h"
+#include "session/database/connection.h"
 
 namespace jxc {
 
@@ -24,8 +28,16 @@ struct ProductSought {
 // wins over a pattern; several hits open the product picker. A stopped product is never found.
 std::int32_t FindProduct(ProductSought& sought);
 
+// The statements with which it finds an exact code and its stock, to be read ahead for many codes.
+std::vector<Connection::Expected> ProductStatements(const std::string& code, const std::string& warehouse);
+
 // Stock of a product in a warehouse, with "" in all warehouses of the table together.
 double GetStockQty(const std::string& warehouse, std::int32_t fCpID);
+
+// The same of several products at once, by product; one without stock is not among them.
+std::map<std::int64_t, double> GetStockQtys(const std::string& warehouse,
+                                            std::span<const std::int64_t> products);
+std::string StockQtysStatement(const std::string& warehouse, std::span<const std::int64_t> products);
 
 // Fills `list` with the cards that the text finds, an exact code first, else a pattern over code and name, at
 // most 101; selects the first without firing its event. The number of rows; an empty text leaves the list

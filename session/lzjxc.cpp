@@ -5,6 +5,7 @@
 
 #include "controls/screen.h"
 #include "controls/text.h"
+#include "session/database/storable_text.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -119,7 +120,11 @@ void lzJxc::PowerPath(std::string folder) {
 void lzJxc::SetProperty(std::string_view name, const Value& value) {
     using Setter = std::function<void(lzJxc&, std::string_view, const Value&)>;
     const auto text = [](void (lzJxc::*set)(std::string)) -> Setter {
-        return [set](lzJxc& control, std::string_view, const Value& v) { (control.*set)(v.AsText()); };
+        return [set](lzJxc& control, std::string_view n, const Value& v) {
+            if (!IsStorable(v.AsText()))
+                throw ScreenError("属性 " + std::string(n) + " 的文本含有无效字符。");
+            (control.*set)(v.AsText());
+        };
     };
     const auto number = [](void (lzJxc::*set)(std::int16_t)) -> Setter {
         return [set](lzJxc& control, std::string_view n, const Value& v) { (control.*set)(ShortOf(n, v)); };

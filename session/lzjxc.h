@@ -44,7 +44,8 @@ class lzJxc {
     void myType(std::int16_t type);
 
     // Opens the company, shows the screen of that number until it is closed, and closes the company. A number
-    // without a screen opens and closes only. A company that cannot be opened is told in a message box.
+    // without a screen opens and closes only. A company that cannot be opened is told in a message box, as is a
+    // call from inside an open screen, which is refused and leaves that screen as it is.
     // `properties` are set on the screen after the number's own settings; a name that the screen does not
     // have is a ScreenError before anything is opened.
     void Refresh(std::int16_t RAction, const ScreenProperties& properties = {});

@@ -14,8 +14,12 @@ Date PeriodDate(Date date, int day) {
     return AddDays(monthBefore, -DayOf(monthBefore) + std::abs(day));
 }
 
+std::string PeriodStatement() {
+    return "select fSysDate,fSysDay,fSysDeciSl,fSysDeciDj,fSysCostWay from tJXC_InvSys";
+}
+
 void LoadPeriodSettings() {
-    const Recordset row(Conn(), "select fSysDate,fSysDay,fSysDeciSl,fSysDeciDj,fSysCostWay from tJXC_InvSys");
+    const Recordset row(Conn(), PeriodStatement());
     if (row.AtEnd())
         return;
     session.SysDay = static_cast<std::int16_t>(row["fSysDay"].AsLong());

@@ -1,6 +1,8 @@
 // The current accounting period.
 #pragma once
 
+#include <string>
+
 #include "controls/date.h"
 
 namespace jxc {
@@ -12,6 +14,7 @@ Date PeriodDate(Date date, int day);
 // Reads period, decimals and cost method of the system parameters into the session. An empty table leaves
 // them.
 void LoadPeriodSettings();
+std::string PeriodStatement();
 // Reads the start of the books; without one the current period's month counts. Needs LoadPeriodSettings
 // before it.
 void LoadSystemStartDate();

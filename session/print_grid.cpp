@@ -13,4 +13,17 @@ void PrintGrid(const Grid& grid, const std::string& title, const std::string& ty
     ComponentsInUse().printer->Print(GridPrintJob{std::move(header), &grid, typeName, title, amount});
 }
 
+std::vector<std::pair<std::string, std::string>> ShownHeader(const FieldList& header) {
+    std::vector<std::pair<std::string, std::string>> shown;
+    for (size_t i = 0; i + 1 < header.size(); i += 2) {
+        if (header[i + 1].empty())
+            continue;
+        std::string key = header[i];
+        if (key.size() > 2 && key.front() == '<' && key.back() == '>')
+            key = key.substr(1, key.size() - 2);
+        shown.emplace_back(std::move(key), header[i + 1]);
+    }
+    return shown;
+}
+
 } // namespace jxc

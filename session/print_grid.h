@@ -2,6 +2,8 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "controls/grid.h"
 #include "session/components.h"
@@ -12,5 +14,12 @@ namespace jxc {
 // grid prints nothing and says nothing.
 void PrintGrid(const Grid& grid, const std::string& title, const std::string& typeName,
                const std::string& amount, const FieldList& fields = {});
+
+// What stands before the amount below a grid.
+inline constexpr const char* kAmountCaption = "金额合计";
+
+// The header's pairs as paper shows them: those without a value are left out, and the "<" and ">" around
+// keys, which are for templates only.
+std::vector<std::pair<std::string, std::string>> ShownHeader(const FieldList& header);
 
 } // namespace jxc

@@ -52,7 +52,8 @@ Answer AskRight(const std::string& moduleName, int offset, int& result) {
     const int serial = GetModule(moduleName).serial;
     if (serial == 0)
         return Answer::NotInUse;
-    if (serial != -1 && Val(MidText(session.myPower, serial + offset, 1)) == 0)
+    const bool everyone = serial == -1;
+    if (serial < -1 || (!everyone && Val(MidText(session.myPower, serial + offset, 1)) == 0))
         return Answer::Refused;
     result = serial + offset;
     return Answer::Granted;

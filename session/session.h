@@ -20,7 +20,7 @@ struct Session {
     std::string UserID;
     std::string Default;
     std::int16_t SQLData = 0;  // 0: the Jet form of statements, any other value: the SQL Server form
-    std::string DateDelimiter; // "#" or "'", set together with SQLData
+    std::string DateDelimiter; // "#" or "'", set with SQLData and again when the company is opened
     std::string CompName;
     std::string UserName; // the signed-in user: enters, approves
     std::string ZgName;   // the supervisor

@@ -30,9 +30,7 @@ std::string DateByToken(Date date, const std::string& token) {
     return text;
 }
 
-// The rule without its counter, its date token expanded.
-std::string StemOf(Date date, const std::string& rule, size_t counterDigits) {
-    const std::string fixed = rule.substr(0, rule.size() - counterDigits);
+std::string WithDate(Date date, const std::string& fixed) {
     for (const std::string token : kDateTokens) {
         const size_t at = fixed.find(token);
         if (at != std::string::npos)
@@ -41,13 +39,28 @@ std::string StemOf(Date date, const std::string& rule, size_t counterDigits) {
     return fixed;
 }
 
+// The two parts of a rule's numbers on a day: what they begin with, and how many digits count them. No digits: the
+// rule counts nothing.
+struct Pattern {
+    std::string stem;
+    size_t counterDigits;
+};
+
+Pattern PatternOf(Date date, const std::string& upperRule) {
+    size_t digits = 0;
+    while (digits < upperRule.size() && upperRule[upperRule.size() - 1 - digits] == 'X')
+        ++digits;
+    return {WithDate(date, upperRule.substr(0, upperRule.size() - digits)), digits};
+}
+
 std::string LastCharacters(const std::string& text, size_t count) {
     return text.substr(text.size() - count);
 }
 
-// The largest counter stored under the stem, "" when there is none. Under one stem the largest number has the
-// largest counter, and the index finds it from its end, however many numbers the day or month already has.
-std::string LargestCounter(const std::string& stem, size_t counterDigits, int series) {
+// Under one stem the largest number has the largest counter, and the index finds it from its end, however many
+// numbers the day or month already has.
+std::string LargestCounterStatement(const Pattern& pattern, int series) {
+    const auto& [stem, counterDigits] = pattern;
     const bool account = series >= kSeriesCustomerAccount;
     const std::string table = account ? "tAccountDetail" : BookStem(series, false) + "02";
     const std::string field = account ? "fAcntNo" : "fInvNo";
@@ -55,9 +68,14 @@ std::string LargestCounter(const std::string& stem, size_t counterDigits, int se
     const std::string counter = std::string(Dialect("mid", "SUBSTRING")) + "(" + field + "," +
                                 std::to_string(CharacterCount(stem) + 1) + "," +
                                 std::to_string(counterDigits) + ")";
-    const Recordset row(Conn(), "select top 1 " + counter + " as invID from " + table + " where left(" +
-                                    field + "," + length + ")='" + stem + "'" + " and IsNumeric(" + counter +
-                                    ")" + Dialect("", "=1") + " Order By " + field + " Desc");
+    return "select top 1 " + counter + " as invID from " + table + " where left(" + field + "," + length +
+           ")='" + stem + "'" + " and IsNumeric(" + counter + ")" + Dialect("", "=1") + " Order By " + field +
+           " Desc";
+}
+
+// The largest counter stored, "" when there is none.
+std::string LargestCounter(const Pattern& pattern, int series) {
+    const Recordset row(Conn(), LargestCounterStatement(pattern, series));
     return row.AtEnd() ? "" : row["invID"].AsText();
 }
 
@@ -65,15 +83,13 @@ std::string LargestCounter(const std::string& stem, size_t counterDigits, int se
 
 std::string NextDocumentNo(Date date, std::string& rule, int series) {
     rule = UpperCase(rule);
-    size_t counterDigits = 0;
-    while (counterDigits < rule.size() && rule[rule.size() - 1 - counterDigits] == 'X')
-        ++counterDigits;
+    const Pattern pattern = PatternOf(date, rule);
+    const auto& [stem, counterDigits] = pattern;
     if (counterDigits == 0)
         return "";
-    const std::string stem = StemOf(date, rule, counterDigits);
     const std::string zeros(counterDigits, '0');
     if (series != kSeriesTest) {
-        const std::string largest = LargestCounter(stem, counterDigits, series);
+        const std::string largest = LargestCounter(pattern, series);
         if (!largest.empty())
             return stem +
                    LastCharacters(zeros + "000000000000" + NumberText(Val(largest) + 1), counterDigits);
@@ -81,9 +97,20 @@ std::string NextDocumentNo(Date date, std::string& rule, int series) {
     return stem + LastCharacters(zeros + "1", counterDigits);
 }
 
+std::string NextNumberStatement(Date date, const std::string& rule, int series) {
+    const Pattern pattern = PatternOf(date, UpperCase(rule));
+    return pattern.counterDigits == 0 || series == kSeriesTest ? ""
+                                                               : LargestCounterStatement(pattern, series);
+}
+
 bool CheckNumberRule(const std::string& rule) {
-    if (rule.find_first_of("'*#%_") == std::string::npos && rule.ends_with("XXX"))
-        return true;
+    if (rule.find_first_of("'*#%_") == std::string::npos && rule.ends_with("XXX")) {
+        if (AnsiByteLength(rule) <= kNumberBytes) // a number is as long as its rule
+            return true;
+        Warn("", "[自动单号]最多 " + std::to_string(kNumberBytes) + " 个字节，“" + rule + "”有 " +
+                     std::to_string(AnsiByteLength(rule)) + " 个字节！");
+        return false;
+    }
     Warn("", " [自动单号]设定--规则如下：\n"
              "\n"
              " 1、[年月日]（可选）：表示为 [年] YYYY/YY、[月] MM、[日] DD ；\n"

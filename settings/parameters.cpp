@@ -6,8 +6,12 @@
 
 namespace jxc {
 
+std::string ParametersStatement() {
+    return "select * from tJXC_InvSys";
+}
+
 Parameters ReadParameters() {
-    const Recordset row(Conn(), "select * from tJXC_InvSys");
+    const Recordset row(Conn(), ParametersStatement());
     if (row.AtEnd())
         throw DatabaseError("系统参数尚未设置，请先进行 [系统参数设置] ！");
     const auto sysDate = ParseDate(row["fSysDate"].AsText());

@@ -30,5 +30,6 @@ struct Parameters {
 
 // Reads the row; a DatabaseError in plain words when it is missing or holds no period.
 Parameters ReadParameters();
+std::string ParametersStatement();
 
 } // namespace jxc

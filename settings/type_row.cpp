@@ -5,9 +5,13 @@
 
 namespace jxc {
 
+std::string TypeRowStatement(int type) {
+    return "select * from tJXC_InvSet where fSetNo=" + std::to_string(type) +
+           " And fSetNoUse_<>1 Order by fRowID";
+}
+
 std::optional<TypeRow> ReadTypeRow(int type) {
-    const Recordset row(Conn(), "select * from tJXC_InvSet where fSetNo=" + std::to_string(type) +
-                                    " And fSetNoUse_<>1 Order by fRowID");
+    const Recordset row(Conn(), TypeRowStatement(type));
     if (row.AtEnd())
         return std::nullopt;
     const auto choice = [&](const char* field) {

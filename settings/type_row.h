@@ -40,5 +40,6 @@ struct TypeRow {
 
 // The type's row; nothing when there is none in use. An empty list column counts as -1, an empty flag as off.
 std::optional<TypeRow> ReadTypeRow(int type);
+std::string TypeRowStatement(int type);
 
 } // namespace jxc

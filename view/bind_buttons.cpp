@@ -94,7 +94,7 @@ class CommandBinding : public Binding {
 
   private:
     void Press(Command& command) {
-        if (window_.FinishTyping() && (&command != window_.LeaveCommand() || window_.MayLeave()))
+        if (window_.FinishTyping() && (!command.dropsWork || window_.MayDropWork()))
             window_.Do([&] { Click(window_.Shown(), command); });
     }
 

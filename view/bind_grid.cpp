@@ -249,6 +249,8 @@ class GridBinding : public Binding {
         if (!refusal.empty()) {
             committed_ = false;
             Warn(window_.Shown().title, refusal);
+        } else if (grid_.refusedRow == row) {
+            committed_ = false; // what was typed is gone: no command acts as if it were there
         }
     }
 
@@ -315,11 +317,13 @@ class GridBinding : public Binding {
     }
 
     void Paste() {
-        if (!grid_.readOnly && grid_.selectedRow >= 1)
-            PasteCells(grid_, CurrentView().Clipboard(),
-                       [this](int row, int column, const std::string& text) {
-                           return PasteCell(row, column, text) && window_.Shown().IsOpen();
-                       });
+        const CellBlock block = PastedCells(CurrentView().Clipboard());
+        if (grid_.onPaste && !grid_.readOnly)
+            window_.Do([&] { PasteBlock(window_.Shown(), grid_, block); });
+        else if (!grid_.readOnly && grid_.selectedRow >= 1)
+            PasteCells(grid_, block, [this](int row, int column, const std::string& text) {
+                return PasteCell(row, column, text) && window_.Shown().IsOpen();
+            });
     }
 
     // A text that is not taken is told.

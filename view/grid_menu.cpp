@@ -2,14 +2,18 @@
 
 #include <stdexcept>
 
-#include <QFileDialog>
+#include <locale.h>
+
 #include <xlsxwriter.h>
 
 #include "controls/text.h"
 #include "controls/view.h"
-#include "session/html_pages.h"
 #include "session/session.h"
+#include "view/cell_texts.h"
+#include "view/grid_paper.h"
 #include "view/page_printer.h"
+#include "view/paper_preview.h"
+#include "view/save_dialog.h"
 #include "view/text.h"
 
 namespace jxc {
@@ -24,18 +28,11 @@ std::vector<int> VisibleColumns(const Grid& grid, int first, int last) {
     return columns;
 }
 
-std::string CsvField(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos)
-        return text;
-    std::string quoted = "\"";
-    for (const char c : text)
-        quoted.append(c == '"' ? 2 : 1, c);
-    return quoted + "\"";
-}
-
-// A number without separators, as programs read it.
+// A cell as programs read it: a number without separators, a text that no spreadsheet runs.
 std::string PlainText(const Grid& grid, int row, int column) {
     std::string text = grid.ShownText(row, column);
+    if (!grid.Cell(row, column).IsNumber())
+        return HarmlessText(text);
     if (grid.Column(column).type == CellType::Number)
         std::erase(text, ',');
     return text;
@@ -43,16 +40,38 @@ std::string PlainText(const Grid& grid, int row, int column) {
 
 bool Shows(const Grid& grid, int row, int column, const std::string& text) {
     return row <= grid.RowCount() &&
-           (grid.ShownText(row, column) == text || PlainText(grid, row, column) == text);
+           (grid.ShownText(row, column) == text || OriginalText(PlainText(grid, row, column)) == text);
 }
 
-void WriteCell(lxw_worksheet* sheet, int row, int column, const Value& value, lxw_format* format) {
+// The library prints numbers in the language in use; a file has its decimal point.
+class DecimalPoint {
+  public:
+    DecimalPoint() : numbers_(newlocale(LC_NUMERIC_MASK, "C", nullptr)), before_(uselocale(numbers_)) {}
+    ~DecimalPoint() {
+        uselocale(before_);
+        freelocale(numbers_);
+    }
+    DecimalPoint(const DecimalPoint&) = delete;
+    DecimalPoint& operator=(const DecimalPoint&) = delete;
+
+  private:
+    locale_t numbers_;
+    locale_t before_;
+};
+
+// What the library does not take it would leave out.
+void Check(lxw_error error, const QString& file) {
+    if (error != LXW_NO_ERROR)
+        throw std::runtime_error("无法写入 " + S(file) + "：" + lxw_strerror(error));
+}
+
+lxw_error WriteCell(lxw_worksheet* sheet, int row, int column, const Value& value, lxw_format* format) {
     const auto at = static_cast<lxw_row_t>(row);
     const auto to = static_cast<lxw_col_t>(column);
     if (value.IsNumber())
-        worksheet_write_number(sheet, at, to, value.AsDouble(), format);
-    else if (!value.IsNull())
-        worksheet_write_string(sheet, at, to, value.AsText().c_str(), nullptr);
+        return worksheet_write_number(sheet, at, to, value.AsDouble(), format);
+    return value.IsNull() ? LXW_NO_ERROR
+                          : worksheet_write_string(sheet, at, to, value.AsText().c_str(), nullptr);
 }
 
 lxw_format* NumberFormat(lxw_workbook* book, const GridColumn& column) {
@@ -70,23 +89,6 @@ GridPrintJob JobOf(const Grid& grid, const std::string& title) {
     return {session.CompanyFieldList, &grid, "", title, ""};
 }
 
-// Asks for a file and writes it; what goes wrong is told.
-void SaveTo(QWidget& window, const std::string& title, const QString& kind, const QString& ending,
-            const std::function<void(const QString&)>& save) {
-    QFileDialog dialog(&window, kind, Q(title) + ending, "*" + ending);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(ending.mid(1)); // before the dialog asks about a file that is there
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    const QString file = dialog.selectedFiles().front();
-    try {
-        save(file);
-        Inform(title, "已保存：" + S(file));
-    } catch (const std::exception& error) {
-        Warn(title, error.what());
-    }
-}
-
 } // namespace
 
 CellRange WholeGrid(const Grid& grid) {
@@ -98,28 +100,32 @@ std::string CopiedText(const Grid& grid, const CellRange& range, bool captions) 
     std::string text;
     const auto add = [&](const auto& cell) {
         for (size_t i = 0; i < columns.size(); ++i)
-            text.append(i > 0 ? "\t" : "").append(cell(columns[i]));
+            text.append(i > 0 ? "\t" : "").append(Quoted(cell(columns[i]), '\t'));
         text += "\n";
     };
     if (captions)
-        add([&](int column) { return grid.Column(column).caption; });
+        add([&](int column) { return HarmlessText(grid.Column(column).caption); });
     for (int row = range.firstRow; row <= range.lastRow; ++row)
         add([&](int column) { return PlainText(grid, row, column); });
     return text;
 }
 
-void PasteCells(const Grid& grid, const std::string& text,
+CellBlock PastedCells(const std::string& text) {
+    CellBlock block = ReadCells(text);
+    for (std::vector<std::string>& row : block)
+        for (std::string& cell : row)
+            cell = OriginalText(cell);
+    return block;
+}
+
+void PasteCells(const Grid& grid, const CellBlock& block,
                 const std::function<bool(int, int, const std::string&)>& type) {
     int row = grid.selectedRow;
     const int first = grid.selectedColumn;
-    for (const std::string& line : Split(text, '\n')) {
-        if (Trim(line).empty())
-            continue;
+    for (const std::vector<std::string>& cells : block) {
         const std::vector<int> columns = VisibleColumns(grid, first, grid.ColumnCount());
-        const std::vector<std::string> cells = Split(line, '\t');
         for (size_t i = 0; i < std::min(columns.size(), cells.size()); ++i) {
-            std::string cell = cells[i];
-            std::erase(cell, '\r');
+            const std::string& cell = cells[i];
             const bool passed =
                 cell.empty() || !grid.CanType(columns[i]) || Shows(grid, row, columns[i], cell);
             if (!passed && !type(row, columns[i], cell))
@@ -137,10 +143,10 @@ void SaveAsCsv(const Grid& grid, const QString& file) {
     std::string text = "\xEF\xBB\xBF";
     const auto add = [&](const auto& cell) {
         for (size_t i = 0; i < columns.size(); ++i)
-            text.append(i > 0 ? "," : "").append(CsvField(cell(columns[i])));
+            text.append(i > 0 ? "," : "").append(Quoted(cell(columns[i]), ','));
         text += "\r\n";
     };
-    add([&](int column) { return grid.Column(column).caption; });
+    add([&](int column) { return HarmlessText(grid.Column(column).caption); });
     for (int row = 1; row <= grid.RowCount(); ++row)
         add([&](int column) { return PlainText(grid, row, column); });
     out.write(text.data(), static_cast<qint64>(text.size()));
@@ -149,7 +155,9 @@ void SaveAsCsv(const Grid& grid, const QString& file) {
 }
 
 void SaveAsXlsx(const Grid& grid, const std::string& title, const QString& file) {
+    const DecimalPoint decimalPoint;
     const std::vector<int> columns = VisibleColumns(grid, 1, grid.ColumnCount());
+    lxw_error refused = LXW_NO_ERROR; // the first; the book is closed all the same
     lxw_workbook* book = workbook_new(S(file).c_str());
     lxw_worksheet* sheet = workbook_add_worksheet(book, nullptr);
     lxw_format* bold = workbook_add_format(book);
@@ -163,15 +171,17 @@ void SaveAsXlsx(const Grid& grid, const std::string& title, const QString& file)
         worksheet_write_string(sheet, 1, static_cast<lxw_col_t>(to), column.caption.c_str(), bold);
         lxw_format* format = NumberFormat(book, column);
         for (int row = 1; row <= grid.RowCount(); ++row)
-            WriteCell(sheet, row + 1, to, grid.Cell(row, columns[i]), format);
+            if (const lxw_error error = WriteCell(sheet, row + 1, to, grid.Cell(row, columns[i]), format);
+                refused == LXW_NO_ERROR)
+                refused = error;
     }
     worksheet_freeze_panes(sheet, 2, 0);
-    if (const lxw_error error = workbook_close(book); error != LXW_NO_ERROR)
-        throw std::runtime_error("无法写入 " + S(file) + "：" + lxw_strerror(error));
+    Check(workbook_close(book), file);
+    Check(refused, file);
 }
 
 void SaveAsPdf(const Grid& grid, const std::string& title, const QString& file) {
-    PrintToPdf(GridPage(JobOf(grid, title)), file);
+    WritePdf(GridPaper(JobOf(grid, title)), file);
 }
 
 void AddGridCommands(QMenu& menu, QWidget& window, const Grid& grid, const std::string& title,
@@ -184,7 +194,7 @@ void AddGridCommands(QMenu& menu, QWidget& window, const Grid& grid, const std::
                    [&grid] { CurrentView().SetClipboard(CopiedText(grid, WholeGrid(grid), true)); });
     menu.addSeparator();
     menu.addAction("打印预览(&V)...",
-                   [&window, &grid, title] { PreviewPage(GridPage(JobOf(grid, title)), title, &window); });
+                   [&window, &grid, title] { PreviewPaper(GridPaper(JobOf(grid, title)), title, &window); });
     menu.addAction("存为 PDF(&F)...", [&window, &grid, title] {
         SaveTo(window, title, "存为 PDF", ".pdf", [&](const QString& file) { SaveAsPdf(grid, title, file); });
     });

@@ -20,13 +20,15 @@ struct CellRange {
 
 CellRange WholeGrid(const Grid& grid);
 // The visible cells as a spreadsheet takes them: tabs between columns, a line per row; with the captions
-// above.
+// above. Texts are quoted and made harmless as cell_texts.h tells; PasteCells takes that off again.
 std::string CopiedText(const Grid& grid, const CellRange& range, bool captions);
 
-// Types a copied block into the cells from the selected one on, as CopiedText gives it. Columns that take no
+// The cells of a copied text, as they were before they were made harmless.
+CellBlock PastedCells(const std::string& text);
+// Types a copied block into the cells from the selected one on. Columns that take no
 // typing, empty texts, and cells that already show the text, are passed over: a name typed again behind its
 // code would look for another product. `type` returns false for a text that is not taken; that ends it.
-void PasteCells(const Grid& grid, const std::string& text,
+void PasteCells(const Grid& grid, const CellBlock& block,
                 const std::function<bool(int row, int column, const std::string& text)>& type);
 
 // Each writes the visible columns with their captions; a file that cannot be written is a std::runtime_error.

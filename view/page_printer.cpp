@@ -2,64 +2,56 @@
 
 #include <stdexcept>
 
-#include <QPrintPreviewDialog>
+#include <QPdfWriter>
 #include <QPrinter>
-#include <QTextDocument>
 
 #include "session/html_pages.h"
+#include "view/grid_paper.h"
+#include "view/paper_preview.h"
 #include "view/text.h"
+#include "view/text_paper.h"
 
 namespace jxc {
 
-namespace {
-
-// Page numbers need more than one page; a document knows its pages only at the printer's size.
-void PrintPage(const std::string& html, QPrinter& printer) {
-    QTextDocument document;
-    QFont font = QApplication::font();
-    font.setPointSizeF(9);
-    document.setDefaultFont(font);
-    document.setHtml(Q(html));
-    document.setPageSize(printer.pageRect(QPrinter::Point).size());
-    document.print(&printer);
+void WritePdf(const Paper& paper, const QString& file) {
+    QSaveFile out(file);
+    if (!out.open(QIODevice::WriteOnly))
+        throw std::runtime_error("无法写入 " + S(file) + "：" + S(out.errorString()));
+    {
+        QPdfWriter writer(&out);
+        writer.setPageLayout(paper.Layout());
+        QPainter painter(&writer);
+        for (int page = 1; page <= paper.PageCount(); ++page) {
+            if (page > 1)
+                writer.newPage();
+            paper.DrawPage(painter, page);
+        }
+    }
+    if (!out.commit())
+        throw std::runtime_error("无法写入 " + S(file) + "：" + S(out.errorString()));
 }
 
-void SetUpPaper(QPrinter& printer) {
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setPageMargins(QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter);
-}
-
-} // namespace
-
-void PrintToPdf(const std::string& html, const QString& file) {
-    if (QFile probe(file); !probe.open(QIODevice::WriteOnly))
-        throw std::runtime_error("无法写入 " + S(file) + "：" + S(probe.errorString()));
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(file);
-    SetUpPaper(printer);
-    PrintPage(html, printer);
-}
-
-void PreviewPage(const std::string& html, const std::string& title, QWidget* parent) {
-    QPrinter printer(QPrinter::HighResolution);
-    SetUpPaper(printer);
-    QPrintPreviewDialog preview(&printer, parent,
-                                Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint);
-    preview.setObjectName("preview");
-    preview.setWindowTitle(Q(title));
-    preview.resize(900, 680);
-    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested,
-                     [&html](QPrinter* to) { PrintPage(html, *to); });
-    preview.exec();
+void PrintOn(QPrinter& printer, const Paper& paper) {
+    const QPageLayout layout = printer.pageLayout();
+    const std::unique_ptr<Paper> changed = layout.isEquivalentTo(paper.Layout()) ? nullptr : paper.On(layout);
+    const Paper& printed = changed ? *changed : paper;
+    const int first = std::max(printer.fromPage(), 1);
+    const int last =
+        printer.toPage() > 0 ? std::min(printer.toPage(), printed.PageCount()) : printed.PageCount();
+    QPainter painter(&printer);
+    for (int page = first; page <= last; ++page) {
+        if (page > first)
+            printer.newPage();
+        printed.DrawPage(painter, page);
+    }
 }
 
 void PreviewPrinter::Print(const GridPrintJob& job) {
-    PreviewPage(GridPage(job), job.title, QApplication::activeWindow());
+    PreviewPaper(GridPaper(job), job.title, QApplication::activeWindow());
 }
 
 void PreviewPrinter::Print(const TemplatePrintJob& job) {
-    PreviewPage(TemplatePage(job), job.typeName, QApplication::activeWindow());
+    PreviewPaper(TextPaper(Q(TemplatePage(job))), job.typeName, QApplication::activeWindow());
 }
 
 } // namespace jxc

@@ -1,21 +1,20 @@
-// Printing of HTML pages: a preview from which the person prints or saves, and PDF files. The printer of the
-// windows: it previews what the screens hand over.
+// Paper into PDF files and onto printers, and the printer of the windows: it previews what the screens hand
+// over, and the person prints or saves from there.
 #pragma once
-
-#include <string>
 
 #include <QString>
 
 #include "session/components.h"
+#include "view/paper.h"
 
-class QWidget;
+class QPrinter;
 
 namespace jxc {
 
-// A file that cannot be written is a std::runtime_error.
-void PrintToPdf(const std::string& html, const QString& file);
-// Modal. Pages wider than high when `html` holds a wide table is the person's choice in the preview.
-void PreviewPage(const std::string& html, const std::string& title, QWidget* parent);
+// A file that cannot be written is a std::runtime_error, and the one that stood there stays.
+void WritePdf(const Paper& paper, const QString& file);
+// The pages that the printer was set to, in its layout; all without a choice.
+void PrintOn(QPrinter& printer, const Paper& paper);
 
 class PreviewPrinter : public Printer {
   public:

@@ -27,6 +27,10 @@ QString CaptionOf(BoxButton button) {
         return "是(&Y)";
     case BoxButton::No:
         return "否(&N)";
+    case BoxButton::Save:
+        return "存盘(&S)";
+    case BoxButton::Discard:
+        return "放弃(&D)";
     case BoxButton::OK:
         break;
     }
@@ -36,6 +40,39 @@ QString CaptionOf(BoxButton button) {
 QMessageBox::ButtonRole RoleOf(BoxButton button) {
     return button == BoxButton::Cancel || button == BoxButton::No ? QMessageBox::RejectRole
                                                                   : QMessageBox::AcceptRole;
+}
+
+constexpr int kFrameWidth = 140; // of a window's frame beside its title: icon and buttons
+constexpr int kWidestBox = 860;
+
+// A window's frame cuts a title that is wider than the window. The box gets as wide; a title too long for
+// that stands above the text as well.
+void ShowTitle(QMessageBox& window, const MessageBox& box) {
+    QFont bold = window.font();
+    bold.setBold(true); // as most frames have it
+    const int width = QFontMetrics(bold).horizontalAdvance(Q(box.title)) + kFrameWidth;
+    if (width > kWidestBox)
+        window.setText(Q(box.title + "\n\n" + box.text));
+    auto* layout = static_cast<QGridLayout*>(window.layout());
+    layout->addItem(new QSpacerItem(std::min(width, kWidestBox), 0), layout->rowCount(), 0, 1,
+                    layout->columnCount());
+}
+
+// A button that opens the cause below, and closes it again.
+void AddDetails(QMessageBox& window, const std::string& details) {
+    auto* shown = new QPlainTextEdit(Q(details));
+    shown->setObjectName("details");
+    shown->setReadOnly(true);
+    shown->setFixedHeight(160);
+    shown->setMinimumWidth(480);
+    shown->hide();
+    auto* layout = static_cast<QGridLayout*>(window.layout());
+    layout->addWidget(shown, layout->rowCount(), 0, 1, layout->columnCount());
+    QPushButton* button = window.addButton("详情(&D)", QMessageBox::HelpRole);
+    button->setObjectName("showDetails");
+    button->disconnect(); // the box would take it for an answer
+    QObject::connect(button, &QPushButton::clicked, shown,
+                     [shown] { shown->setVisible(!shown->isVisible()); });
 }
 
 constexpr int kPatience = 300; // milliseconds before a progress window shows
@@ -77,6 +114,38 @@ class ProgressWindow : public QDialog {
     QElapsedTimer sinceBegin_;
 };
 
+// The database does not answer: what it is, for how long, and a way out. Everything else waits.
+class WaitingWindow : public QDialog {
+  public:
+    explicit WaitingWindow(QWidget* parent)
+        : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
+        setObjectName("waiting");
+        setModal(true);
+        setMinimumWidth(360);
+        setWindowTitle("请稍候");
+        auto* layout = new QVBoxLayout(this);
+        layout->addWidget(text_);
+        auto* cancel = new QPushButton("取消(&C)");
+        cancel->setAutoDefault(false); // the next Enter of somebody who types on means no giving up
+        cancel->setFocusPolicy(Qt::NoFocus);
+        layout->addWidget(cancel, 0, Qt::AlignRight);
+        connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
+        show();
+    }
+
+    // False when the person gave up.
+    bool Show(int seconds) {
+        text_->setText(QString("正在等待数据库，可能有其他用户正在存盘：%1 秒").arg(seconds));
+        QCoreApplication::processEvents();
+        return !gaveUp_;
+    }
+    void reject() override { gaveUp_ = true; }
+
+  private:
+    QLabel* text_ = new QLabel;
+    bool gaveUp_ = false;
+};
+
 QtView::QtView() = default;
 QtView::~QtView() = default;
 
@@ -101,7 +170,10 @@ BoxButton QtView::ShowBox(const MessageBox& box) {
         added->setObjectName(QString::fromUtf8(ButtonName(button)));
         buttons.push_back(added);
     }
-    window.setDefaultButton(static_cast<QPushButton*>(buttons.front()));
+    ShowTitle(window, box);
+    if (!box.details.empty())
+        AddDetails(window, box.details);
+    window.setDefaultButton(static_cast<QPushButton*>(buttons[box.preset]));
     window.setEscapeButton(buttons.back());
     window.exec();
     const auto clicked = std::find(buttons.begin(), buttons.end(), window.clickedButton());
@@ -132,6 +204,22 @@ void QtView::ShowNotice(const std::string& title, const std::string& text) {
     layout->addWidget(close, 0, Qt::AlignRight);
     close->setFocus();
     window.exec();
+}
+
+bool QtView::KeepWaiting(int seconds) {
+    if (seconds < 0) {
+        waiting_.reset();
+        return true;
+    }
+    if (!waiting_)
+        waiting_ = std::make_unique<WaitingWindow>(Front() ? Front() : QApplication::activeWindow());
+    return waiting_->Show(seconds);
+}
+
+void QtView::Signal(const std::string& text) {
+    QApplication::beep();
+    if (Front())
+        Front()->Tell(Q(text));
 }
 
 void QtView::OpenAddress(const std::string& address) {

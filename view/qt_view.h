@@ -11,6 +11,7 @@ namespace jxc {
 
 class ProgressWindow;
 class ScreenWindow;
+class WaitingWindow;
 
 class QtView : public View {
   public:
@@ -21,6 +22,8 @@ class QtView : public View {
     BoxButton ShowBox(const MessageBox& box) override;
     void ShowProgress(const std::string& step, int done, int total) override;
     void ShowNotice(const std::string& title, const std::string& text) override;
+    bool KeepWaiting(int seconds) override;
+    void Signal(const std::string& text) override;
     void OpenAddress(const std::string& address) override;
     void DialNumber(const std::string& number) override;
     std::string Clipboard() override;
@@ -34,6 +37,7 @@ class QtView : public View {
   private:
     std::vector<ScreenWindow*> windows_; // the open ones, the one in front last
     std::unique_ptr<ProgressWindow> progress_;
+    std::unique_ptr<WaitingWindow> waiting_;
     int boxesShown_ = 0;
 };
 

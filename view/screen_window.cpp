@@ -76,6 +76,9 @@ void ScreenWindow::AddFunctionKeys() {
     keys_ = new QLabel;
     keys_->setForegroundRole(QPalette::PlaceholderText);
     keys_->setContentsMargins(9, 0, 9, 6);
+    QPalette colors = keys_->palette();
+    colors.setColor(QPalette::WindowText, QColor(176, 0, 32)); // what is told there wants to be seen
+    keys_->setPalette(colors);
     layout()->addWidget(keys_);
 }
 
@@ -105,33 +108,39 @@ void ScreenWindow::ShowFunctionKeys() {
             told << button->property("fkey").toString() + " " + WithoutMnemonic(S(button->text()));
     if (form_->findChild<QTabWidget*>())
         told << "Ctrl+Tab 换页";
-    keys_->setText(told.join("    "));
-    keys_->setVisible(!told.isEmpty());
+    keys_->setText(told_.isEmpty() ? told.join("    ") : told_);
+    keys_->setForegroundRole(told_.isEmpty() ? QPalette::PlaceholderText : QPalette::WindowText);
+    QFont font = this->font();
+    font.setBold(!told_.isEmpty());
+    keys_->setFont(font);
+    keys_->setVisible(!keys_->text().isEmpty());
 }
 
 bool ScreenWindow::Do(const std::function<void()>& gesture) {
     const int boxes = view_.BoxesShown();
     bool accepted = true;
-    QString refusal;
-    ++depth_;
+    if (depth_++ == 0)
+        told_.clear();
     try {
         gesture();
     } catch (const GestureRefused& refused) {
         accepted = false;
-        QApplication::beep();
-        refusal = Q(refused.what());
+        view_.Signal(refused.what());
     } catch (const std::exception& error) {
         accepted = false;
-        Warn(screen_.title, error.what());
+        WarnOfError(screen_.title, error);
     }
     --depth_;
     if (!screen_.IsOpen())
         done(0);
     else if (depth_ == 0)
         Refresh();
-    if (!refusal.isEmpty())
-        keys_->setText(refusal); // until the next gesture
     return accepted && boxes == view_.BoxesShown();
+}
+
+void ScreenWindow::Tell(const QString& text) {
+    told_ = text;
+    ShowFunctionKeys();
 }
 
 bool ScreenWindow::FinishTyping() {
@@ -229,14 +238,20 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
     Leave();
 }
 
-bool ScreenWindow::MayLeave() {
+bool ScreenWindow::MayDropWork() {
     const std::string question = screen_.UnsavedWork();
-    return question.empty() || AskYesNo(screen_.title, question);
+    if (question.empty())
+        return true;
+    const BoxButton answer = AskSaveOrDiscard(screen_.title, question);
+    if (answer != BoxButton::Save)
+        return answer == BoxButton::Discard;
+    Do([&] { screen_.SaveWork(); });
+    return screen_.IsOpen() && screen_.UnsavedWork().empty();
 }
 
 void ScreenWindow::Leave() {
     Command* leave = LeaveCommand();
-    if (!FinishTyping() || !MayLeave())
+    if (!FinishTyping() || !MayDropWork())
         return;
     Do([&] {
         if (leave && leave->onClick)

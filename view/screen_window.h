@@ -31,8 +31,8 @@ class ScreenWindow : public QDialog {
     Screen& Shown() { return screen_; }
     QtView& InView() { return view_; }
 
-    // Runs a gesture and shows what it did. Nothing thrown leaves: a refused gesture only beeps, an error is
-    // told. False when the gesture was refused, or raised a message box.
+    // Runs a gesture and shows what it did. Nothing thrown leaves: why a gesture was refused is told at the
+    // foot with a sound, an error in a box. False when the gesture was refused, or raised a message box.
     bool Do(const std::function<void()>& gesture);
     // What the person is typing goes into the models: before a command acts on them. False when that raised a
     // message: the person looks at it first.
@@ -45,8 +45,10 @@ class ScreenWindow : public QDialog {
 
     // The command by which the person leaves; null when the screen has none to be used.
     Command* LeaveCommand() const;
-    // False when the person would lose work by leaving, and rather stays.
-    bool MayLeave();
+    // False when typed work would be lost and the person rather keeps it.
+    bool MayDropWork();
+    // A line at the foot in place of the function keys, until the next gesture.
+    void Tell(const QString& text);
 
     // The binding of a control, of a widget or of one of its inner widgets; null when there is none.
     Binding* BindingOf(const Control& control) const;
@@ -73,6 +75,7 @@ class ScreenWindow : public QDialog {
     std::map<const Control*, Binding*> byControl_;
     std::vector<QAbstractButton*> withKeys_;
     QLabel* keys_ = nullptr; // the line at the foot
+    QString told_;           // stands there instead of the keys
     int depth_ = 0;          // of gestures in each other
 };
 

@@ -1,6 +1,8 @@
 // The host's ledger: approval places one entry for the document, marked "自动挂入", reversal takes it away.
 // Amounts are in document currency with their sign, so a return enters negative.
 
+#include <optional>
+
 #include "controls/text.h"
 #include "documents/approval/stages.h"
 #include "session/database/recordset.h"
@@ -25,14 +27,18 @@ std::string Incremented(std::string number) {
     return number;
 }
 
+std::string EntryStatement(const std::string& number) {
+    return "Select * From tAccountDetail Where fAcntNo='" + number + "'";
+}
+
 // A free number of the series. One that is already taken, because the counter has wrapped, gives way to the
-// next.
-std::string NextAccountNumber(const frmDj02& s, int series) {
+// next. `entry` is opened on it.
+std::string NextAccountNumber(const frmDj02& s, int series, std::optional<Recordset>& entry) {
     const auto rule = ReadTypeRow(series);
     std::string pattern = rule ? rule->fSetAutoNo : "";
     const std::string first = NextDocumentNo(*s.dtpInvDate.date, pattern, series);
     std::string number = first;
-    while (!Recordset(Conn(), "Select fAcntNo From tAccountDetail Where fAcntNo='" + number + "'").AtEnd()) {
+    while (!entry.emplace(Conn(), EntryStatement(number), Access::Write).AtEnd()) {
         number = Incremented(number);
         if (number == first)
             throw DatabaseError("帐户单号已经用完：" + first);
@@ -41,9 +47,10 @@ std::string NextAccountNumber(const frmDj02& s, int series) {
 }
 
 void AddEntry(const frmDj02& s, int kind, int direction, std::int64_t company) {
-    const std::string number = NextAccountNumber(s, kSeriesCustomerAccount + kind);
+    std::optional<Recordset> opened;
+    const std::string number = NextAccountNumber(s, kSeriesCustomerAccount + kind, opened);
+    Recordset& entry = *opened;
     const double total = Val(s.txtSum.text);
-    Recordset entry(Conn(), "Select * From tAccountDetail Where fAcntNo='" + number + "'", Access::Write);
     entry.AddNew();
     entry.Set("fAcntNo", number);
     entry.Set("fDate", IsoText(*s.dtpInvDate.date));
@@ -74,6 +81,12 @@ void RemoveEntry(const frmDj02& s) {
 }
 
 } // namespace
+
+int AccountSeries(const TypeRow& type) {
+    if (type.fSetWlType == 1 || type.fSetWlType == 2)
+        return kSeriesCustomerAccount;
+    return type.fSetZjType == 3 || type.fSetZjType == 4 ? kSeriesMoneyAccount : 0;
+}
 
 void PostAccountEntry(const frmDj02& s, int kind, int direction, std::int64_t company, bool reversal) {
     if (reversal)

@@ -1,23 +1,56 @@
 // Two cost prices are kept whatever the cost method: the warehouse's (PostStock) and the product's over all
 // warehouses, which each receipt moves. The method decides which of them an issue's lines take.
 
+#include <array>
 #include <map>
+#include <vector>
 
 #include "controls/text.h"
 #include "documents/approval/stages.h"
 #include "session/database/recordset.h"
+#include "session/database/routines.h"
 #include "session/session.h"
 
 namespace jxc {
 
 namespace {
 
-// Writes the prices of a document's products, each once, over the stored ones read together.
-void SetOverallPrices(const std::string& key, std::map<std::int64_t, double> prices) {
-    Recordset row(
-        Conn(),
-        "Select * From tJXC_CkTj_tmp Where fCpID In (Select fCpID From tJXC_CkDj02 Where fInvID=" + key + ")",
-        Access::Write);
+std::vector<std::int64_t> KeysOf(const auto& byProduct) {
+    std::vector<std::int64_t> keys;
+    for (const auto& [product, value] : byProduct)
+        keys.push_back(product);
+    return keys;
+}
+
+// Stock and value of products over all warehouses but those of consignment and production. A product that is
+// in no other has none.
+struct OverallStock {
+    double quantity = 0;
+    double value = 0;
+};
+std::string OverallStockStatement(const std::vector<std::int64_t>& products) {
+    return "select b.fCpID,sum(b.fKcSl) as fKcSl,sum(b.fKcJe) as fKcJe from"
+           " tJXC_CkTj b Left Join tJXC_Ck c On c.fCkName=b.fCkName"
+           " Where b.fCpID" +
+           InKeys(products) +
+           " And (c.fCkType2=0 and c.fCkType3=0)"
+           " Group By b.fCpID";
+}
+
+std::map<std::int64_t, OverallStock> ReadOverallStock(const std::vector<std::int64_t>& products) {
+    std::map<std::int64_t, OverallStock> stocks;
+    for (Recordset row(Conn(), OverallStockStatement(products)); !row.AtEnd(); row.MoveNext())
+        stocks[row["fCpID"].AsLong()] = {row["fKcSl"].AsDouble(), row["fKcJe"].AsDouble()};
+    return stocks;
+}
+
+std::string OverallPricesStatement(const std::vector<std::int64_t>& products) {
+    return "Select * From tJXC_CkTj_tmp Where fCpID" + InKeys(products);
+}
+
+// Writes the new prices, each once, over the stored ones of the document's products, read together.
+void SetOverallPrices(const std::vector<std::int64_t>& products, std::map<std::int64_t, double> prices) {
+    Recordset row(Conn(), OverallPricesStatement(products), Access::Write);
     for (; !row.AtEnd(); row.MoveNext()) {
         const auto price = prices.find(row["fCpID"].AsLong());
         if (price == prices.end())
@@ -47,25 +80,32 @@ void TakePrice(const std::string& table, const std::string& field, const std::st
 
 } // namespace
 
+std::string OverallLinesStatement(const frmDj02& s) {
+    return "select fCpID,fInvSL,fInvDJ,fInvHbDl From tJXC_CkDj02 Where fInvID=" + std::to_string(s.oldInvID);
+}
+
+// Identical lines count as one, over the stock of all of them.
 void PostOverallCost(const frmDj02& s, bool reversal) {
-    Recordset row(
-        Conn(), "select a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl,sum(b.fKcSl) as fKcSl,sum(b.fKcJe) as fKcJe from"
-                " (tJXC_CkTj b Left Join tJXC_Ck c On c.fCkName=b.fCkName)"
-                " Right Join tJXC_CkDj02 a On a.fCpID=b.fCpID"
-                " Where a.fInvID=" +
-                    std::to_string(s.oldInvID) +
-                    " And (c.fCkType2=0 and c.fCkType3=0)"
-                    " Group By a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl"
-                    " Order By a.fCpID,a.fInvSL,a.fInvDJ,a.fInvHbDl");
+    using Line = std::array<double, 3>; // quantity, price, exchange rate
+    std::map<std::int64_t, std::map<Line, int>> lines;
+    Recordset row(Conn(), OverallLinesStatement(s));
+    for (; !row.AtEnd(); row.MoveNext())
+        ++lines[row["fCpID"].AsLong()]
+               [{row["fInvSL"].AsDouble(), row["fInvDJ"].AsDouble(), row["fInvHbDl"].AsDouble()}];
+    const std::vector<std::int64_t> products = KeysOf(lines);
+    const ReadAhead ahead(Conn(),
+                          {{OverallStockStatement(products)}, {OverallPricesStatement(products), true}});
     std::map<std::int64_t, double> prices; // of a product on several lines the last counts
-    for (; !row.AtEnd(); row.MoveNext()) {
-        const double price = row["fInvDJ"].AsDouble() * row["fInvHbDl"].AsDouble();
-        const double quantity = reversal ? -row["fInvSL"].AsDouble() : row["fInvSL"].AsDouble();
-        const double stock = AddDecimal(row["fKcSl"].AsDouble(), quantity);
-        const double value = AddDecimal(price * quantity, row["fKcJe"].AsDouble());
-        prices[row["fCpID"].AsLong()] = stock == 0 ? 0 : value / stock;
-    }
-    SetOverallPrices(std::to_string(s.oldInvID), std::move(prices));
+    for (const auto& [product, stored] : ReadOverallStock(products))
+        for (const auto& [line, count] : lines[product]) {
+            const double price = line[1] * line[2];
+            const double quantity = reversal ? -line[0] : line[0];
+            const double stock = AddDecimal(stored.quantity * count, quantity);
+            const double value = AddDecimal(price * quantity, stored.value * count);
+            prices[product] = stock == 0 ? 0 : value / stock;
+        }
+    if (!prices.empty())
+        SetOverallPrices(products, std::move(prices));
 }
 
 void ReadCostPrice(const frmDj02& s) {

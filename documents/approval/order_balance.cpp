@@ -8,10 +8,14 @@
 
 namespace jxc {
 
+std::string OrderStatement(const std::string& orderNumber) {
+    return "Select fInvID From tJXC_CkHt01 Where fInvNo='" + orderNumber + "' Order By fInvID Desc";
+}
+
 namespace {
 
 std::int64_t OrderKey(const std::string& orderNumber) {
-    const Recordset row(Conn(), "Select fInvID From tJXC_CkHt01 Where fInvNo='" + orderNumber + "'");
+    const Recordset row(Conn(), OrderStatement(orderNumber));
     return row.AtEnd() ? 0 : row["fInvID"].AsLong();
 }
 

@@ -2,15 +2,20 @@
 // transferred and counted quantities with their values, and the stock, price and value that follow from them.
 // A reversal repeats the same arithmetic with negated quantities, so every counter returns to what it was.
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <iterator>
 #include <list>
+#include <map>
 #include <memory_resource>
+#include <set>
 #include <unordered_map>
 #include <vector>
 
 #include "controls/text.h"
 #include "documents/approval/stages.h"
+#include "documents/bounds.h"
 #include "session/database/recordset.h"
 #include "session/database/routines.h"
 #include "session/database/row_inserter.h"
@@ -57,12 +62,18 @@ constexpr Counters kCounters[] = {
     {kPdSl, kFieldCount, kFieldCount}, // 4 stocktake
 };
 
+// A document's line with the cost price of its product, by the places in the statement that reads it.
+enum LineColumn { kLineProduct, kLineWarehouse, kQuantity, kPrice, kCost, kRate, kDirection, kCostPrice };
+constexpr const char* kLines =
+    "Select a.fCpID,a.fCkName,a.fInvSL,a.fInvDJ,a.fInvDJ2,a.fInvHbDl,a.fInvInOut,b.fCpPrice0"
+    " From tJXC_CkDj02 a Left Join tJXC_Cp b On a.fCpID=b.fCpID Where a.fInvID=";
+
 // The stock rows of a document's products in one warehouse: read at once, moved line by line, written once
 // each.
 class WarehouseStock {
   public:
-    WarehouseStock(const std::string& name, const std::string& documentKey)
-        : name_(name), stored_(Conn(), StoredRows(name, documentKey), Access::Write) {
+    WarehouseStock(const std::string& name, const std::vector<std::int64_t>& products)
+        : name_(name), stored_(Conn(), StoredRows(name, products), Access::Write) {
         figures_.reserve(stored_.RecordCount());
         for (; !stored_.AtEnd(); stored_.MoveNext()) {
             Figures& figures = figures_[stored_[kProduct].AsLong()];
@@ -73,6 +84,11 @@ class WarehouseStock {
     }
 
     const std::string& Name() const { return name_; }
+
+    static std::string StoredRows(const std::string& warehouse, const std::vector<std::int64_t>& products) {
+        return "Select " + JoinedByCommas(kFigureNames) +
+               ",fCpID From tJXC_CkTj Where fCkName=" + InQuotes(warehouse) + " And fCpID" + InKeys(products);
+    }
 
     // The figures of a product, those of a new row when it has none here.
     Figures& Of(std::int64_t product) {
@@ -97,13 +113,6 @@ class WarehouseStock {
     }
 
   private:
-    static std::string StoredRows(const std::string& warehouse, const std::string& documentKey) {
-        const std::string here = "fCkName=" + InQuotes(warehouse);
-        return "Select " + JoinedByCommas(kFigureNames) + ",fCpID From tJXC_CkTj Where " + here +
-               " And fCpID In (Select fCpID From tJXC_CkDj02 Where fInvID=" + documentKey + " And " + here +
-               ")";
-    }
-
     void InsertNewRows() {
         std::vector<std::string> fields = kFigureNames;
         fields.insert(fields.end(), {"fCpID", "fCkName"});
@@ -129,13 +138,31 @@ class WarehouseStock {
 // The warehouses of a document, one or two; their names compare without regard to case.
 class DocumentStock {
   public:
-    explicit DocumentStock(std::int32_t document) : key_(std::to_string(document)) {}
+    // Of the lines, ordered by product, which are left at their first.
+    explicit DocumentStock(Recordset& lines) {
+        std::vector<std::pair<std::string, std::vector<std::int64_t>>> products;
+        for (; !lines.AtEnd(); lines.MoveNext()) {
+            const std::string& name = lines[kLineWarehouse].Text();
+            auto here = std::find_if(products.begin(), products.end(),
+                                     [&](const auto& known) { return IsSame(known.first, name); });
+            if (here == products.end())
+                here = products.insert(products.end(), {name, {}});
+            const std::int64_t product = lines[kLineProduct].AsLong();
+            if (here->second.empty() || here->second.back() != product)
+                here->second.push_back(product);
+        }
+        lines.MoveTo(0);
+        std::vector<Connection::Expected> together;
+        for (const auto& [name, keys] : products)
+            together.push_back({WarehouseStock::StoredRows(name, keys), true});
+        const ReadAhead ahead(Conn(), together);
+        for (const auto& [name, keys] : products)
+            warehouses_.emplace_back(name, keys);
+    }
 
     WarehouseStock& In(const std::string& warehouse) {
-        for (WarehouseStock& known : warehouses_)
-            if (known.Name() == warehouse || EqualsNoCase(known.Name(), warehouse))
-                return known;
-        return warehouses_.emplace_back(warehouse, key_);
+        return *std::find_if(warehouses_.begin(), warehouses_.end(),
+                             [&](const WarehouseStock& known) { return IsSame(known.Name(), warehouse); });
     }
 
     void Write(const Counters& counters) {
@@ -144,7 +171,8 @@ class DocumentStock {
     }
 
   private:
-    std::string key_;
+    static bool IsSame(const std::string& a, const std::string& b) { return a == b || EqualsNoCase(a, b); }
+
     std::list<WarehouseStock> warehouses_;
 };
 
@@ -160,13 +188,9 @@ void DeriveStock(Figures& figures, const Value& costPrice) {
     figures[kKcDj] =
         received == 0 ? costPrice.AsDouble() : AddDecimal(figures[kQcJe], figures[kRkJe]) / received;
     figures[kKcJE] = stock * figures[kKcDj];
+    if (!std::isfinite(figures[kKcJE]))
+        throw DatabaseError("库存金额不是有效的数。");
 }
-
-// A document's line with the cost price of its product, by the places in the statement that reads it.
-enum LineColumn { kLineProduct, kLineWarehouse, kQuantity, kPrice, kCost, kRate, kDirection, kCostPrice };
-constexpr const char* kLines =
-    "Select a.fCpID,a.fCkName,a.fInvSL,a.fInvDJ,a.fInvDJ2,a.fInvHbDl,a.fInvInOut,b.fCpPrice0"
-    " From tJXC_CkDj02 a Left Join tJXC_Cp b On a.fCpID=b.fCpID Where a.fInvID=";
 
 void PostLine(const Recordset& line, const Counters& counters, bool reversal, DocumentStock& stock) {
     double quantity = line[kQuantity].AsDouble();
@@ -177,24 +201,59 @@ void PostLine(const Recordset& line, const Counters& counters, bool reversal, Do
     if (counters.quantity == kCkSl)
         quantity = -quantity;
     Figures& figures = stock.In(line[kLineWarehouse].Text()).Of(line[kLineProduct].AsLong());
-    const auto add = [&](Field field, double amount) {
-        if (field != kFieldCount)
-            figures[field] = AddDecimal(figures[field], amount);
+    const auto add = [&](Field field, double amount, double bound) {
+        if (field == kFieldCount)
+            return;
+        figures[field] = AddDecimal(figures[field], amount);
+        // Beyond its bound a sum loses digits, and a reversal would not give back what the approval added.
+        if (!std::isfinite(amount) || (!reversal && Reaches(figures[field], bound)))
+            throw DatabaseError("产品 " + line[kLineProduct].AsText() + " 在“" + line[kLineWarehouse].Text() +
+                                "”的累计数超出范围。");
     };
-    add(counters.quantity, quantity);
-    add(counters.value, quantity * line[kPrice].AsDouble() * line[kRate].AsDouble());
-    add(counters.cost, quantity * line[kCost].AsDouble());
+    if (!reversal && !(line[kRate].AsDouble() > 0))
+        throw DatabaseError("单据的汇率不是正数。");
+    add(counters.quantity, quantity, below::kQuantitySum);
+    add(counters.value, quantity * line[kPrice].AsDouble() * line[kRate].AsDouble(), below::kAmountSum);
+    add(counters.cost, quantity * line[kCost].AsDouble(), below::kAmountSum);
     DeriveStock(figures, line[kCostPrice]);
 }
 
 } // namespace
 
+namespace {
+
+bool MovesStock(const TypeRow& type) {
+    return type.fSetTjType >= 0 && type.fSetCrType1 != -1 &&
+           type.fSetTjType < static_cast<int>(std::size(kCounters));
+}
+
+std::string LinesStatement(const frmDj02& s) {
+    return kLines + std::to_string(s.oldInvID) + " Order By a.fCpID,a.fCkName,a.fInv1,a.fRowID";
+}
+
+} // namespace
+
+// The lines were loaded as they are stored, or nothing is posted: their products are known.
+std::vector<Connection::Expected> StockStatements(const frmDj02& s) {
+    if (!MovesStock(s.type))
+        return {};
+    std::map<std::string, std::set<std::int64_t>> products;
+    const std::vector<Value>& cells = s.asLoaded.lines;
+    for (size_t line = 0; line < cells.size(); line += StoredDocument::kLineCells)
+        products[cells[line + StoredDocument::kWarehouse].AsText()].insert(
+            cells[line + StoredDocument::kProduct].AsLong());
+    std::vector<Connection::Expected> statements{{LinesStatement(s)}};
+    for (const auto& [warehouse, keys] : products)
+        statements.push_back({WarehouseStock::StoredRows(warehouse, {keys.begin(), keys.end()}), true});
+    return statements;
+}
+
 void PostStock(const frmDj02& s, bool reversal) {
-    const int statistics = s.type.fSetTjType;
-    if (statistics < 0 || s.type.fSetCrType1 == -1 || statistics >= static_cast<int>(std::size(kCounters)))
+    if (!MovesStock(s.type))
         return;
-    Recordset lines(Conn(), kLines + std::to_string(s.oldInvID) + " Order By a.fCpID,a.fCkName");
-    DocumentStock stock(s.oldInvID);
+    const int statistics = s.type.fSetTjType;
+    Recordset lines(Conn(), LinesStatement(s));
+    DocumentStock stock(lines);
     for (; !lines.AtEnd(); lines.MoveNext())
         PostLine(lines, kCounters[statistics], reversal, stock);
     stock.Write(kCounters[statistics]);

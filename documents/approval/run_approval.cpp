@@ -12,7 +12,9 @@
 #include "session/book.h"
 #include "session/database/recordset.h"
 #include "session/database/routines.h"
+#include "session/database/waiting.h"
 #include "session/session.h"
+#include "settings/document_numbers.h"
 
 namespace jxc {
 
@@ -21,6 +23,7 @@ namespace {
 struct Stage {
     std::string name;
     std::function<void()> run;
+    std::vector<Connection::Expected> reads = {}; // what no stage before it writes
     bool failureMatters = true;
 };
 
@@ -59,6 +62,18 @@ void MarkApproved(const frmDj02& s, const std::string& stem, bool reversal) {
                    " Where fInvID=" + std::to_string(s.oldInvID));
 }
 
+// What an account entry needs for its number. Should the rule be another than at opening, its search is asked for
+// then.
+std::vector<Connection::Expected> NumberReads(const frmDj02& s, int series, bool reversal) {
+    if (reversal)
+        return {};
+    std::vector<Connection::Expected> reads{{TypeRowStatement(series)}};
+    if (const std::string number = NextNumberStatement(*s.dtpInvDate.date, s.accountRule, series);
+        !number.empty())
+        reads.push_back({number});
+    return reads;
+}
+
 // What the type's row says is to be done, in its fixed order. `warning` takes what is to be told after the
 // commit.
 std::vector<Stage> StagesOf(const frmDj02& s, const std::string& stem, bool reversal, std::string& warning) {
@@ -66,50 +81,61 @@ std::vector<Stage> StagesOf(const frmDj02& s, const std::string& stem, bool reve
     std::vector<Stage> stages;
     const bool refersToOrder = !s.txtHtNo.text.empty();
     if (refersToOrder && s.invType != 31)
-        stages.push_back(
-            {"刷新原相关订单的结余数", [&s, reversal] { PostOrderBalance(s, reversal); }, !reversal});
+        stages.push_back({"刷新原相关订单的结余数",
+                          [&s, reversal] { PostOrderBalance(s, reversal); },
+                          {{OrderStatement(s.txtHtNo.text)}},
+                          !reversal});
     if (refersToOrder && s.invType == 31 && !reversal)
-        stages.push_back({"刷新销售订单的生产摘要", [&s] { MarkProduced(s); }, false});
+        stages.push_back({"刷新销售订单的生产摘要", [&s] { MarkProduced(s); }, {}, false});
     if (type.fSetCkType1 >= 0 && !s.cboCkName.Chosen().empty())
-        stages.push_back({"更新仓库的产品“库存成本表”", [&s, reversal] { PostStock(s, reversal); }});
+        stages.push_back(
+            {"更新仓库的产品“库存成本表”", [&s, reversal] { PostStock(s, reversal); }, StockStatements(s)});
     if (type.fSetTjType == 0 || type.fSetTjType == 1)
-        stages.push_back({"更新“整体成本价”", [&s, &warning, reversal] {
+        stages.push_back({"更新“整体成本价”",
+                          [&s, &warning, reversal] {
                               PostOverallCost(s, reversal);
                               if (s.invType == 1)
                                   warning = RefreshSupplierByDocument(s.Number(), reversal);
-                          }});
+                          },
+                          {{OverallLinesStatement(s)}}});
     if (type.fSetTjType == 2 && !reversal)
         stages.push_back({"读取“动态成本价”", [&s] { ReadCostPrice(s); }});
-    if (type.fSetWlType == 1 || type.fSetWlType == 2)
-        stages.push_back(
-            {"应收应付款自动挂入“客户往来帐户”", [&s, reversal] { PostCustomerAccount(s, reversal); }});
-    else if (type.fSetZjType == 3 || type.fSetZjType == 4)
-        stages.push_back(
-            {"实收实付款自动挂入“内部资金帐户”", [&s, reversal] { PostMoneyAccount(s, reversal); }});
+    if (const int series = AccountSeries(type); series == kSeriesCustomerAccount)
+        stages.push_back({"应收应付款自动挂入“客户往来帐户”",
+                          [&s, reversal] { PostCustomerAccount(s, reversal); },
+                          NumberReads(s, series, reversal)});
+    else if (series == kSeriesMoneyAccount)
+        stages.push_back({"实收实付款自动挂入“内部资金帐户”",
+                          [&s, reversal] { PostMoneyAccount(s, reversal); },
+                          NumberReads(s, series, reversal)});
     stages.push_back({"单据审核标志处理", [&s, stem, reversal] { MarkApproved(s, stem, reversal); }});
     return stages;
 }
 
 void RunStage(const Stage& stage) {
-    if (stage.failureMatters) {
-        stage.run();
-        Conn().Flush();
-        return;
-    }
+    if (stage.failureMatters)
+        return stage.run();
     try {
         Conn().Tolerantly(stage.run);
-    } catch (const DatabaseError&) {
-        // The document is taken back all the same: an order that is gone has no balance to give back.
+    } catch (const DatabaseError& error) {
+        // The document is taken back all the same: an order that is gone has no balance to give back. Who gave the
+        // waiting up wants nothing of it.
+        if (std::string(error.what()) == kGaveUpWaiting)
+            throw;
     }
+}
+
+std::string AccountEntryStatement(const frmDj02& s) {
+    const Date day = *s.dtpInvDate.date;
+    const std::string date = session.IsJet() ? " And fDate=#" + SlashText(day) + "#"
+                                             : " And Convert(varchar(10),fDate,120)='" + IsoText(day) + "'";
+    return "Select fChecker From tAccountDetail Where fInvID='" + s.Number() + "'" + date;
 }
 
 // Why the host's funds module forbids a reversal, "" when it does not. Errors are thrown: a check that could
 // not be made must not let the reversal pass.
 std::string CheckedAccountEntry(const frmDj02& s) {
-    const Date day = *s.dtpInvDate.date;
-    const std::string date = session.IsJet() ? " And fDate=#" + SlashText(day) + "#"
-                                             : " And Convert(varchar(10),fDate,120)='" + IsoText(day) + "'";
-    Recordset entry(Conn(), "Select fChecker From tAccountDetail Where fInvID='" + s.Number() + "'" + date);
+    Recordset entry(Conn(), AccountEntryStatement(s));
     for (; !entry.AtEnd(); entry.MoveNext())
         if (!entry["fChecker"].AsText().empty())
             return "该单据所对应的“挂帐凭证”已经审核，不能进行单据反审核操作！\n\n"
@@ -117,27 +143,47 @@ std::string CheckedAccountEntry(const frmDj02& s) {
     return "";
 }
 
-// Runs the stages in one transaction. The message for the user when nothing was done, "" on success.
-std::string Post(const frmDj02& s, bool reversal, const std::string& verb, std::string& warning) {
+std::string ApproverStatement(const std::string& stem, std::int32_t key) {
+    return "select fInvSHR from " + stem + "01 Where fInvID=" + std::to_string(key);
+}
+
+// Runs the stages in one transaction. On a server a stage's writes may be on their way while the next ones
+// run; each failure is told by the stage whose statement failed. The message for the user when nothing was
+// done, with the engine's reason in `cause`; "" on success.
+std::string Post(const frmDj02& s, bool reversal, const std::string& verb, std::string& warning,
+                 std::string& cause) {
     const std::string stem = BookStem(s.invType, false);
-    std::string stageName = "单据审核标志处理";
+    const std::vector<Stage> stages = StagesOf(s, stem, reversal, warning);
+    std::vector<Connection::Expected> together = CheckStatements(s, stem);
+    if (reversal)
+        together.push_back({AccountEntryStatement(s)});
+    for (const Stage& stage : stages)
+        together.insert(together.end(), stage.reads.begin(), stage.reads.end());
+    const ProgressEnds progressEnds;
     try {
+        Conn().Mark(-1);
         Transaction transaction(Conn());
+        const ReadAhead ahead(Conn(), together);
         std::string refusal = ChangedMeanwhile(s, stem);
+        if (refusal.empty())
+            refusal = DatedBeforePeriod(s);
         if (refusal.empty() && reversal)
             refusal = CheckedAccountEntry(s);
         if (!refusal.empty())
             return refusal;
-        const std::vector<Stage> stages = StagesOf(s, stem, reversal, warning);
         for (size_t i = 0; i < stages.size(); ++i) {
-            stageName = stages[i].name;
-            CurrentView().ShowProgress(stageName, static_cast<int>(i), static_cast<int>(stages.size()));
+            Conn().Mark(static_cast<int>(i));
+            CurrentView().ShowProgress(stages[i].name, static_cast<int>(i), static_cast<int>(stages.size()));
             RunStage(stages[i]);
         }
         transaction.Commit();
         return "";
-    } catch (const std::exception&) {
-        return stageName + "错误，" + verb + "操作未完成！";
+    } catch (const DatabaseError& error) {
+        cause = error.what();
+        const int failed = Conn().MarkOfFailure();
+        if (failed < 0 || failed >= static_cast<int>(stages.size()))
+            return cause; // before the first stage: it could not begin
+        return stages[static_cast<size_t>(failed)].name + "错误，" + verb + "操作未完成！";
     }
 }
 
@@ -149,9 +195,15 @@ void ShowApproval(frmDj02& s, const std::string& approver) {
 
 } // namespace
 
+std::vector<Connection::Expected> CheckStatements(const frmDj02& s, const std::string& stem) {
+    return {{ApproverStatement(stem, s.oldInvID)},
+            {ParametersStatement()},
+            {StoredHeaderStatement(stem, s.oldInvID)},
+            {StoredLinesStatement(stem, s.oldInvID)}};
+}
+
 std::string ChangedMeanwhile(const frmDj02& s, const std::string& stem) {
-    const std::string key = std::to_string(s.oldInvID);
-    const Recordset row(Conn(), "select fInvSHR from " + stem + "01 Where fInvID=" + key);
+    const Recordset row(Conn(), ApproverStatement(stem, s.oldInvID));
     if (row.AtEnd())
         return "该[单号]已不存在!";
     const bool approved = !row["fInvSHR"].AsText().empty();
@@ -160,6 +212,15 @@ std::string ChangedMeanwhile(const frmDj02& s, const std::string& stem) {
     if (!approved && s.InHand() == DocAction::Reverse)
         return "该单据尚未审核！";
     return ReadStored(stem, s.oldInvID) == s.asLoaded ? "" : "该单据已被其他用户修改，请重新打开！";
+}
+
+std::string DateRefusal(Date periodStart) {
+    return "单据日期：不能小于本期起始日期 " + IsoText(periodStart) + "！";
+}
+
+std::string DatedBeforePeriod(const frmDj02& s) {
+    const Date start = ReadParameters().periodStart;
+    return *s.dtpInvDate.date < start ? DateRefusal(start) : "";
 }
 
 bool RunApproval(frmDj02& s, bool reversal, bool prompted) {
@@ -174,10 +235,13 @@ bool RunApproval(frmDj02& s, bool reversal, bool prompted) {
         return false;
     }
     std::string warning;
-    const std::string failure = Post(s, reversal, verb, warning);
-    CurrentView().ShowProgress("", 0, 0);
+    std::string cause;
+    const std::string failure = Post(s, reversal, verb, warning, cause);
     if (!failure.empty()) {
-        Warn(s.title, failure);
+        if (cause.empty())
+            Warn(s.title, failure);
+        else
+            WarnOfFailure(s.title, failure, cause);
         return false;
     }
     if (!warning.empty())

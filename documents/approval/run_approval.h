@@ -4,8 +4,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "documents/frmDj02.h"
+#include "session/database/connection.h"
 
 namespace jxc {
 
@@ -20,5 +22,11 @@ void ReverseApproval(frmDj02& s);
 // Inside a transaction: what another user did to the stored document since it was loaded, as a message; ""
 // when it is still the one that was loaded and in the state that the screen's Action needs.
 std::string ChangedMeanwhile(const frmDj02& s, const std::string& stem);
+// Inside a transaction: the refusal of a document dated before the period as it is now, which a close by another
+// user may have moved since the screen was opened; "" when its date is in the period or later.
+std::string DatedBeforePeriod(const frmDj02& s);
+// The statements of these two checks, to be read ahead.
+std::vector<Connection::Expected> CheckStatements(const frmDj02& s, const std::string& stem);
+std::string DateRefusal(Date periodStart);
 
 } // namespace jxc

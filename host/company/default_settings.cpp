@@ -20,10 +20,22 @@ constexpr Module kModules[] = {
     {8, "mnuJxcYjJbr1", "营销员关系图", "營銷員關係圖"},
 };
 
+// Dismantling as its name says: the lines are the parts, which come in; the product of the panel is taken apart and
+// leaves. The row that the settings screen offers has it the other way round.
+DocumentTypeRow Dismantling(DocumentTypeRow type) {
+    type.fSetCkName1 = "散件入库";
+    type.fSetCkType1 = 4;
+    type.fSetCrType1 = 1;
+    type.fSetCkName2 = "成品出库";
+    type.fSetCkType2 = 1;
+    return type;
+}
+
 void FillDocumentTypes(Connection& connection) {
     Recordset rows(connection, "select * from tJXC_InvSet", Access::Write);
     int fRowID = 0;
-    for (const DocumentTypeRow& type : DefaultDocumentTypes()) {
+    for (const DocumentTypeRow& shipped : DefaultDocumentTypes()) {
+        const DocumentTypeRow type = shipped.fSetNo == 32 ? Dismantling(shipped) : shipped;
         const std::vector<Value> cells = RecordCells(type, ++fRowID);
         rows.AddNew();
         for (size_t column = 0; column < cells.size(); ++column)

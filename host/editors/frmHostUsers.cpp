@@ -2,7 +2,6 @@
 
 #include "controls/text.h"
 #include "host/user_settings.h"
-#include "session/database/late_columns.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -8,16 +8,17 @@
 #include "host/editors/frmHostMoneys.h"
 #include "host/editors/frmHostUsers.h"
 #include "session/company_visit.h"
+#include "session/rights.h"
 
 namespace jxc {
 
 namespace {
 
-constexpr HostEditor kEditors[] = {{"frmHostCompany", "公司资料"},
-                                   {"frmHostUsers", "用户与权限"},
-                                   {"frmHostCards", "客户资料"},
-                                   {"frmHostMoneys", "货币"},
-                                   {"frmHostAccounts", "内部资金帐户"}};
+constexpr HostEditor kEditors[] = {{"frmHostCompany", "公司资料", ""},
+                                   {"frmHostUsers", "用户与权限", ""},
+                                   {"frmHostCards", "客户资料", "mnuCardAdd"},
+                                   {"frmHostMoneys", "货币", ""},
+                                   {"frmHostAccounts", "内部资金帐户", ""}};
 
 } // namespace
 
@@ -33,11 +34,19 @@ void RegisterHostEditors() {
     RegisterScreen("frmHostAccounts", [] { return std::make_unique<frmHostAccounts>(); });
 }
 
+bool MayOpen(const HostEditor& editor) {
+    return editor.module.empty() || HasModuleRight(std::string(editor.module), 0);
+}
+
 void OpenHostEditor(std::string_view screen) {
-    const auto named = [&](const HostEditor& editor) { return editor.screen == screen; };
-    if (std::none_of(std::begin(kEditors), std::end(kEditors), named))
+    const auto editor = std::find_if(std::begin(kEditors), std::end(kEditors),
+                                     [&](const HostEditor& known) { return known.screen == screen; });
+    if (editor == std::end(kEditors))
         throw ScreenError("没有窗口 " + std::string(screen) + "。");
-    VisitCompany([&] { ShowModal(ScreenNamed(screen)); });
+    VisitCompany([&] {
+        if (editor->module.empty() || ModuleRight(std::string(editor->module), 0) != 0)
+            ShowModal(ScreenNamed(screen));
+    });
 }
 
 } // namespace jxc

@@ -122,7 +122,11 @@ void MainWindow::TakeCompany(const std::string& company, CompanyFacts facts) {
 
 // A password is not written down: the server's own file of passwords, or the person, gives it again.
 void MainWindow::Remember(const std::string& company) {
-    const QString address = Q(WithoutPassword(company));
+    if (leavesNoTrace_)
+        return;
+    // From wherever the program is started next.
+    const QString address =
+        DialectOf(company) == 0 ? QFileInfo(Q(company)).absoluteFilePath() : Q(WithoutPassword(company));
     QStringList recent = memory_.value("recent").toStringList();
     recent.removeAll(address);
     recent.prepend(address);
@@ -147,12 +151,23 @@ void MainWindow::ShowRecent() {
     recent_->setEnabled(!recent_->isEmpty());
 }
 
+// The company that was worked on last is not where it was: the person says where it is now, or looks at the sample.
+bool MainWindow::FindCompany(const std::string& company) {
+    if (AskYesNo(
+            S(windowTitle()),
+            "找不到上次的帐套：\n" + company +
+                "\n\n它可能已经移动、改名，或者所在的磁盘没有接上。\n\n是：查找该帐套。否：打开样例公司。"))
+        Guard([this] { ChooseCompany(); });
+    return HasCompany();
+}
+
 void MainWindow::ChooseCompany() {
     QDialog window(this);
     window.setWindowTitle("打开帐套");
     auto* layout = new QVBoxLayout(&window);
     layout->addWidget(new QLabel("帐套文件，或数据库服务器上的地址（postgresql://…）："));
     auto* address = new QLineEdit(Q(WithoutPassword(company_)));
+    address->setObjectName("companyAddress");
     address->setMinimumWidth(460);
     auto* browse = new QPushButton("浏览(&B)...");
     auto* line = new QHBoxLayout;

@@ -1,7 +1,6 @@
 #include "host/window/company_users.h"
 
 #include "host/user_settings.h"
-#include "session/database/late_columns.h"
 #include "session/database/recordset.h"
 #include "session/session.h"
 
@@ -19,7 +18,6 @@ std::vector<std::string> Names(const std::string& sql) {
 } // namespace
 
 std::vector<std::string> CompanyUsers() {
-    EnsureLateTable("tHostUser");
     std::vector<std::string> names =
         Names("Select fUserName From tHostUser Order By fSupervisor Desc, fUserName");
     if (names.empty())

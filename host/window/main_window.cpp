@@ -98,7 +98,8 @@ QWidget* MainWindow::CommandPage() {
 }
 
 MainWindow::~MainWindow() {
-    memory_.setValue("mainWindow", saveGeometry());
+    if (!leavesNoTrace_)
+        memory_.setValue("mainWindow", saveGeometry());
 }
 
 void MainWindow::Guard(const std::function<void()>& command) {

@@ -37,6 +37,10 @@ class MainWindow : public QMainWindow {
     // Opens a company as `user`, "" for its first one. Failures are told in a box; false then, and the
     // company before stays open.
     bool OpenCompanyOf(const std::string& company, const std::string& user);
+    // Asks where a company is that cannot be found. False when none was opened.
+    bool FindCompany(const std::string& company);
+    // What is opened from now on is not among the companies that the person worked on.
+    void LeaveNoTrace() { leavesNoTrace_ = true; }
     bool HasCompany() const { return !company_.empty(); }
 
     void Start(const MenuEntry& entry);
@@ -73,6 +77,7 @@ class MainWindow : public QMainWindow {
     lzJxc control_;
     QSettings memory_{"lzJxc", "jxc"};
     std::string company_;
+    bool leavesNoTrace_ = false;
     std::vector<Subject> subjects_;
     QTreeWidget* tree_ = nullptr;
     QLabel* heading_ = nullptr;

@@ -39,7 +39,7 @@ void RecentDocuments::Show(int type) {
         connection,
         "Select Top 15 a.fInvDate,a.fInvNo,c.CompName,a.fInvJE,a.fInvDLR,a.fInvSHR,a.fInvID From " + stem +
             "01 a Left Join Cards c On a.fKhID=c.fID Where a.fInvType=" + std::to_string(type) +
-            " Order By a.fInvNo Desc");
+            " Order By a.fInvNo Desc,a.fInvID Desc");
     for (; !found.AtEnd(); found.MoveNext()) {
         const int row = rowCount();
         insertRow(row);

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "controls/screen.h"
+#include "host/editors/host_editors.h"
 #include "session/database/recordset.h"
 #include "session/rights.h"
 #include "session/session.h"
@@ -111,20 +112,18 @@ constexpr FixedEntry kFixed[] = {
     {"系统(&T)", "反结帐", "取消上月的结帐。", 7, 0, "frmJz_unStep", ""},
 };
 
-// The host's own editors.
-struct Editor {
-    const char* subject;
-    const char* caption;
-    const char* purpose;
+// Where the host's own editors stand, and what for.
+struct EditorPlace {
     const char* screen;
-    const char* module;
+    const char* subject;
+    const char* purpose;
 };
-constexpr Editor kEditors[] = {
-    {"资料(&D)", "客户资料", "供应商、销售商与代销商。", "frmHostCards", "mnuCardAdd"},
-    {"资料(&D)", "货币", "货币与汇率。", "frmHostMoneys", ""},
-    {"资料(&D)", "内部资金帐户", "现金与银行帐户。", "frmHostAccounts", ""},
-    {"系统(&T)", "公司资料", "印在单据上的公司名称与地址。", "frmHostCompany", ""},
-    {"系统(&T)", "用户与权限", "谁可以使用哪些功能。", "frmHostUsers", ""},
+constexpr EditorPlace kPlaces[] = {
+    {"frmHostCards", "资料(&D)", "供应商、销售商与代销商。"},
+    {"frmHostMoneys", "资料(&D)", "货币与汇率。"},
+    {"frmHostAccounts", "资料(&D)", "现金与银行帐户。"},
+    {"frmHostCompany", "系统(&T)", "印在单据上的公司名称与地址。"},
+    {"frmHostUsers", "系统(&T)", "谁可以使用哪些功能。"},
 };
 
 class SubjectList {
@@ -179,10 +178,12 @@ std::vector<Subject> SubjectsOf() {
         if (FindScreen(entry.screen) && Allowed(entry.module))
             subjects.Add(entry.subject,
                          {entry.caption, entry.purpose, {{"打开(&O)", entry.action, entry.myType, ""}}});
-    for (const Editor& editor : kEditors)
-        if (FindScreen(editor.screen) && Allowed(editor.module))
-            subjects.Add(editor.subject,
-                         {editor.caption, editor.purpose, {{"打开(&O)", -1, -1, editor.screen}}});
+    for (const EditorPlace& place : kPlaces)
+        for (const HostEditor& editor : HostEditors())
+            if (editor.screen == place.screen && FindScreen(editor.screen) && MayOpen(editor))
+                subjects.Add(place.subject, {std::string(editor.title),
+                                             place.purpose,
+                                             {{"打开(&O)", -1, -1, std::string(editor.screen)}}});
     return subjects.Filled();
 }
 

@@ -103,8 +103,13 @@ void OtherDocuments(PictureBook& book) {
     book.To("Grid2");
     book.Line("CPU002", "1", "");
     book.Take("assembly");
+    script.Press(Qt::Key_Return);
+    script.Type("ZZZ"); // no product: told at the foot
+    script.Press(Qt::Key_Return);
+    book.Take("mistyped");
     script.Click("cmdQuit");
-    script.Click("Yes"); // what was typed is given up
+    book.Take("leave-question");
+    script.Click("Discard");
     book.Open("盘点单", "新增");
     book.Choose("cboCkName", "总部仓");
     book.To("Grid2");
@@ -112,7 +117,7 @@ void OtherDocuments(PictureBook& book) {
     book.Line("MEM002", "40", "");
     book.Take("stocktake");
     script.Click("cmdQuit");
-    script.Click("Yes"); // what was typed is given up
+    script.Click("Discard");
 }
 
 void Lists(PictureBook& book) {
@@ -163,6 +168,7 @@ int TakePictures(const std::string& folder) {
     MakeSampleCompany(company);
     std::cout << "图片存入 " << folder << "：" << std::endl;
     MainWindow window;
+    window.LeaveNoTrace();
     window.show();
     if (!window.OpenCompanyOf(company, ""))
         return 1;

@@ -1,5 +1,8 @@
 #include "host/window/window_program.h"
 
+#include <cstdlib>
+
+#include "host/company_address.h"
 #include "host/window/main_window.h"
 #include "host/window/sample_company_file.h"
 #include "host/window/windows_in_use.h"
@@ -10,9 +13,20 @@ namespace jxc {
 namespace {
 
 std::string LastCompany() {
-    const QStringList recent = QSettings("lzJxc", "jxc").value("recent").toStringList();
-    const QString last = recent.value(0);
-    return last.startsWith("postgres") || QFileInfo::exists(last) ? S(last) : "";
+    return S(QSettings("lzJxc", "jxc").value("recent").toStringList().value(0));
+}
+
+bool IsGone(const std::string& company) {
+    return DialectOf(company) == 0 && !QFileInfo::exists(Q(company));
+}
+
+// Without a display the toolkit would end the program without a word.
+void RequireDisplay() {
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        if (const char* set = std::getenv(name); set && *set)
+            return;
+    throw std::runtime_error(
+        "没有图形显示（DISPLAY 或 WAYLAND_DISPLAY），不能打开窗口；其他命令见 jxc --help。");
 }
 
 std::string SampleCompany() {
@@ -27,14 +41,19 @@ std::string SampleCompany() {
 } // namespace
 
 int RunWindows(const std::string& company, const std::string& user, bool sample) {
+    RequireDisplay();
+    if (!company.empty() && IsGone(company))
+        throw std::runtime_error("帐套不存在：" + company);
     const WindowsInUse windows;
     MainWindow window;
     std::string wanted = company;
     if (wanted.empty() && !sample)
         wanted = LastCompany();
-    if (wanted.empty())
-        wanted = SampleCompany();
     window.show();
+    if (!wanted.empty() && IsGone(wanted) && window.FindCompany(wanted))
+        return QApplication::exec();
+    if (wanted.empty() || IsGone(wanted))
+        wanted = SampleCompany();
     if (!window.OpenCompanyOf(wanted, user) && company.empty() && !sample)
         window.OpenCompanyOf(SampleCompany(), "");
     return QApplication::exec();

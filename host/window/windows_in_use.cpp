@@ -1,5 +1,6 @@
 #include "host/window/windows_in_use.h"
 
+#include <clocale>
 #include <cstdlib>
 #include <iostream>
 
@@ -8,6 +9,7 @@
 
 #include "host/screens.h"
 #include "session/components.h"
+#include "view/focus_mark.h"
 #include "view/page_printer.h"
 #include "view/text.h"
 
@@ -15,8 +17,16 @@ namespace jxc {
 
 namespace {
 
-// Windows in memory know no size hints, and say so at each one.
-void LeaveOutSizeHints(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+bool isStarting = true; // until the application object stands
+
+// Windows in memory know no size hints, and say so at each one. A display that cannot be reached is a message
+// and a status; the toolkit would break off the program.
+void TellMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (isStarting && type == QtFatalMsg) {
+        std::cerr << "不能打开窗口：连接不上图形显示（DISPLAY 或 WAYLAND_DISPLAY）；其他命令见 jxc --help。"
+                  << std::endl;
+        std::_Exit(2);
+    }
     if (!text.startsWith("This plugin does not support propagateSizeHints"))
         std::cerr << S(qFormatLogMessage(type, context, text)) << std::endl;
 }
@@ -25,7 +35,7 @@ void LeaveOutSizeHints(QtMsgType type, const QMessageLogContext& context, const 
 void ChoosePlatform() {
     if (!std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY"))
         setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    qInstallMessageHandler(LeaveOutSizeHints);
+    qInstallMessageHandler(TellMessage);
 }
 
 int& Prepared(int& argc) {
@@ -56,9 +66,11 @@ void SetColors() {
 } // namespace
 
 WindowsInUse::WindowsInUse() : application_(Prepared(argc_), argv_) {
+    isStarting = false;
+    std::setlocale(LC_NUMERIC, "C"); // the application object sets the user's: numbers would take his comma
     QApplication::setApplicationName("jxc");
     QApplication::setOrganizationName("lzJxc");
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new FocusStyle); // the application takes it over
     SpeakChinese(application_);
     SetColors();
     RegisterAllScreens();

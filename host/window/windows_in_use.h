@@ -6,6 +6,7 @@
 #include <QApplication>
 
 #include "controls/view.h"
+#include "view/focus_mark.h"
 #include "view/qt_view.h"
 
 namespace jxc {
@@ -23,6 +24,7 @@ class WindowsInUse {
     char name_[4] = "jxc";
     char* argv_[2] = {name_, nullptr};
     QApplication application_;
+    FocusMark focus_;
     QtView view_;
     ViewInUse inUse_{view_};
 };

@@ -8,8 +8,10 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -57,7 +59,8 @@ class Connection {
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    void Open(std::unique_ptr<Engine> engine);
+    // With `again` a server whose line was lost is connected anew at the next statement outside a transaction.
+    void Open(std::unique_ptr<Engine> engine, std::function<std::unique_ptr<Engine>()> again = {});
     void Close();
     bool IsOpen() const;
 
@@ -70,9 +73,30 @@ class Connection {
     // Waits until everything sent so far has succeeded, or throws the first failure.
     void Flush();
 
+    // Sends selects together before they are asked for, so that a server is waited for once; see ReadAhead.
+    struct Expected {
+        std::string sql;
+        bool toEdit = false; // as a Recordset asks for rows to change
+    };
+    void Expect(const std::vector<Expected>& selects);
+    void ForgetExpected(const std::vector<Expected>& selects);
+
+    // What is sent from now on belongs to the caller's step `mark`. After a failure MarkOfFailure is the step
+    // whose statement it was, which may have been sent some steps before the failure showed.
+    void Mark(int mark);
+    int MarkOfFailure() const { return markOfFailure_; }
+
+    // The tables that the user may read and their columns, all in lower case, as they were at the first
+    // question or after the last change by ALTER TABLE or ForgetCatalogue: the server is asked once.
+    bool HasColumn(std::string_view table, std::string_view column);
+    void ForgetCatalogue() { catalogue_.clear(); }
+
     // One transaction at a time, no nesting. Writers of one company wait for each other at BeginTrans, so a
     // routine that reads, computes and writes inside a transaction is never overtaken.
     void BeginTrans();
+    // Begins a transaction that only reads: all its selects see one state of the company, and nobody waits for
+    // it. RollbackTrans ends it.
+    void BeginReading();
     void CommitTrans();
     void RollbackTrans() noexcept;
     bool InTransaction() const;
@@ -90,6 +114,10 @@ class Connection {
     // Null for none.
     void SetObserver(std::function<void(std::string_view)> observer);
 
+    // Asked each second or so while the engine is waited for, with the seconds so far, and told -1 when it has
+    // answered. False gives the waiting up: the statement fails with that reason. Null for none.
+    void SetWaitObserver(std::function<bool(int seconds)> observer);
+
     Engine& EngineInUse();
 
   private:
@@ -102,21 +130,53 @@ class Connection {
     void RunOnRow(const std::string& text, std::span<const Value> values,
                   const std::shared_ptr<Value>& address);
 
+    // How often rows have been changed so far: who read rows before may hold addresses that they have left.
+    size_t RowChanges() const { return rowChanges_; }
+
     void Announce(std::string_view sql);
+    Rows Read(std::string_view sql, CachedStatement& statement, bool toEdit);
+    void ForgetWritten(std::string_view sql);
+    void ForgetExpected();
     template <typename Work>
     auto Guarded(std::string_view sql, Work work);
-    void RequireUsable() const;
+    void RequireUsable();
+    void ConnectAgain();
     void NoteFailure(const DatabaseError& error);
     CachedStatement& Prepared(std::string_view sql, bool editRows);
     std::span<const Value> Bound(const CachedStatement& statement);
 
     std::unique_ptr<Engine> engine_;
     std::unique_ptr<StatementCache> cache_; // its statements die before their engine
+    std::function<std::unique_ptr<Engine>()> again_;
     std::function<void(std::string_view)> observer_;
+    std::function<bool(int)> waitObserver_;
+    size_t rowChanges_ = 0;
+    int mark_ = -1, markOfFailure_ = -1;
+    std::map<std::string, Rows> expected_[2];                // by text, of the selects to read and to edit
+    std::map<std::string, std::set<std::string>> catalogue_; // empty: not asked yet
     bool inTransaction_ = false;
     int depth_ = 0;                      // of nested Tolerantly() inside the transaction
     std::optional<std::string> failure_; // why the open transaction can only be rolled back
     int failureDepth_ = 0;
+};
+
+// For its lifetime the selects that are about to be asked for are known already, read together in one round
+// trip: a hint, which changes nothing but the time. Each is asked for as ever, by the same text, and then
+// found here; a write to a table forgets what was read of it. A failure to read them together is no failure:
+// each fails where it is asked for.
+class ReadAhead {
+  public:
+    ReadAhead(Connection& connection, const std::vector<Connection::Expected>& selects)
+        : connection_(connection), selects_(selects) {
+        connection_.Expect(selects_);
+    }
+    ~ReadAhead() { connection_.ForgetExpected(selects_); }
+    ReadAhead(const ReadAhead&) = delete;
+    ReadAhead& operator=(const ReadAhead&) = delete;
+
+  private:
+    Connection& connection_;
+    std::vector<Connection::Expected> selects_;
 };
 
 // Begins a transaction and rolls it back when it goes out of scope without Commit(). Only Commit() commits.
@@ -137,6 +197,20 @@ class Transaction {
   private:
     Connection& connection_;
     bool done_ = false;
+};
+
+// The same for a transaction that only reads.
+class ReadingTransaction {
+  public:
+    explicit ReadingTransaction(Connection& connection) : connection_(connection) {
+        connection_.BeginReading();
+    }
+    ~ReadingTransaction() { connection_.RollbackTrans(); }
+    ReadingTransaction(const ReadingTransaction&) = delete;
+    ReadingTransaction& operator=(const ReadingTransaction&) = delete;
+
+  private:
+    Connection& connection_;
 };
 
 } // namespace jxc

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include "controls/text.h"
+#include "session/database/company_version.h"
 #include "session/database/postgres_engine.h"
 #include "session/database/sqlite_engine.h"
 
@@ -31,6 +32,7 @@ void CreateIn(Connection& connection, std::unique_ptr<Engine> engine) {
     engine->Begin();
     try {
         engine->ExecuteScript(CompanyTablesScript(*engine));
+        engine->SetVersion(kCompanyVersion);
         engine->Commit();
     } catch (const DatabaseError&) {
         engine->Rollback();
@@ -58,7 +60,7 @@ void CreateCompanyTables(int dialect, Connection& connection, const std::string&
                  std::make_unique<PostgresEngine>(ServerAddress{path, password, user, defaultName}));
         return;
     }
-    auto engine = std::make_unique<SqliteEngine>(path, true);
+    auto engine = std::make_unique<SqliteEngine>(path, SqliteFile::Create);
     try {
         CreateIn(connection, std::move(engine));
     } catch (const DatabaseError&) {

@@ -7,7 +7,9 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -15,6 +17,7 @@
 #include "session/database/connection.h"
 #include "session/database/parameters.h"
 #include "session/database/translation.h"
+#include "session/database/waiting.h"
 
 namespace jxc {
 
@@ -41,6 +44,32 @@ class Engine {
                                           std::span<const Value> values) = 0;
     virtual void Flush() {}
 
+    // Selects that are sent together and waited for once; each one's rows in its place. An engine at hand has
+    // nothing to gain and is not asked.
+    struct Select {
+        EngineStatement* statement;
+        std::vector<Value> values;
+    };
+    virtual bool IsFar() const { return false; }
+    virtual std::vector<Rows> QueryTogether(std::span<const Select>) { return {}; }
+    // How often a server was waited for, the log-in apart.
+    virtual size_t RoundTrips() const { return 0; }
+    // See Connection::Mark; -1 when the failure, if any, is the last call's.
+    virtual void Mark(int) {}
+    virtual int MarkOfFailure() const { return -1; }
+
+    // Whether a table is there that this user may not read.
+    virtual bool HidesTable(std::string_view) { return false; }
+    // What the engine finds damaged when it reads everything it keeps, a line each; none when all is sound.
+    virtual std::vector<std::string> Faults() = 0;
+    // The version of the company's tables, see company_version.h; 0 for a company older than versions. Another
+    // program's database is a DatabaseError. SetVersion belongs into a transaction.
+    virtual int Version() = 0;
+    virtual void SetVersion(int version) = 0;
+
+    // The tables that this user may read, in lower case, each with its columns.
+    virtual std::map<std::string, std::set<std::string>> Catalogue() = 0;
+
     // Changes or deletes the row at `address`, the last of `values`; a row that is gone is a ConflictError.
     // `sql` as ChangeText or DeleteText gives it.
     virtual void Change(EngineStatement& statement, std::span<const Value> values,
@@ -48,19 +77,28 @@ class Engine {
     // With `unchanged` the row must still hold the values of these fields, which come between the new values
     // and the address; an engine that moves changed rows knows without them, and is given none.
     virtual bool MovesChangedRows() const = 0;
+    // With `follow` the row is looked for where a statement of the transaction may have moved it since its
+    // address was read.
     virtual std::string ChangeText(const std::string& table, std::span<const std::string> fields,
-                                   std::span<const std::string> unchanged) const = 0;
-    virtual std::string DeleteText(const std::string& table) const = 0;
+                                   std::span<const std::string> unchanged, bool follow) const = 0;
+    virtual std::string DeleteText(const std::string& table, bool follow) const = 0;
     virtual std::string InsertText(const std::string& table, std::span<const std::string> fields) const = 0;
 
     // Begin waits for other writers of the company. Savepoints are numbered from 1, the outermost.
     virtual void Begin() = 0;
+    // One state of the database for all that is read until Rollback. No writer waits for it.
+    virtual void BeginReading() = 0;
     virtual void Commit() = 0;
     virtual void Rollback() noexcept = 0;
     virtual void Savepoint(int depth) = 0;
     virtual void Release(int depth) = 0;
     virtual void RollbackTo(int depth) = 0;
     virtual int DepthOfFailure() const = 0;
+
+    // A line to a server that is gone: another engine must take the place of this one.
+    virtual bool IsLost() const { return false; }
+    // Told while this engine waits, for other writers or for its server.
+    Waiting waiting;
 
     // Called once the database has proven to be a company's: settings that stay with it.
     virtual void Adopt() {}

@@ -5,6 +5,7 @@
 #include "controls/text.h"
 #include "session/database/connection.h"
 #include "session/database/parameters.h"
+#include "session/database/storable_text.h"
 
 namespace jxc {
 
@@ -54,7 +55,10 @@ Value FieldValue(const FieldDef& field, Value value) {
     case FieldType::Text:
         break;
     }
-    return value.IsText() ? std::move(value) : Value(value.AsText());
+    if (!value.IsText())
+        return Value(value.AsText());
+    RequireStorable(value.Text());
+    return value;
 }
 
 } // namespace jxc

@@ -33,19 +33,21 @@ void CollectStrict(const Node& node, Aliases& aliases) {
 void CollectRequired(const Node& condition, Aliases& aliases) {
     switch (condition.form) {
     case Form::And:
-        CollectRequired(*condition.parts[0], aliases);
-        CollectRequired(*condition.parts[1], aliases);
+        for (const NodePtr& part : condition.parts)
+            CollectRequired(*part, aliases);
         break;
     case Form::Parens:
         CollectRequired(*condition.parts[0], aliases);
         break;
     case Form::Or: {
-        Aliases left, right;
-        CollectRequired(*condition.parts[0], left);
-        CollectRequired(*condition.parts[1], right);
-        for (const std::string& alias : left)
-            if (right.contains(alias))
-                aliases.insert(alias);
+        Aliases common;
+        CollectRequired(*condition.parts[0], common);
+        for (size_t i = 1; i < condition.parts.size() && !common.empty(); ++i) {
+            Aliases here;
+            CollectRequired(*condition.parts[i], here);
+            std::erase_if(common, [&](const std::string& alias) { return !here.contains(alias); });
+        }
+        aliases.merge(common);
         break;
     }
     case Form::Comparison:

@@ -1,5 +1,7 @@
 #include "session/database/lexer.h"
 
+#include <optional>
+
 #include "controls/text.h"
 #include "session/database/connection.h"
 
@@ -20,6 +22,33 @@ bool IsBlank(char c) {
 class Scanner {
   public:
     explicit Scanner(std::string_view sql) : sql_(sql) {}
+
+    // Behind the parenthesis of an In: its literals, when they are two or more of one kind and nothing else.
+    std::optional<Token> TakeList() {
+        Scanner ahead = *this;
+        const Token first = ahead.Next();
+        if (first.kind != TokenKind::Integer && first.kind != TokenKind::Text)
+            return {};
+        const auto fits = [&](const Token& token) {
+            return token.kind == first.kind && (token.kind != TokenKind::Integer || token.text.size() <= 18);
+        };
+        size_t end = ahead.at_, count = 1;
+        bool all = fits(first);
+        Token separator = ahead.Next();
+        for (; all && separator.kind == TokenKind::Symbol && separator.text == ",";
+             separator = ahead.Next()) {
+            all = fits(ahead.Next());
+            end = ahead.at_;
+            ++count;
+        }
+        if (!all || count < 2 || separator.kind != TokenKind::Symbol || separator.text != ")")
+            return {};
+        const Token list{first.kind == TokenKind::Integer ? TokenKind::IntegerList : TokenKind::TextList,
+                         sql_.substr(at_, end - at_)};
+        at_ = end;
+        afterName_ = false;
+        return list;
+    }
 
     Token Next() {
         while (at_ < sql_.size() && IsBlank(sql_[at_]))
@@ -84,8 +113,6 @@ class Scanner {
     Token Text() {
         const size_t start = ++at_;
         while (at_ < sql_.size()) {
-            if (sql_[at_] == '\0')
-                break;
             if (sql_[at_] != '\'') {
                 ++at_;
             } else if (at_ + 1 < sql_.size() && sql_[at_ + 1] == '\'') {
@@ -137,16 +164,22 @@ class Scanner {
 class ShapingLiterals {
   public:
     bool Contains(const Token& token) const {
-        if (all_ || depthOfList_ >= 0)
+        if (all_)
             return true;
         if (token.kind == TokenKind::Integer)
-            return afterTop_ || afterVarchar_ == 2 || (afterComma_ && token.text == "120");
+            return afterTop_ || columnOfOrder_ || afterVarchar_ == 2 || (afterComma_ && token.text == "120");
         return token.kind == TokenKind::Text && IsDateMask(token.text);
     }
 
+    bool InListOfExpressions() const { return depthOfList_ >= 0; }
+    bool AfterIn() const { return afterIn_ == 2; }
+
     void Pass(const Token& token) {
+        const bool afterIn = afterIn_ == 1 && token.kind == TokenKind::Symbol && token.text == "(";
+        afterIn_ = afterIn ? 2 : 0;
         afterTop_ = false;
         afterComma_ = false;
+        columnOfOrder_ = false;
         if (token.kind == TokenKind::Word) {
             PassWord(token.text);
             return;
@@ -161,22 +194,29 @@ class ShapingLiterals {
             ++depth_;
         if (token.text == ")" && --depth_ < depthOfList_)
             depthOfList_ = -1;
+        columnOfOrder_ = afterComma_ && isOrder_ && depth_ == depthOfList_;
     }
 
   private:
     void PassWord(std::string_view word) {
         afterVarchar_ = 0;
         switch (word.size()) {
+        case 2:
+            columnOfOrder_ = isOrder_ && depth_ == depthOfList_ && EqualsNoCase(word, "by");
+            afterIn_ = EqualsNoCase(word, "in") ? 1 : 0;
+            break;
         case 3:
             afterTop_ = EqualsNoCase(word, "top");
             break;
         case 5:
-            if (EqualsNoCase(word, "order") || EqualsNoCase(word, "group"))
+            if (EqualsNoCase(word, "order") || EqualsNoCase(word, "group")) {
                 depthOfList_ = depth_;
-            else if (EqualsNoCase(word, "alter"))
+                isOrder_ = EqualsNoCase(word, "order");
+            } else if (EqualsNoCase(word, "alter")) {
                 all_ = true;
-            else if (EqualsNoCase(word, "union"))
+            } else if (EqualsNoCase(word, "union")) {
                 depthOfList_ = -1;
+            }
             break;
         case 6:
             if (EqualsNoCase(word, "having"))
@@ -196,8 +236,11 @@ class ShapingLiterals {
     bool afterTop_ = false;
     bool afterComma_ = false;
     int afterVarchar_ = 0; // 1 behind the word, 2 behind its parenthesis
+    int afterIn_ = 0;      // 1 behind the word, 2 behind its parenthesis
     int depth_ = 0;
-    int depthOfList_ = -1; // depth of the Group By or Order By that is open
+    int depthOfList_ = -1;       // depth of the Group By or Order By that is open
+    bool isOrder_ = false;       // it is an Order By
+    bool columnOfOrder_ = false; // a number here names a column of the result
 };
 
 std::string_view Marker(const Token& token) {
@@ -208,26 +251,53 @@ std::string_view Marker(const Token& token) {
         return "?d";
     case TokenKind::Date:
         return "?t";
+    case TokenKind::IntegerList:
+        return "?I";
+    case TokenKind::TextList:
+        return "?S";
     default:
         return "?s";
     }
 }
 
-} // namespace
+// The place of an equal literal before; -1 when there is none.
+int PlaceOfEqual(const std::vector<Literal>& literals, const Token& token) {
+    for (size_t i = 0; i < literals.size(); ++i)
+        if (literals[i].kind == token.kind && literals[i].text == token.text)
+            return static_cast<int>(i);
+    return -1;
+}
 
-void Lift(std::string_view sql, LiftedStatement& lifted, std::vector<Token>* tokens) {
+// Lifts with equal literals as one, or each for itself: false when that will not do, because a list of
+// expressions holds literals.
+bool LiftOnce(std::string_view sql, LiftedStatement& lifted, std::vector<Token>* tokens, bool merge) {
     lifted.key.clear();
     lifted.literals.clear();
+    if (tokens)
+        tokens->clear();
     Scanner scanner(sql);
     ShapingLiterals shaping;
-    for (Token token = scanner.Next(); token.kind != TokenKind::End; token = scanner.Next()) {
+    const auto next = [&] {
+        if (shaping.AfterIn())
+            if (const std::optional<Token> list = scanner.TakeList())
+                return *list;
+        return scanner.Next();
+    };
+    for (Token token = next(); token.kind != TokenKind::End; token = next()) {
         const bool isLiteral = token.kind != TokenKind::Word && token.kind != TokenKind::Symbol;
         if (token.kind == TokenKind::Integer && token.text.size() > 9)
             token.kind = TokenKind::Decimal; // an integer parameter has 32 bits
         if (isLiteral && !shaping.Contains(token)) {
-            token.literal = static_cast<int>(lifted.literals.size());
-            lifted.literals.push_back({token.kind, token.text});
-            lifted.key += Marker(token);
+            if (shaping.InListOfExpressions() && !merge && !lifted.literals.empty())
+                return false;
+            token.literal = merge ? PlaceOfEqual(lifted.literals, token) : -1;
+            if (token.literal >= 0) {
+                lifted.key.append("?=").append(std::to_string(token.literal));
+            } else {
+                token.literal = static_cast<int>(lifted.literals.size());
+                lifted.literals.push_back({token.kind, token.text});
+                lifted.key += Marker(token);
+            }
         } else if (token.kind == TokenKind::Text) {
             lifted.key.append("'").append(token.text).append("'");
         } else {
@@ -238,6 +308,23 @@ void Lift(std::string_view sql, LiftedStatement& lifted, std::vector<Token>* tok
         if (tokens)
             tokens->push_back(token);
     }
+    return true;
+}
+
+} // namespace
+
+void Lift(std::string_view sql, LiftedStatement& lifted, std::vector<Token>* tokens) {
+    if (!LiftOnce(sql, lifted, tokens, false))
+        LiftOnce(sql, lifted, tokens, true);
+}
+
+std::vector<Literal> ListElements(std::string_view list) {
+    std::vector<Literal> elements;
+    Scanner scanner(list);
+    for (Token token = scanner.Next(); token.kind != TokenKind::End; token = scanner.Next())
+        if (token.kind != TokenKind::Symbol)
+            elements.push_back({token.kind, token.text});
+    return elements;
 }
 
 bool IsDateMask(std::string_view text) {

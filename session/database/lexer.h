@@ -12,10 +12,12 @@
 
 namespace jxc {
 
-enum class TokenKind { Word, Integer, Decimal, Text, Date, Symbol, End };
+// A list stands for the literals of an In with two or more of one kind, commas and all: a list of any length
+// is one parameter, and the statement the same.
+enum class TokenKind { Word, Integer, Decimal, Text, Date, IntegerList, TextList, Symbol, End };
 
 // A literal as the statement's text holds it: digits, what stands between the quotes ('' not yet undone),
-// what stands between the two #.
+// what stands between the two #, what stands between the parentheses of a list.
 struct Literal {
     TokenKind kind;
     std::string_view text;
@@ -35,10 +37,14 @@ struct LiftedStatement {
 };
 
 // Lifts `sql` into `lifted`, whose memory is used again; collects the tokens too when asked. Literals that
-// shape the statement stay in it: the n of Top, lengths and styles of Convert, masks of Format, and whatever
-// stands in Group By, Order By or an ALTER TABLE. Throws DatabaseError.
+// shape the statement stay in it: the n of Top, lengths and styles of Convert, masks of Format, the column
+// numbers of Order By, and whatever stands in an ALTER TABLE. Where a Group By or Order By holds literals,
+// equal ones of the statement are one, so that its expressions are those of the select list. Throws
+// DatabaseError.
 void Lift(std::string_view sql, LiftedStatement& lifted, std::vector<Token>* tokens = nullptr);
 
+// The literals of a list, which stand between its commas.
+std::vector<Literal> ListElements(std::string_view list);
 // Whether the text is a mask of Format, such as yyyy-mm.
 bool IsDateMask(std::string_view text);
 // 'it''s' without its quotes: it's.

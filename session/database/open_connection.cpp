@@ -4,36 +4,61 @@
 
 #include <filesystem>
 
+#include "session/database/company_version.h"
 #include "session/database/postgres_engine.h"
 #include "session/database/schema.h"
+#include "session/database/server_address.h"
 #include "session/database/sqlite_engine.h"
 
 namespace jxc {
 
 namespace {
 
-void RequireReadableFile(const std::string& path) {
+void RequireReadableFile(const std::string& path, bool onlyRead) {
+    const std::string shown = ShownAddress(path);
     std::error_code error;
     if (!std::filesystem::exists(path, error))
-        throw DatabaseError("数据库文件 " + path + " 不存在。");
+        throw DatabaseError("数据库文件 " + shown + " 不存在。");
     if (!std::filesystem::is_regular_file(path, error))
-        throw DatabaseError(path + " 不是数据库文件。");
-    if (access(path.c_str(), R_OK | W_OK) != 0)
-        throw DatabaseError("没有读写数据库文件 " + path + " 的权限。");
+        throw DatabaseError(shown + " 不是数据库文件。");
+    if (access(path.c_str(), onlyRead ? R_OK : R_OK | W_OK) != 0)
+        throw DatabaseError((onlyRead ? "没有读数据库文件 " : "没有读写数据库文件 ") + shown + " 的权限。");
 }
 
-// One look at every table; late tables and columns are added when the screens that own them open, and may be
-// missing here.
+// One look at every table; late tables are raised with the company, and may be missing here.
 void RequireTables(Connection& connection) {
     for (const TableDef& table : AllTables()) {
         if (table.late)
             continue;
-        const std::string name(table.name), field(table.fields.front().name);
-        try {
-            connection.Query("Select Top 1 " + field + " From " + name);
-        } catch (const DatabaseError&) {
-            throw DatabaseError("该数据库不是公司帐套：缺少表 " + name + "。");
-        }
+        if (connection.HasColumn(table.name, table.fields.front().name))
+            continue;
+        if (connection.EngineInUse().HidesTable(table.name))
+            throw DatabaseError("该登录用户没有读取表 " + std::string(table.name) +
+                                " 的权限；请数据库管理员授予对帐套各表的权限。");
+        throw DatabaseError("该数据库不是公司帐套：缺少表 " + std::string(table.name) + "。");
+    }
+}
+
+void OpenEngine(int dialect, Connection& connection, const ServerAddress& address, bool onlyRead) {
+    connection.Close();
+    if (dialect == 0) {
+        RequireReadableFile(address.path, onlyRead);
+        connection.Open(
+            std::make_unique<SqliteEngine>(address.path, onlyRead ? SqliteFile::Read : SqliteFile::Open));
+    } else {
+        const auto connect = [address] { return std::make_unique<PostgresEngine>(address); };
+        connection.Open(connect(), connect);
+    }
+    try {
+        RequireKnownVersion(connection);
+        RequireTables(connection);
+        if (onlyRead)
+            return;
+        RaiseCompany(connection);
+        connection.EngineInUse().Adopt();
+    } catch (const DatabaseError&) {
+        connection.Close();
+        throw;
     }
 }
 
@@ -41,21 +66,12 @@ void RequireTables(Connection& connection) {
 
 int OpenConnection(int dialect, Connection& connection, const std::string& path, const std::string& password,
                    const std::string& user, const std::string& defaultName) {
-    connection.Close();
-    if (dialect == 0) {
-        RequireReadableFile(path);
-        connection.Open(std::make_unique<SqliteEngine>(path, false));
-    } else {
-        connection.Open(std::make_unique<PostgresEngine>(ServerAddress{path, password, user, defaultName}));
-    }
-    try {
-        RequireTables(connection);
-        connection.EngineInUse().Adopt();
-    } catch (const DatabaseError&) {
-        connection.Close();
-        throw;
-    }
+    OpenEngine(dialect, connection, {path, password, user, defaultName}, false);
     return 0;
+}
+
+void OpenToRead(int dialect, Connection& connection, const std::string& path) {
+    OpenEngine(dialect, connection, {path, "", "", ""}, true);
 }
 
 } // namespace jxc

@@ -15,8 +15,12 @@ namespace jxc {
 // `defaultName` the database, `user` and `password` the log-in (empty ones leave the URI's). Returns 0. A
 // file that is missing, unreadable or no database, a server that does not answer or refuses the log-in, or a
 // database without the system's tables throws DatabaseError with a text for people and leaves `connection`
-// closed.
+// closed. So does a company that a newer program has written; one of an older version is raised.
 int OpenConnection(int dialect, Connection& connection, const std::string& path, const std::string& password,
                    const std::string& user, const std::string& defaultName);
+
+// The same to look only: nothing is raised or written, and the file may be read-only. `path` as the command
+// line names a company.
+void OpenToRead(int dialect, Connection& connection, const std::string& path);
 
 } // namespace jxc

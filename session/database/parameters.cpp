@@ -104,12 +104,11 @@ std::string DayEnd(const Moment& moment) {
     return wholeDay ? IsoText(AddDays(moment.day, 1)) : MomentText({moment.day, moment.seconds + 1});
 }
 
-Date MonthOf(const Literal& year, const Literal& month) {
-    const int y = static_cast<int>(Val(year.text)), m = static_cast<int>(Val(month.text));
-    if (y < 100 || y > 9999 || m < 1 || m > 12)
-        throw DatabaseError("SQL 语句有误：没有 " + std::string(year.text) + " 年 " +
-                            std::string(month.text) + " 月。");
-    return MakeDate(y, m, 1);
+std::optional<Date> MonthOf(const Literal& year, const Literal& month) {
+    const double y = Val(year.text), m = Val(month.text);
+    if (y < 100 || y > 9998 || m < 1 || m > 12)
+        return {};
+    return MakeDate(static_cast<int>(y), static_cast<int>(m), 1);
 }
 
 Value PlainValue(const Literal& literal) {
@@ -123,13 +122,8 @@ Value PlainValue(const Literal& literal) {
     }
 }
 
-} // namespace
-
-Value BindParameter(const Parameter& parameter, const std::vector<Literal>& literals) {
-    const Literal& literal = literals[static_cast<size_t>(parameter.literal)];
-    switch (parameter.derivation) {
-    case Derivation::Literal:
-        return PlainValue(literal);
+Value DerivedValue(Derivation derivation, const Literal& literal) {
+    switch (derivation) {
     case Derivation::AsText:
         return Value(PlainValue(literal).AsText());
     case Derivation::Date:
@@ -138,13 +132,67 @@ Value BindParameter(const Parameter& parameter, const std::vector<Literal>& lite
         return Value(DayEnd(MomentOf(literal)));
     case Derivation::PrefixEnd:
         return Value(UnquotedText(literal.text) + "\U0010FFFF");
-    case Derivation::MonthStart:
-        return Value(IsoText(MonthOf(literal, literals[static_cast<size_t>(parameter.second)])));
-    case Derivation::MonthEnd:
-        return Value(
-            IsoText(AddMonths(MonthOf(literal, literals[static_cast<size_t>(parameter.second)]), 1)));
+    case Derivation::Number: {
+        const std::string text = UnquotedText(literal.text);
+        return IsNumericText(text) ? Value(Val(text)) : Value();
     }
-    return {};
+    default:
+        return PlainValue(literal);
+    }
+}
+
+// Both forms write a text between double quotes and its quotes and backslashes behind a backslash; only one
+// takes line ends as they are.
+std::string ElementText(const Value& value, bool isJson) {
+    if (value.IsNull())
+        return "null";
+    if (!value.IsText())
+        return value.AsText();
+    std::string quoted = "\"";
+    for (const char c : value.Text()) {
+        if (isJson && static_cast<unsigned char>(c) < 0x20) {
+            constexpr std::string_view kDigits = "0123456789abcdef";
+            quoted.append("\\u00") += kDigits[static_cast<size_t>(c >> 4)];
+            quoted += kDigits[static_cast<size_t>(c & 15)];
+            continue;
+        }
+        if (c == '"' || c == '\\')
+            quoted += '\\';
+        quoted += c;
+    }
+    return quoted + '"';
+}
+
+std::string ListText(const Parameter& parameter, const Literal& list) {
+    const bool isJson = parameter.derivation == Derivation::JsonList;
+    std::string text(1, isJson ? '[' : '{');
+    for (const Literal& element : ListElements(list.text)) {
+        if (text.size() > 1)
+            text += ',';
+        text += ElementText(DerivedValue(parameter.element, element), isJson);
+    }
+    return text + (isJson ? ']' : '}');
+}
+
+} // namespace
+
+Value BindParameter(const Parameter& parameter, const std::vector<Literal>& literals) {
+    const Literal& literal = literals[static_cast<size_t>(parameter.literal)];
+    switch (parameter.derivation) {
+    case Derivation::MonthStart:
+    case Derivation::MonthEnd: {
+        const bool isStart = parameter.derivation == Derivation::MonthStart;
+        const std::optional<Date> month = MonthOf(literal, literals[static_cast<size_t>(parameter.second)]);
+        if (!month)
+            return Value(isStart ? "9999-12-31" : "0001-01-01");
+        return Value(IsoText(isStart ? *month : AddMonths(*month, 1)));
+    }
+    case Derivation::JsonList:
+    case Derivation::ArrayList:
+        return Value(ListText(parameter, literal));
+    default:
+        return DerivedValue(parameter.derivation, literal);
+    }
 }
 
 std::string NormalDate(std::string_view text) {

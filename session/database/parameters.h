@@ -18,8 +18,11 @@ enum class Derivation {
     Date,       // the date as the engines hold it
     DayEnd,     // the first moment after the whole date
     PrefixEnd,  // a text behind all texts that begin with this one
-    MonthStart, // literal: the year; second: the month
-    MonthEnd,   // the first day of the month after it
+    MonthStart, // literal: the year; second: the month. Of a month that does not exist, behind every date
+    MonthEnd,   // the first day of the month after it; before every date
+    Number,     // a text next to a number: the number it holds, null when it holds none
+    JsonList,   // a list as ["a", "b"]
+    ArrayList,  // a list as {"a", "b"}
 };
 
 struct Parameter {
@@ -27,6 +30,7 @@ struct Parameter {
     ParameterType type = ParameterType::Text;
     int literal = 0;
     int second = 0;
+    Derivation element = Derivation::Literal; // of a list: what becomes of each literal
 };
 
 // Throws DatabaseError when a date is none.

@@ -33,6 +33,7 @@ class StatementParser : public ExpressionParser {
 
   private:
     std::unique_ptr<SelectTree> Select() override {
+        const Nesting nesting(*this, kSubselect);
         auto select = std::make_unique<SelectTree>();
         ExpectWord("select");
         select->distinct = TakeWord("distinct");
@@ -51,7 +52,7 @@ class StatementParser : public ExpressionParser {
         if (TakeWord("group")) {
             ExpectWord("by");
             do
-                select->groupBy.push_back(Sum());
+                select->groupBy.push_back(Listed());
             while (TakeSymbol(","));
         }
         if (TakeWord("having"))
@@ -71,11 +72,18 @@ class StatementParser : public ExpressionParser {
         return item;
     }
 
+    // A date alone neither groups nor sorts.
+    NodePtr Listed() {
+        if (Here().kind == TokenKind::Date)
+            Refuse();
+        return Sum();
+    }
+
     void OrderBy(SelectTree& select) {
         ExpectWord("by");
         do {
             SelectTree::Order order;
-            order.value = Sum();
+            order.value = Listed();
             order.descending = TakeWord("desc");
             if (!order.descending)
                 TakeWord("asc");
@@ -130,6 +138,7 @@ class StatementParser : public ExpressionParser {
             source->alias = Alias(source->table);
             return source;
         }
+        const Nesting nesting(*this, kParenthesis);
         if (!AtWord("select")) {
             SourcePtr inner = Sources();
             ExpectSymbol(")");

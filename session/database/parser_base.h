@@ -41,6 +41,30 @@ class TokenWalk {
         return std::string(Take().text);
     }
     bool AtEnd() const { return at_ >= tokens_.size(); }
+    // Held while a part of the statement is read that others wait for: what stands before an operator, a
+    // sign, a parenthesis. An engine remembers what waits in a stack of 100 symbols, and both are spared
+    // statements that need more; `symbols` is what the part before takes there as it is written down.
+    class Nesting {
+      public:
+        Nesting(TokenWalk& walk, int symbols) : walk_(walk), symbols_(symbols) {
+            walk_.waiting_ += symbols_;
+            if (walk_.waiting_ > kMostWaiting)
+                throw DatabaseError("SQL 语句有误：括号嵌套太深。");
+        }
+        ~Nesting() { walk_.waiting_ -= symbols_; }
+        Nesting(const Nesting&) = delete;
+        Nesting& operator=(const Nesting&) = delete;
+
+      private:
+        TokenWalk& walk_;
+        int symbols_;
+    };
+    static constexpr int kOperand = 2, kParenthesis = 2, kCall = 5, kSubselect = 10;
+    // Sums and products are trees as deep as they are long.
+    static void RequireShort(int terms) {
+        if (terms > kLongestSum)
+            throw DatabaseError("SQL 语句有误：算式太长。");
+    }
     [[noreturn]] void Refuse() const {
         if (AtEnd())
             throw DatabaseError("SQL 语句有误：语句不完整。");
@@ -48,8 +72,12 @@ class TokenWalk {
     }
 
   private:
+    static constexpr int kMostWaiting = 80;
+    static constexpr int kLongestSum = 200;
+
     std::span<const Token> tokens_;
     size_t at_ = 0;
+    int waiting_ = 0;
 };
 
 // Expressions and conditions.

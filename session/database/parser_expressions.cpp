@@ -16,26 +16,36 @@ NodePtr MakeNode(Form form, NodePtr first, NodePtr second) {
 
 NodePtr ExpressionParser::Condition() {
     NodePtr left = AndChain();
+    if (!AtWord("or"))
+        return left;
+    NodePtr node = MakeNode(Form::Or, std::move(left));
+    const Nesting nesting(*this, kOperand);
     while (TakeWord("or"))
-        left = MakeNode(Form::Or, std::move(left), AndChain());
-    return left;
+        node->parts.push_back(AndChain());
+    return node;
 }
 
 NodePtr ExpressionParser::AndChain() {
     NodePtr left = Negation();
+    if (!AtWord("and"))
+        return left;
+    NodePtr node = MakeNode(Form::And, std::move(left));
+    const Nesting nesting(*this, kOperand);
     while (TakeWord("and"))
-        left = MakeNode(Form::And, std::move(left), Negation());
-    return left;
+        node->parts.push_back(Negation());
+    return node;
 }
 
 NodePtr ExpressionParser::Negation() {
-    if (TakeWord("not"))
-        return MakeNode(Form::Not, Negation());
-    return Comparison();
+    if (!TakeWord("not"))
+        return Comparison();
+    const Nesting nesting(*this, kParenthesis);
+    return MakeNode(Form::Not, Negation());
 }
 
 NodePtr ExpressionParser::Comparison() {
     NodePtr left = Sum();
+    const Nesting nesting(*this, kOperand);
     for (const std::string_view op : {"=", "<>", "<=", ">=", "<", ">"}) {
         if (TakeSymbol(op)) {
             NodePtr node = MakeNode(Form::Comparison, std::move(left), Sum());
@@ -77,7 +87,7 @@ NodePtr ExpressionParser::InList(NodePtr value, bool negated) {
     ExpectSymbol("(");
     if (AtWord("select")) {
         node->select = Select();
-    } else {
+    } else if (!AtSymbol(")")) {
         do
             node->parts.push_back(Sum());
         while (TakeSymbol(","));
@@ -88,8 +98,11 @@ NodePtr ExpressionParser::InList(NodePtr value, bool negated) {
 
 NodePtr ExpressionParser::Sum() {
     NodePtr left = Product();
+    int terms = 1;
     while (AtSymbol("+") || AtSymbol("-") || AtSymbol("&")) {
         std::string op(Take().text);
+        RequireShort(++terms);
+        const Nesting nesting(*this, kOperand);
         left = MakeNode(Form::Arithmetic, std::move(left), Product());
         left->text = std::move(op);
     }
@@ -98,8 +111,11 @@ NodePtr ExpressionParser::Sum() {
 
 NodePtr ExpressionParser::Product() {
     NodePtr left = Signed();
+    int terms = 1;
     while (AtSymbol("*") || AtSymbol("/")) {
         std::string op(Take().text);
+        RequireShort(++terms);
+        const Nesting nesting(*this, kOperand);
         left = MakeNode(Form::Arithmetic, std::move(left), Signed());
         left->text = std::move(op);
     }
@@ -107,11 +123,13 @@ NodePtr ExpressionParser::Product() {
 }
 
 NodePtr ExpressionParser::Signed() {
+    if (!AtSymbol("-") && !AtSymbol("+"))
+        return Primary();
+    const Nesting nesting(*this, kParenthesis);
     if (TakeSymbol("-"))
         return MakeNode(Form::Negative, Signed());
-    if (TakeSymbol("+"))
-        return Signed();
-    return Primary();
+    TakeSymbol("+");
+    return Signed();
 }
 
 NodePtr ExpressionParser::Primary() {
@@ -141,6 +159,7 @@ NodePtr ExpressionParser::LiteralNode() {
 }
 
 NodePtr ExpressionParser::Parenthesised() {
+    const Nesting nesting(*this, kParenthesis);
     ExpectSymbol("(");
     NodePtr node;
     if (AtWord("select")) {
@@ -187,6 +206,7 @@ NodePtr ExpressionParser::Named() {
 }
 
 NodePtr ExpressionParser::Call() {
+    const Nesting nesting(*this, kCall);
     NodePtr node = MakeNode(Form::Call);
     node->text = LowerCase(ExpectName());
     ExpectSymbol("(");
@@ -202,6 +222,7 @@ NodePtr ExpressionParser::Call() {
 
 // convert(money,x), convert(smallmoney,x), convert(varchar(n),x,120)
 NodePtr ExpressionParser::ConvertCall() {
+    const Nesting nesting(*this, kCall);
     ExpectWord("convert");
     ExpectSymbol("(");
     NodePtr node = MakeNode(Form::Convert);
@@ -228,6 +249,7 @@ NodePtr ExpressionParser::ConvertCall() {
 }
 
 NodePtr ExpressionParser::CaseWhen() {
+    const Nesting nesting(*this, kCall);
     ExpectWord("case");
     NodePtr node = MakeNode(Form::Case);
     while (TakeWord("when")) {

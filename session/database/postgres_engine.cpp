@@ -1,5 +1,6 @@
 #include "session/database/postgres_engine.h"
 
+#include "controls/text.h"
 #include "session/database/postgres_values.h"
 #include "session/database/postgres_writer.h"
 
@@ -8,11 +9,20 @@ namespace jxc {
 namespace {
 
 // So many statements are sent ahead at most: their results wait in the server's and our buffers.
-constexpr size_t kSentAhead = 200;
+constexpr size_t kSentAhead = 20000;
 // The lock that a company's writers share: an arbitrary number, the same for all.
 constexpr const char* kWriterLock = "select pg_advisory_xact_lock(7400631)";
 constexpr const char* kResultChanged =
     "0A000"; // a prepared "select *" of a table that has got a column since
+
+// The comment that tells the version of a company's tables, behind this its number.
+const std::string kVersionComment = "lzJxc company version ";
+
+int VersionTold(const std::string& comment) {
+    return comment.starts_with(kVersionComment)
+               ? static_cast<int>(Val(comment.substr(kVersionComment.size())))
+               : 0;
+}
 
 Oid TypeOf(ParameterType type) {
     switch (type) {
@@ -37,6 +47,12 @@ std::vector<Oid> TypesOf(const std::vector<ParameterType>& types) {
 
 std::string Numbered(size_t number) {
     return std::string("$").append(std::to_string(number));
+}
+
+// Where a row stands now. Every change leaves the row's next place at the one before, and the server walks
+// along them.
+std::string PlaceOf(const std::string& table, const std::string& address, bool follow) {
+    return follow ? "(select currtid2('" + table + "', " + address + "))" : address;
 }
 
 } // namespace
@@ -73,7 +89,7 @@ PostgresStatement& Own(EngineStatement& statement) {
 
 } // namespace
 
-PostgresEngine::PostgresEngine(const ServerAddress& address) : line_(address) {}
+PostgresEngine::PostgresEngine(const ServerAddress& address) : line_(address, waiting) {}
 
 std::unique_ptr<StatementWriter> PostgresEngine::NewWriter() const {
     return std::make_unique<PostgresWriter>();
@@ -147,6 +163,47 @@ Rows PostgresEngine::Query(EngineStatement& statement, std::span<const Value> va
     return line_.Settle();
 }
 
+std::vector<Rows> PostgresEngine::QueryTogether(std::span<const Select> selects) {
+    StartCall();
+    std::vector<Rows> all(selects.size());
+    for (size_t i = 0; i < selects.size(); ++i)
+        line_.Send(Own(*selects[i].statement).OnServer(), selects[i].values, depth_, nullptr, &all[i]);
+    line_.Settle();
+    return all;
+}
+
+std::map<std::string, std::set<std::string>> PostgresEngine::Catalogue() {
+    StartCall();
+    line_.SendText(
+        "select c.relname, a.attname from pg_class c join pg_attribute a on a.attrelid = c.oid "
+        "where c.relkind in ('r', 'p', 'v') and pg_table_is_visible(c.oid) and a.attnum > 0 and not "
+        "a.attisdropped and c.relnamespace <> 'pg_catalog'::regnamespace and "
+        "has_table_privilege(c.oid, 'select') "
+        "union all select '', obj_description(to_regclass('tjxc_invsys'), 'pg_class')",
+        {}, {}, depth_);
+    const Rows rows = line_.Settle();
+    std::map<std::string, std::set<std::string>> tables;
+    for (size_t row = 0; row < rows.Count(); ++row) {
+        const std::string table = rows.At(row, 0).AsText();
+        if (table.empty())
+            version_ = VersionTold(rows.At(row, 1).AsText());
+        else
+            tables[table].insert(rows.At(row, 1).AsText());
+    }
+    return tables;
+}
+
+int PostgresEngine::Version() {
+    if (!version_)
+        Catalogue();
+    return *version_;
+}
+
+void PostgresEngine::SetVersion(int version) {
+    ExecuteScript("comment on table tJXC_InvSys is '" + (kVersionComment + std::to_string(version)) + "'");
+    version_ = version;
+}
+
 std::vector<std::string> PostgresEngine::Plan(const std::string& sql, const std::vector<ParameterType>& types,
                                               std::span<const Value> values) {
     StartCall();
@@ -164,7 +221,7 @@ void PostgresEngine::Flush() {
 }
 
 std::string PostgresEngine::ChangeText(const std::string& table, std::span<const std::string> fields,
-                                       std::span<const std::string>) const {
+                                       std::span<const std::string>, bool follow) const {
     std::string sql = "update " + table;
     const char* separator = " set ";
     size_t number = 0;
@@ -172,11 +229,11 @@ std::string PostgresEngine::ChangeText(const std::string& table, std::span<const
         sql.append(separator).append(field).append(" = ").append(Numbered(++number));
         separator = ", ";
     }
-    return sql + " where ctid = " + Numbered(number + 1) + " returning ctid";
+    return sql + " where ctid = " + PlaceOf(table, Numbered(number + 1), follow) + " returning ctid";
 }
 
-std::string PostgresEngine::DeleteText(const std::string& table) const {
-    return "delete from " + table + " where ctid = $1 returning ctid";
+std::string PostgresEngine::DeleteText(const std::string& table, bool follow) const {
+    return "delete from " + table + " where ctid = " + PlaceOf(table, "$1", follow) + " returning ctid";
 }
 
 std::string PostgresEngine::InsertText(const std::string& table, std::span<const std::string> fields) const {
@@ -200,6 +257,12 @@ void PostgresEngine::Begin() {
     StartCall();
     Command("begin", 0);
     Command(kWriterLock, 0);
+    inTransaction_ = true;
+}
+
+void PostgresEngine::BeginReading() {
+    StartCall();
+    Command("begin isolation level repeatable read read only", 0);
     inTransaction_ = true;
 }
 

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "session/database/engine.h"
@@ -26,16 +27,31 @@ class PostgresEngine : public Engine {
     std::vector<std::string> Plan(const std::string& sql, const std::vector<ParameterType>& types,
                                   std::span<const Value> values) override;
     void Flush() override;
+    bool IsFar() const override { return true; }
+    bool IsLost() const override { return line_.IsLost(); }
+    std::vector<Rows> QueryTogether(std::span<const Select> selects) override;
+    size_t RoundTrips() const override { return line_.RoundTrips(); }
+    void Mark(int mark) override { line_.Mark(mark); }
+    int MarkOfFailure() const override { return line_.MarkOfFailure(); }
+    std::map<std::string, std::set<std::string>> Catalogue() override;
+    bool HidesTable(std::string_view table) override;
+    // With the extension amcheck, where this user may use it, tables and indexes are compared; else every row
+    // of every table is read whole.
+    std::vector<std::string> Faults() override;
+    // Kept as a comment on the table of the parameters, which goes along with a dump.
+    int Version() override;
+    void SetVersion(int version) override;
 
     void Change(EngineStatement& statement, std::span<const Value> values,
                 const RowAddress& address) override;
     bool MovesChangedRows() const override { return true; }
     std::string ChangeText(const std::string& table, std::span<const std::string> fields,
-                           std::span<const std::string> unchanged) const override;
-    std::string DeleteText(const std::string& table) const override;
+                           std::span<const std::string> unchanged, bool follow) const override;
+    std::string DeleteText(const std::string& table, bool follow) const override;
     std::string InsertText(const std::string& table, std::span<const std::string> fields) const override;
 
     void Begin() override;
+    void BeginReading() override;
     void Commit() override;
     void Rollback() noexcept override;
     void Savepoint(int depth) override;
@@ -56,8 +72,11 @@ class PostgresEngine : public Engine {
     void StartCall();
     void EndCall();
     void DropRetired();
+    Rows Ask(const std::string& sql); // a text that is not worth preparing
+    void CheckTable(const std::string& table, bool thoroughly, std::vector<std::string>& faults);
 
     PostgresPipeline line_;
+    std::optional<int> version_;       // as the catalogue told it
     size_t named_ = 0;                 // statements named so far
     std::vector<std::string> retired_; // names of statements no longer used
     std::unordered_map<std::string, std::shared_ptr<ServerStatement>> commands_;

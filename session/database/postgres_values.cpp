@@ -41,12 +41,8 @@ Value CellOf(std::string_view text, Oid type) {
 } // namespace
 
 std::string ServerText(const Value& value) {
-    if (!value.IsDouble()) {
-        std::string text = value.AsText();
-        if (text.find('\0') != std::string::npos)
-            throw DatabaseError("文本含有不能存入的字符。");
-        return text;
-    }
+    if (!value.IsDouble())
+        return value.AsText();
     char text[40];
     const auto [end, error] = std::to_chars(text, text + sizeof text, value.AsDouble());
     return std::string(text, end);

@@ -41,6 +41,12 @@ class PostgresWriter : public StatementWriter {
         return "cast(" + value + " as numeric(19, 4))";
     }
     std::string StoredMoney(const std::string& value) const override { return value; }
+    std::string Quotient(const std::string& dividend, const std::string& divisor) const override {
+        return dividend + " / nullif(" + divisor + ", 0)";
+    }
+    Derivation ListForm() const override { return Derivation::ArrayList; }
+    std::string InParameter(const std::string& value, const std::string& parameter, ValueKind kind,
+                            bool negated) const override;
     bool HasHashDates() const override { return false; }
 };
 

@@ -69,15 +69,6 @@ const Node* PartTested(const Node& node, std::string_view part) {
     return call.parts[0].get();
 }
 
-void Flatten(const Node& node, std::vector<const Node*>& conditions) {
-    if (node.form == Form::And) {
-        Flatten(*node.parts[0], conditions);
-        Flatten(*node.parts[1], conditions);
-    } else {
-        conditions.push_back(&node);
-    }
-}
-
 } // namespace
 
 std::string StatementWriter::MonthRange(const Node& year, const Node& month) {
@@ -91,26 +82,26 @@ std::string StatementWriter::MonthRange(const Node& year, const Node& month) {
     return sql + " and " + field + " < " + Lifted(Derivation::MonthEnd, ParameterType::Date, y, &m) + ")";
 }
 
+// The tests of a year are few; those of its month may stand anywhere behind or before.
 std::string StatementWriter::Conjunction(const Node& node) {
-    std::vector<const Node*> conditions;
-    Flatten(node, conditions);
-    std::string sql;
-    for (size_t i = 0; i < conditions.size(); ++i) {
-        if (!conditions[i])
+    std::vector<std::string> terms(node.parts.size());
+    std::vector<bool> written(node.parts.size());
+    for (size_t i = 0; i < terms.size(); ++i) {
+        if (written[i])
             continue;
-        std::string condition;
-        for (size_t j = i + 1; j < conditions.size() && condition.empty(); ++j) {
-            if (!conditions[j])
+        const bool isYear = PartTested(*node.parts[i], "year"), isMonth = PartTested(*node.parts[i], "month");
+        for (size_t j = i + 1; (isYear || isMonth) && j < terms.size() && terms[i].empty(); ++j) {
+            if (written[j])
                 continue;
-            condition = MonthRange(*conditions[i], *conditions[j]);
-            if (!condition.empty())
-                conditions[j] = nullptr;
+            terms[i] = isYear ? MonthRange(*node.parts[i], *node.parts[j])
+                              : MonthRange(*node.parts[j], *node.parts[i]);
+            written[j] = !terms[i].empty();
         }
-        if (condition.empty())
-            condition = Expression(*conditions[i]);
-        sql += (sql.empty() ? "" : " and ") + condition;
+        if (terms[i].empty())
+            terms[i] = Expression(*node.parts[i]);
     }
-    return sql;
+    std::erase(terms, "");
+    return Chained(terms, " and ");
 }
 
 } // namespace jxc

@@ -16,6 +16,7 @@ Recordset::Recordset(Connection& connection, std::string_view sql, Access access
 // The rows' addresses stand in the first column.
 void Recordset::ReadRows(std::string_view sql) {
     rows_ = connection_.QueryRows(sql, tableName_);
+    rowChanges_ = connection_.RowChanges();
     firstField_ = 1;
     table_ = FindTable(tableName_);
     if (!table_)
@@ -177,6 +178,18 @@ bool Recordset::MustCompare(const Engine& engine) const {
     return !engine.MovesChangedRows() && !connection_.InTransaction();
 }
 
+// Inside a transaction a row is the same row after another statement of ours has changed it. Outside one that
+// change may be another user's.
+bool Recordset::MustFollow() const {
+    return connection_.InTransaction() && connection_.RowChanges() != rowChanges_;
+}
+
+void Recordset::RunOnRow(const std::string& text, std::span<const Value> values,
+                         const std::shared_ptr<Value>& address) {
+    connection_.RunOnRow(text, values, address);
+    ++rowChanges_;
+}
+
 void Recordset::ChangeRow(Engine& engine) {
     const std::shared_ptr<Value> address = AddressToWrite();
     const bool compare = MustCompare(engine);
@@ -184,15 +197,17 @@ void Recordset::ChangeRow(Engine& engine) {
     if (compare)
         values.insert(values.end(), before_.begin(), before_.end());
     values.push_back(*address);
-    if (changeText_.empty() || changed_ != assigned_ || compare) {
+    const bool follow = MustFollow();
+    if (changeText_.empty() || changed_ != assigned_ || compare || following_ != follow) {
         const std::vector<std::string> unchanged =
             compare ? std::vector<std::string>(rows_.names.begin() + 1, rows_.names.end())
                     : std::vector<std::string>();
-        changeText_ = engine.ChangeText(tableName_, NamesToWrite(), unchanged);
+        changeText_ = engine.ChangeText(tableName_, NamesToWrite(), unchanged, follow);
         changed_ = assigned_;
+        following_ = follow;
     }
     ForgetAssigned();
-    connection_.RunOnRow(changeText_, values, address);
+    RunOnRow(changeText_, values, address);
     if (compare)
         changeText_.clear();
 }
@@ -203,7 +218,7 @@ void Recordset::Delete() {
     const std::shared_ptr<Value> address = AddressToWrite();
     const Value values[] = {*address};
     ForgetAssigned();
-    connection_.RunOnRow(connection_.EngineInUse().DeleteText(tableName_), values, address);
+    RunOnRow(connection_.EngineInUse().DeleteText(tableName_, MustFollow()), values, address);
     addresses_[row_].reset();
     AddressAsRead() = Value();
 }

@@ -58,6 +58,9 @@ class Recordset {
     std::vector<Value> ValuesToWrite();
     void ChangeRow(Engine& engine);
     bool MustCompare(const Engine& engine) const;
+    bool MustFollow() const;
+    void RunOnRow(const std::string& text, std::span<const Value> values,
+                  const std::shared_ptr<Value>& address);
     std::shared_ptr<Value> AddressToWrite();
     Value& AddressAsRead() { return rows_.cells[row_ * rows_.names.size()]; }
     void ForgetAssigned();
@@ -80,6 +83,8 @@ class Recordset {
     std::string insertText_;
     std::vector<size_t> changed_; // the same of changeText_
     std::string changeText_;
+    bool following_ = false; // in changeText_
+    size_t rowChanges_ = 0;  // the connection's when the rows were read, and own ones since
     // Write: the address of each row that was changed, which its engine keeps true. Empty until the first
     // one.
     std::vector<std::shared_ptr<Value>> addresses_;

@@ -28,7 +28,7 @@ struct TableDef {
     std::string_view name;
     std::vector<FieldDef> fields; // in column order, which "Insert .. Select *" relies on
     std::vector<IndexDef> indexes;
-    bool late = false; // companies of older versions lack it; EnsureLateTable adds it
+    bool late = false; // companies of older versions lack it, and gain it when they are opened
 };
 
 std::span<const TableDef> AllTables();

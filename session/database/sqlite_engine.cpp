@@ -6,7 +6,10 @@
 
 #include <cstring>
 #include <filesystem>
+#include <thread>
+#include <utility>
 
+#include "session/database/sqlite_content.h"
 #include "session/database/sqlite_functions.h"
 #include "session/database/sqlite_writer.h"
 
@@ -14,10 +17,25 @@ namespace jxc {
 
 namespace {
 
+// The person who waited for another writer gave up.
+thread_local bool gaveUp = false;
+
+// Another writer is at work: another try after an instant, until the time or the person's patience is over.
+int WaitForWriter(void* waiting, int tries) {
+    constexpr std::chrono::milliseconds kPause{20}, kMost{30000};
+    const auto waited = tries * kPause;
+    gaveUp = !static_cast<Waiting*>(waiting)->GoOn(waited);
+    if (gaveUp || waited >= kMost)
+        return 0;
+    std::this_thread::sleep_for(kPause);
+    return 1;
+}
+
 [[noreturn]] void Fail(sqlite3* db) {
     switch (sqlite3_errcode(db)) {
     case SQLITE_BUSY:
-        throw DatabaseError("数据库正被其他用户写入，等待超时。");
+        throw DatabaseError(std::exchange(gaveUp, false) ? kGaveUpWaiting
+                                                         : "数据库正被其他用户写入，等待超时。");
     case SQLITE_NOTADB:
         throw DatabaseError("该文件不是数据库，或者已经损坏。");
     case SQLITE_FULL:
@@ -136,30 +154,59 @@ void CreatePrivateFile(const std::string& path) {
     close(file);
 }
 
-constexpr int kWaitMilliseconds = 30000;
+// A path as the engine's addresses write it.
+std::string AsUri(const std::string& path) {
+    std::string uri = "file:";
+    for (const char c : path)
+        uri.append(c == '?' ? "%3f" : c == '#' ? "%23" : c == '%' ? "%25" : std::string(1, c));
+    return uri;
+}
+
+constexpr std::int64_t kApplicationId = 0x6c7a4a58; // "lzJX"
 constexpr const char* kSettings = "pragma synchronous = full;"
                                   "pragma temp_store = memory;"
                                   "pragma cache_size = -65536;";
 
 } // namespace
 
-SqliteEngine::SqliteEngine(const std::string& path, bool create) {
-    if (create)
+SqliteEngine::SqliteEngine(const std::string& path, SqliteFile how) {
+    if (how == SqliteFile::Create)
         CreatePrivateFile(path);
-    if (sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) !=
-        SQLITE_OK) {
-        const std::string reason = sqlite3_errmsg(db_);
-        sqlite3_close(db_);
-        throw DatabaseError("不能打开数据库文件 " + path + "：" + reason);
-    }
     try {
-        sqlite3_busy_timeout(db_, kWaitMilliseconds);
+        if (how == SqliteFile::Read)
+            OpenToRead(path);
+        else
+            OpenFile(path, SQLITE_OPEN_READWRITE);
+        sqlite3_busy_handler(db_, WaitForWriter, &waiting);
         ExecuteScript(kSettings);
+        if (how == SqliteFile::Read)
+            ExecuteScript("pragma query_only = on");
         AddSqliteFunctions(db_);
     } catch (const DatabaseError&) {
         sqlite3_close(db_);
         throw;
     }
+}
+
+void SqliteEngine::OpenFile(const std::string& path, int flags) {
+    if (sqlite3_open_v2(path.c_str(), &db_, flags | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK)
+        throw DatabaseError("不能打开数据库文件 " + path + "：" + sqlite3_errmsg(db_));
+}
+
+// A log that others left needs a writable folder to be read. A file that nobody can write, without a log, is
+// read as it lies.
+void SqliteEngine::OpenToRead(const std::string& path) {
+    const std::filesystem::path folder = std::filesystem::absolute(path).parent_path();
+    if (access(path.c_str(), W_OK) == 0 && access(folder.c_str(), W_OK) == 0)
+        return OpenFile(path, SQLITE_OPEN_READWRITE);
+    OpenFile(path, SQLITE_OPEN_READONLY);
+    std::error_code absent;
+    const auto logged = std::filesystem::file_size(path + "-wal", absent);
+    if ((!absent && logged > 0) ||
+        sqlite3_exec(db_, "select count(*) from sqlite_master", nullptr, nullptr, nullptr) == SQLITE_OK)
+        return;
+    sqlite3_close(db_);
+    OpenFile(AsUri(path) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
 }
 
 SqliteEngine::~SqliteEngine() {
@@ -200,7 +247,7 @@ void SqliteEngine::Change(EngineStatement& statement, std::span<const Value> val
 }
 
 std::string SqliteEngine::ChangeText(const std::string& table, std::span<const std::string> fields,
-                                     std::span<const std::string> unchanged) const {
+                                     std::span<const std::string> unchanged, bool) const {
     std::string sql = "update " + table;
     const char* separator = " set ";
     for (const std::string& field : fields) {
@@ -215,7 +262,7 @@ std::string SqliteEngine::ChangeText(const std::string& table, std::span<const s
     return sql + separator + "rowid = ?";
 }
 
-std::string SqliteEngine::DeleteText(const std::string& table) const {
+std::string SqliteEngine::DeleteText(const std::string& table, bool) const {
     return "delete from " + table + " where rowid = ?";
 }
 
@@ -226,6 +273,10 @@ std::string SqliteEngine::InsertText(const std::string& table, std::span<const s
         values.append(values.empty() ? "?" : ", ?");
     }
     return "insert into " + table + " (" + columns + ") values (" + values + ")";
+}
+
+void SqliteEngine::BeginReading() {
+    Command("begin");
 }
 
 void SqliteEngine::Begin() {
@@ -272,13 +323,77 @@ void SqliteEngine::ExecuteScript(const std::string& sql) {
         Fail(db_);
 }
 
+Rows SqliteEngine::Ask(const std::string& sql) {
+    return SqliteStatement(db_, sql).Read({});
+}
+
 void SqliteEngine::CopyTo(const std::string& file) {
-    SqliteStatement(db_, "vacuum into ?").Run(std::vector<Value>{file});
-    std::filesystem::permissions(file,
-                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    CreatePrivateFile(file);
+    CopyPages(db_, file);
+}
+
+void SqliteEngine::Seal() {
+    Unseal();
+    ExecuteScript(std::string("create table ") + kSeal + " (content text) strict");
+    SqliteStatement(db_, std::string("insert into ") + kSeal + " values (?)")
+        .Run(std::vector<Value>{ReadContent(db_).digest});
+}
+
+void SqliteEngine::Unseal() {
+    ExecuteScript(std::string("drop table if exists ") + kSeal);
+}
+
+std::vector<std::string> SqliteEngine::Faults() {
+    std::vector<std::string> faults;
+    try {
+        const Rows found = Ask("pragma integrity_check(100)");
+        for (size_t row = 0; row < found.Count(); ++row)
+            if (const std::string line = found.At(row, 0).AsText(); line != "ok")
+                faults.push_back(line);
+        if (!faults.empty())
+            return faults;
+        SqliteContent content = ReadContent(db_);
+        faults = std::move(content.strangeTexts);
+        const Rows sealed =
+            Ask("select name from sqlite_master where name = '" + std::string(kSeal) + "' collate nocase");
+        if (sealed.Count() == 0)
+            return faults;
+        const Rows noted = Ask(std::string("select content from ") + kSeal);
+        if (noted.Count() != 1 || noted.At(0, 0).AsText() != content.digest)
+            faults.push_back("内容与备份时不同");
+    } catch (const DatabaseError& error) {
+        faults.push_back(error.what());
+    }
+    return faults;
+}
+
+// Only a file that bears this program's mark counts its versions.
+int SqliteEngine::Version() {
+    const std::int64_t mark = Ask("pragma application_id").At(0, 0).AsLong();
+    if (mark == 0)
+        return 0;
+    if (mark != kApplicationId)
+        throw DatabaseError("该文件是另一个程序的数据库，不是公司帐套。");
+    return static_cast<int>(Ask("pragma user_version").At(0, 0).AsLong());
+}
+
+void SqliteEngine::SetVersion(int version) {
+    ExecuteScript("pragma application_id = " + std::to_string(kApplicationId) +
+                  ";pragma user_version = " + std::to_string(version));
+}
+
+std::map<std::string, std::set<std::string>> SqliteEngine::Catalogue() {
+    const Rows rows = SqliteStatement(db_, "select lower(m.name), lower(p.name) from sqlite_master m, "
+                                           "pragma_table_info(m.name) p where m.type in ('table', 'view')")
+                          .Read({});
+    std::map<std::string, std::set<std::string>> tables;
+    for (size_t row = 0; row < rows.Count(); ++row)
+        tables[rows.At(row, 0).AsText()].insert(rows.At(row, 1).AsText());
+    return tables;
 }
 
 void SqliteEngine::Adopt() {
+    Unseal();
     ExecuteScript("pragma journal_mode = wal");
 }
 

@@ -35,6 +35,14 @@ class SqliteWriter : public StatementWriter {
     std::string Currency(const std::string& value) const override { return "jxc_ccur(" + value + ")"; }
     std::string Money(const std::string& value) const override { return "jxc_money(" + value + ")"; }
     std::string StoredMoney(const std::string& value) const override { return "jxc_money(" + value + ")"; }
+    std::string Quotient(const std::string& dividend, const std::string& divisor) const override {
+        return dividend + " / " + divisor;
+    }
+    Derivation ListForm() const override { return Derivation::JsonList; }
+    std::string InParameter(const std::string& value, const std::string& parameter, ValueKind,
+                            bool negated) const override {
+        return value + (negated ? " not" : "") + " in (select value from json_each(" + parameter + "))";
+    }
     bool HasHashDates() const override { return true; }
     void Simplify(SourcePtr& from, const NodePtr& where) const override;
 };

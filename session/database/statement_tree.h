@@ -16,7 +16,7 @@ struct SelectTree;
 // An expression or condition.
 struct Node {
     enum class Form {
-        Literal, // literal, or text when the literal stayed in the statement
+        Literal, // literal, or text when the literal stayed in the statement; a list only within In
         Null,
         Column,  // qualifier, text
         Star,    // qualifier
@@ -27,12 +27,12 @@ struct Node {
         Arithmetic, // text: + - * / &
         Comparison, // text: = <> < <= > >=
         Like,       // negated
-        And,
-        Or,
-        IsNull,  // negated
-        Between, // negated; parts: value, low, high
-        In,      // negated; parts: value, items; or select
-        Case,    // parts: when, then, when, then ... and, with hasElse, the last
+        And,        // parts: two or more
+        Or,         // the same
+        IsNull,     // negated
+        Between,    // negated; parts: value, low, high
+        In,         // negated; parts: value, items; or select
+        Case,       // parts: when, then, when, then ... and, with hasElse, the last
         Exists,
         Select, // a subselect as a value
         Parens,

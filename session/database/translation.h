@@ -11,6 +11,7 @@
 // several matches give one value, the largest.
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -60,12 +61,22 @@ class StatementWriter {
     virtual std::string Currency(const std::string& value) const = 0; // ccur: halves to even
     virtual std::string Money(const std::string& value) const = 0;    // convert(money): halves away from zero
     virtual std::string StoredMoney(const std::string& value) const = 0; // assigned to a money field
+    virtual std::string Quotient(const std::string& dividend,
+                                 const std::string& divisor) const = 0; // null by a divisor of 0
+    // `value` among the elements of a list parameter, whose kind is that of `kind`.
+    virtual Derivation ListForm() const = 0;
+    virtual std::string InParameter(const std::string& value, const std::string& parameter, ValueKind kind,
+                                    bool negated) const = 0;
     virtual bool HasHashDates() const = 0;
     // A chance to bring a From and its Where into a form that the engine plans well.
     virtual void Simplify(SourcePtr&, const NodePtr&) const {}
 
   private:
     using Targets = std::vector<const FieldDef*>;
+    struct NamedTable {
+        std::string alias;
+        const TableDef* def;
+    };
 
     std::string Select(SelectTree& select, const Targets& targets = {}, const std::string& firstColumn = "");
     std::string Items(SelectTree& select, const Targets& targets);
@@ -79,18 +90,21 @@ class StatementWriter {
     std::string EditableSelect(StatementTree& tree);
 
     std::string Expression(const Node& node);
+    std::string Written(const Node& node);
     std::string ExpressionAs(const Node& node, ValueKind wanted);
+    std::string Compared(const Node& node, ValueKind kind);
     std::string Assigned(const Node& node, const FieldDef* target);
     std::string Literal(const Node& node);
     std::string Arithmetic(const Node& node);
     std::string Comparison(const Node& node);
     std::string Between(const Node& node);
     std::string In(const Node& node);
+    std::string InLiterals(const Node& node, const Node& list);
     std::string Case(const Node& node);
     std::string Call(const Node& node);
     std::string Convert(const Node& node);
     std::string Conjunction(const Node& node);
-    std::string Joined(const std::vector<NodePtr>& nodes, const char* separator);
+    std::string Disjunction(const Node& node);
 
     // ranges.cpp: the rewrites for indexes; "" where none applies.
     std::string DayComparison(std::string_view op, const Node& left, const Node& literal);
@@ -104,23 +118,31 @@ class StatementWriter {
     std::string DateLiteral(const Node& literal, Derivation derivation);
 
     ValueKind KindOf(const Node& node) const;
+    const NamedTable* OwnerOf(const Node& column) const; // null when no table around has such a field
     const FieldDef* FieldOf(const Node& column) const;
+    std::string TableOf(const Node& column) const; // its qualifier, or the table that has the field
+    // What tells an expression from another one of the same statement.
+    std::string ShapeOf(const Node& node) const;
+    void NoteShared(const SelectTree& select);
+    std::string Grouping(const SelectTree& select);
     void OpenScope(const Source* source);
     void OpenScope(const StatementTree& tree);
     void CloseScope() { scopes_.pop_back(); }
 
-    struct NamedTable {
-        std::string alias;
-        const TableDef* def;
-    };
     static void CollectTables(const Source& source, std::vector<NamedTable>& tables);
 
     std::vector<std::vector<NamedTable>> scopes_; // the tables that a column may belong to, innermost last
+    // Of each select around: its grouping and sorting expressions with literals, by their shape, as they were
+    // written first. Written again, with other parameters, they would be other expressions.
+    std::vector<std::map<std::string, std::string>> shared_;
     std::vector<Parameter> parameters_;
 };
 
 // The expression below parentheses around it.
 const Node& Bare(const Node& node);
+// Conditions between one operator. Many stand in parentheses, groups of groups: an engine may not take a tree
+// as deep as a statement is long.
+std::string Chained(std::vector<std::string> terms, std::string_view separator);
 // `inside` between `open` and a closing parenthesis.
 std::string Enclosed(std::string_view open, std::string_view inside);
 inline bool IsLifted(const Node& node) {

@@ -12,11 +12,39 @@ std::string Enclosed(std::string_view open, std::string_view inside) {
     return text;
 }
 
+std::string Chained(std::vector<std::string> terms, std::string_view separator) {
+    constexpr size_t kSideBySide = 100;
+    while (terms.size() > kSideBySide) {
+        std::vector<std::string> groups;
+        for (size_t from = 0; from < terms.size(); from += kSideBySide) {
+            const auto first = terms.begin() + static_cast<std::ptrdiff_t>(from);
+            const auto count = static_cast<std::ptrdiff_t>(std::min(kSideBySide, terms.size() - from));
+            groups.push_back(Enclosed("(", Chained({first, first + count}, separator)));
+        }
+        terms = std::move(groups);
+    }
+    std::string sql;
+    for (size_t i = 0; i < terms.size(); ++i)
+        sql.append(i > 0 ? separator : "").append(terms[i]);
+    return sql;
+}
+
 const Node& Bare(const Node& node) {
     return node.form == Form::Parens ? Bare(*node.parts[0]) : node;
 }
 
 std::string StatementWriter::Expression(const Node& node) {
+    if (shared_.empty() || shared_.back().empty())
+        return Written(node);
+    const auto shared = shared_.back().find(ShapeOf(node));
+    if (shared == shared_.back().end())
+        return Written(node);
+    if (shared->second.empty())
+        shared->second = Written(node);
+    return shared->second;
+}
+
+std::string StatementWriter::Written(const Node& node) {
     switch (node.form) {
     case Form::Literal:
         return Literal(node);
@@ -45,7 +73,7 @@ std::string StatementWriter::Expression(const Node& node) {
     case Form::And:
         return Conjunction(node);
     case Form::Or:
-        return Joined(node.parts, " or ");
+        return Disjunction(node);
     case Form::IsNull:
         return Enclosed("(", Expression(*node.parts[0]) + (node.negated ? " is not null" : " is null"));
     case Form::Between:
@@ -91,6 +119,15 @@ std::string StatementWriter::Literal(const Node& node) {
     }
 }
 
+namespace {
+
+bool IsList(const Node& node) {
+    return node.form == Form::Literal &&
+           (node.literalKind == TokenKind::IntegerList || node.literalKind == TokenKind::TextList);
+}
+
+} // namespace
+
 // An expression next to a value of the wanted kind: a literal is read as that kind.
 std::string StatementWriter::ExpressionAs(const Node& node, ValueKind wanted) {
     const Node& bare = Bare(node);
@@ -103,6 +140,15 @@ std::string StatementWriter::ExpressionAs(const Node& node, ValueKind wanted) {
             return Lifted(Derivation::AsText, ParameterType::Text, bare);
     }
     return Expression(node);
+}
+
+// The other side of a comparison. A text that is no number is unlike every number.
+std::string StatementWriter::Compared(const Node& node, ValueKind kind) {
+    const Node& bare = Bare(node);
+    const bool isNumber = kind == ValueKind::Integer || kind == ValueKind::Number || kind == ValueKind::Money;
+    if (isNumber && IsLifted(bare) && bare.literalKind == TokenKind::Text)
+        return Lifted(Derivation::Number, ParameterType::Decimal, bare);
+    return ExpressionAs(node, kind);
 }
 
 // An expression as a column of a result, which may become the field `target`.
@@ -120,6 +166,10 @@ std::string StatementWriter::Assigned(const Node& node, const FieldDef* target) 
 
 std::string StatementWriter::Arithmetic(const Node& node) {
     const Node &left = *node.parts[0], &right = *node.parts[1];
+    if (node.text == "/") {
+        const std::string dividend = Expression(left);
+        return Quotient(dividend, Expression(right));
+    }
     if (KindOf(node) != ValueKind::Text)
         return Expression(left) + " " + node.text + " " + Expression(right);
     const auto part = [&](const Node& side) {
@@ -145,7 +195,7 @@ std::string StatementWriter::Comparison(const Node& node) {
             return range;
     }
     const std::string first = Expression(*left);
-    return first + " " + op + " " + ExpressionAs(*right, KindOf(*left));
+    return first + " " + op + " " + Compared(*right, KindOf(*left));
 }
 
 std::string StatementWriter::Between(const Node& node) {
@@ -153,12 +203,16 @@ std::string StatementWriter::Between(const Node& node) {
         return range;
     const ValueKind kind = KindOf(*node.parts[0]);
     std::string sql = Expression(*node.parts[0]) + (node.negated ? " not between " : " between ");
-    sql += ExpressionAs(*node.parts[1], kind);
+    sql += Compared(*node.parts[1], kind);
     sql += " and ";
-    return sql + ExpressionAs(*node.parts[2], kind);
+    return sql + Compared(*node.parts[2], kind);
 }
 
 std::string StatementWriter::In(const Node& node) {
+    if (!node.select && node.parts.size() == 1)
+        return node.negated ? "(1 = 1)" : "(1 = 0)"; // nothing is in an empty list
+    if (!node.select && node.parts.size() == 2 && IsList(*node.parts[1]))
+        return InLiterals(node, *node.parts[1]);
     std::string sql = Expression(*node.parts[0]) + (node.negated ? " not in (" : " in (");
     if (node.select)
         return sql + Select(*node.select) + ")";
@@ -166,9 +220,30 @@ std::string StatementWriter::In(const Node& node) {
     for (size_t i = 1; i < node.parts.size(); ++i) {
         if (i > 1)
             sql += ", ";
-        sql += ExpressionAs(*node.parts[i], kind);
+        sql += Compared(*node.parts[i], kind);
     }
     return sql + ")";
+}
+
+// Whole numbers stay whole next to any number.
+std::string StatementWriter::InLiterals(const Node& node, const Node& list) {
+    const ValueKind left = KindOf(*node.parts[0]);
+    const bool isWhole = list.literalKind == TokenKind::IntegerList;
+    ValueKind kind = left;
+    Derivation element = Derivation::Literal;
+    if (left == ValueKind::Date && !isWhole) {
+        element = Derivation::Date;
+    } else if (left == ValueKind::Text || (left == ValueKind::Unknown && !isWhole)) {
+        kind = ValueKind::Text;
+        element = Derivation::AsText;
+    } else {
+        kind = isWhole ? ValueKind::Integer : ValueKind::Number;
+        element = isWhole ? Derivation::Literal : Derivation::Number;
+    }
+    const std::string value = Expression(*node.parts[0]);
+    const std::string parameter = Lifted(ListForm(), ParameterType::Text, list);
+    parameters_.back().element = element;
+    return InParameter(value, parameter, kind, node.negated);
 }
 
 std::string StatementWriter::Case(const Node& node) {
@@ -191,25 +266,32 @@ std::string StatementWriter::Convert(const Node& node) {
     return DateText(value, node.length == 7 ? "yyyy-mm" : "yyyy-mm-dd");
 }
 
-std::string StatementWriter::Joined(const std::vector<NodePtr>& nodes, const char* separator) {
-    std::string sql;
-    for (size_t i = 0; i < nodes.size(); ++i) {
-        if (i > 0)
-            sql += separator;
-        sql += Expression(*nodes[i]);
-    }
-    return sql;
+std::string StatementWriter::Disjunction(const Node& node) {
+    std::vector<std::string> terms;
+    for (const NodePtr& part : node.parts)
+        terms.push_back(Expression(*part));
+    return Chained(std::move(terms), " or ");
 }
 
-const FieldDef* StatementWriter::FieldOf(const Node& column) const {
+const StatementWriter::NamedTable* StatementWriter::OwnerOf(const Node& column) const {
     for (auto scope = scopes_.rbegin(); scope != scopes_.rend(); ++scope)
         for (const NamedTable& table : *scope) {
             if (!table.def || (!column.qualifier.empty() && !EqualsNoCase(table.alias, column.qualifier)))
                 continue;
-            if (const FieldDef* field = FindField(*table.def, column.text))
-                return field;
+            if (FindField(*table.def, column.text))
+                return &table;
         }
     return nullptr;
+}
+
+const FieldDef* StatementWriter::FieldOf(const Node& column) const {
+    const NamedTable* owner = OwnerOf(column);
+    return owner ? FindField(*owner->def, column.text) : nullptr;
+}
+
+std::string StatementWriter::TableOf(const Node& column) const {
+    const NamedTable* owner = column.qualifier.empty() ? OwnerOf(column) : nullptr;
+    return owner ? owner->alias : column.qualifier;
 }
 
 } // namespace jxc

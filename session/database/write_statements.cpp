@@ -53,6 +53,7 @@ std::string StatementWriter::Select(SelectTree& select, const Targets& targets,
     if (select.from)
         Simplify(select.from, select.where);
     OpenScope(select.from.get());
+    NoteShared(select);
     std::string sql = select.distinct ? "select distinct " : "select ";
     if (!firstColumn.empty())
         sql += firstColumn + ", ";
@@ -62,18 +63,59 @@ std::string StatementWriter::Select(SelectTree& select, const Targets& targets,
     if (select.where)
         sql += " where " + Expression(*select.where);
     if (!select.groupBy.empty())
-        sql += " group by " + Joined(select.groupBy, ", ");
+        sql += Grouping(select);
     if (select.having)
         sql += " having " + Expression(*select.having);
     const char* separator = " order by ";
     for (const SelectTree::Order& order : select.orderBy) {
+        if (IsLifted(Bare(*order.value)))
+            continue; // a value that all rows share sorts nothing
         sql += separator + Ordered(Expression(*order.value), order.descending);
         separator = ", ";
     }
     if (!select.top.empty())
         sql += " limit " + select.top;
+    shared_.pop_back();
     CloseScope();
     return sql;
+}
+
+void StatementWriter::NoteShared(const SelectTree& select) {
+    std::map<std::string, std::string>& shared = shared_.emplace_back();
+    const auto note = [&](const Node& node) {
+        const std::string shape = ShapeOf(node);
+        if (!IsLifted(Bare(node)) && shape.find('?') != std::string::npos)
+            shared[shape];
+    };
+    for (const NodePtr& group : select.groupBy)
+        note(*group);
+    for (const SelectTree::Order& order : select.orderBy)
+        note(*order.value);
+}
+
+// A value that all rows share makes no groups, but a statement that groups by nothing else has no row where
+// none is found.
+std::string StatementWriter::Grouping(const SelectTree& select) {
+    std::string sql;
+    for (const NodePtr& group : select.groupBy)
+        if (!IsLifted(Bare(*group)))
+            sql.append(sql.empty() ? "" : ", ").append(Expression(*group));
+    return " group by " + (sql.empty() ? "1 + 0" : sql);
+}
+
+std::string StatementWriter::ShapeOf(const Node& node) const {
+    std::string shape = std::to_string(static_cast<int>(node.form)) + node.text;
+    if (node.form == Node::Form::Column)
+        shape = LowerCase(node.text) + "." + LowerCase(TableOf(node));
+    if (IsLifted(node))
+        shape = "?" + std::to_string(node.literal);
+    shape += std::to_string(node.length) + (node.negated ? "-" : "") + (node.distinct ? "d" : "");
+    if (node.select)
+        shape += "@" + std::to_string(reinterpret_cast<std::uintptr_t>(node.select.get()));
+    shape += "(";
+    for (const NodePtr& part : node.parts)
+        shape += ShapeOf(*part) + ",";
+    return shape + ")";
 }
 
 std::string StatementWriter::Items(SelectTree& select, const Targets& targets) {

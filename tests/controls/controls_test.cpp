@@ -96,7 +96,55 @@ TEST(GridModel, FormulasFollowEachOtherInDependencyOrder) {
     EXPECT_EQ(changed.back(), 4);
     EXPECT_THROW(desk.grid.SetFormula(1, "D#+1"), FormulaError); // a circle
     EXPECT_THROW(desk.grid.SetFormula(1, "E#"), FormulaError);   // no such column
+    EXPECT_THROW(desk.grid.SetFormula(3, "D#"), FormulaError);
+    EXPECT_THROW(desk.grid.SetFormula(4, "AAAAAAAAAA#"), FormulaError);
     EXPECT_THROW(desk.grid.Cell(2, 1), ScreenError);
+    desk.grid.SetCell(1, 1, 10.0); // what was refused has changed nothing
+    EXPECT_EQ(desk.grid.Number(1, 3), 80);
+    EXPECT_EQ(desk.grid.Number(1, 4), 8);
+    desk.grid.SetFormula(4, "if(C#>50,1,2)");
+    desk.grid.Recalculate();
+    EXPECT_EQ(desk.grid.Number(1, 4), 1);
+}
+
+TEST(GridModel, KnowsFiguresOutOfBounds) {
+    Desk desk;
+    desk.grid.SetColumns({{.type = CellType::Number, .below = 100},
+                          {.type = CellType::Number, .decimals = 2},
+                          {.type = CellType::Number, .below = 1000}});
+    desk.grid.SetFormula(3, "A#*B#");
+    desk.grid.SetRowCount(1);
+    desk.grid.SetCell(1, 2, 11.0);
+    ScriptedView view;
+    const ViewInUse inUse(view);
+    AtDesk(view, desk, [&] {
+        TypeCell(desk, desk.grid, 1, 1, "90");
+        EXPECT_THROW(TypeCell(desk, desk.grid, 1, 1, "91"), GestureRefused); // 1001
+        EXPECT_EQ(desk.grid.Number(1, 3), 990);
+        for (const char* typed : {"100", "-100", "1e300", "1e400", "-1e400"})
+            EXPECT_THROW(TypeCell(desk, desk.grid, 1, 1, typed), GestureRefused) << typed;
+        TypeCell(desk, desk.grid, 1, 1, "1e-400"); // nothing, and no overflow
+        EXPECT_EQ(desk.grid.Number(1, 1), 0);
+    });
+}
+
+TEST(CellBlocks, AreReadAsSpreadsheetsWriteThem) {
+    EXPECT_EQ(ReadCells("a\tb\r\n\r\n\t\nc\t\n"), (CellBlock{{"a", "b"}, {"c", ""}}));
+    EXPECT_EQ(ReadCells("\"a\tb\nc\"\t\"\"\"q\"\"\"\n5\" screen"),
+              (CellBlock{{"a\tb\nc", "\"q\""}, {"5\" screen"}}));
+}
+
+TEST(EditBoxes, TakeALongTextInOneGo) {
+    Desk desk;
+    ScriptedView view;
+    const ViewInUse inUse(view);
+    AtDesk(view, desk, [&] {
+        int changes = 0;
+        desk.first.onChange = [&] { ++changes; };
+        EnterText(desk, desk.first, std::string(2'000'000, 'x') + "\n中");
+        EXPECT_EQ(desk.first.text, std::string(2'000'000, 'x') + "中");
+        EXPECT_EQ(changes, 1);
+    });
 }
 
 TEST(GridModel, SortsStablyAndMarksTheHeading) {

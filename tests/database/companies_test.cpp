@@ -5,9 +5,7 @@
 #include <fstream>
 
 #include "session/database/engine.h"
-#include "session/database/late_columns.h"
 #include "session/database/open_connection.h"
-#include "session/database/routines.h"
 #include "session/database/schema.h"
 #include "session/session.h"
 #include "tests/support/test_company.h"
@@ -65,24 +63,6 @@ TEST_P(Companies, KeepTheOrderOfColumnsThatCopiesRelyOn) {
     EXPECT_STRCASEEQ(names("tJXC_InvSet")[10].c_str(), "fSetTestNo");
     EXPECT_STRCASEEQ(names("tJXC_InvSet")[22].c_str(), "fSetDefaultNo");
     EXPECT_EQ(names("tJXC_InvSet").size(), 24u);
-}
-
-TEST_P(Companies, OfOlderVersionsGainTheirLateColumns) {
-    Conn().EngineInUse().ExecuteScript("alter table tJXC_Ck drop column fKhID");
-    Conn().EngineInUse().ExecuteScript("alter table tJXC_CpTj02 drop column fCpPjMemo");
-    OpenConnection(company->Dialect(), Conn(), company->Path(), "", "", company->Database());
-    Do("Insert Into tJXC_Ck (fCkName) Values ('A')");
-    EXPECT_EQ(DbCount("tJXC_Ck", "fKhID=0"), -1);
-    EXPECT_EQ(Conn().Query("Select * From tJXC_Ck").names.size(), 9u);
-    for (int time = 0; time < 2; ++time) {
-        EnsureLateColumn("tJXC_Ck", "fKhID");
-        EnsureLateColumn("tJXC_CpTj02", "fCpPjMemo");
-        EXPECT_EQ(Conn().Query("Select * From tJXC_Ck").names.size(), 10u);
-    }
-    EXPECT_EQ(DbCount("tJXC_Ck", "fKhID=0"), 0);
-    Do("Insert Into tJXC_CpTj02 (fTjID,fCpPjMemo) Values (1,'Left')");
-    EXPECT_EQ(One("Select fTjID From tJXC_CpTj02 Where fCpPjMemo='lEFT'"), "1");
-    EXPECT_THROW(EnsureLateColumn("tJXC_Ck", "fMore"), DatabaseError);
 }
 
 // Another user's program adds the column while this one has its "select *" prepared.

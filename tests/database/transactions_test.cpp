@@ -2,6 +2,7 @@
 #include <future>
 #include <thread>
 
+#include "session/database/engine.h"
 #include "session/database/open_connection.h"
 #include "session/database/recordset.h"
 #include "session/database/routines.h"
@@ -144,6 +145,62 @@ TEST_P(Transactions, OfASecondWriterWaitAtTheirBegin) {
     EXPECT_EQ(waiting.wait_for(std::chrono::milliseconds(200)), std::future_status::timeout);
     Conn().CommitTrans();
     EXPECT_EQ(waiting.get(), "1");
+}
+
+// Who waits is told after an instant and may give up; nothing is begun then.
+TEST_P(Transactions, WaitingForAnotherWriterCanBeGivenUp) {
+    Connection other;
+    OpenConnection(company->Dialect(), other, company->Path(), "", "", company->Database());
+    Conn().BeginTrans();
+    Add(1);
+    Conn().Flush();
+    std::vector<int> told;
+    other.SetWaitObserver([&](int seconds) {
+        told.push_back(seconds);
+        return false;
+    });
+    const auto begin = [&] {
+        Transaction transaction(other);
+        other.Flush();
+    };
+    try {
+        begin();
+        ADD_FAILURE() << "did not wait";
+    } catch (const DatabaseError& error) {
+        EXPECT_STREQ(error.what(), "已取消等待，操作没有进行。");
+    }
+    EXPECT_EQ(told, (std::vector<int>{0, -1}));
+    EXPECT_FALSE(other.InTransaction());
+    Conn().CommitTrans();
+    begin();
+    EXPECT_EQ(told.size(), 2U);
+}
+
+// A server that was away for a moment: what was under way has failed, what comes next is served.
+TEST_P(Transactions, AfterALostLineGoOn) {
+    if (!IsPostgres())
+        return;
+    Connection other;
+    OpenConnection(company->Dialect(), other, company->Path(), "", "", company->Database());
+    const auto cutLine = [&] {
+        other.EngineInUse().ExecuteScript("select pg_terminate_backend(pid) from pg_stat_activity where pid<>"
+                                          "pg_backend_pid() and datname=current_database()");
+    };
+    cutLine();
+    EXPECT_THROW(RowsOf("Select fKhID From tJXC_KhAdd"), DatabaseError);
+    EXPECT_EQ(Ids(), Lines{});
+    {
+        Transaction transaction(Conn());
+        Add(1);
+        Conn().Flush();
+        cutLine();
+        EXPECT_THROW(transaction.Commit(), DatabaseError);
+    }
+    EXPECT_EQ(Ids(), Lines{});
+    Transaction transaction(Conn());
+    Add(2);
+    transaction.Commit();
+    EXPECT_EQ(Ids(), Lines{"2"});
 }
 
 TEST_P(Transactions, OfManyStatementsArriveWhole) {

@@ -153,14 +153,21 @@ TEST_P(DocumentList, PrintsUnderItsFilters) {
             return Lines{"单据查询", "lzJxc_Dj01", "1",        "<单位>", "远帆",     "查询内容", "查询",
                          "起始日期", from,         "截止日期", to,       "仓库备注", memo};
         };
+        // The dates stand in their fields and a warehouse in its list, but nothing was asked by them.
+        EXPECT_EQ(told, headed("", "", ""));
+        for (CheckBox* box : {&s.chkDate, &s.chkCk[0]})
+            box->value = true;
+        Click(s, s.cmdPrint); // what is listed was asked for without them
+        EXPECT_EQ(told, headed("", "", ""));
+        Click(s, s.cmdList);
+        Click(s, s.cmdPrint);
         EXPECT_EQ(told, headed("2026-11-01", "2026-11-30", "进货、批发出货"));
         s.dtpDate[0].date = Today();
         s.dtpDate[1].date.reset();
-        Click(s, s.cmdPrint); // what is listed was asked for without them
-        EXPECT_EQ(told, headed("2026-11-01", "2026-11-30", "进货、批发出货"));
+        s.chkCk[0].value = false;
         Click(s, s.cmdList);
         Click(s, s.cmdPrint);
-        EXPECT_EQ(told, headed("2026-11-05", "", "进货、批发出货"));
+        EXPECT_EQ(told, headed("2026-11-05", "", ""));
     });
     told.clear();
     Show(1, true, [&](frmDj01& s) {
@@ -173,6 +180,62 @@ TEST_P(DocumentList, PrintsUnderItsFilters) {
     });
     EXPECT_EQ(session.CompanyFieldList, (Lines{"<单位>", "远帆"}));
     ComponentsInUse().printer = std::move(builtIn);
+}
+
+// The captions of the columns that can be seen.
+std::string Heads(const Grid& grid) {
+    std::string heads;
+    for (int column = 1; column <= grid.ColumnCount(); ++column)
+        if (!grid.Column(column).hidden)
+            heads += grid.Column(column).caption + " ";
+    return heads;
+}
+
+TEST_P(DocumentList, OrdersAndNamesItsColumnsAsTheCompanyDoes) {
+    clerk->view.OnScreen("frmBrief", [](Screen& screen) {
+        auto& columns = static_cast<frmBrief&>(screen);
+        SelectRow(columns, columns.Grid1, 2);
+        Click(columns, columns.cmdUp);
+        Click(columns, columns.cmdOk);
+    });
+    const int receipt = clerk->Save(TypicalDocument(1));
+    ASSERT_GT(receipt, 0);
+    Show(201, false, [](frmDj01& s) {
+        Click(s, s.cmdList);
+        ClickHeading(s, s.Grid1, 2);
+        Click(s, s.cmdColSet);
+        EXPECT_EQ(Heads(s.Grid1).rfind("单号↑ 日期 客户 ", 0), 0U) << Heads(s.Grid1);
+        EXPECT_EQ(s.Grid1.Text(1, 1), "20261105RK001");
+        SelectRow(s, s.Grid1, 1);
+        Click(s, s.cmdSelect);
+        EXPECT_EQ(s.DjCode, "20261105RK001"); // wherever its column stands
+    });
+    Conn().Execute("Update rptListDetail Set FieldName='FINVDATE',FieldName_0='单据日',FieldName_1='單據日'"
+                   " Where FieldName='fInvDate'");
+    Conn().Execute(
+        "Insert Into rptListDetail (ftable,fieldID,FieldName,FieldName_0,FieldName_1,FieldSelected)"
+        " Values ('lzJxc_Dj02',1,'fInvOther1','另名','另名',1)");
+    ResetScreens();
+    Show(99, false, [](frmDj01& s) {
+        EXPECT_EQ(Heads(s.Grid1).rfind("单号 单据日 客户 ", 0), 0U) << Heads(s.Grid1);
+        EXPECT_EQ(Heads(s.Grid2).rfind("备注 日期 单据类 ", 0), 0U)
+            << Heads(s.Grid2); // named in the parameters
+    });
+    session.Language = 1;
+    Show(99, false,
+         [](frmDj01& s) { EXPECT_EQ(Heads(s.Grid1).rfind("单号 單據日 ", 0), 0U) << Heads(s.Grid1); });
+    session.Language = 0;
+}
+
+TEST_P(DocumentList, OfAllTypesLooksInEveryWarehouse) {
+    Conn().Execute("Update tJXC_InvSet Set fSetNoUse_=1 Where fSetNo=-1");
+    Show(99, false, [](frmDj01& s) {
+        EXPECT_EQ(s.cboCk[0].items, (Lines{"总部仓", "零售门市", "代销仓", "生产仓"}));
+        EXPECT_FALSE(s.cboCk[1].visible);
+        SetToggle(s, s.chkInvType, true);
+        ChooseItem(s, s.cboInvType, ItemWithText(s.cboInvType, "5  零售单"));
+        EXPECT_EQ(s.cboCk[0].items, Lines{"零售门市"});
+    });
 }
 
 TEST_P(DocumentList, HidesTheColumnsThatTheCompanyDoesNotWant) {

@@ -35,7 +35,8 @@ class Model {
         for (const LineInput& input : document.lines)
             PostLine(document, input, sign);
         if (!document.product.empty())
-            at_[{document.warehouse2, document.product}].moved += sign * document.pieces;
+            at_[{document.warehouse2, document.product}].moved +=
+                sign * document.pieces * (document.type == 32 ? -1 : 1);
         account_ += sign * Account(document);
     }
     const std::map<std::pair<std::string, std::string>, Stock>& All() const { return at_; }
@@ -69,7 +70,10 @@ class Model {
         case 4:
             first.counted += quantity;
             break;
-        default: // 3, 6, 31, 32: out of the first warehouse
+        case 32: // the parts come in
+            first.moved += quantity;
+            break;
+        default: // 3, 6, 31: out of the first warehouse
             first.moved -= quantity;
             if (document.product.empty())
                 at_[{document.warehouse2, input.code}].moved += quantity;
@@ -104,7 +108,7 @@ class RandomTrade {
             {6, {"总部仓", "代销仓"}},
             {7, {"代销仓", ""}},
             {31, {"生产仓", "总部仓"}},
-            {32, {"总部仓", "生产仓"}}};
+            {32, {"生产仓", "总部仓"}}};
         const auto found = warehouses.find(std::abs(document.type));
         document.warehouse = found == warehouses.end() ? "总部仓" : found->second.first;
         document.warehouse2 = found == warehouses.end() ? "" : found->second.second;

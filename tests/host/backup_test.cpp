@@ -1,8 +1,12 @@
 // A copy of a company, and the way back.
 
 #include <filesystem>
+#include <fstream>
+#include <random>
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
+#include <sys/stat.h>
 
 #include "host/check.h"
 #include "host/company/backup.h"
@@ -11,6 +15,7 @@
 #include "host/company_address.h"
 #include "host/screens.h"
 #include "session/database/recordset.h"
+#include "session/database/sqlite_content.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -54,6 +59,123 @@ TEST_F(BackupTest, CopiesWhatIsCommittedAndComesBackWhole) {
     EXPECT_EQ(CheckCompany(), std::vector<std::string>{});
     const auto mode = std::filesystem::status(File("copy.db")).permissions();
     EXPECT_EQ(mode & std::filesystem::perms::group_read, std::filesystem::perms::none);
+}
+
+namespace {
+
+// What a reader of the file sees, or that it cannot be read.
+std::string ContentOf(const std::string& file) {
+    sqlite3* db = nullptr;
+    sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READONLY, nullptr);
+    std::string digest = "unreadable";
+    try {
+        digest = ReadContent(db).digest;
+    } catch (const DatabaseError&) {
+    }
+    sqlite3_close(db);
+    return digest;
+}
+
+void FlipBytes(const std::string& file, std::mt19937& random, int count) {
+    std::fstream bytes(file, std::ios::in | std::ios::out | std::ios::binary);
+    const auto size = static_cast<int>(std::filesystem::file_size(file));
+    for (int i = 0; i < count; ++i) {
+        const int at = std::uniform_int_distribution<int>(100, size - 1)(random);
+        bytes.seekg(at);
+        const auto byte = static_cast<char>(bytes.get() ^ (1 << (i % 8)));
+        bytes.seekp(at);
+        bytes.put(byte);
+    }
+}
+
+} // namespace
+
+// Twelve bytes of a copy are no longer what they were: it is told, or no reader sees a difference. (A company at work
+// has no note of what it holds: a single value that changed into another sensible one is nobody's to know there.)
+TEST_F(BackupTest, DamageIsFoundBeforeItIsTrusted) {
+    BackUpCompany(File("a.db"), File("copy.db"));
+    const std::string sound = ContentOf(File("copy.db"));
+    std::mt19937 random(20261105);
+    int refused = 0, reported = 0, saved = 0;
+    constexpr int kRounds = 60;
+    for (int round = 0; round < kRounds; ++round) {
+        SCOPED_TRACE(round);
+        std::filesystem::copy_file(File("copy.db"), File("bad.db"),
+                                   std::filesystem::copy_options::overwrite_existing);
+        FlipBytes(File("bad.db"), random, 12);
+        const std::string seen = ContentOf(File("bad.db"));
+        try {
+            RestoreCompany(File("bad.db"), File("restored.db"));
+            EXPECT_EQ(ContentOf(File("restored.db")), sound); // or nobody sees the damage
+            std::filesystem::remove(File("restored.db"));
+        } catch (const DatabaseError&) {
+            ++refused;
+            EXPECT_FALSE(std::filesystem::exists(File("restored.db")));
+        }
+        try {
+            BackUpCompany(File("bad.db"), File("again.db"));
+            EXPECT_EQ(ContentOf(File("again.db")), sound);
+            std::filesystem::remove(File("again.db"));
+        } catch (const DatabaseError& error) {
+            ++reported;
+            EXPECT_FALSE(std::filesystem::exists(File("again.db")));
+            if (std::filesystem::exists(File("again.db.damaged"))) { // kept for whoever repairs it, and told
+                ++saved;
+                EXPECT_NE(std::string(error.what()).find("again.db.damaged"), std::string::npos);
+                std::filesystem::remove(File("again.db.damaged"));
+            }
+        }
+        if (seen != sound) {
+            try {
+                const OpenCompany open(File("bad.db"), OpenFor::Looking);
+                EXPECT_NE(CheckEngine(), std::vector<std::string>{});
+            } catch (const DatabaseError&) { // not even opened
+            }
+        }
+    }
+    EXPECT_GT(refused, kRounds / 3);
+    EXPECT_GT(saved, 0);
+    EXPECT_GE(reported, saved);
+}
+
+TEST_F(BackupTest, CopiesArePrivateAndMayBeReadOnly) {
+    const mode_t before = umask(0);
+    BackUpCompany(File("a.db"), File("copy.db"));
+    umask(before);
+    const auto mode = std::filesystem::status(File("copy.db")).permissions();
+    EXPECT_EQ(static_cast<unsigned>(mode), 0600U);
+    std::filesystem::permissions(File("copy.db"), std::filesystem::perms::owner_read);
+    {
+        const OpenCompany open(File("copy.db"), OpenFor::Looking);
+        EXPECT_EQ(CheckEngine(), std::vector<std::string>{});
+        EXPECT_EQ(CheckCompany(), std::vector<std::string>{});
+        EXPECT_THROW(Conn().Execute("Delete From tJXC_InvSys"), DatabaseError);
+    }
+    RestoreCompany(File("copy.db"), File("b.db"));
+    const OpenCompany restored(File("b.db"));
+    Conn().Execute("Update tJXC_InvSys Set fSysDay=1");
+    for (const auto& entry : std::filesystem::directory_iterator(folder_))
+        EXPECT_EQ(entry.path().string().find(".part"), std::string::npos);
+}
+
+TEST_F(BackupTest, CompaniesTellTheirVersion) {
+    const auto version = [&](const std::string& pragma) {
+        sqlite3* db = nullptr;
+        sqlite3_open(File("a.db").c_str(), &db);
+        sqlite3_exec(db, pragma.c_str(), nullptr, nullptr, nullptr);
+        sqlite3_close(db);
+    };
+    version("pragma user_version=99");
+    EXPECT_THROW(OpenCompany open(File("a.db")), DatabaseError);
+    EXPECT_THROW(BackUpCompany(File("a.db"), File("copy.db")), DatabaseError);
+    version("pragma user_version=0; alter table tJXC_Ck drop column fKhID; drop table tHostUser");
+    { // an older one is raised when it is opened to work
+        const OpenCompany open(File("a.db"));
+        EXPECT_TRUE(Conn().HasColumn("tJXC_Ck", "fKhID"));
+        EXPECT_TRUE(Conn().HasColumn("tHostUser", "fUserName"));
+    }
+    version("pragma application_id=17");
+    EXPECT_THROW(OpenCompany open(File("a.db")), DatabaseError);
 }
 
 TEST_F(BackupTest, RefusesFilesThatAreThereAndServers) {

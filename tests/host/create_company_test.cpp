@@ -14,6 +14,7 @@
 #include "session/database/open_connection.h"
 #include "session/database/recordset.h"
 #include "session/database/schema.h"
+#include "settings/document_types.h"
 #include "tests/support/test_company.h"
 
 namespace jxc {
@@ -97,6 +98,11 @@ TEST_P(NewCompany, HoldsTheDocumentTypes) {
     EXPECT_EQ(row(4), "4|盘点单|4|-1|-1|.|.|.|YYYYMMDDPDXXX||仓库|0|1|.|-1|4|1|1|.|1|0|YYYYMMDDPDXXX|0");
     EXPECT_EQ(row(-6),
               "-6|代销退货单|3|2|-1|.|1|1|YYYYMMDDDFXXX||出库|1|2|代销仓库|3|4|3|1|.|1|0|YYYYMMDDDFXXX|0");
+    // Dismantling takes the product out and brings the parts in; the row that the settings screen offers does not.
+    EXPECT_EQ(
+        row(32),
+        "32|生产拆分单|3|-1|-1|.|.|.|YYYYMMDDCFXXX||散件入库|4|1|成品出库|1|-1|1|1|.|1|0|YYYYMMDDCFXXX|0");
+    EXPECT_EQ(DefaultDocumentTypes()[19].fSetCkName1, "成品出库");
     EXPECT_EQ(row(52),
               "52|内部资金帐|.|-1|-1|.|.|.|YYYYMMZJXXXXX||.|-1|-1|.|-1|-1|-1|0|.|0|0|YYYYMMZJXXXXX|0");
 }

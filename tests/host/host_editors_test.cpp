@@ -6,6 +6,7 @@
 
 #include "controls/gestures.h"
 #include "controls/scripted_view.h"
+#include "host/company_address.h"
 #include "host/editors/frmHostCards.h"
 #include "session/session.h"
 #include "tests/support/sample_company.h"
@@ -45,6 +46,23 @@ TEST_P(HostEditorScreens, OpenByNameAndCanBeWorkedByKeyboard) {
     }
     EXPECT_THROW(OpenHostEditor("frmDj02"), ScreenError);
     EXPECT_TRUE(view.boxes.empty());
+}
+
+// Whoever asks for it, from a menu or by script: without the right the editor stays shut, and it is said.
+TEST_P(HostEditorScreens, AskForTheirRight) {
+    control.myPower("00000");
+    OpenHostEditor("frmHostCards");
+    EXPECT_TRUE(view.screens.empty());
+    ASSERT_EQ(view.boxes.size(), 1U);
+    EXPECT_EQ(view.boxes[0].text, "您无权进入!");
+    for (const HostEditor& editor : HostEditors()) {
+        if (editor.module.empty())
+            continue;
+        const OpenCompany open(company->Address());
+        EXPECT_FALSE(MayOpen(editor));
+        control.myPower("1111111111");
+        EXPECT_TRUE(MayOpen(editor));
+    }
 }
 
 // The addresses of a card are deleted before the card: when that fails they come back, and the screen stays.

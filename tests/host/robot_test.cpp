@@ -136,6 +136,51 @@ TEST_P(RobotOnCompany, EndOfRequestsSavesNothing) {
     EXPECT_EQ(QueryCompany(company.Address(), "select fInvNo from tJXC_CkDj01").Count(), 0U);
 }
 
+// A screen whose button tells of a failure, once with its cause and once without.
+struct FailingScreen : Screen {
+    FailingScreen() : Screen("FailingScreen") {
+        cmdSave.onClick = [this] {
+            CurrentView().ShowBox({title, "存盘失败！", BoxIcon::Warning, {BoxButton::OK}, "disk I/O error"});
+            CurrentView().ShowBox({title, "存盘失败！", BoxIcon::Warning});
+        };
+    }
+    void Open() override {}
+    Button cmdSave{*this, "cmdSave"};
+};
+
+TEST(Robot, TakesNoTextOrNumberThatIsNone) {
+    lzJxc control;
+    control.UserName("王芳");
+    const auto replies = Drive(control, R"({"op":"property","name":"UserName","value":"a\u0000b"}
+{"op":"property","name":"myType","value":18446744073709551615}
+{"op":"refresh","action":18446744073709551615}
+{"op":"refresh","action":4294967300}
+)");
+    ASSERT_EQ(replies.size(), 4U);
+    for (const json& reply : replies)
+        EXPECT_EQ(reply["ok"], false) << reply;
+    EXPECT_EQ(control.UserName(), "王芳");
+}
+
+TEST(Robot, TellsTheCauseWhereABoxHasOne) {
+    lzJxc control;
+    std::istringstream in("{\"op\":\"click\",\"control\":\"cmdSave\"}\n"
+                          "{\"op\":\"answer\",\"button\":\"OK\"}\n");
+    std::ostringstream out;
+    JsonLines lines(in, out);
+    Robot robot(control, lines);
+    const ViewInUse inUse(robot);
+    FailingScreen screen;
+    ShowModal(screen);
+    std::istringstream read(out.str());
+    std::string first, second;
+    std::getline(read, first);
+    std::getline(read, second);
+    EXPECT_EQ(json::parse(first)["box"]["details"], "disk I/O error");
+    EXPECT_EQ(json::parse(second)["box"]["text"], "存盘失败！");
+    EXPECT_FALSE(json::parse(second)["box"].contains("details"));
+}
+
 TEST(Robot, SameRepliesOnBothEngines) {
     if (const std::string reason = WhyUnavailable(EngineKind::Postgres); !reason.empty())
         GTEST_SKIP() << reason;

@@ -1,9 +1,6 @@
 // Who may do what, as a host reads it when a user signs in; companies of older versions gain the table.
 #include "host/user_settings.h"
 
-#include "session/database/engine.h"
-#include "session/database/late_columns.h"
-#include "session/database/open_connection.h"
 #include "session/session.h"
 #include "tests/support/test_company.h"
 
@@ -44,18 +41,6 @@ TEST_P(Users, HaveTheirRightsAndOneSupervisor) {
     EXPECT_FALSE(stranger.known);
     EXPECT_EQ(stranger.myPower, "0000");
     EXPECT_EQ(stranger.ZgName, "王芳");
-}
-
-TEST_P(Users, OfOlderCompaniesGainTheirTable) {
-    Conn().EngineInUse().ExecuteScript("drop table tHostUser");
-    OpenConnection(company->Dialect(), Conn(), company->Path(), "", "", company->Database());
-    EXPECT_TRUE(UserSettings("王芳").known);
-    Do("Insert Into tHostUser (fUserName,fPower,fSupervisor) Values ('Wang','11',1)");
-    EnsureLateTable("tHostUser");
-    EXPECT_EQ(UserSettings("WANG").myPower, "11");
-    EXPECT_THROW(Do("Insert Into tHostUser (fUserName) Values ('wang')"), DatabaseError);
-    EXPECT_THROW(EnsureLateTable("cards"), DatabaseError);
-    EXPECT_THROW(EnsureLateTable("tNoSuch"), DatabaseError);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "session/company_fields.h"
 #include "session/components.h"
 #include "session/database/routines.h"
+#include "session/html_pages.h"
 #include "session/lookups.h"
 #include "session/messages.h"
 #include "session/period.h"
@@ -65,6 +66,9 @@ TEST(Control, KeepsItsPropertiesInTheBag) {
     control.ReadProperties({});
     EXPECT_EQ(control.myPower(), "0000");
     EXPECT_EQ(control.myType(), -1);
+    for (const std::string& bad : {std::string("王\0芳", 7), std::string("\xE7\x8E"), std::string("\xFF")})
+        EXPECT_THROW(control.SetProperty("UserName", bad), ScreenError);
+    EXPECT_EQ(control.UserName(), "");
     EXPECT_THROW(control.SetProperty("NoSuch", 1), ScreenError);
     EXPECT_THROW(control.SetProperty("myType", "x"), ScreenError);
     EXPECT_THROW(control.SetProperty("myType", 70000), ScreenError);
@@ -114,6 +118,35 @@ TEST_P(Company, RefreshOpensTheScreenOfTheNumber) {
     EXPECT_EQ(view.screens.size(), 2U);
 }
 
+// A host's button inside an open screen: the screen keeps its connection and goes on.
+TEST_P(Company, IsNotOpenedAgainFromInsideAScreen) {
+    control.myType(1);
+    view.OnScreen("frmDj02", [&](Screen& entry) {
+        control.Refresh(11);
+        EXPECT_EQ(view.boxes.back().text, "还有窗口没有关闭，请先关闭它，再打开另一个！");
+        EXPECT_TRUE(entry.IsOpen());
+        EXPECT_EQ(RowsOf("Select fSetName From tJXC_InvSet Where fSetNo=1"), (Lines{"入库单"}));
+    });
+    control.Refresh(13);
+    EXPECT_EQ(view.screens, Lines{"frmDj02"});
+    EXPECT_EQ(session.Conn, nullptr);
+    view.OnScreen("frmDj02", [](Screen&) { throw 42; }); // nothing of a host's view passes the boundary
+    EXPECT_NO_THROW(control.Refresh(13));
+    EXPECT_EQ(session.Conn, nullptr);
+    view.OnScreen("frmDj02", [](Screen&) {});
+    view.boxes.clear();
+    control.Refresh(13);
+    EXPECT_TRUE(view.boxes.empty());
+}
+
+TEST_P(Company, EngineOfThePropertyBagHasItsDateDelimiter) {
+    session.DateDelimiter.clear(); // as a bag leaves it
+    control.myType(1);
+    view.OnScreen("frmDj02", [](Screen&) { EXPECT_EQ(session.DateDelimiter, session.IsJet() ? "#" : "'"); });
+    control.Refresh(13);
+    EXPECT_EQ(view.screens.size(), 1U);
+}
+
 TEST_P(Company, RightsAreReadFromTheDigits) {
     Open();
     Connection& books = *session.Conn;
@@ -127,6 +160,10 @@ TEST_P(Company, RightsAreReadFromTheDigits) {
     EXPECT_EQ(ModuleRight("", 5), 1);
     EXPECT_EQ(ModuleRight("mnuJxcSysZy", 0), 0); // not in use: refused silently
     EXPECT_EQ(ModuleRight("noSuchModule", 0), 0);
+    books.Execute("Update tSysFunc Set SerialNo=-2 Where model_Name='mnuJxcSysCp'");
+    EXPECT_EQ(ModuleRight("mnuJxcSysCp", 0), 0); // only -1 is everyone's
+    EXPECT_EQ(ModuleRight("mnuJxcSysCp", 3), 0);
+    view.boxes.clear();
     EXPECT_TRUE(view.boxes.empty());
     EXPECT_EQ(ModuleRight("mnuJxcSysCk", 1), 0);
     EXPECT_EQ(ModuleRight("mnuCardAdd", 0), 0); // beyond the digits
@@ -260,6 +297,10 @@ TEST_P(Company, NumbersRunOnUnderTheirStem) {
         EXPECT_FALSE(CheckNumberRule(bad)) << bad;
     EXPECT_EQ(view.boxes.size(), 7U);
     EXPECT_EQ(view.boxes[0].text.substr(0, view.boxes[0].text.find('\n')), " [自动单号]设定--规则如下：");
+    EXPECT_TRUE(CheckNumberRule("YYYYMMDD-RECEIPT-XXX")); // 20 bytes
+    EXPECT_FALSE(CheckNumberRule("YYYYMMDD-RECEIPT-XXXX"));
+    EXPECT_FALSE(CheckNumberRule("YYYYMMDD入库单XXXXXXX")); // 8 + 6 + 7
+    EXPECT_EQ(view.boxes.back().text, "[自动单号]最多 20 个字节，“YYYYMMDD入库单XXXXXXX”有 21 个字节！");
 }
 
 TEST_P(Company, CodeListsAreEditedOnTheirScreen) {
@@ -282,6 +323,23 @@ TEST_P(Company, CodeListsAreEditedOnTheirScreen) {
     });
     EXPECT_EQ(ComponentsInUse().codeLists->Edit("", "2010", BriefKind::EditEntries), "展会样品");
     EXPECT_EQ(One("select BriefName from briefDetail Where briefType='2010' And BriefCode='98'"), "展会样品");
+}
+
+TEST(PrintedPage, NamesItsFieldsAndItsAmount) {
+    struct Listing : Screen {
+        Listing() : Screen("Listing") {
+            Grid1.SetColumns({{.caption = "编码"}});
+            Grid1.SetRowCount(1);
+            Grid1.FillCell(1, 1, "<A&B>");
+        }
+        void Open() override {}
+        Grid Grid1{*this, "Grid1"};
+    } listing;
+    const FieldList header{"<单位>", "远帆", "起始日期", ""};
+    const std::string page = GridPage({header, &listing.Grid1, "", "库存表", "12.50"});
+    for (const char* part : {"<td>单位：远帆</td>", "<td>&lt;A&amp;B&gt;</td>", "<p>金额合计：12.50</p>"})
+        EXPECT_NE(page.find(part), std::string::npos) << part << " in " << page;
+    EXPECT_EQ(page.find("起始日期"), std::string::npos); // without a value
 }
 
 } // namespace

@@ -211,6 +211,22 @@ TEST_P(Dictionary, ColumnsAreSelectedAndOrderedOnTheirScreen) {
     EXPECT_EQ(OpenBriefPicker("tJXC_Cp", "", BriefKind::SelectColumns), "");
 }
 
+// The way in to a field's caption: the column editor.
+TEST_P(Dictionary, ColumnsAreRenamedFromTheirEditor) {
+    view.OnScreen("frmBrief", [](Screen& screen) {
+        SelectRow(screen, dynamic_cast<Grid&>(*screen.Find("Grid1")), 2);
+        Click(screen, dynamic_cast<Button&>(*screen.Find("cmdRename")));
+        EXPECT_EQ(dynamic_cast<Grid&>(*screen.Find("Grid1")).Text(2, 2), "货名");
+        Click(screen, dynamic_cast<Button&>(*screen.Find("cmdCancel")));
+    });
+    view.OnScreen("frmRs_RptSet", [](Screen& screen) {
+        EnterText(screen, dynamic_cast<TextBox&>(*screen.Find("txtName")), "货名");
+        Click(screen, dynamic_cast<Button&>(*screen.Find("CmdOk")));
+    });
+    EXPECT_EQ(OpenBriefPicker("tJXC_Cp", "", BriefKind::SelectColumns), "tJXC_Cp");
+    EXPECT_EQ(GetFieldCaption("tJXC_Cp", "fCpName"), "货名");
+}
+
 } // namespace
 
 } // namespace jxc::test

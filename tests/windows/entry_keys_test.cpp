@@ -118,6 +118,8 @@ TEST_F(EntryKeys, NumbersTakeNumbersOnly) {
         person.Press(Qt::Key_Delete);
         EXPECT_EQ(person.Text("txtInvHbDl"), "");
         person.Click("txtSum"); // shown only
+        EXPECT_EQ(person.Boxes(), Texts{"汇率必须大于 0！"});
+        EXPECT_EQ(person.Text("txtInvHbDl"), "1.0000");
         person.Type("9");
         person.Compose("9");
         EXPECT_EQ(person.Text("txtSum"), "0.00");

@@ -1,5 +1,8 @@
 // Where the focus may go: fields that do not let it leave, the grid that wants a warehouse first, the ways
 // out of a window, and a routine that fails.
+#include "controls/gestures.h"
+#include "documents/document_list.h"
+#include "documents/frmDj01.h"
 #include "documents/frmDj02.h"
 #include "session/database/open_connection.h"
 #include "session/session.h"
@@ -66,8 +69,7 @@ TEST_F(Focus, GridWantsAWarehouseFirst) {
         EXPECT_EQ(person.Boxes(), noWarehouse);
         EXPECT_EQ(person.Focus(), "cboCkName");
         person.Click("cboInvJbr");
-        for (int i = 0; i < 2; ++i) // over the return mark to the grid
-            person.Press(Qt::Key_Return);
+        person.Press(Qt::Key_Return); // to the grid: a stocktake has no return mark
         EXPECT_EQ(person.Boxes(), noWarehouse);
         EXPECT_EQ(person.Focus(), "cboCkName");
         person.Press(Qt::Key_Down);
@@ -132,6 +134,63 @@ TEST_F(Focus, FailedRoutineIsToldAndTheWindowGoesOn) {
         person.Click("cmdQuery");
         EXPECT_EQ(person.Boxes(), Texts{});
         EXPECT_EQ(person.Cell("Grid1", 2, 1), "MEM002");
+    });
+}
+
+TEST_F(Focus, FunctionKeyTakesWhatIsTypedAndGoesWhereTheScreenSaysTo) {
+    Enter(1, [&] {
+        auto& s = person.Shown<frmDj02>();
+        const auto typedIntoNewRow = [&](int row, const char* code) {
+            ASSERT_EQ(s.Grid2.RowCount(), row);
+            EXPECT_EQ(person.Focus(), "Grid2");
+            person.Enter(code);
+            EXPECT_EQ(s.Grid2.Text(row, line::kCode), code);
+        };
+        person.ClickCell("Grid2", 1, line::kCode);
+        for (const char* cell : {"CPU001", "3"})
+            person.Enter(cell);
+        person.Type("400"); // the price is still being typed
+        person.Press(Qt::Key_F6);
+        EXPECT_EQ(person.Cell("Grid2", 1, line::kPrice), "400.00");
+        typedIntoNewRow(2, "CPU002");
+        for (const auto& [field, code] : {std::pair("txtMemo", "MEM001"),
+                                          {"cboInvMemo", "SSD001"},
+                                          {"dtpInvDate", "HDD001"},
+                                          {"chkTh", "CAB001"},
+                                          {"cmdSave", "MB001"}}) {
+            const int rows = s.Grid2.RowCount();
+            person.Find(field).setFocus(Qt::TabFocusReason);
+            person.Press(Qt::Key_F6);
+            typedIntoNewRow(rows + 1, code);
+        }
+        EXPECT_EQ(person.Boxes(), Texts{});
+    });
+}
+
+// Of two windows the one in front is meant, and of two pages the one that is shown.
+TEST_F(Focus, FunctionKeysActOnWhatIsSeen) {
+    Open(11, 1, [&] {
+        auto& list = person.Shown<frmDj01>();
+        int asked = 0;
+        list.cmdList.onClick = [&] { ++asked; };
+        person.Press(Qt::Key_F5); // the list is shown, the button stands on the page of filters
+        EXPECT_EQ(asked, 0);
+        ChooseTab(list, list.SSTab1, kFilterTab);
+        dynamic_cast<ScreenWindow&>(person.Front()).Refresh();
+        person.Click("txtDh");
+        person.Type("RK");
+        person.Press(Qt::Key_F5);
+        EXPECT_EQ(asked, 1);
+        EXPECT_EQ(list.txtDh.text, "RK");
+        Screen& beneath = list;
+        person.Next([&] {
+            person.Press(Qt::Key_F5); // no such key in this window
+            EXPECT_EQ(asked, 1);
+            EXPECT_TRUE(beneath.IsOpen());
+        });
+        ChooseTab(list, list.SSTab1, 0);
+        dynamic_cast<ScreenWindow&>(person.Front()).Refresh();
+        person.Press(Qt::Key_F6); // a new document over the list
     });
 }
 

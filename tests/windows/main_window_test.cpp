@@ -127,6 +127,38 @@ TEST_F(Main, NewCompanyTakesItsFirstCard) {
     EXPECT_EQ(cards.At(0, 0).AsText() + cards.At(0, 1).AsText() + cards.At(0, 2).AsText(), "K001远山商行1");
 }
 
+// A program that is started in another folder tomorrow must find the company again; what a tour opens is nobody's work.
+TEST_F(Main, RemembersWhereACompanyIsAndNothingElse) {
+    const QString folder = QDir::currentPath();
+    const QFileInfo file(Q(company.Address()));
+    QDir::setCurrent(file.absolutePath());
+    ASSERT_TRUE(window.OpenCompanyOf(S(file.fileName()), ""));
+    QDir::setCurrent(folder);
+    const auto recent = [] { return QSettings("lzJxc", "jxc").value("recent").toStringList(); };
+    EXPECT_EQ(S(recent().value(0)), S(file.absoluteFilePath()));
+    QSettings("lzJxc", "jxc").setValue("recent", QStringList{"/kept.db"});
+    MainWindow tour;
+    tour.LeaveNoTrace();
+    ASSERT_TRUE(tour.OpenCompanyOf(company.Address(), ""));
+    EXPECT_EQ(recent(), QStringList{"/kept.db"});
+}
+
+TEST_F(Main, LooksForACompanyThatIsGone) {
+    MainWindow empty;
+    person.Answer(Qt::Key_N); // rather the sample
+    EXPECT_FALSE(empty.FindCompany("/moved/shop.db"));
+    const Texts asked = person.Boxes();
+    ASSERT_EQ(asked.size(), 1U);
+    EXPECT_EQ(asked[0].rfind("找不到上次的帐套：\n/moved/shop.db", 0), 0U) << asked[0];
+    person.Next([&] {
+        person.Find<QLineEdit>("companyAddress").setText(Q(company.Address()));
+        person.Press(Qt::Key_Return);
+    });
+    person.Answer(Qt::Key_Y);
+    EXPECT_TRUE(empty.FindCompany("/moved/shop.db"));
+    person.Boxes();
+}
+
 } // namespace
 
 } // namespace jxc::test

@@ -93,7 +93,8 @@ void Person::AnswerBox(QMessageBox& box) {
     if (!answers_.empty())
         answers_.pop_front();
     const QPointer<QMessageBox> standing(&box);
-    Press(key);
+    const bool letter = key >= Qt::Key_A && key <= Qt::Key_Z; // of the button that it underlines
+    Press(key, letter ? Qt::AltModifier : Qt::NoModifier);
     if (standing && standing->isVisible()) {
         ADD_FAILURE() << "not answered: " << boxes_.back();
         box.done(0);

@@ -25,7 +25,7 @@ class Person : public QObject {
     // What is done in the next window or menu that opens, one after the other; it is closed afterwards if it
     // still stands. A window that nothing is told for fails the test.
     void Next(std::function<void()> work) { work_.push_back(std::move(work)); }
-    // Message boxes are answered by Enter, or by the keys given here, one a box.
+    // Message boxes are answered by Enter, or by the keys given here, one a box: a letter with Alt.
     void Answer(int key) { answers_.push_back(key); }
     // The texts of the boxes shown since last asked.
     std::vector<std::string> Boxes() { return std::exchange(boxes_, {}); }

@@ -1,0 +1,44 @@
+// The largest figures of a document. A bar code that ends up in the quantity cell is no quantity; and as long as
+// all figures stay below these bounds, the fifteen digits that both engines hold exactly are enough for every
+// sum, so that a reversal takes away just what the approval added.
+//
+// Quantities have up to six decimals in use, values four: 99,999,999.999999 and 9,999,999,999.9999 leave one
+// digit for their sums.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "documents/frmDj02.h"
+
+namespace jxc {
+
+namespace below {
+constexpr double kQuantity = 1e8;
+constexpr double kPrice = 1e8;   // in document currency
+constexpr double kRate = 1e5;    // home currency for one unit of the document's
+constexpr double kAmount = 1e10; // of a line, a document or a payment, in either currency
+constexpr double kTaxRate = 1;   // a fraction
+constexpr double kDiscount = 100;
+// The counters that documents add up to.
+constexpr double kQuantitySum = 1e9;
+constexpr double kAmountSum = 1e11;
+} // namespace below
+
+// What a figure that reaches its bound is told with.
+std::string BoundText(const std::string& caption, double bound);
+// Whether a figure reaches its bound, or is none.
+bool Reaches(double figure, double bound);
+
+// Why the document's figures cannot be saved, and where: a control, of the grid also row and column.
+struct FigureRefusal {
+    std::string text;
+    Control* field;
+    int row = 0;
+    int column = 0;
+};
+// The first figure of the document in hand that cannot be saved, a missing currency or rate among them; nothing
+// when all can.
+std::optional<FigureRefusal> FigureOutOfBounds(frmDj02& s);
+
+} // namespace jxc

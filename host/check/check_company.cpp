@@ -1,0 +1,32 @@
+#include "host/check.h"
+
+#include <optional>
+
+#include "host/check/findings.h"
+#include "session/database/engine.h"
+#include "session/session.h"
+
+namespace jxc {
+
+std::vector<std::string> CheckEngine() {
+    std::vector<std::string> lines;
+    for (const std::string& fault : Conn().EngineInUse().Faults())
+        lines.push_back("数据库已经损坏：" + fault + "；请停止录入，从备份恢复。");
+    return lines;
+}
+
+std::vector<std::string> CheckCompany(std::vector<std::string>* notes) {
+    Findings findings;
+    // All parts see one state, and nobody waits for them.
+    std::optional<ReadingTransaction> reading;
+    if (!Conn().InTransaction())
+        reading.emplace(Conn());
+    for (const auto check : {CheckSettings, CheckMasters, CheckBooks, CheckPairs, CheckStock, CheckCosts,
+                             CheckOrders, CheckLedger, CheckSupplierHistory})
+        check(findings);
+    if (notes)
+        *notes = findings.Notes();
+    return findings.Lines();
+}
+
+} // namespace jxc

@@ -1,0 +1,83 @@
+#include "host/check/findings.h"
+
+#include <array>
+#include <cmath>
+
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+const std::string kBig = "1000000000000000.0"; // no figure of a shop
+
+} // namespace
+
+Rows Findings::Ask(const std::string& sql) {
+    Rows rows;
+    try {
+        Conn().Tolerantly([&] { rows = Conn().Query(sql); });
+    } catch (const DatabaseError& error) {
+        Add("有一项检查未能进行：" + std::string(error.what()) + "；请先处理其他问题后重新检查。");
+        return {};
+    }
+    return rows;
+}
+
+void Run(const Rule& rule, Findings& findings) {
+    const Rows rows = findings.Ask(rule.sql);
+    for (size_t row = 0; row < rows.Count(); ++row) {
+        std::string line = rule.told;
+        for (size_t column = 0; column < rows.names.size(); ++column) {
+            const std::string place = "{" + std::to_string(column + 1) + "}";
+            for (size_t at = line.find(place); at != std::string::npos; at = line.find(place, at))
+                line.replace(at, place.size(), rows.At(row, column).AsText());
+        }
+        findings.Add(line);
+    }
+}
+
+std::string Book::On(const std::string& x, const std::string& y) const {
+    return x + ".fInvID=" + y + ".fInvID" + (closed ? " And " + x + ".fMonth=" + y + ".fMonth" : "");
+}
+
+std::span<const Book> AllBooks() {
+    static const std::array<Book, 5> books{
+        {{"tJXC_CkDj"}, {"tJXC_CkHt"}, {"tJXC_CkJh"}, {"tJXC_CkXjBj"}, {"tJXC_CkDj_Bak", true}}};
+    return books;
+}
+
+std::string Differ(const std::string& x, const std::string& y) {
+    return "(case when " + x + "=" + y + " then 0 when " + x + " is null And " + y +
+           " is null then 0 else 1 end)";
+}
+
+std::string TextsDiffer(const std::string& x, const std::string& y) {
+    return "(case when " + x + "=" + y + " then 0 when (" + x + " is null Or " + x + "='') And (" + y +
+           " is null Or " + y + "='') then 0 else 1 end)";
+}
+
+std::string OrZero(const std::string& x) {
+    return "(case when " + x + " is null then 0 else " + x + " end)";
+}
+
+std::string IsAbsurd(const std::string& x) {
+    return "(" + x + ">" + kBig + " Or " + x + "<-" + kBig + ")";
+}
+
+std::string SameDay(const std::string& x, const std::string& y) {
+    return "Convert(varchar(10)," + x + ",120)=Convert(varchar(10)," + y + ",120)";
+}
+
+std::string InList(const std::vector<int>& numbers) {
+    std::string list;
+    for (const int number : numbers)
+        list.append(list.empty() ? "" : ",").append(std::to_string(number));
+    return list.empty() ? "-999" : list;
+}
+
+bool Alike(double a, double b, double turnover) {
+    return std::fabs(a - b) <= 1e-6 + 1e-9 * std::max(std::fabs(a), std::fabs(b)) + 1e-12 * turnover;
+}
+
+} // namespace jxc

@@ -1,0 +1,75 @@
+// What the check of a company has found so far, and the way in which its parts ask: a statement that cannot be
+// answered is a finding itself and stops no other.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "session/database/connection.h"
+
+namespace jxc {
+
+class Findings {
+  public:
+    // One line each: where, what is wrong, what to do. A note is a state that the screens themselves may leave.
+    void Add(const std::string& line) { lines_.push_back(line); }
+    void Note(const std::string& line) { notes_.push_back("提示：" + line); }
+
+    // The rows of a statement; none, and a finding, when it fails.
+    Rows Ask(const std::string& sql);
+
+    const std::vector<std::string>& Lines() const { return lines_; }
+    const std::vector<std::string>& Notes() const { return notes_; }
+
+  private:
+    std::vector<std::string> lines_;
+    std::vector<std::string> notes_;
+};
+
+// A statement whose rows are violations. In `told`, {1} {2} ... stand for the row's columns.
+struct Rule {
+    std::string sql;
+    std::string told;
+};
+void Run(const Rule& rule, Findings& findings);
+
+// The five books: tables S01 and S02; the closed one repeats its keys month by month.
+struct Book {
+    std::string stem;
+    bool closed = false;
+    std::string Headers() const { return stem + "01"; }
+    std::string Lines() const { return stem + "02"; }
+    // "x.fInvID=y.fInvID", in the closed book of the same month too.
+    std::string On(const std::string& x, const std::string& y) const;
+    // ",fMonth" behind the key where it is needed.
+    std::string Month() const { return closed ? ",fMonth" : ""; }
+};
+std::span<const Book> AllBooks();
+
+// Pieces of statements, alike on both engines: 1 where two fields differ, nothing being equal to nothing; for
+// texts "" as well; a field with nothing as 0; a field that is a figure of human size, and the contrary.
+std::string Differ(const std::string& x, const std::string& y);
+std::string TextsDiffer(const std::string& x, const std::string& y);
+std::string OrZero(const std::string& x);
+std::string IsAbsurd(const std::string& x);
+std::string SameDay(const std::string& x, const std::string& y);
+// "1,2,-3"; a number that no type has for none.
+std::string InList(const std::vector<int>& numbers);
+
+// Whether two figures are the same but for rounding; no number is like no other.
+bool Alike(double a, double b, double turnover = 0);
+
+// The parts of the check, in the order of the report.
+void CheckSettings(Findings& findings);
+void CheckMasters(Findings& findings);
+void CheckBooks(Findings& findings);
+void CheckPairs(Findings& findings);
+void CheckStock(Findings& findings);
+void CheckCosts(Findings& findings);
+void CheckOrders(Findings& findings);
+void CheckLedger(Findings& findings);
+void CheckSupplierHistory(Findings& findings);
+
+} // namespace jxc

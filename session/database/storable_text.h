@@ -1,0 +1,13 @@
+// Texts on their way to an engine. One takes what the other refuses, or cuts it off: both get only
+// well-formed UTF-8 without a zero byte.
+#pragma once
+
+#include <string_view>
+
+namespace jxc {
+
+bool IsStorable(std::string_view text);
+// Throws DatabaseError with a text for people.
+void RequireStorable(std::string_view text);
+
+} // namespace jxc

@@ -1,0 +1,66 @@
+// A company tells its version: newer ones are refused, older ones raised, all or nothing.
+#include <gtest/gtest.h>
+
+#include "session/database/company_version.h"
+#include "session/database/engine.h"
+#include "session/database/open_connection.h"
+#include "session/session.h"
+#include "tests/support/test_company.h"
+
+namespace jxc::test {
+
+namespace {
+
+class CompanyVersion : public OnBothEngines {
+  protected:
+    void Reopen() {
+        OpenConnection(company->Dialect(), Conn(), company->Path(), "", "", company->Database());
+    }
+    static void Script(const std::string& sql) {
+        Conn().EngineInUse().ExecuteScript(sql);
+        Conn().ForgetCatalogue();
+    }
+};
+ON_BOTH_ENGINES(CompanyVersion);
+
+TEST_P(CompanyVersion, IsToldAndANewerOneRefused) {
+    EXPECT_EQ(Conn().EngineInUse().Version(), kCompanyVersion);
+    Conn().EngineInUse().SetVersion(kCompanyVersion + 1);
+    try {
+        Reopen();
+        FAIL() << "opened";
+    } catch (const DatabaseError& error) {
+        EXPECT_NE(std::string(error.what()).find("较新版本"), std::string::npos) << error.what();
+    }
+    EXPECT_FALSE(session.Conn->IsOpen());
+}
+
+TEST_P(CompanyVersion, AnOlderOneIsRaisedAllOrNothing) {
+    Do("Insert Into tJXC_Ck (fCkName) Values ('A')");
+    Script("alter table tJXC_Ck drop column fKhID");
+    Script("alter table tJXC_CpTj02 drop column fCpPjMemo");
+    Script("drop table tHostUser");
+    Script("create index tHostUser_1 on tJXC_Cp (fCpName)"); // in the way of the table's own
+    Conn().EngineInUse().SetVersion(0);
+    const auto open = std::make_unique<Connection>();
+    const auto reopen = [&] {
+        OpenConnection(company->Dialect(), *open, company->Path(), "", "", company->Database());
+    };
+    EXPECT_THROW(reopen(), DatabaseError);
+    Conn().ForgetCatalogue();
+    EXPECT_FALSE(Conn().HasColumn("tHostUser", "fUserName"));
+    EXPECT_EQ(Conn().EngineInUse().Version(), 0);
+
+    Script("drop index tHostUser_1");
+    reopen();
+    EXPECT_EQ(open->EngineInUse().Version(), kCompanyVersion);
+    EXPECT_TRUE(open->Query("Select fKhID From tJXC_Ck").At(0, 0).IsNull());
+    open->Execute("Insert Into tJXC_CpTj02 (fTjID,fCpPjMemo) Values (1,'Left')");
+    EXPECT_EQ(open->Query("Select fTjID From tJXC_CpTj02 Where fCpPjMemo='lEFT'").Count(), 1u);
+    open->Execute("Insert Into tHostUser (fUserName) Values ('Wang')");
+    EXPECT_THROW(open->Execute("Insert Into tHostUser (fUserName) Values ('wang')"), DatabaseError);
+}
+
+} // namespace
+
+} // namespace jxc::test

@@ -1,0 +1,157 @@
+// Why work failed: the message of the work in the box, the engine's own words on demand and in the log.
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <sys/stat.h>
+
+#include "controls/log.h"
+#include "host/company_address.h"
+#include "session/database/engine.h"
+#include "session/database/open_connection.h"
+#include "session/session.h"
+#include "tests/support/clerk.h"
+#include "tests/support/sample_company.h"
+
+namespace jxc::test {
+
+namespace {
+
+std::string Contents(const std::string& file) {
+    std::ostringstream text;
+    text << std::ifstream(file).rdbuf();
+    return text.str();
+}
+
+class Causes : public OnSampleCompany {
+  protected:
+    void Begin() override {
+        folder = (std::filesystem::temp_directory_path() / ("jxc-log-" + std::to_string(getpid()))).string();
+        std::filesystem::remove_all(folder);
+        before = LogFile();
+        setenv("JXC_LOG", (folder + "/a/jxc.log").c_str(), 1);
+        open = std::make_unique<OpenCompany>(company->Address());
+        clerk = std::make_unique<Clerk>();
+    }
+    void TearDown() override {
+        clerk.reset();
+        open.reset();
+        setenv("JXC_LOG", before.c_str(), 1);
+        std::filesystem::remove_all(folder);
+        OnSampleCompany::TearDown();
+    }
+    // Runs with an error at the first statement that holds the text.
+    template <typename Error, typename Operation>
+    void With(const std::string& statement, const Error& error, const Operation& operation) {
+        Conn().SetObserver([&](std::string_view sql) {
+            if (sql.find(statement) != std::string_view::npos)
+                throw error;
+        });
+        operation();
+        Conn().SetObserver(nullptr);
+        ASSERT_FALSE(Conn().InTransaction());
+    }
+
+    std::string folder, before;
+    std::unique_ptr<OpenCompany> open;
+    std::unique_ptr<Clerk> clerk;
+};
+ON_BOTH_ENGINES(Causes);
+
+TEST_P(Causes, StandBehindTheMessageAndInTheLog) {
+    const int key = clerk->Save(TypicalDocument(1));
+    const Lines before = Books();
+    With("fQcSl,", DatabaseError("disk\nI/O error"), [&] { EXPECT_FALSE(clerk->Approve(1, key)); });
+    EXPECT_EQ(clerk->LastBox(), "更新仓库的产品“库存成本表”错误，审核操作未完成！");
+    EXPECT_EQ(clerk->view.boxes.back().details, "disk\nI/O error");
+    With("begin", DatabaseError("locked"), [&] { EXPECT_FALSE(clerk->Approve(1, key)); });
+    EXPECT_EQ(clerk->LastBox(), "locked"); // its own reason, not a stage's
+    With("commit", DatabaseError("disk full"), [&] { EXPECT_EQ(clerk->Save(TypicalDocument(2)), 0); });
+    EXPECT_EQ(clerk->LastBox(), "系统存盘错误，操作已经取消！");
+    EXPECT_EQ(clerk->view.boxes.back().details, "disk full");
+    EXPECT_EQ(Changes(before, Books()), Lines{});
+
+    const std::string log = Contents(LogFile());
+    EXPECT_NE(log.find("[入库单：审核] 更新仓库的产品“库存成本表”错误，审核操作未完成！ disk I/O error\n"),
+              std::string::npos)
+        << log;
+    EXPECT_NE(log.find("系统存盘错误，操作已经取消！ disk full"), std::string::npos) << log;
+    struct stat file {};
+    ASSERT_EQ(stat(LogFile().c_str(), &file), 0);
+    EXPECT_EQ(file.st_mode & 0777, 0600U);
+}
+
+TEST_P(Causes, ThatAreFaultsOfTheProgramShowAsSuch) {
+    const int key = clerk->Save(TypicalDocument(1));
+    const Lines before = Books();
+    With("fQcSl,", std::out_of_range("no such row"), [&] { EXPECT_FALSE(clerk->Approve(1, key)); });
+    EXPECT_EQ(clerk->LastBox(), "程序出现内部错误，本次操作没有完成。请把日志交给技术支持：" + LogFile());
+    EXPECT_NE(clerk->view.boxes.back().details.find("no such row"), std::string::npos);
+    EXPECT_EQ(Changes(before, Books()), Lines{});
+    EXPECT_TRUE(clerk->Approve(1, key));
+}
+
+TEST_P(Causes, OfAWaitThatWasGivenUp) {
+    const int key = clerk->Save(TypicalDocument(1));
+    Connection other;
+    OpenConnection(session.SQLData, other, session.UserPath, session.Password, session.UserID,
+                   session.Default);
+    {
+        Transaction writing(other);
+        other.Execute("Update Moneys Set MoneyRate=7 Where MoneyCode='USD'");
+        other.Flush();
+        clerk->view.patient = false;
+        Conn().SetWaitObserver([&](int seconds) { return clerk->view.KeepWaiting(seconds); });
+        EXPECT_FALSE(clerk->Approve(1, key));
+        EXPECT_EQ(clerk->LastBox(), "已取消等待，操作没有进行。");
+        EXPECT_EQ(clerk->view.waits, (std::vector<int>{0, -1}));
+    }
+    EXPECT_TRUE(clerk->Approve(1, key)) << clerk->LastBox();
+}
+
+// A server that was away while a document was typed is found again by the save. One that goes in the middle of the save
+// undoes it, and the next save finds it again.
+TEST_P(Causes, OfALostLineLeaveWhatWasTyped) {
+    if (GetParam() == EngineKind::Sqlite)
+        return;
+    Connection other;
+    OpenConnection(session.SQLData, other, session.UserPath, session.Password, session.UserID,
+                   session.Default);
+    const auto cut = [&] {
+        other.EngineInUse().ExecuteScript("select pg_terminate_backend(pid) from pg_stat_activity where pid<>"
+                                          "pg_backend_pid() and datname=current_database()");
+    };
+    clerk->Enter(TypicalDocument(1), [&](frmDj02& s) {
+        cut();
+        ClickSave(*clerk, s);
+        EXPECT_EQ(clerk->LastBox(), "单据新增完毕。打印本张单据？");
+    });
+    clerk->Enter(TypicalDocument(1), [&](frmDj02& s) {
+        Conn().SetObserver([&](std::string_view sql) {
+            if (sql == "begin")
+                cut();
+        });
+        ClickSave(*clerk, s);
+        EXPECT_EQ(clerk->LastBox(), "系统存盘错误，操作已经取消！");
+        EXPECT_EQ(s.Grid2.Text(1, line::kCode), TypicalDocument(1).lines[0].code);
+        Conn().SetObserver(nullptr);
+        ClickSave(*clerk, s);
+        EXPECT_EQ(clerk->LastBox(), "单据新增完毕。打印本张单据？");
+    });
+    EXPECT_EQ(RowsOf("Select fInvNo From tJXC_CkDj01 Where fInvType=1 Order By fInvNo"),
+              (Lines{"20261105RK001", "20261105RK002"}));
+}
+
+TEST_P(Causes, FillALogThatDoesNotGrowForever) {
+    const std::string line(100'000, 'x');
+    for (int i = 0; i < 60; ++i)
+        Log("test", line);
+    const std::string file = LogFile();
+    for (const char* generation : {"", ".1", ".2", ".3"})
+        EXPECT_LT(std::filesystem::file_size(file + generation), 1'200'000U) << generation;
+    EXPECT_FALSE(std::filesystem::exists(file + ".4"));
+}
+
+} // namespace
+
+} // namespace jxc::test

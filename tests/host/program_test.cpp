@@ -1,0 +1,131 @@
+// The program at the command line: what it says and how it ends.
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <sstream>
+
+#include <gtest/gtest.h>
+#include <libpq-fe.h>
+#include <sys/wait.h>
+
+#include "tests/support/test_company.h"
+
+namespace jxc::test {
+
+namespace {
+
+struct Ended {
+    int status;
+    std::string told; // on both outputs
+};
+
+// Runs the program with `environment` before it, without a display.
+Ended Jxc(const std::string& arguments, const std::string& environment = "") {
+    const std::string command = "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM " + environment +
+                                " " JXC_PROGRAM " " + arguments + " 2>&1 </dev/null";
+    Ended ended{0, ""};
+    FILE* output = popen(command.c_str(), "r");
+    char part[4096];
+    while (const size_t read = fread(part, 1, sizeof part, output))
+        ended.told.append(part, read);
+    ended.status = WEXITSTATUS(pclose(output));
+    return ended;
+}
+
+void ExpectEnd(const Ended& ended, int status, const std::string& told) {
+    EXPECT_EQ(ended.status, status) << ended.told;
+    EXPECT_NE(ended.told.find(told), std::string::npos) << ended.told;
+}
+
+class Program : public testing::Test {
+  protected:
+    Program() {
+        std::string name = (std::filesystem::temp_directory_path() / "jxc-program-XXXXXX").string();
+        folder = mkdtemp(name.data());
+    }
+    ~Program() override { std::filesystem::remove_all(folder); }
+    std::string File(const std::string& name) const { return folder + "/" + name; }
+    std::string folder;
+};
+
+} // namespace
+
+TEST_F(Program, RefusesWhatItCannotUnderstandInOneWay) {
+    ExpectEnd(Jxc("--version"), 0, "jxc 0.");
+    ExpectEnd(Jxc("--help"), 0, "用法");
+    for (const auto& [wrong, reason] : {std::pair("check", "缺少参数：COMPANY。"),
+                                        {"dance", "不认识的命令或选项：dance。"},
+                                        {"create a b c", "多余的参数"},
+                                        {"check --fast x", "不认识的命令或选项：--fast。"},
+                                        {"create --sample --bare x", "--sample 与 --bare 不能同时使用。"},
+                                        {"drive x --user", "选项缺少值，或值过多：--user。"}})
+        ExpectEnd(Jxc(wrong), 2, reason);
+    for (const char* date : {"2026-13-01", "tomorrow", "'2026-11-05 or so'"})
+        ExpectEnd(Jxc("create " + File("a.db"), std::string("JXC_TODAY=") + date), 2, "JXC_TODAY 须为日期");
+    EXPECT_FALSE(std::filesystem::exists(File("a.db")));
+    ExpectEnd(Jxc("check " + File("absent.db")), 2, "不存在");
+}
+
+TEST_F(Program, NeedsADisplayForWindowsOnly) {
+    const Ended open = Jxc("");
+    EXPECT_EQ(open.status, 2);
+    EXPECT_FALSE(open.told.empty());
+    ExpectEnd(Jxc("create " + File("a.db")), 0, "帐套已建立");
+    ExpectEnd(Jxc("check " + File("a.db")), 0, "全部相符");
+    if (open.told.find("没有图形显示") != std::string::npos) // built with windows
+        ExpectEnd(Jxc("open " + File("a.db"), "DISPLAY=:9876"), 2, "不能打开窗口：连接不上图形显示");
+}
+
+TEST_F(Program, PlaysItsTourInASampleOnly) {
+    ExpectEnd(Jxc("create " + File("mine.db")), 0, "帐套已建立");
+    ExpectEnd(Jxc("tour " + File("mine.db")), 2, "不是样例公司");
+    ExpectEnd(Jxc("tour " + File("new.db"), "JXC_TODAY=2026-11-05"), 0, "全部相符");
+}
+
+TEST_F(Program, HasAManualOfEveryOption) {
+    std::ostringstream text;
+    text << std::ifstream(std::string(JXC_ROOT) + "/docs/jxc.1").rdbuf();
+    const std::string manual = std::regex_replace(text.str(), std::regex("\\\\-"), "-");
+    std::string help = Jxc("--help-all").told;
+    int options = 0;
+    const std::regex option("--[a-z-]+");
+    for (std::sregex_iterator found(help.begin(), help.end(), option), end; found != end; ++found, ++options)
+        EXPECT_NE(manual.find(found->str()), std::string::npos) << found->str();
+    EXPECT_GT(options, 8);
+    for (const char* command : {"create", "drive", "tour", "check", "backup", "restore"})
+        EXPECT_NE(manual.find(".B " + std::string(command)), std::string::npos) << command;
+}
+
+TEST_F(Program, SaysWhatStandsInTheWayOnAServer) {
+    if (const std::string reason = WhyUnavailable(EngineKind::Postgres); !reason.empty())
+        GTEST_SKIP() << reason;
+    const std::string server = std::getenv("JXC_TEST_PG");
+    const std::string name = "jxc_program_" + std::to_string(getpid());
+    const auto address = [&](const std::string& user) {
+        const size_t slash = server.find('/', server.find("//") + 2);
+        const size_t query = server.find('?');
+        return "'postgresql://" + user + "@/" + name + server.substr(query) + "'" +
+               (slash == std::string::npos ? "" : "");
+    };
+    const auto onServer = [&](const std::string& database, const std::string& sql) {
+        PGconn* line = PQconnectdb((server + "&dbname=" + database).c_str());
+        PQclear(PQexec(line, sql.c_str()));
+        PQfinish(line);
+    };
+    ExpectEnd(Jxc("create " + address("postgres")), 2, "数据库 " + name + " 不存在");
+    ExpectEnd(Jxc("create --create-database " + address("postgres")), 0, "帐套已建立");
+    ExpectEnd(Jxc("create " + address("postgres")), 2, "中已有帐套");
+    onServer("postgres", "create role jxc_guest login");
+    ExpectEnd(Jxc("check " + address("jxc_guest")), 2, "没有读取表");
+    onServer("postgres", "drop database " + name);
+    onServer("postgres", "create database " + name);
+    for (int times = 0; times < 2; ++times) // makes its sample, and plays in it again
+        ExpectEnd(Jxc("tour " + address("postgres"), "JXC_TODAY=2026-11-05"), 0, "全部相符");
+    onServer(name, "update mycompany set compname = 'mine'");
+    ExpectEnd(Jxc("tour " + address("postgres")), 2, "不是样例公司");
+    onServer("postgres", "drop database " + name);
+    onServer("postgres", "drop role jxc_guest");
+}
+
+} // namespace jxc::test

@@ -1,0 +1,153 @@
+// A person who types at speed and looks away: nothing goes, and nothing incomplete is saved, without a word.
+#include "documents/frmDj02.h"
+#include "tests/windows/window_fixture.h"
+
+namespace jxc::test {
+
+namespace {
+
+class LostWork : public Windows {
+  protected:
+    void BeginReceipt() {
+        person.Click("txtKhSeek");
+        person.Enter("G001");
+        person.ClickCell("Grid2", 1, line::kCode);
+    }
+    Texts Lines() {
+        const Grid& grid = person.Shown<frmDj02>().Grid2;
+        Texts lines;
+        for (int row = 1; row <= grid.RowCount(); ++row)
+            if (!grid.Text(row, line::kCode).empty())
+                lines.push_back(grid.Text(row, line::kCode) + " " + grid.ShownText(row, line::kQuantity) +
+                                " " + grid.ShownText(row, line::kPrice));
+        return lines;
+    }
+    std::string Foot() {
+        for (const QLabel* label : person.Front().findChildren<QLabel*>())
+            if (label->text().startsWith("没有找到产品"))
+                return S(label->text());
+        return "";
+    }
+};
+
+TEST_F(LostWork, MistypedCodeIsToldAndTheCursorStays) {
+    Enter(1, [&] {
+        BeginReceipt();
+        for (const char* typed : {"CPU001", "3", "400", "ZZZ"})
+            person.Enter(typed);
+        EXPECT_EQ(Foot(), "没有找到产品“ZZZ”，该行已清空。");
+        for (const char* typed : {"CPU003", "5", "880"})
+            person.Enter(typed);
+        EXPECT_EQ(Lines(), (Texts{"CPU001 3.00 400.00", "CPU003 5.00 880.00"}));
+        person.Enter("ZZZ");
+        for (int i = 0; i < 3; ++i)
+            person.Press(Qt::Key_Return);
+        EXPECT_EQ(person.Focus(), "Grid2");
+        person.Type("YYY"); // and a command pressed behind it
+        person.Press(Qt::Key_F9);
+        EXPECT_EQ(person.Boxes(), Texts{});
+        EXPECT_EQ(person.Shown<frmDj02>().Grid2.selectedColumn, line::kCode);
+        person.Answer(Qt::Key_D);
+        person.Click("cmdQuit");
+        person.Boxes();
+    });
+    EXPECT_EQ(Rows("select fInvID from tJXC_CkDj01 Where fInvType=1").size(), 0U);
+}
+
+TEST_F(LostWork, NewRowIsWhereTypingGoes) {
+    Enter(1, [&] {
+        BeginReceipt();
+        for (const char* typed : {"CPU001", "3", "400"})
+            person.Enter(typed);
+        person.ClickCell("Grid2", 1, line::kMemo1);
+        person.Press(Qt::Key_F6);
+        person.Enter("CPU003");
+        EXPECT_EQ(person.Shown<frmDj02>().Grid2.Text(2, line::kCode), "CPU003");
+        person.Click("txtHtNo"); // also from a field above
+        person.Press(Qt::Key_F6);
+        EXPECT_EQ(person.Focus(), "Grid2");
+        person.Enter("MEM001");
+        EXPECT_EQ(person.Shown<frmDj02>().Grid2.Text(3, line::kCode), "MEM001");
+        person.Answer(Qt::Key_D);
+        person.Click("cmdQuit");
+        person.Boxes();
+    });
+}
+
+const char* const kQuestion = "单据尚未存盘，放弃所输入的内容？";
+
+TEST_F(LostWork, WhateverWasTypedIsAskedForWhereverItWouldGo) {
+    const int key = Save(2);
+    const std::string before =
+        Rows("select fInvMemo,fInvDLR from tJXC_CkDj01 Where fInvID=" + std::to_string(key))[0];
+    const auto change = [&](const std::function<void()>& work) {
+        Open(13, 2, work, {{"Action", 2}, {"invType", 2}, {"oldInvID", key}});
+    };
+    // Enter means to stay, for each of the ways out.
+    const auto staysAndLeaves = [&](const std::function<void()>& type) {
+        change([&] {
+            type();
+            for (const char* way : {"cmdQuit", "cmdPrevious", "cmdNext"}) {
+                person.Click(way);
+                EXPECT_EQ(person.Boxes(), Texts{kQuestion}) << way;
+                EXPECT_TRUE(person.Shown<frmDj02>().IsOpen());
+            }
+            person.Answer(Qt::Key_D);
+            person.Click("cmdQuit");
+            EXPECT_EQ(person.Boxes(), Texts{kQuestion});
+        });
+    };
+    staysAndLeaves([&] {
+        person.ClickCell("Grid2", 1, line::kCode);
+        person.Press(Qt::Key_F7); // a row deleted
+    });
+    staysAndLeaves([&] {
+        person.Click("txtHtNo"); // a header changed
+        person.Type("X");
+    });
+    EXPECT_EQ(Rows("select fInvMemo,fInvDLR from tJXC_CkDj01 Where fInvID=" + std::to_string(key))[0],
+              before);
+    change([&] { person.Click("cmdQuit"); });
+    EXPECT_EQ(person.Boxes(), Texts{});
+    Enter(5, [&] {
+        person.Click("txtZkl");
+        person.Press(Qt::Key_A, Qt::ControlModifier);
+        person.Type("0.5");
+        person.Click("cmdNew");
+        EXPECT_EQ(person.Boxes(), Texts{kQuestion});
+        person.Answer(Qt::Key_D);
+        person.Click("cmdNew");
+        person.Boxes();
+    });
+}
+
+TEST_F(LostWork, CanBeSavedOnTheWayOut) {
+    Enter(1, [&] {
+        BeginReceipt();
+        for (const char* typed : {"CPU001", "3", "400"})
+            person.Enter(typed);
+        person.Answer(Qt::Key_S);
+        person.Answer(Qt::Key_Return);
+        person.Answer(Qt::Key_Escape);
+        person.Click("cmdQuit");
+        EXPECT_EQ(person.Boxes(),
+                  (Texts{kQuestion, "入库单：新增：20261105RK001，确定？", "单据新增完毕。打印本张单据？"}));
+    });
+    EXPECT_EQ(Rows("select fInvJE from tJXC_CkDj01 Where fInvNo='20261105RK001'"), Texts{"1200"});
+    Enter(1, [&] { // what cannot be saved stays on the screen
+        person.ClickCell("Grid2", 1, line::kCode);
+        person.Enter("CPU001");
+        person.Enter("3");
+        person.Answer(Qt::Key_S);
+        person.Click("cmdQuit");
+        EXPECT_EQ(person.Boxes(), (Texts{kQuestion, "请输入供应商！"}));
+        EXPECT_TRUE(person.Shown<frmDj02>().IsOpen());
+        person.Answer(Qt::Key_D);
+        person.Click("cmdQuit");
+        person.Boxes();
+    });
+}
+
+} // namespace
+
+} // namespace jxc::test
