@@ -291,14 +291,22 @@ void TypeCell(Screen& screen, Grid& grid, int row, int column, const std::string
     });
 }
 
+bool HoldsEnter(const Grid& grid) {
+    const int row = grid.selectedRow;
+    if (row < 1 || grid.refusedRow != row)
+        return false;
+    const int first = ColumnAfter(grid, 0);
+    return !grid.CanType(grid.selectedColumn) || (first > 0 && grid.Text(row, first).empty());
+}
+
 bool StepByEnter(Screen& screen, Grid& grid) {
     const int first = ColumnAfter(grid, 0);
     const int row = grid.selectedRow;
     if (first == 0 || row < 1)
         return false;
     const bool blank = grid.Text(row, first).empty();
-    if (blank && grid.refusedRow == row)
-        return true; // something was typed here and found nothing: no Enter goes on from it
+    if (HoldsEnter(grid))
+        return true;
     const int next = blank ? 0 : ColumnAfter(grid, grid.selectedColumn);
     if (next != 0) {
         grid.selectedColumn = next;

@@ -49,8 +49,11 @@ void PressKey(Screen& screen, Control& control, const std::string& key);
 
 // Goes to the cell, types, leaves it. A row one past the last is appended by Enter on the last row where the
 // screen does so. A figure beyond its column's bound, typed or worked out from what was typed, refuses the
-// gesture; so does a row whose typed text found nothing: see Grid::refusedRow.
+// gesture; a typed text that found nothing holds the cursor instead: see HoldsEnter.
 void TypeCell(Screen& screen, Grid& grid, int row, int column, const std::string& text);
+// Whether something typed in the selected row was not taken, so that no Enter behind it goes on: see
+// Grid::refusedRow.
+bool HoldsEnter(const Grid& grid);
 // Enter in the selected cell, which has been left: selects the cell where a person types next, in the order of
 // the grid's enterColumns; behind the last row's last one, the screen's new row. False when there is none: the
 // focus then goes to the next control.

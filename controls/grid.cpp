@@ -130,18 +130,21 @@ void Grid::SetRowCount(int rows) {
     for (size_t i = before; i < rows_.size(); ++i)
         rows_[i].cells.resize(columns_.size());
     selectedRow = std::min(selectedRow, rows);
+    refusedRow = 0;
 }
 
 void Grid::InsertRow(int at) {
     Row row;
     row.cells.resize(columns_.size());
     rows_.insert(rows_.begin() + (at - 1), std::move(row));
+    refusedRow = 0;
 }
 
 void Grid::RemoveRow(int row) {
     CheckPlace(row, 1);
     rows_.erase(rows_.begin() + (row - 1));
     selectedRow = std::min(selectedRow, RowCount());
+    refusedRow = 0;
 }
 
 void Grid::CheckPlace(int row, int column) const {

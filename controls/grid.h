@@ -92,8 +92,9 @@ struct Grid : Control {
     // The columns that Enter leads through while rows are typed; empty for all that take typing.
     std::vector<int> enterColumns;
     bool readOnly = false; // no typing at all
-    // The row whose typed text was not taken and is gone: its cell keeps the cursor until something is taken
-    // there or the person goes elsewhere. 0 for none.
+    // The row in which a typed text was not taken and is gone: Enter stays in it while it is blank, or while the
+    // cursor waits in a cell that takes no typing, until something is taken there, the person goes elsewhere or the
+    // rows are others. 0 for none.
     int refusedRow = 0;
     bool CanType(int column) const { return !readOnly && !Column(column).locked && !HasFormula(column); }
 

@@ -49,7 +49,12 @@ void SaveAddress(frmDj02& s);   // writes tJXC_KhAdd
 void DeleteAddress(frmDj02& s); // writes tJXC_KhAdd
 
 // -- line_entry.cpp
-void AppendLine(frmDj02& s);   // by Enter on the last filled row
+void AppendLine(frmDj02& s); // by Enter on the last filled row
+// Whether the last row waits for its product.
+bool EndsBlank(const Grid& grid);
+// Puts the cursor where typing takes nothing away: into a blank row at the end, which is made, or, in a document
+// that holds all the rows it may, into a cell that takes no typing.
+void GoBelowTheLines(frmDj02& s);
 void CutToMaxRows(frmDj02& s); // after loading; the user is told
 void InsertLine(frmDj02& s);
 void DeleteLine(frmDj02& s);

@@ -43,7 +43,14 @@ void SeekFinishedProduct(frmDj02& s, bool byCode) {
         return;
     ProductSought sought;
     (byCode ? sought.code : sought.name) = typed;
-    if (const std::int32_t id = FindProduct(sought); id > 0)
+    std::int32_t id = 0;
+    try {
+        id = FindProduct(sought);
+    } catch (...) {
+        (byCode ? s.txtCpCode : s.txtCpName).text = typed; // to be sought again when the box is left again
+        throw;
+    }
+    if (id > 0)
         ShowFinishedProduct(s, id, sought.code, NameAndSpec(sought.name, sought.spec), sought.unit);
 }
 

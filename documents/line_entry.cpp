@@ -58,13 +58,39 @@ ProductSought SoughtHere(const frmDj02& s) {
     return sought;
 }
 
-// What was typed is gone, and must not be gone unseen by a person who types on: the cursor stays, and a line and a
-// sound tell it, for a box would be answered by the next Enter.
-void RefuseRow(Grid& grid, int row, const std::string& text) {
+// What was typed is gone, and must not be gone unseen by a person who types on: the cursor stays.
+void HoldCursor(Grid& grid, int row, int column) {
     grid.refusedRow = row;
     grid.selectedRow = row;
-    grid.selectedColumn = line::kCode;
+    grid.selectedColumn = column;
+}
+
+// A line and a sound tell it, for a box would be answered by the next Enter.
+void RefuseRow(Grid& grid, int row, const std::string& text) {
+    HoldCursor(grid, row, line::kCode);
     CurrentView().Signal(text);
+}
+
+void EmptyRow(Grid& grid, int row) {
+    ClearRow(grid, row);
+    HoldCursor(grid, row, line::kCode);
+}
+
+// A column that is seen and takes no typing.
+int LockedColumn(const Grid& grid) {
+    for (int column = 1; column <= grid.ColumnCount(); ++column)
+        if (!grid.Column(column).hidden && !grid.CanType(column))
+            return column;
+    return line::kCode;
+}
+
+// The product stands in `other`: there the cursor waits in a cell that takes no typing, for figures typed ahead are
+// meant for neither row.
+void ShowOtherRow(frmDj02& s, int row, int other) {
+    Inform(s.title, "该产品已有输入！");
+    ClearRow(s.Grid2, row);
+    HoldCursor(s.Grid2, other, LockedColumn(s.Grid2));
+    CurrentView().Signal("该产品已在第 " + std::to_string(other) + " 行，按方向键继续。");
 }
 
 // The code or name typed into a row finds its product.
@@ -75,26 +101,22 @@ void LeaveProductCell(frmDj02& s, int row, int column) {
     if (typed.empty())
         return ClearRow(grid, row);
     if (!CheckNoQuote(typed))
-        return ClearRow(grid, row);
+        return EmptyRow(grid, row);
     grid.SetCell(row, column == line::kCode ? line::kName : line::kCode, Value());
     (column == line::kCode ? sought.code : sought.name) = typed;
     std::int32_t id = 0;
     try {
         id = FindProduct(sought);
     } catch (...) {
-        ClearRow(grid, row); // a row never keeps a product that its code does not name
+        EmptyRow(grid, row); // a row never keeps a product that its code does not name
         throw;
     }
     if (id == 0) {
         ClearRow(grid, row);
         return RefuseRow(grid, row, "没有找到产品“" + typed + "”，该行已清空。");
     }
-    if (const int other = GridHasValue(grid, row, sought.code); other > 0) {
-        Inform(s.title, "该产品已有输入！");
-        ClearRow(grid, row);
-        grid.selectedRow = other;
-        return;
-    }
+    if (const int other = GridHasValue(grid, row, sought.code); other > 0)
+        return ShowOtherRow(s, row, other);
     FillProduct(s, row, sought, id);
 }
 
@@ -106,6 +128,7 @@ void LeaveQuantityCell(frmDj02& s, int row) {
     } else if (quantity == 0) {
         for (const int column : {line::kUnit, line::kName, line::kCode})
             grid.SetCell(row, column, Value());
+        RefuseRow(grid, row, "数量为 0，该行的产品已清空。");
     }
 }
 
@@ -136,6 +159,21 @@ void AppendLine(frmDj02& s) {
     GridAppendRow(grid, 1);
     SetRates(s, grid.selectedRow);
     grid.selectedColumn = line::kCode;
+}
+
+bool EndsBlank(const Grid& grid) {
+    return grid.RowCount() > 0 && grid.Text(grid.RowCount(), line::kCode).empty();
+}
+
+void GoBelowTheLines(frmDj02& s) {
+    Grid& grid = s.Grid2;
+    const bool full = s.parameters.maxRows > 0 && grid.RowCount() >= s.parameters.maxRows;
+    if (!EndsBlank(grid) && !full) {
+        grid.InsertRow(grid.RowCount() + 1);
+        SetRates(s, grid.RowCount());
+    }
+    grid.selectedRow = grid.RowCount();
+    grid.selectedColumn = EndsBlank(grid) ? line::kCode : LockedColumn(grid);
 }
 
 std::vector<Connection::Expected> LineStatements(const frmDj02& s, const std::string& code) {

@@ -148,10 +148,7 @@ void WriteLines(frmDj02& s, const std::vector<PastedLine>& lines, Problems& prob
         grid.SetRowCount(before);
     else if (s.chkTh.value)
         SetReturnSign(s);
-    if (grid.RowCount() == 0)
-        grid.SetRowCount(1);
-    grid.selectedRow = grid.RowCount();
-    grid.selectedColumn = line::kCode;
+    GoBelowTheLines(s);
 }
 
 // One column of figures or memos goes down from the selected cell.

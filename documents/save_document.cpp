@@ -230,17 +230,17 @@ bool FinishedProductGiven(frmDj02& s) {
     return !s.type.IsKit() || s.finishedProduct != 0 || Refuse(s, "请输入组装产品及其数量。", &s.txtCpCode);
 }
 
-void SaveNew(frmDj02& s, const std::string& stem) {
+bool SaveNew(frmDj02& s, const std::string& stem) {
     if (!NumberIsFree(s, stem, kNumberTaken))
-        return;
+        return false;
     if (!FinishedProductGiven(s))
-        return;
+        return false;
     if (!AskOkCancel(s.title, s.title + "：" + s.Number() + "，确定？"))
-        return;
+        return false;
     std::optional<ReadAhead> ahead;
     if (!InTransaction(s, [&] { return WriteNew(s, stem, ahead); })) {
         s.oldInvID = 0;
-        return;
+        return false;
     }
     if (s.parameters.approveOnSave)
         RunApproval(s, false, false);
@@ -248,6 +248,7 @@ void SaveNew(frmDj02& s, const std::string& stem) {
         PrintSaved(s);
     s.oldInvID = 0;
     ResetDocument(s);
+    return true;
 }
 
 // Why the stored document may not be changed or deleted any more, "" when it may.
@@ -257,12 +258,12 @@ std::string MayStillBeWritten(const frmDj02& s, const std::string& stem) {
     return refusal.empty() ? DatedBeforePeriod(s) : refusal;
 }
 
-void SaveChange(frmDj02& s, const std::string& stem) {
+bool SaveChange(frmDj02& s, const std::string& stem) {
     const std::string number = s.txtNo.tag;
     if (!FinishedProductGiven(s))
-        return;
+        return false;
     if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
-        return;
+        return false;
     const auto write = [&] {
         std::string refusal = MayStillBeWritten(s, stem);
         if (refusal.empty() && !EqualsNoCase(s.Number(), number))
@@ -275,18 +276,19 @@ void SaveChange(frmDj02& s, const std::string& stem) {
         return std::string();
     };
     if (!InTransaction(s, write))
-        return;
+        return false;
     Inform(s.title, number + "：单据修改完毕！");
     s.cmdSave.enabled = false;
     if (AskOkCancel(s.title, "打印本张单据？"))
         PrintSaved(s);
     s.Close();
+    return true;
 }
 
-void DeleteStored(frmDj02& s, const std::string& stem) {
+bool DeleteStored(frmDj02& s, const std::string& stem) {
     const std::string number = s.Number();
     if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
-        return;
+        return false;
     const auto write = [&] {
         std::string refusal = MayStillBeWritten(s, stem);
         if (refusal.empty() && !DeleteDocumentRows(stem, "fInvID=" + std::to_string(s.oldInvID)))
@@ -294,10 +296,25 @@ void DeleteStored(frmDj02& s, const std::string& stem) {
         return refusal;
     };
     if (!InTransaction(s, write))
-        return;
+        return false;
     Inform(s.title, number + "：单据删除完毕！");
     s.cmdSave.enabled = false;
     s.Close();
+    return true;
+}
+
+// False when the document is not written: refused, given up or failed, as the person was told.
+bool Write(frmDj02& s, const std::string& stem) {
+    switch (s.InHand()) {
+    case DocAction::New:
+        return SaveNew(s, stem);
+    case DocAction::Change:
+        return SaveChange(s, stem);
+    case DocAction::Delete:
+        return DeleteStored(s, stem);
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -315,18 +332,12 @@ void SaveDocument(frmDj02& s) {
         ReverseApproval(s);
         return;
     }
-    if (!LinesGiven(s) || !FiguresWithinBounds(s))
-        return;
-    switch (s.InHand()) {
-    case DocAction::New:
-        return SaveNew(s, stem);
-    case DocAction::Change:
-        return SaveChange(s, stem);
-    case DocAction::Delete:
-        return DeleteStored(s, stem);
-    default:
-        return;
-    }
+    const bool waited = IsEditing(s.InHand()) && EndsBlank(s.Grid2);
+    const bool lines = LinesGiven(s);
+    if (lines && !FiguresWithinBounds(s))
+        return; // the cursor is at the figure
+    if (!(lines && Write(s, stem)) && waited)
+        GoBelowTheLines(s); // as it was: the next line is not typed over the last one
 }
 
 } // namespace jxc

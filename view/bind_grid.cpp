@@ -73,7 +73,7 @@ class GridBinding : public Binding {
         committed_ = true;
         const QPointer<QWidget> held = line;
         emit editor_.commitData(line);
-        if (held)
+        if (held && !held->isHidden())
             emit editor_.closeEditor(held, QAbstractItemDelegate::NoHint);
         const bool quiet = committed_;
         committed_ = true;
@@ -284,6 +284,8 @@ class GridBinding : public Binding {
             window_.Do([&] { DoubleClickRow(window_.Shown(), grid_, grid_.selectedRow); });
             return;
         }
+        if (HoldsEnter(grid_))
+            return; // and what is told at the foot stays there
         bool stepped = false;
         const bool quietly =
             window_.Do([&] { stepped = !grid_.readOnly && StepByEnter(window_.Shown(), grid_); });

@@ -106,7 +106,7 @@ bool CellEditor::eventFilter(QObject* object, QEvent* event) {
         return QStyledItemDelegate::eventFilter(object, event);
     const QPointer<QLineEdit> held = line; // a message of the commit may have closed it
     emit commitData(line);
-    if (held)
+    if (held && !held->isHidden())
         emit closeEditor(held, NoHint);
     leave_(*exit);
     return true;

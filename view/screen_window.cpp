@@ -1,5 +1,6 @@
 #include "view/screen_window.h"
 
+#include <QTimer>
 #include <QUiLoader>
 
 #include "controls/gestures.h"
@@ -68,10 +69,7 @@ void ScreenWindow::AddFunctionKeys() {
             continue;
         withKeys_.push_back(button);
         auto* shortcut = new QShortcut(QKeySequence(key), this);
-        connect(shortcut, &QShortcut::activated, button, [button] {
-            if (button->isVisible() && button->isEnabled())
-                button->click();
-        });
+        connect(shortcut, &QShortcut::activated, button, [this, button] { PressByKey(*button); });
     }
     keys_ = new QLabel;
     keys_->setForegroundRole(QPalette::PlaceholderText);
@@ -80,6 +78,18 @@ void ScreenWindow::AddFunctionKeys() {
     colors.setColor(QPalette::WindowText, QColor(176, 0, 32)); // what is told there wants to be seen
     keys_->setPalette(colors);
     layout()->addWidget(keys_);
+}
+
+// The person goes on where they were, unless the command led elsewhere: an Enter typed next does not press the button.
+void ScreenWindow::PressByKey(QAbstractButton& button) {
+    if (!button.isVisible() || !button.isEnabled())
+        return;
+    const QPointer<QWidget> from = focusWidget();
+    button.click();
+    if (!from || !screen_.IsOpen() || focusWidget() != &button)
+        return;
+    if (Binding* back = BindingOf(from); back && back->control.IsUsable())
+        back->TakeFocus(Qt::OtherFocusReason);
 }
 
 // Ctrl+Tab and Ctrl+PgDn turn to the next page that can be chosen.
@@ -119,7 +129,7 @@ void ScreenWindow::ShowFunctionKeys() {
 bool ScreenWindow::Do(const std::function<void()>& gesture) {
     const int boxes = view_.BoxesShown();
     bool accepted = true;
-    if (depth_++ == 0)
+    if (depth_++ == 0 && !justTold_)
         told_.clear();
     try {
         gesture();
@@ -140,6 +150,8 @@ bool ScreenWindow::Do(const std::function<void()>& gesture) {
 
 void ScreenWindow::Tell(const QString& text) {
     told_ = text;
+    justTold_ = true; // one key or click can bring several gestures: the line outlives those behind it
+    QTimer::singleShot(0, this, [this] { justTold_ = false; });
     ShowFunctionKeys();
 }
 

@@ -62,6 +62,7 @@ class ScreenWindow : public QDialog {
     void LoadForm();
     void BindControls();
     void AddFunctionKeys();
+    void PressByKey(QAbstractButton& button);
     void ShowFunctionKeys();
     void ShowFocus();
     void AddTabKeys();
@@ -76,6 +77,7 @@ class ScreenWindow : public QDialog {
     std::vector<QAbstractButton*> withKeys_;
     QLabel* keys_ = nullptr; // the line at the foot
     QString told_;           // stands there instead of the keys
+    bool justTold_ = false;  // by the key or click at work
     int depth_ = 0;          // of gestures in each other
 };
 

@@ -237,7 +237,7 @@ TEST_F(GridFiles, BlockIsPastedAsIfTyped) {
             "cpu002\t\t\t\t10\t\t600\t\t\r\nMEM002\t\t\t\t20\t\t170.5\t\t\r\n");
         person.Press(Qt::Key_V, Qt::ControlModifier);
         const auto& grid = person.Shown<frmDj02>().Grid2;
-        ASSERT_EQ(grid.RowCount(), 2);
+        ASSERT_EQ(grid.RowCount(), 3); // the last one blank, for the next line
         EXPECT_EQ(grid.Text(1, line::kCode) + " " + grid.Text(1, line::kName),
                   "CPU002 4核8线程 3.3GHz/处理器 四核");
         EXPECT_EQ(person.Cell("Grid2", 1, line::kAmount), "6,000.00");
@@ -260,7 +260,7 @@ TEST_F(GridFiles, LinesGoFromOneDocumentToAnother) {
     EnterLines([&] {
         person.Press(Qt::Key_V, Qt::ControlModifier);
         EXPECT_EQ(person.Boxes(), Texts{});
-        EXPECT_EQ(person.Shown<frmDj02>().Grid2.RowCount(), 2);
+        EXPECT_EQ(person.Shown<frmDj02>().Grid2.RowCount(), 3);
         EXPECT_EQ(person.Text("txtSum"), "9410.00");
     });
 }
