@@ -187,6 +187,9 @@ bool InTransaction(frmDj02& s, const std::function<std::string()>& write) {
         refusal = write();
         if (refusal.empty())
             transaction.Commit();
+    } catch (const CommitUnknown& error) {
+        WarnOfFailure(s.title, CommitUnknownText(s, "存盘"), error.what());
+        return false;
     } catch (const DatabaseError& error) {
         WarnOfFailure(s.title, "系统存盘错误，操作已经取消！", error.what());
         return false;

@@ -8,7 +8,8 @@
 //     control.myType(1);
 //     control.Refresh(13);   // document entry, type 1: a receipt
 //
-// All values live in the process-wide Session: two controls in one process share them.
+// All values live in the process-wide Session: two controls in one process share them, and a property that is set
+// while a screen is open counts in it from then on.
 #pragma once
 
 #include <cstdint>

@@ -178,6 +178,9 @@ std::string Post(const frmDj02& s, bool reversal, const std::string& verb, std::
         }
         transaction.Commit();
         return "";
+    } catch (const CommitUnknown& error) {
+        cause = error.what();
+        return CommitUnknownText(s, verb);
     } catch (const DatabaseError& error) {
         cause = error.what();
         const int failed = Conn().MarkOfFailure();
@@ -221,6 +224,11 @@ std::string DateRefusal(Date periodStart) {
 std::string DatedBeforePeriod(const frmDj02& s) {
     const Date start = ReadParameters().periodStart;
     return *s.dtpInvDate.date < start ? DateRefusal(start) : "";
+}
+
+std::string CommitUnknownText(const frmDj02& s, const std::string& verb) {
+    return "与服务器的连接在" + verb + "的最后一步中断，" + s.Number() + " 可能已经" + verb +
+           "，也可能没有。请查询确认后再继续。";
 }
 
 bool RunApproval(frmDj02& s, bool reversal, bool prompted) {

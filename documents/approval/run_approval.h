@@ -28,5 +28,8 @@ std::string DatedBeforePeriod(const frmDj02& s);
 // The statements of these two checks, to be read ahead.
 std::vector<Connection::Expected> CheckStatements(const frmDj02& s, const std::string& stem);
 std::string DateRefusal(Date periodStart);
+// What is told when a server was lost while `verb` (存盘, 审核 or 反审核) was on its way to be made lasting. To do it
+// again is safe: a number that is taken and a document that is approved are refused.
+std::string CommitUnknownText(const frmDj02& s, const std::string& verb);
 
 } // namespace jxc

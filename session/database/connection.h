@@ -38,6 +38,12 @@ class LoginError : public DatabaseError {
     using DatabaseError::DatabaseError;
 };
 
+// The line to the server was lost while a commit was on its way: it may have been done, or not.
+class CommitUnknown : public DatabaseError {
+  public:
+    using DatabaseError::DatabaseError;
+};
+
 // An update by row found its row changed or gone since it was read.
 class ConflictError : public DatabaseError {
   public:

@@ -271,7 +271,13 @@ void PostgresEngine::Commit() {
     if (line_.HasUnsettledChanges())
         line_.Settle();
     Command("commit", 0);
-    line_.Settle();
+    try {
+        line_.Settle();
+    } catch (const DatabaseError& error) {
+        if (line_.IsLost())
+            throw CommitUnknown(error.what());
+        throw;
+    }
     if (line_.LastCommand() != "COMMIT")
         throw DatabaseError("事务已经失败，未能存盘。");
     inTransaction_ = false;

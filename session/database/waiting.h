@@ -2,8 +2,11 @@
 #pragma once
 
 #include <chrono>
+#include <exception>
 #include <functional>
 #include <utility>
+
+#include "controls/log.h"
 
 namespace jxc {
 
@@ -19,14 +22,26 @@ class Waiting {
         if (!observer_ || waited < std::chrono::milliseconds(300))
             return true;
         told_ = true;
-        return observer_(static_cast<int>(waited.count() / 1000));
+        return Tell(static_cast<int>(waited.count() / 1000));
     }
     void End() {
         if (std::exchange(told_, false))
-            observer_(-1);
+            Tell(-1);
     }
 
   private:
+    // An observer that fails has no say; its error must not pass through the engine's C code.
+    bool Tell(int seconds) {
+        try {
+            return observer_(seconds);
+        } catch (const std::exception& error) {
+            Log("waiting", error.what());
+        } catch (...) {
+            Log("waiting", "unknown error of the observer");
+        }
+        return true;
+    }
+
     std::function<bool(int)> observer_;
     bool told_ = false;
 };
@@ -34,12 +49,7 @@ class Waiting {
 class WaitingEnds {
   public:
     explicit WaitingEnds(Waiting& waiting) : waiting_(waiting) {}
-    ~WaitingEnds() {
-        try {
-            waiting_.End();
-        } catch (...) { // an observer that fails here has no more to tell
-        }
-    }
+    ~WaitingEnds() { waiting_.End(); }
     WaitingEnds(const WaitingEnds&) = delete;
     WaitingEnds& operator=(const WaitingEnds&) = delete;
 

@@ -1,7 +1,10 @@
 // Why work failed: the message of the work in the box, the engine's own words on demand and in the log.
+#include <atomic>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
+#include <thread>
 
 #include <sys/stat.h>
 
@@ -109,6 +112,32 @@ TEST_P(Causes, OfAWaitThatWasGivenUp) {
     EXPECT_TRUE(clerk->Approve(1, key)) << clerk->LastBox();
 }
 
+// A host's view may fail in the middle of the engine's waiting; the work that waits is not its concern.
+TEST_P(Causes, OfAViewThatFailsEndNoWait) {
+    const int key = clerk->Save(TypicalDocument(1));
+    Connection other;
+    OpenConnection(session.SQLData, other, session.UserPath, session.Password, session.UserID,
+                   session.Default);
+    std::optional<Transaction> writing(std::in_place, other);
+    other.Execute("Update Moneys Set MoneyRate=7 Where MoneyCode='USD'");
+    other.Flush();
+    std::atomic<int> told{0};
+    std::thread writer([&] {
+        told.wait(0);
+        writing.reset();
+    });
+    Conn().SetWaitObserver([&](int) -> bool {
+        ++told;
+        told.notify_all();
+        throw std::runtime_error("no window to tell it in");
+    });
+    EXPECT_TRUE(clerk->Approve(1, key)) << clerk->LastBox();
+    EXPECT_GT(told.exchange(1), 0);
+    told.notify_all();
+    writer.join();
+    EXPECT_NE(Contents(LogFile()).find("no window to tell it in"), std::string::npos);
+}
+
 // A server that was away while a document was typed is found again by the save. One that goes in the middle of the save
 // undoes it, and the next save finds it again.
 TEST_P(Causes, OfALostLineLeaveWhatWasTyped) {
@@ -138,6 +167,32 @@ TEST_P(Causes, OfALostLineLeaveWhatWasTyped) {
         ClickSave(*clerk, s);
         EXPECT_EQ(clerk->LastBox(), "单据新增完毕。打印本张单据？");
     });
+    // Lost with the commit itself: nobody can say that it was cancelled, nor that it was done.
+    const auto cutAtCommit = [&] {
+        Conn().SetObserver([&](std::string_view sql) {
+            if (sql == "commit")
+                cut();
+        });
+    };
+    clerk->Enter(TypicalDocument(2), [&](frmDj02& s) {
+        cutAtCommit();
+        ClickSave(*clerk, s);
+        EXPECT_EQ(clerk->LastBox(), "与服务器的连接在存盘的最后一步中断，" + s.Number() +
+                                        " 可能已经存盘，也可能没有。请查询确认后再继续。");
+        Conn().SetObserver(nullptr);
+        ClickSave(*clerk, s);
+        EXPECT_EQ(clerk->LastBox(), "单据新增完毕。打印本张单据？");
+    });
+    const int key = std::stoi(RowsOf("Select fInvID From tJXC_CkDj01 Where fInvNo='20261105RK001'")[0]);
+    clerk->Open(DocAction::Approve, 1, key, [&](frmDj02& s) {
+        cutAtCommit();
+        ClickSave(*clerk, s);
+        EXPECT_EQ(clerk->LastBox(),
+                  "与服务器的连接在审核的最后一步中断，20261105RK001 可能已经审核，也可能没有。请查"
+                  "询确认后再继续。");
+        Conn().SetObserver(nullptr);
+    });
+    EXPECT_TRUE(clerk->Approve(1, key)) << clerk->LastBox();
     EXPECT_EQ(RowsOf("Select fInvNo From tJXC_CkDj01 Where fInvType=1 Order By fInvNo"),
               (Lines{"20261105RK001", "20261105RK002"}));
 }
