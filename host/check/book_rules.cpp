@@ -13,13 +13,10 @@ namespace jxc {
 namespace {
 
 // "{H}", "{L}", "{ON}" (lines b on headers a), "{M}" of a book in a statement.
-std::string OfBook(std::string sql, const Book& book) {
-    const std::pair<std::string, std::string> pieces[] = {
-        {"{H}", book.Headers()}, {"{L}", book.Lines()}, {"{ON}", book.On("b", "a")}, {"{M}", book.Month()}};
-    for (const auto& [piece, text] : pieces)
-        for (size_t at = sql.find(piece); at != std::string::npos; at = sql.find(piece, at))
-            sql.replace(at, piece.size(), text);
-    return sql;
+std::string OfBook(const std::string& sql, const Book& book) {
+    return Filled(
+        sql,
+        {{"{H}", book.Headers()}, {"{L}", book.Lines()}, {"{ON}", book.On("b", "a")}, {"{M}", book.Month()}});
 }
 
 std::string FiguresAbsurd(std::initializer_list<const char*> fields) {

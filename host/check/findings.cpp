@@ -27,14 +27,27 @@ Rows Findings::Ask(const std::string& sql) {
 void Run(const Rule& rule, Findings& findings) {
     const Rows rows = findings.Ask(rule.sql);
     for (size_t row = 0; row < rows.Count(); ++row) {
-        std::string line = rule.told;
-        for (size_t column = 0; column < rows.names.size(); ++column) {
-            const std::string place = "{" + std::to_string(column + 1) + "}";
-            for (size_t at = line.find(place); at != std::string::npos; at = line.find(place, at))
-                line.replace(at, place.size(), rows.At(row, column).AsText());
-        }
-        findings.Add(line);
+        Places columns;
+        for (size_t column = 0; column < rows.names.size(); ++column)
+            columns["{" + std::to_string(column + 1) + "}"] = rows.At(row, column).AsText();
+        findings.Add(Filled(rule.told, columns));
     }
+}
+
+std::string Filled(const std::string& text, const Places& places) {
+    std::string filled;
+    for (size_t at = 0; at < text.size();) {
+        const size_t end = text[at] == '{' ? text.find('}', at) : std::string::npos;
+        const auto place =
+            end == std::string::npos ? places.end() : places.find(text.substr(at, end + 1 - at));
+        if (place == places.end()) {
+            filled += text[at++];
+        } else {
+            filled += place->second;
+            at = end + 1;
+        }
+    }
+    return filled;
 }
 
 std::string Book::On(const std::string& x, const std::string& y) const {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <span>
 #include <string>
 #include <vector>
@@ -34,6 +35,11 @@ struct Rule {
     std::string told;
 };
 void Run(const Rule& rule, Findings& findings);
+
+// `text` with what belongs at its places, "{1}" or "{H}". What is filled in is not searched again: a document may
+// have the number "{1}".
+using Places = std::map<std::string, std::string>;
+std::string Filled(const std::string& text, const Places& places);
 
 // The five books: tables S01 and S02; the closed one repeats its keys month by month.
 struct Book {
