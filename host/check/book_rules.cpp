@@ -30,7 +30,7 @@ std::vector<Rule> BookRules(const Book& book) {
     const bool orders = book.stem == "tJXC_CkHt";
     const std::string blank = "fInvNo is null Or fInvNo='' Or fInvNo like ' %' Or fInvNo like '% '"
                               " Or fInvNo like '　%' Or fInvNo like '%　'";
-    const std::string sum = "sum(case when " + IsHuman("fInvJE") + " then fInvJE else 0 end)";
+    const std::string sum = "sum(case when " + IsPlausible("fInvJE") + " then fInvJE else 0 end)";
     return {
         {"Select fInvNo,count(*) From {H} Where fInvNo<>'' Group By fInvNo{M} Having count(*)>1" +
              std::string(orders ? kNotOfOnePlan : ""),
@@ -129,7 +129,7 @@ void CheckCopies(const Book& book, Findings& findings) {
 // Quantity times price; a price may have been rounded to two decimals or the company's, after its amount.
 void CheckAmounts(const Book& book, std::int64_t decimals, Findings& findings) {
     const std::string slack = decimals <= 0 ? "0.5" : decimals == 1 ? "0.05" : "0.005";
-    const std::string product = "(case when " + IsHuman("b.fInvSL") + " And " + IsHuman("b.fInvDJ") +
+    const std::string product = "(case when " + IsPlausible("b.fInvSL") + " And " + IsPlausible("b.fInvDJ") +
                                 " then b.fInvSL*b.fInvDJ else 0 end)";
     Run({OfBook("Select b.fInvNo,b.fRowID,b.fInvJE,b.fInvSL,b.fInvDJ From {L} b Where b.fInv1=0 And abs(" +
                     OrZero("b.fInvJE") + "-" + OrZero(product) + ")>0.0051+" + slack +

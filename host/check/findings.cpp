@@ -81,7 +81,7 @@ std::string IsAbsurd(const std::string& x) {
     return "(" + x + ">" + kBig + " Or " + x + "<-" + kBig + ")";
 }
 
-std::string IsHuman(const std::string& x) {
+std::string IsPlausible(const std::string& x) {
     return "abs(" + x + ")<" + kBig;
 }
 

@@ -57,12 +57,12 @@ struct Book {
 std::span<const Book> AllBooks();
 
 // Pieces of statements, alike on both engines: 1 where two fields differ, nothing being equal to nothing; for
-// texts "" as well; a field with nothing as 0; a field that is no figure of human size, and one that is.
+// texts "" as well; a field with nothing as 0; a field that holds no figure of human size, and one that does.
 std::string Differ(const std::string& x, const std::string& y);
 std::string TextsDiffer(const std::string& x, const std::string& y);
 std::string OrZero(const std::string& x);
 std::string IsAbsurd(const std::string& x);
-std::string IsHuman(const std::string& x);
+std::string IsPlausible(const std::string& x);
 std::string SameDay(const std::string& x, const std::string& y);
 // "1,2,-3"; a number that no type has for none.
 std::string InList(const std::vector<int>& numbers);
