@@ -7,6 +7,7 @@
 #include "host/company/create_company.h"
 #include "host/company/prepare_database.h"
 #include "host/company_address.h"
+#include "host/program/words.h"
 #include "host/property_settings.h"
 #include "host/robot.h"
 #include "host/screens.h"
@@ -98,6 +99,7 @@ int Commands::Run() const {
 
 CLI::App& Commands::Add(const char* name, const char* purpose, std::function<int()> run) {
     CLI::App* command = app_.add_subcommand(name, purpose);
+    SpeakChinese(*command);
     commands_.emplace_back(command, std::move(run));
     return *command;
 }

@@ -7,7 +7,7 @@
 
 namespace jxc {
 
-// Gives the help its Chinese words. Before commands and options are added: they take the words over.
+// Gives the help of the program, or of a command, its Chinese words. Before options are added: they take them over.
 void SpeakChinese(CLI::App& app);
 
 // Why a command line was not understood, in the words of the help.
