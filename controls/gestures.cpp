@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "controls/bounds.h"
 #include "controls/text.h"
 #include "controls/view.h"
 
@@ -98,9 +99,13 @@ Value TypedTick(const GridColumn& column, const std::string& text) {
     throw GestureRefused("“" + column.caption + "”只能是 1 或 0。");
 }
 
+GestureRefused NoNumber(const GridColumn& column) {
+    return GestureRefused("“" + column.caption + "”只能输入数字。");
+}
+
 void RequireBelow(const GridColumn& column, double figure) {
-    if (!std::isfinite(figure) || (column.below > 0 && std::fabs(figure) >= column.below))
-        throw GestureRefused("“" + column.caption + "”必须小于 " + FormatFixed(column.below, 0, true) + "。");
+    if (Reaches(figure, column.below))
+        throw GestureRefused(BoundText(column.caption, column.below));
 }
 
 } // namespace
@@ -117,9 +122,11 @@ Value TypedValue(const GridColumn& column, const std::string& text) {
     if (Trim(digits).empty())
         return {};
     if (!IsNumericText(digits))
-        throw GestureRefused("“" + column.caption + "”只能输入数字。");
+        throw NoNumber(column);
     const double number = Val(digits);
     RequireBelow(column, number);
+    if (!std::isfinite(number))
+        throw NoNumber(column);
     if (RoundDecimal(number, column.decimals) != number)
         throw GestureRefused("“" + column.caption + "”最多 " + std::to_string(column.decimals) + " 位小数。");
     return number;

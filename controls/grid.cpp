@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "controls/bounds.h"
 #include "controls/screen.h"
 #include "controls/text.h"
 
@@ -117,8 +118,7 @@ void Grid::Recalculate() {
 
 int Grid::ColumnOutOfBounds(int row) const {
     for (int column = 1; column <= ColumnCount(); ++column) {
-        const double bound = Column(column).below;
-        if (bound > 0 && !(std::fabs(Number(row, column)) < bound)) // no number is not below either
+        if (Reaches(Number(row, column), Column(column).below))
             return column;
     }
     return 0;

@@ -53,7 +53,7 @@ struct Grid : Control {
     bool HasFormula(int column) const;
     // Works the formulas out anew for every row.
     void Recalculate();
-    // The first column of the row with a figure that is not finite or reaches its column's bound; 0 for none.
+    // The first column of the row whose figure reaches its bound or is none; 0 when all are below.
     int ColumnOutOfBounds(int row) const;
 
     // Rows.

@@ -77,6 +77,16 @@ void WarnOfError(const std::string& title, const std::exception& error) {
                   std::string(typeid(error).name()) + "：" + error.what());
 }
 
+bool Attempt(const std::string& title, const std::function<void()>& work) {
+    try {
+        work();
+        return true;
+    } catch (const std::exception& error) {
+        WarnOfError(title, error);
+        return false;
+    }
+}
+
 void Inform(const std::string& title, const std::string& text) {
     CurrentView().ShowBox({title, text, BoxIcon::Information, {BoxButton::OK}});
 }

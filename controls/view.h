@@ -3,6 +3,7 @@
 #pragma once
 
 #include <exception>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -37,10 +38,10 @@ class View {
     virtual void ShowNotice(const std::string& title, const std::string& text) = 0;
     // A line beside the work and a sound; nothing waits for an answer, so the next key answers nothing.
     virtual void Signal(const std::string& text) = 0;
-    // Opens a file, mail or web address with the desktop's program.
     // The database has not answered for so many seconds, perhaps because another user is saving; -1 when it has.
     // False when the person gives up: the work then fails with that reason.
     virtual bool KeepWaiting(int seconds) = 0;
+    // Opens a file, mail or web address with the desktop's program.
     virtual void OpenAddress(const std::string& address) = 0;
     // Starts the dialer with a number, "" without one; nothing where the platform has no dialer.
     virtual void DialNumber(const std::string& number) = 0;
@@ -83,6 +84,8 @@ void WarnOfFailure(const std::string& title, const std::string& text, const std:
 // An error that no routine expected: a fault of the program, told as such. Errors of people and of the world are
 // runtime errors with a text for people, which is told as it is.
 void WarnOfError(const std::string& title, const std::exception& error);
+// Runs `work`; what it throws is told by WarnOfError. False then.
+bool Attempt(const std::string& title, const std::function<void()>& work);
 void Inform(const std::string& title, const std::string& text);
 bool AskOkCancel(const std::string& title, const std::string& text); // true for OK
 bool AskYesNo(const std::string& title, const std::string& text);    // true for Yes

@@ -1,7 +1,5 @@
 #include "documents/bounds.h"
 
-#include <cmath>
-
 #include "controls/text.h"
 #include "documents/document_entry.h"
 
@@ -24,14 +22,6 @@ std::optional<FigureRefusal> LineOutOfBounds(frmDj02& s, double rate) {
 }
 
 } // namespace
-
-bool Reaches(double figure, double bound) {
-    return !(std::fabs(figure) < bound);
-}
-
-std::string BoundText(const std::string& caption, double bound) {
-    return "“" + caption + "”必须小于 " + FormatFixed(bound, 0, true) + "！";
-}
 
 std::optional<FigureRefusal> FigureOutOfBounds(frmDj02& s) {
     const double rate = Val(s.txtInvHbDl.text);

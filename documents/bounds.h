@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 
+#include "controls/bounds.h"
 #include "documents/frmDj02.h"
 
 namespace jxc {
@@ -24,11 +25,6 @@ constexpr double kDiscount = 100;
 constexpr double kQuantitySum = 1e9;
 constexpr double kAmountSum = 1e11;
 } // namespace below
-
-// What a figure that reaches its bound is told with.
-std::string BoundText(const std::string& caption, double bound);
-// Whether a figure reaches its bound, or is none.
-bool Reaches(double figure, double bound);
 
 // Why the document's figures cannot be saved, and where: a control, of the grid also row and column.
 struct FigureRefusal {

@@ -136,9 +136,10 @@ int Play(const std::string& company) {
     return 0;
 }
 
-// The tour enters and approves documents: never in the books of somebody's own company.
+// The tour enters and approves documents: never in the books of somebody's own company, which is not even brought
+// up to this program's tables.
 void RequireSample(const std::string& company) {
-    const OpenCompany open(company);
+    const OpenCompany open(company, OpenFor::Looking);
     const Rows name = Conn().Query("Select Top 1 CompName From myCompany");
     if (name.Count() == 0 || name.At(0, 0).AsText() != kSampleCompany.name)
         throw std::runtime_error("演示会录入并审核单据，只在样例公司中进行：" + WithoutPassword(company) +

@@ -1,6 +1,5 @@
 #include "settings/type_row.h"
 
-#include "session/database/recordset.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -10,16 +9,13 @@ std::string TypeRowStatement(int type) {
            " And fSetNoUse_<>1 Order by fRowID";
 }
 
-std::optional<TypeRow> ReadTypeRow(int type) {
-    const Recordset row(Conn(), TypeRowStatement(type));
-    if (row.AtEnd())
-        return std::nullopt;
+TypeRow TypeRowOf(const Recordset& row) {
     const auto choice = [&](const char* field) {
         return row[field].IsNull() ? -1 : static_cast<int>(row[field].AsLong());
     };
     const auto flag = [&](const char* field) { return row[field].AsLong() == 1; };
     TypeRow read;
-    read.fSetNo = type;
+    read.fSetNo = choice("fSetNo");
     read.fSetName = row["fSetName"].AsText();
     read.fSetTjType = choice("fSetTjType");
     read.fSetKhType = choice("fSetKhType");
@@ -40,6 +36,13 @@ std::optional<TypeRow> ReadTypeRow(int type) {
     read.fSetKc_ = flag("fSetKc_");
     read.fSetJy_ = flag("fSetJy_");
     return read;
+}
+
+std::optional<TypeRow> ReadTypeRow(int type) {
+    const Recordset row(Conn(), TypeRowStatement(type));
+    if (row.AtEnd())
+        return std::nullopt;
+    return TypeRowOf(row);
 }
 
 } // namespace jxc

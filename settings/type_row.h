@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "session/database/recordset.h"
+
 namespace jxc {
 
 // The choices of list columns; -1 is "none" in each.
@@ -38,7 +40,10 @@ struct TypeRow {
     bool IsKit() const { return fSetNo == 31 || fSetNo == 32; }
 };
 
-// The type's row; nothing when there is none in use. An empty list column counts as -1, an empty flag as off.
+// The row at which a recordset of all the table's columns stands. An empty list column counts as -1, an empty flag as
+// off.
+TypeRow TypeRowOf(const Recordset& row);
+// The type's row; nothing when there is none in use.
 std::optional<TypeRow> ReadTypeRow(int type);
 std::string TypeRowStatement(int type);
 

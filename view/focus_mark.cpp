@@ -13,7 +13,7 @@ constexpr int kThick = 2;
 // A list that drops down has the keyboard although the box beneath keeps the focus.
 bool HasKeyboard(const QWidget* view) {
     const QWidget* focused = QApplication::focusWidget();
-    return !view || view->window()->windowType() == Qt::Popup || view == focused ||
+    return view->window()->windowType() == Qt::Popup || view == focused ||
            (focused && view->isAncestorOf(focused));
 }
 
@@ -35,6 +35,16 @@ QStyleOptionViewItem Faint(const QStyleOptionViewItem& option) {
         faint.palette.setColor(group, QPalette::HighlightedText, option.palette.color(group, QPalette::Text));
     }
     return faint;
+}
+
+// Draws with the option as it is, or with a faint one where the selection does not have the keyboard.
+template <typename Draw>
+void DrawFaintly(const QStyleOption* option, const QWidget* widget, const Draw& draw) {
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (!item || !IsFaint(*item, widget))
+        return draw(option);
+    const QStyleOptionViewItem faint = Faint(*item);
+    draw(&faint);
 }
 
 // The widget to be framed: inner lines of lists and dates stand for the whole.
@@ -64,22 +74,16 @@ class Frame : public QWidget {
 
 void FocusStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
-    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
-    if (item && IsFaint(*item, widget)) {
-        const QStyleOptionViewItem faint = Faint(*item);
-        return QProxyStyle::drawPrimitive(element, &faint, painter, widget);
-    }
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    DrawFaintly(option, widget, [&](const QStyleOption* shown) {
+        QProxyStyle::drawPrimitive(element, shown, painter, widget);
+    });
 }
 
 void FocusStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
-    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
-    if (item && IsFaint(*item, widget)) {
-        const QStyleOptionViewItem faint = Faint(*item);
-        return QProxyStyle::drawControl(element, &faint, painter, widget);
-    }
-    QProxyStyle::drawControl(element, option, painter, widget);
+    DrawFaintly(option, widget, [&](const QStyleOption* shown) {
+        QProxyStyle::drawControl(element, shown, painter, widget);
+    });
 }
 
 FocusMark::FocusMark() {

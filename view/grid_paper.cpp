@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "session/print_grid.h"
 #include "view/text.h"
@@ -35,10 +36,6 @@ bool IsFigure(const QString& text) {
 
 } // namespace
 
-QPageLayout StandardPage(QPageLayout::Orientation orientation) {
-    return {QPageSize(QPageSize::A4), orientation, QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter};
-}
-
 GridPaper::GridPaper(const GridPrintJob& job, const QDateTime& printed)
     : GridPaper(job, printed, StandardPage(QPageLayout::Portrait)) {
     if (size_ >= kLeastUpright)
@@ -48,7 +45,7 @@ GridPaper::GridPaper(const GridPrintJob& job, const QDateTime& printed)
 }
 
 GridPaper::GridPaper(const GridPrintJob& job, const QDateTime& printed, const QPageLayout& layout)
-    : Paper(layout), job_(job), printed_(printed), header_(ShownHeader(job.header)) {
+    : Paper(layout), job_(job), printed_(printed) {
     MeasureColumns();
     LayOut();
 }
@@ -115,16 +112,25 @@ void GridPaper::LayOut() {
                                                       2 * kRowPadding);
     }
     headingHeight_ = std::min(headingHeight_, 4 * rowHeight_);
+    LayOutHeader();
+}
+
+// Below the title the pairs stand three to a row and are wrapped, never cut.
+void GridPaper::LayOutHeader() {
+    pairs_.clear();
     headerHeight_ = bold_.LineHeight() * kTitleSize + 6;
-    const double pairWidth = width / kPairsInRow - 6;
+    const double step = Area().width() / kPairsInRow;
     double tallest = 0;
-    for (size_t i = 0; i < header_.size(); ++i) {
-        const QString text = Q(header_[i].first + "：" + header_[i].second);
-        tallest = std::max(tallest, ParagraphHeight(text, kSize, false, pairWidth));
-        if (i + 1 == header_.size() || i % kPairsInRow == kPairsInRow - 1)
+    for (const auto& [name, value] : ShownHeader(job_.header)) {
+        const QString text = Q(name + "：" + value);
+        const size_t place = pairs_.size() % kPairsInRow;
+        if (place == 0)
             headerHeight_ += std::exchange(tallest, 0);
+        const double height = ParagraphHeight(text, kSize, false, step - 6);
+        pairs_.push_back({text, {double(place) * step, headerHeight_, step - 6, height}});
+        tallest = std::max(tallest, height);
     }
-    headerHeight_ += 4;
+    headerHeight_ += tallest + 4;
 }
 
 int GridPaper::RowsOn(int page) const {
@@ -158,25 +164,13 @@ void GridPaper::DrawPage(QPainter& painter, int page) const {
     DrawFoot(on, page);
 }
 
-// Below the header. Its pairs stand three to a row and are wrapped, never cut.
+// Below the header.
 double GridPaper::DrawHeader(PointPainter& on) const {
-    const double width = Area().width();
-    const double titleHeight = bold_.LineHeight() * kTitleSize;
     on.SetFont(kTitleSize, true);
-    on.Paragraph({0, 0, width, titleHeight}, Qt::AlignHCenter, Q(job_.title));
-    double top = titleHeight + 6;
-    double tallest = 0;
+    on.Paragraph({0, 0, Area().width(), bold_.LineHeight() * kTitleSize}, Qt::AlignHCenter, Q(job_.title));
     on.SetFont(kSize);
-    for (size_t i = 0; i < header_.size(); ++i) {
-        const QString text = Q(header_[i].first + "：" + header_[i].second);
-        const double pairWidth = width / kPairsInRow - 6;
-        const double height = ParagraphHeight(text, kSize, false, pairWidth);
-        on.Paragraph({double(i % kPairsInRow) * width / kPairsInRow, top, pairWidth, height}, Qt::AlignLeft,
-                     text);
-        tallest = std::max(tallest, height);
-        if (i % kPairsInRow == kPairsInRow - 1)
-            top += std::exchange(tallest, 0);
-    }
+    for (const HeaderPair& pair : pairs_)
+        on.Paragraph(pair.place, Qt::AlignLeft, pair.text);
     return headerHeight_;
 }
 
@@ -219,7 +213,7 @@ void GridPaper::DrawRow(PointPainter& on, int row, double top) const {
 void GridPaper::DrawFoot(PointPainter& on, int page) const {
     const double width = Area().width();
     const double baseline = Area().height() - 4;
-    const QString pages = QString("第 %1 页，共 %2 页").arg(page).arg(PageCount());
+    const QString pages = PlaceText(page, PageCount());
     const QString printed = "打印时间：" + printed_.toString("yyyy-MM-dd HH:mm");
     const double pagesLeft = (width - plain_.Of(pages) * kFootSize) / 2;
     on.SetFont(kFootSize);

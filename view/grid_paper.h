@@ -7,8 +7,6 @@
 // the column gets wider. Other texts are cut with an ellipsis.
 #pragma once
 
-#include <string>
-#include <utility>
 #include <vector>
 
 #include <QDateTime>
@@ -39,8 +37,14 @@ class GridPaper : public Paper {
         double size = 0; // of the font, in points
     };
 
+    struct HeaderPair {
+        QString text;
+        QRectF place;
+    };
+
     void MeasureColumns();
     void LayOut();
+    void LayOutHeader();
     double WantedWidth() const;
     double WidestFigure(int column) const;
     QString CellText(int row, int column) const;
@@ -54,10 +58,10 @@ class GridPaper : public Paper {
 
     const GridPrintJob job_;
     const QDateTime printed_;
-    std::vector<std::pair<std::string, std::string>> header_;
     const TextWidths plain_;
     const TextWidths bold_{true};
     std::vector<PrintedColumn> columns_;
+    std::vector<HeaderPair> pairs_;
     double size_ = 0;
     double rowHeight_ = 0;
     double headingHeight_ = 0;

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include <QPageLayout>
+#include <QString>
 
 class QPainter;
 
@@ -30,6 +31,9 @@ class Paper {
 
     QPageLayout layout_;
 };
+
+// "第 2 页，共 5 页": where in the whole a page stands.
+QString PlaceText(int page, int pages);
 
 // A4 with the margins that every printer can keep.
 QPageLayout StandardPage(QPageLayout::Orientation orientation);

@@ -138,7 +138,7 @@ class PreviewWindow : public QDialog {
     void Turn(int page) {
         const int pages = paper_.PageCount();
         page_ = std::clamp(page, 1, pages);
-        place_->setText(QString("第 %1 页，共 %2 页").arg(page_).arg(pages));
+        place_->setText(PlaceText(page_, pages));
         for (QPushButton* back : {toFirst_, toPrevious_})
             back->setEnabled(page_ > 1);
         for (QPushButton* forth : {toNext_, toLast_})

@@ -15,12 +15,8 @@ void SaveTo(QWidget& window, const std::string& title, const QString& kind, cons
     if (dialog.exec() != QDialog::Accepted)
         return;
     const QString file = dialog.selectedFiles().front();
-    try {
-        save(file);
+    if (Attempt(title, [&] { save(file); }))
         Inform(title, "已保存：" + S(file));
-    } catch (const std::exception& error) {
-        Warn(title, error.what());
-    }
 }
 
 } // namespace jxc

@@ -39,7 +39,7 @@ void TextPaper::DrawPage(QPainter& painter, int page) const {
     document_.documentLayout()->draw(&painter, context);
     painter.restore();
     PointPainter on(painter);
-    const QString pages = QString("第 %1 页，共 %2 页").arg(page).arg(PageCount());
+    const QString pages = PlaceText(page, PageCount());
     on.SetFont(kFootSize);
     on.Text((Area().width() - TextWidths().Of(pages) * kFootSize) / 2, Area().height() - 4, pages);
 }

@@ -1,4 +1,4 @@
-// The host's ledger: approval places one entry for the document, marked "自动挂入", reversal takes it away.
+// The host's ledger: approval places one entry for the document, marked as such, reversal takes it away.
 // Amounts are in document currency with their sign, so a return enters negative.
 
 #include <optional>
@@ -60,7 +60,7 @@ void AddEntry(const frmDj02& s, int kind, int direction, std::int64_t company) {
     entry.Set("fInit", 0);
     entry.Set("fMoneyA", kind == 0 ? total : 0);
     entry.Set("fMoneyB", kind == 0 ? Val(s.txtSsSf.text) : total);
-    entry.Set("fBrief", "自动挂入");
+    entry.Set("fBrief", kPlacedByApproval);
     entry.Set("fInvID", s.Number());
     entry.Set("fOrderID", s.txtHtNo.text);
     entry.Set("fUser", session.UserName);

@@ -30,6 +30,8 @@ void ReadCostPrice(const frmDj02& s);
 
 // The series of numbers from which the type's account entries take theirs, 0 without entries.
 int AccountSeries(const TypeRow& type);
+// The text (fBrief) by which an entry is known as an approval's; others are the host's own.
+inline constexpr const char* kPlacedByApproval = "自动挂入";
 // One entry of the host's ledger: a customer's (kind 0) or a money account's (kind 1), or its removal.
 void PostAccountEntry(const frmDj02& s, int kind, int direction, std::int64_t company, bool reversal);
 

@@ -1,25 +1,18 @@
 // Documents: headers, lines, the copies of the header on them, figures, dates and what they refer to.
 
 #include "controls/text.h"
-#include "host/check/findings.h"
-#include "host/check/type_rows.h"
+#include "host/check/checked_company.h"
 #include "session/book.h"
-#include "session/database/routines.h"
-#include "session/session.h"
-#include "settings/parameters.h"
 
 namespace jxc {
 
 namespace {
 
 // "{H}", "{L}", "{ON}" (lines b on headers a), "{M}" of a book in a statement.
-std::string OfBook(std::string sql, const Book& book) {
-    const std::pair<std::string, std::string> pieces[] = {
-        {"{H}", book.Headers()}, {"{L}", book.Lines()}, {"{ON}", book.On("b", "a")}, {"{M}", book.Month()}};
-    for (const auto& [piece, text] : pieces)
-        for (size_t at = sql.find(piece); at != std::string::npos; at = sql.find(piece, at))
-            sql.replace(at, piece.size(), text);
-    return sql;
+std::string OfBook(const std::string& sql, const Book& book) {
+    return Filled(
+        sql,
+        {{"{H}", book.Headers()}, {"{L}", book.Lines()}, {"{ON}", book.On("b", "a")}, {"{M}", book.Month()}});
 }
 
 std::string FiguresAbsurd(std::initializer_list<const char*> fields) {
@@ -37,7 +30,7 @@ std::vector<Rule> BookRules(const Book& book) {
     const bool orders = book.stem == "tJXC_CkHt";
     const std::string blank = "fInvNo is null Or fInvNo='' Or fInvNo like ' %' Or fInvNo like '% '"
                               " Or fInvNo like '　%' Or fInvNo like '%　'";
-    const std::string sum = "sum(case when abs(fInvJE)<1000000000000000.0 then fInvJE else 0 end)";
+    const std::string sum = "sum(case when " + IsPlausible("fInvJE") + " then fInvJE else 0 end)";
     return {
         {"Select fInvNo,count(*) From {H} Where fInvNo<>'' Group By fInvNo{M} Having count(*)>1" +
              std::string(orders ? kNotOfOnePlan : ""),
@@ -111,47 +104,33 @@ const Rule kWarehouseRules[] = {
 
 // The copies of the header on its lines, one finding a document.
 void CheckCopies(const Book& book, Findings& findings) {
-    const char* const names[] = {"单号", "日期", "货币", "汇率", "客户", "仓库", "行别"};
     const std::string customer = book.stem == "tJXC_CkJh"
                                      ? "0"
                                      : "(case when a.fInvType=31 Or a.fInvType=32 then 0 else " +
                                            Differ(OrZero("b.fKhID"), OrZero("a.fKhID")) + " end)";
-    const std::string copies[] = {
-        TextsDiffer("b.fInvNo", "a.fInvNo"),
-        Differ("b.fInvDate", "a.fInvDate"),
-        TextsDiffer("b.fInvHb", "a.fInvHb"),
-        Differ("b.fInvHbDl", "a.fInvHbDl"),
-        customer,
-        TextsDiffer("b.fCkName", "(case when b.fInv1=1 then a.fCkName2 else a.fCkName end)"),
-        "(case when b.fInv1=0 then 0 when b.fInv1=1 And (a.fCkName2<>'' Or a.fInvType=31 Or a.fInvType=32)"
-        " then 0 else 1 end)"};
-    std::string each, any;
-    for (const std::string& copy : copies) {
-        each += ",max(" + copy + ")";
-        any += (any.empty() ? "" : "+") + copy;
-    }
-    const Rows rows = findings.Ask(OfBook("Select a.fInvNo,a.fInvID" + each +
-                                              " From {H} a Inner Join {L} b On {ON} Where " + any +
-                                              ">0 Group By a.fInvID,a.fInvNo",
+    const Difference copies[] = {
+        {"单号", TextsDiffer("b.fInvNo", "a.fInvNo")},
+        {"日期", Differ("b.fInvDate", "a.fInvDate")},
+        {"货币", TextsDiffer("b.fInvHb", "a.fInvHb")},
+        {"汇率", Differ("b.fInvHbDl", "a.fInvHbDl")},
+        {"客户", customer},
+        {"仓库", TextsDiffer("b.fCkName", "(case when b.fInv1=1 then a.fCkName2 else a.fCkName end)")},
+        {"行别", "(case when b.fInv1=0 then 0 when b.fInv1=1 And (a.fCkName2<>'' Or a.fInvType=31 Or "
+                 "a.fInvType=32) then 0 else 1 end)"}};
+    const Rows rows = findings.Ask(OfBook("Select a.fInvNo,a.fInvID" + EachOf(copies, "max") +
+                                              " From {H} a Inner Join {L} b On {ON} Where " + AnyOf(copies) +
+                                              " Group By a.fInvID,a.fInvNo",
                                           book));
-    for (size_t row = 0; row < rows.Count(); ++row) {
-        std::string wrong;
-        for (size_t i = 0; i < std::size(names); ++i)
-            if (rows.At(row, i + 2).AsLong() > 0)
-                wrong.append(wrong.empty() ? "" : "、").append(names[i]);
-        findings.Add("单据 " + rows.At(row, 0).AsText() + "：明细的" + wrong +
+    for (size_t row = 0; row < rows.Count(); ++row)
+        findings.Add("单据 " + rows.At(row, 0).AsText() + "：明细的" + WrongNames(copies, rows, row, 2) +
                      "与单据不符；请反审核（如已审核）后修改存盘，使明细重写。");
-    }
 }
 
 // Quantity times price; a price may have been rounded to two decimals or the company's, after its amount.
-void CheckAmounts(const Book& book, Findings& findings) {
-    const Rows parameters = findings.Ask("Select fSysDeciDj From tJXC_InvSys");
-    const auto decimals = parameters.Count() > 0 ? parameters.At(0, 0).AsLong() : 2;
+void CheckAmounts(const Book& book, std::int64_t decimals, Findings& findings) {
     const std::string slack = decimals <= 0 ? "0.5" : decimals == 1 ? "0.05" : "0.005";
-    const std::string product =
-        "(case when abs(b.fInvSL)<1000000000000000.0 And abs(b.fInvDJ)<1000000000000000.0"
-        " then b.fInvSL*b.fInvDJ else 0 end)";
+    const std::string product = "(case when " + IsPlausible("b.fInvSL") + " And " + IsPlausible("b.fInvDJ") +
+                                " then b.fInvSL*b.fInvDJ else 0 end)";
     Run({OfBook("Select b.fInvNo,b.fRowID,b.fInvJE,b.fInvSL,b.fInvDJ From {L} b Where b.fInv1=0 And abs(" +
                     OrZero("b.fInvJE") + "-" + OrZero(product) + ")>0.0051+" + slack +
                     "*abs(b.fInvSL)+0.000000001*abs(" + OrZero("b.fInvJE") + ")",
@@ -186,30 +165,21 @@ void CheckTypesOf(const Book& book, const CheckedTypes& types, Findings& finding
     }
 }
 
-std::optional<Date> PeriodStart() {
-    try {
-        return ReadParameters().periodStart;
-    } catch (const DatabaseError&) {
-        return std::nullopt; // the parameters are a finding of their own
-    }
-}
-
 } // namespace
 
-void CheckBooks(Findings& findings) {
-    const CheckedTypes types = ReadTypes(findings);
-    const std::optional<Date> start = PeriodStart();
+void CheckBooks(const CheckedCompany& company, Findings& findings) {
+    const auto decimals = company.parameters.Count() > 0 ? company.Parameter("fSysDeciDj").AsLong() : 2;
     for (const Book& book : AllBooks()) {
         for (const Rule& rule : BookRules(book))
             Run({OfBook(rule.sql, book), OfBook(rule.told, book)}, findings);
         CheckCopies(book, findings);
-        CheckAmounts(book, findings);
-        CheckDates(book, start, findings);
+        CheckAmounts(book, decimals, findings);
+        CheckDates(book, company.periodStart, findings);
         if (book.closed)
             continue;
         for (const Rule& rule : OpenBookRules(book))
             Run({OfBook(rule.sql, book), rule.told}, findings);
-        CheckTypesOf(book, types, findings);
+        CheckTypesOf(book, company.types, findings);
     }
     for (const Rule& rule : kWarehouseRules)
         Run(rule, findings);

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "host/check/findings.h"
+#include "host/check/checked_company.h"
 #include "session/database/engine.h"
 #include "session/session.h"
 
@@ -21,9 +21,12 @@ std::vector<std::string> CheckCompany(std::vector<std::string>* notes) {
     std::optional<ReadingTransaction> reading;
     if (!Conn().InTransaction())
         reading.emplace(Conn());
-    for (const auto check : {CheckSettings, CheckMasters, CheckBooks, CheckPairs, CheckStock, CheckCosts,
-                             CheckOrders, CheckLedger, CheckSupplierHistory})
-        check(findings);
+    const CheckedCompany company = ReadCompany(findings);
+    CheckSettings(company, findings);
+    CheckMasters(findings);
+    for (const auto check :
+         {CheckBooks, CheckPairs, CheckStock, CheckCosts, CheckOrders, CheckLedger, CheckSupplierHistory})
+        check(company, findings);
     if (notes)
         *notes = findings.Notes();
     return findings.Lines();

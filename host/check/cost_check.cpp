@@ -5,8 +5,7 @@
 #include <map>
 
 #include "controls/text.h"
-#include "host/check/findings.h"
-#include "host/check/type_rows.h"
+#include "host/check/checked_company.h"
 
 namespace jxc {
 
@@ -18,8 +17,8 @@ const Rule kPriceRules[] = {{"Select c.fCpCode,count(*) From tJXC_CkTj_tmp t Inn
                              "c.fCpID=t.fCpID Group By c.fCpCode Having count(*)>1",
                              "产品 {1}：整体成本价有 {2} 行重复；请刷新库存统计。"},
                             {"Select c.fCpCode,t.fKcDj From tJXC_CkTj_tmp t Inner Join tJXC_Cp c On "
-                             "c.fCpID=t.fCpID Where t.fKcDj is null"
-                             " Or t.fKcDj>1000000000000000.0 Or t.fKcDj<-1000000000000000.0",
+                             "c.fCpID=t.fCpID Where t.fKcDj is null Or " +
+                                 IsAbsurd("t.fKcDj"),
                              "产品 {1}：整体成本价“{2}”不是正常的数值；请刷新库存统计。"}};
 
 void CheckMissingPrices(const std::string& received, Findings& findings) {
@@ -86,13 +85,6 @@ void CheckWholeMovingPrices(const std::string& received, Findings& findings) {
             findings.Note("产品 " + of.code + "：整体成本价为 " + NumberText(of.price) + "，按单据应为 " +
                           NumberText(prices.front()) + "；请刷新库存统计。");
     }
-}
-
-// The types that are and always were issues.
-std::string TypesOfIssuesOnly(const CheckedTypes& types) {
-    return InList(TypesWhere(types, [&](int type, const TypeRow&) {
-        return ValuesOf(types, type, &TypeRow::fSetTjType) == std::set<int>{2};
-    }));
 }
 
 // Only issues carry a cost, and it is one of the prices at which the product is known.
@@ -183,8 +175,8 @@ void CheckAbsurdCosts(const CheckedTypes& types, const std::string& received, Fi
 
 } // namespace
 
-void CheckCosts(Findings& findings) {
-    const CheckedTypes types = ReadTypes(findings);
+void CheckCosts(const CheckedCompany& company, Findings& findings) {
+    const CheckedTypes& types = company.types;
     const std::string received = InList(TypesWhere(
         types, [](int, const TypeRow& row) { return row.fSetTjType == 0 || row.fSetTjType == 1; }));
     for (const Rule& rule : kPriceRules)

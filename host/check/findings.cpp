@@ -9,32 +9,48 @@ namespace jxc {
 
 namespace {
 
-const std::string kBig = "1000000000000000.0"; // no figure of a shop
+constexpr const char* kBig = "1000000000000000.0"; // no figure of a shop
 
 } // namespace
 
-Rows Findings::Ask(const std::string& sql) {
-    Rows rows;
+void Findings::Try(const std::function<void()>& look) {
     try {
-        Conn().Tolerantly([&] { rows = Conn().Query(sql); });
+        Conn().Tolerantly(look);
     } catch (const DatabaseError& error) {
         Add("有一项检查未能进行：" + std::string(error.what()) + "；请先处理其他问题后重新检查。");
-        return {};
     }
+}
+
+Rows Findings::Ask(const std::string& sql) {
+    Rows rows;
+    Try([&] { rows = Conn().Query(sql); });
     return rows;
 }
 
 void Run(const Rule& rule, Findings& findings) {
     const Rows rows = findings.Ask(rule.sql);
     for (size_t row = 0; row < rows.Count(); ++row) {
-        std::string line = rule.told;
-        for (size_t column = 0; column < rows.names.size(); ++column) {
-            const std::string place = "{" + std::to_string(column + 1) + "}";
-            for (size_t at = line.find(place); at != std::string::npos; at = line.find(place, at))
-                line.replace(at, place.size(), rows.At(row, column).AsText());
-        }
-        findings.Add(line);
+        Places columns;
+        for (size_t column = 0; column < rows.names.size(); ++column)
+            columns["{" + std::to_string(column + 1) + "}"] = rows.At(row, column).AsText();
+        findings.Add(Filled(rule.told, columns));
     }
+}
+
+std::string Filled(const std::string& text, const Places& places) {
+    std::string filled;
+    for (size_t at = 0; at < text.size();) {
+        const size_t end = text[at] == '{' ? text.find('}', at) : std::string::npos;
+        const auto place =
+            end == std::string::npos ? places.end() : places.find(text.substr(at, end + 1 - at));
+        if (place == places.end()) {
+            filled += text[at++];
+        } else {
+            filled += place->second;
+            at = end + 1;
+        }
+    }
+    return filled;
 }
 
 std::string Book::On(const std::string& x, const std::string& y) const {
@@ -65,6 +81,10 @@ std::string IsAbsurd(const std::string& x) {
     return "(" + x + ">" + kBig + " Or " + x + "<-" + kBig + ")";
 }
 
+std::string IsPlausible(const std::string& x) {
+    return "abs(" + x + ")<" + kBig;
+}
+
 std::string SameDay(const std::string& x, const std::string& y) {
     return "Convert(varchar(10)," + x + ",120)=Convert(varchar(10)," + y + ",120)";
 }
@@ -74,6 +94,29 @@ std::string InList(const std::vector<int>& numbers) {
     for (const int number : numbers)
         list.append(list.empty() ? "" : ",").append(std::to_string(number));
     return list.empty() ? "-999" : list;
+}
+
+std::string EachOf(std::span<const Difference> differences, const std::string& function) {
+    std::string columns;
+    for (const Difference& difference : differences)
+        columns += "," + function + "(" + difference.differs + ")";
+    return columns;
+}
+
+std::string AnyOf(std::span<const Difference> differences) {
+    std::string sum;
+    for (const Difference& difference : differences)
+        sum.append(sum.empty() ? "" : "+").append(difference.differs);
+    return sum + ">0";
+}
+
+std::string WrongNames(std::span<const Difference> differences, const Rows& rows, size_t row,
+                       size_t firstColumn) {
+    std::string wrong;
+    for (size_t i = 0; i < differences.size(); ++i)
+        if (rows.At(row, firstColumn + i).AsLong() > 0)
+            wrong.append(wrong.empty() ? "" : "、").append(differences[i].name);
+    return wrong;
 }
 
 bool Alike(double a, double b, double turnover) {

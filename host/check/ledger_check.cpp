@@ -5,49 +5,40 @@
 #include <set>
 
 #include "controls/text.h"
-#include "host/check/findings.h"
-#include "host/check/type_rows.h"
+#include "documents/approval/stages.h"
+#include "host/check/checked_company.h"
 #include "session/book.h"
 
 namespace jxc {
 
 namespace {
 
-const std::string kPlaced = "e.fBrief='自动挂入'";
+const std::string kIsPlaced = std::string("fBrief='") + kPlacedByApproval + "'";
+const std::string kPlaced = "e." + kIsPlaced;
 const std::string kOfDocument = "a.fInvNo=e.fInvID And " + SameDay("e.fDate", "a.fInvDate");
 
 void CheckEntries(const Book& book, Findings& findings) {
-    const char* const names[] = {"客户", "金额", "货币", "汇率", "订单号", "审核人", "经办人"};
     const std::string amount = "(case when e.fType1=0 And abs(" + OrZero("e.fMoneyA") + "-" +
                                OrZero("a.fInvJE") + ")>0.0051 then 1 when e.fType1=1 And (abs(" +
                                OrZero("e.fMoneyB") + "-" + OrZero("a.fInvJE") + ")>0.0051 Or " +
                                OrZero("e.fMoneyA") + "<>0) then 1 when e.fInit<>0 then 1 else 0 end)";
-    const std::string differ[] = {"(case when e.fType1=0 then " + Differ("e.fCompID", "a.fKhID") +
-                                      " else 0 end)",
-                                  amount,
-                                  TextsDiffer("e.fMoneyCode", "a.fInvHb"),
-                                  "(case when abs(" + OrZero("e.fMoneyRate") + "-" + OrZero("a.fInvHbDl") +
-                                      ")>0.0001 then 1 else 0 end)",
-                                  "(case when e.fOrderID is null Or e.fOrderID='' then 0 else " +
-                                      TextsDiffer("e.fOrderID", "a.fHtNo") + " end)",
-                                  TextsDiffer("e.fUser", "a.fInvSHR"),
-                                  TextsDiffer("e.fDoneman", "a.fInvJbr")};
-    std::string each, any;
-    for (const std::string& part : differ) {
-        each += "," + part;
-        any += (any.empty() ? "" : "+") + part;
-    }
-    const Rows rows = findings.Ask("Select e.fAcntNo,a.fInvNo" + each + " From tAccountDetail e Inner Join " +
-                                   book.Headers() + " a On " + kOfDocument + " Where " + kPlaced +
-                                   " And a.fInvSHR<>'' And " + any + ">0");
-    for (size_t row = 0; row < rows.Count(); ++row) {
-        std::string wrong;
-        for (size_t i = 0; i < std::size(names); ++i)
-            if (rows.At(row, i + 2).AsLong() > 0)
-                wrong.append(wrong.empty() ? "" : "、").append(names[i]);
+    const Difference repeated[] = {
+        {"客户", "(case when e.fType1=0 then " + Differ("e.fCompID", "a.fKhID") + " else 0 end)"},
+        {"金额", amount},
+        {"货币", TextsDiffer("e.fMoneyCode", "a.fInvHb")},
+        {"汇率", "(case when abs(" + OrZero("e.fMoneyRate") + "-" + OrZero("a.fInvHbDl") +
+                     ")>0.0001 then 1 else 0 end)"},
+        {"订单号", "(case when e.fOrderID is null Or e.fOrderID='' then 0 else " +
+                       TextsDiffer("e.fOrderID", "a.fHtNo") + " end)"},
+        {"审核人", TextsDiffer("e.fUser", "a.fInvSHR")},
+        {"经办人", TextsDiffer("e.fDoneman", "a.fInvJbr")}};
+    const Rows rows =
+        findings.Ask("Select e.fAcntNo,a.fInvNo" + EachOf(repeated) + " From tAccountDetail e Inner Join " +
+                     book.Headers() + " a On " + kOfDocument + " Where " + kPlaced +
+                     " And a.fInvSHR<>'' And " + AnyOf(repeated));
+    for (size_t row = 0; row < rows.Count(); ++row)
         findings.Add("帐户单 " + rows.At(row, 0).AsText() + "（单据 " + rows.At(row, 1).AsText() + "）：" +
-                     wrong + "与单据不符；请反审核该单据后重新审核。");
-    }
+                     WrongNames(repeated, rows, row, 2) + "与单据不符；请反审核该单据后重新审核。");
     Run({"Select a.fInvNo,count(*) From " + book.Headers() + " a Inner Join tAccountDetail e On " +
              kOfDocument + " Where " + kPlaced +
              " And a.fInvSHR<>'' Group By a.fInvID,a.fInvNo Having count(*)>1",
@@ -76,15 +67,23 @@ void CheckSides(const Book& book, const CheckedTypes& types, Findings& findings)
     }
 }
 
+// By type, the first key of a document that has an entry.
+std::map<int, std::int64_t> FirstWithEntry(const Book& book, Findings& findings) {
+    const Rows rows = findings.Ask("Select a.fInvType,min(a.fInvID) From " + book.Headers() +
+                                   " a Inner Join tAccountDetail e On " + kOfDocument + " Where " + kPlaced +
+                                   " And a.fInvSHR<>'' Group By a.fInvType");
+    std::map<int, std::int64_t> first;
+    for (size_t row = 0; row < rows.Count(); ++row)
+        first[static_cast<int>(rows.At(row, 0).AsLong())] = rows.At(row, 1).AsLong();
+    return first;
+}
+
 // Approved documents of the types without an entry, from the first key on that has one where the row was changed.
-void CheckMissing(const Book& book, const CheckedTypes& types, const std::string& source,
-                  const std::string& condition, const std::vector<int>& of, Findings& findings) {
-    const Rows first = findings.Ask("Select a.fInvType,min(a.fInvID) From " + book.Headers() +
-                                    " a Inner Join tAccountDetail e On " + kOfDocument + " Where " + kPlaced +
-                                    " And a.fInvSHR<>'' Group By a.fInvType");
-    std::map<std::int64_t, std::int64_t> firstWithEntry;
-    for (size_t row = 0; row < first.Count(); ++row)
-        firstWithEntry[first.At(row, 0).AsLong()] = first.At(row, 1).AsLong();
+void CheckMissing(const CheckedTypes& types, const std::vector<int>& of, const std::string& source,
+                  const std::string& condition, const std::map<int, std::int64_t>& firstWithEntry,
+                  Findings& findings) {
+    if (of.empty())
+        return;
     const Rows rows = findings.Ask("Select a.fInvNo,a.fInvID,a.fInvType From " + source +
                                    " Left Join tAccountDetail e On " + kOfDocument + " And " + kPlaced +
                                    " Where a.fInvSHR<>'' And " + condition + " And a.fInvType In (" +
@@ -100,23 +99,19 @@ void CheckMissing(const Book& book, const CheckedTypes& types, const std::string
 }
 
 void CheckPresence(const Book& book, const CheckedTypes& types, Findings& findings) {
+    const std::map<int, std::int64_t> first = FirstWithEntry(book, findings);
     const auto ofBook = [&](int type) { return BookStem(type, false) == book.stem; };
     const auto posts = [](const TypeRow& row) { return row.fSetWlType == 1 || row.fSetWlType == 2; };
-    CheckMissing(book, types, book.Headers() + " a", "a.fKhID>0",
-                 TypesWhere(types,
-                            [&](int type, const TypeRow& row) {
-                                return ofBook(type) && posts(row) && row.HasCustomer();
-                            }),
-                 findings);
+    const auto toCustomers = TypesWhere(
+        types, [&](int type, const TypeRow& row) { return ofBook(type) && posts(row) && row.HasCustomer(); });
+    CheckMissing(types, toCustomers, book.Headers() + " a", "a.fKhID>0", first, findings);
     // A warehouse may have got its account after the approval; a retail shop has had one from its beginning.
-    CheckMissing(book, types, "(" + book.Headers() + " a Inner Join tJXC_Ck w On w.fCkName=a.fCkName)",
-                 "w.fZhID>0 And w.fCkType1=1",
-                 TypesWhere(types,
-                            [&](int type, const TypeRow& row) {
-                                return ofBook(type) && !posts(row) &&
-                                       (row.fSetZjType == 3 || row.fSetZjType == 4);
-                            }),
-                 findings);
+    const auto toMoneyAccounts = TypesWhere(types, [&](int type, const TypeRow& row) {
+        return ofBook(type) && !posts(row) && (row.fSetZjType == 3 || row.fSetZjType == 4);
+    });
+    CheckMissing(types, toMoneyAccounts,
+                 "(" + book.Headers() + " a Inner Join tJXC_Ck w On w.fCkName=a.fCkName)",
+                 "w.fZhID>0 And w.fCkType1=1", first, findings);
 }
 
 std::string WithoutDocument() {
@@ -129,19 +124,19 @@ std::string WithoutDocument() {
 
 } // namespace
 
-void CheckLedger(Findings& findings) {
-    const CheckedTypes types = ReadTypes(findings);
+void CheckLedger(const CheckedCompany& company, Findings& findings) {
     for (const Book& book : AllBooks()) {
         CheckEntries(book, findings);
-        CheckSides(book, types, findings);
+        CheckSides(book, company.types, findings);
         if (!book.closed)
-            CheckPresence(book, types, findings);
+            CheckPresence(book, company.types, findings);
     }
     Run({WithoutDocument(),
          "帐户单 {1}（单据 {2}）没有已审核的单据；请在《资金管理系统》中核对后删除，或恢复该单据。"},
         findings);
     Run({"Select fAcntNo,count(*) From tAccountDetail Where fAcntNo<>'' Group By fAcntNo Having count(*)>1"
-         " And sum(case when fBrief='自动挂入' then 1 else 0 end)>0",
+         " And sum(case when " +
+             kIsPlaced + " then 1 else 0 end)>0",
          "帐户单号重复：{1}（{2} 张）；请修改其中一张。"},
         findings);
     Run({"Select e.fAcntNo,e.fInvID From tAccountDetail e Where " + kPlaced +

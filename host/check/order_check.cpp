@@ -4,10 +4,7 @@
 #include <set>
 
 #include "controls/text.h"
-#include "host/check/findings.h"
-#include "host/check/type_rows.h"
-#include "session/session.h"
-#include "settings/parameters.h"
+#include "host/check/checked_company.h"
 
 namespace jxc {
 
@@ -133,22 +130,18 @@ void CheckHistory(const std::string& periodStart, Findings& findings) {
 
 } // namespace
 
-void CheckOrders(Findings& findings) {
-    CheckBalances(ReadTypes(findings), findings);
+void CheckOrders(const CheckedCompany& company, Findings& findings) {
+    CheckBalances(company.types, findings);
     Run(kWrongOrder, findings);
 }
 
-void CheckSupplierHistory(Findings& findings) {
-    const CheckedTypes types = ReadTypes(findings);
-    const auto receipt = types.find(1);
-    if (receipt == types.end() ||
+void CheckSupplierHistory(const CheckedCompany& company, Findings& findings) {
+    const auto receipt = company.types.find(1);
+    if (receipt == company.types.end() ||
         (receipt->second.row.fSetTjType != 0 && receipt->second.row.fSetTjType != 1))
         return; // receipts that post no stock leave no history
-    try {
-        CheckHistory(IsoText(ReadParameters().periodStart), findings);
-    } catch (const DatabaseError&) {
-        // Without parameters there is no period; that is a finding of its own.
-    }
+    if (company.periodStart)
+        CheckHistory(IsoText(*company.periodStart), findings);
 }
 
 } // namespace jxc

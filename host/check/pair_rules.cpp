@@ -2,8 +2,7 @@
 // of the finished product instead.
 
 #include "documents/document_model.h"
-#include "host/check/findings.h"
-#include "host/check/type_rows.h"
+#include "host/check/checked_company.h"
 
 namespace jxc {
 
@@ -78,14 +77,13 @@ void CheckDirections(const Book& book, const CheckedTypes& types, Findings& find
 
 } // namespace
 
-void CheckPairs(Findings& findings) {
-    const CheckedTypes types = ReadTypes(findings);
+void CheckPairs(const CheckedCompany& company, Findings& findings) {
     for (const Book& book : AllBooks()) {
         CheckPartners(book, findings);
         if (!book.stem.starts_with("tJXC_CkDj"))
             continue;
         CheckFinishedProduct(book, findings);
-        CheckDirections(book, types, findings);
+        CheckDirections(book, company.types, findings);
     }
     Run({"Select a.fInvNo From (tJXC_CkDj01 a Inner Join tJXC_CkDj02 b On b.fInvID=a.fInvID And b.fInv1=0)"
          " Inner Join tJXC_CkDj02 c On c.fInvID=a.fInvID And c.fInv1=1 Where (a.fInvType=31 Or a.fInvType=32)"

@@ -1,9 +1,8 @@
 // Parameters, document types and master data: what everything else rests on.
 
 #include "controls/text.h"
-#include "host/check/findings.h"
-#include "host/check/type_rows.h"
-#include "session/book.h"
+#include "documents/approval/stages.h"
+#include "host/check/checked_company.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -20,24 +19,18 @@ constexpr Range kParameters[] = {{"fSysDay", "期间起始日", -28, 28}, {"fSys
                                  {"fSysDeciSl", "数量小数位", 0, 9}, {"fSysDeciDj", "单价小数位", 0, 9},
                                  {"fSysMaxRow", "单据行数", 0, 9999}};
 
-void CheckParameters(Findings& findings) {
-    const Rows rows = findings.Ask("Select * From tJXC_InvSys");
-    if (rows.Count() == 0)
+void CheckParameters(const CheckedCompany& company, Findings& findings) {
+    const size_t rows = company.parameters.Count();
+    if (rows == 0)
         return findings.Add("系统参数：没有参数行；请在[系统参数设置]中存盘一次。");
-    if (rows.Count() > 1)
-        findings.Add("系统参数：有 " + std::to_string(rows.Count()) +
+    if (rows > 1)
+        findings.Add("系统参数：有 " + std::to_string(rows) +
                      " 行，只应有一行；请保留正确的一行，删去其余。");
-    const auto cell = [&](const std::string& field) {
-        for (size_t column = 0; column < rows.names.size(); ++column)
-            if (EqualsNoCase(rows.names[column], field))
-                return rows.At(0, column);
-        return Value();
-    };
-    if (!ParseDate(cell("fSysDate").AsText()))
-        findings.Add("系统参数：[本期年月]为“" + cell("fSysDate").AsText() +
+    if (!company.periodStart)
+        findings.Add("系统参数：[本期年月]为“" + company.Parameter("fSysDate").AsText() +
                      "”，不是日期；请在[系统参数设置]中更正。");
     for (const Range& range : kParameters) {
-        const Value value = cell(range.field);
+        const Value value = company.Parameter(range.field);
         if (!value.IsNumber() || !(value.AsDouble() >= range.least && value.AsDouble() <= range.most))
             findings.Add("系统参数：[" + std::string(range.caption) + "]为“" + value.AsText() +
                          "”，不在允许范围内；请在[系统参数设置]中更正。");
@@ -52,10 +45,9 @@ const Rule kTypeRules[] = {
      "fSetAutoNo like '%X')",
      "单据类型 {1}：自动单号“{2}”没有计数位；请在单据设置中更正。"}};
 
-void CheckTypes(Findings& findings) {
+void CheckTypes(const CheckedTypes& types, Findings& findings) {
     for (const Rule& rule : kTypeRules)
         Run(rule, findings);
-    const CheckedTypes types = ReadTypes(findings);
     for (const int series : {51, 52})
         if (const auto found = types.find(series); found == types.end() || !found->second.used)
             findings.Add("单据类型 " + std::to_string(series) +
@@ -140,9 +132,9 @@ std::set<std::int64_t> AccountNumbers(Findings& findings) {
 
 } // namespace
 
-void CheckSettings(Findings& findings) {
-    CheckParameters(findings);
-    CheckTypes(findings);
+void CheckSettings(const CheckedCompany& company, Findings& findings) {
+    CheckParameters(company, findings);
+    CheckTypes(company.types, findings);
 }
 
 void CheckMasters(Findings& findings) {
@@ -155,7 +147,8 @@ void CheckMasters(Findings& findings) {
             findings.Add("仓库 " + tied.At(row, 0).AsText() + "：入帐帐户 " + tied.At(row, 1).AsText() +
                          " 已不存在；请在[仓库管理]中重新选择。");
     const Rows entered = findings.Ask("Select fCompID,count(*),min(fInvID) From tAccountDetail"
-                                      " Where fBrief='自动挂入' And fType1=1 Group By fCompID");
+                                      " Where fBrief='" +
+                                      std::string(kPlacedByApproval) + "' And fType1=1 Group By fCompID");
     for (size_t row = 0; row < entered.Count(); ++row)
         if (!accounts.contains(entered.At(row, 0).AsLong()))
             findings.Add("帐户单（单据 " + entered.At(row, 2).AsText() + " 等 " +

@@ -19,8 +19,8 @@ bool IsNothing(const Counted& counted) {
 
 class StockCheck {
   public:
-    explicit StockCheck(Findings& findings)
-        : findings_(findings), types_(ReadTypes(findings)), counted_(CountLines(types_, findings)) {
+    StockCheck(const CheckedCompany& company, Findings& findings)
+        : company_(company), findings_(findings), counted_(CountLines(company.types, findings)) {
         const Rows products = findings.Ask("Select fCpID,fCpCode From tJXC_Cp");
         for (size_t row = 0; row < products.Count(); ++row)
             codes_[products.At(row, 0).AsLong()] = products.At(row, 1).AsText();
@@ -48,8 +48,7 @@ class StockCheck {
   private:
     // A close or a reverse close moves the period; the counters stand until they are refreshed.
     bool IsStale(const Rows& rows) {
-        const Rows period = findings_.Ask("Select fSysDate From tJXC_InvSys");
-        const std::string month = period.Count() > 0 ? period.At(0, 0).AsText().substr(0, 7) : "";
+        const std::string month = company_.Parameter("fSysDate").AsText().substr(0, 7);
         for (size_t row = 0; row < rows.Count(); ++row)
             if (const Value& of = rows.At(row, 13); !of.IsNull() && of.AsText().substr(0, 7) != month)
                 return true;
@@ -89,7 +88,7 @@ class StockCheck {
     // Statistics can be refreshed up to a date. The last day, not the very last, up to which the documents make
     // all rows what they are; "" when there is none.
     std::string LastDayCounted() {
-        const std::map<std::string, Recount> days = CountLinesByDay(types_, findings_);
+        const std::map<std::string, Recount> days = CountLinesByDay(company_.types, findings_);
         Recount upTo;
         for (const auto& [key, figures] : stored_)
             upTo[key]; // rows that no document explains
@@ -177,8 +176,8 @@ class StockCheck {
             told("fKcJE", f[10], f[8] * f[9]);
     }
 
+    const CheckedCompany& company_;
     Findings& findings_;
-    const CheckedTypes types_;
     const Recount counted_;
     std::map<std::int64_t, std::string> codes_;
     std::set<std::string> warehouses_;
@@ -190,8 +189,8 @@ class StockCheck {
 
 } // namespace
 
-void CheckStock(Findings& findings) {
-    StockCheck(findings).Run();
+void CheckStock(const CheckedCompany& company, Findings& findings) {
+    StockCheck(company, findings).Run();
 }
 
 } // namespace jxc

@@ -4,8 +4,7 @@
 #include <array>
 #include <map>
 
-#include "host/check/findings.h"
-#include "host/check/type_rows.h"
+#include "host/check/checked_company.h"
 
 namespace jxc {
 

@@ -1,7 +1,5 @@
 #include "host/editors/host_editors.h"
 
-#include <algorithm>
-
 #include "host/editors/frmHostAccounts.h"
 #include "host/editors/frmHostCards.h"
 #include "host/editors/frmHostCompany.h"
@@ -26,6 +24,13 @@ std::span<const HostEditor> HostEditors() {
     return kEditors;
 }
 
+const HostEditor& FindHostEditor(std::string_view screen) {
+    for (const HostEditor& editor : kEditors)
+        if (editor.screen == screen)
+            return editor;
+    throw ScreenError("没有窗口 " + std::string(screen) + "。");
+}
+
 void RegisterHostEditors() {
     RegisterScreen("frmHostCompany", [] { return std::make_unique<frmHostCompany>(); });
     RegisterScreen("frmHostUsers", [] { return std::make_unique<frmHostUsers>(); });
@@ -39,12 +44,9 @@ bool MayOpen(const HostEditor& editor) {
 }
 
 void OpenHostEditor(std::string_view screen) {
-    const auto editor = std::find_if(std::begin(kEditors), std::end(kEditors),
-                                     [&](const HostEditor& known) { return known.screen == screen; });
-    if (editor == std::end(kEditors))
-        throw ScreenError("没有窗口 " + std::string(screen) + "。");
+    const HostEditor& editor = FindHostEditor(screen);
     VisitCompany([&] {
-        if (editor->module.empty() || ModuleRight(std::string(editor->module), 0) != 0)
+        if (editor.module.empty() || ModuleRight(std::string(editor.module), 0) != 0)
             ShowModal(ScreenNamed(screen));
     });
 }

@@ -13,6 +13,8 @@ struct HostEditor {
     std::string_view module; // whose right is needed, "" for none
 };
 std::span<const HostEditor> HostEditors();
+// A ScreenError for a name that is no editor.
+const HostEditor& FindHostEditor(std::string_view screen);
 
 void RegisterHostEditors();
 

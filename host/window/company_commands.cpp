@@ -66,6 +66,11 @@ CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string
         throw std::runtime_error("帐套中没有用户“" + facts.user + "”。");
     if (session.PeriodStart && session.PeriodEnd)
         facts.period = IsoText(*session.PeriodStart) + " 至 " + IsoText(*session.PeriodEnd);
+    for (const auto& [property, fact] : {std::pair("CompName", &facts.name),
+                                         {"ZgName", &facts.rights.ZgName},
+                                         {"myPower", &facts.rights.myPower}})
+        if (const auto set = settings_.find(property); set != settings_.end())
+            *fact = set->second;
     const SignedInMeanwhile asUser(control_, facts);
     facts.subjects = SubjectsOf();
     return facts;
@@ -73,24 +78,28 @@ CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string
 
 bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& user) {
     const std::string passwordBefore = session.Password;
-    std::string failure;
-    for (bool again = true; again;) {
+    return Attempt(S(windowTitle()), [&] {
         try {
-            TakeCompany(company, ReadFacts(company, user));
-            return true;
-        } catch (const LoginError& error) {
-            failure = error.what();
-            again = AskPassword(company);
-        } catch (const std::exception& error) {
-            failure = error.what();
-            again = false;
+            TakeWithPassword(company, user);
+        } catch (...) {
+            control_.Password(passwordBefore);
+            if (HasCompany())
+                UseCompany(control_, company_); // the one before stays open
+            throw;
+        }
+    });
+}
+
+// A server that refuses the password is tried again as long as the person gives another.
+void MainWindow::TakeWithPassword(const std::string& company, const std::string& user) {
+    for (;;) {
+        try {
+            return TakeCompany(company, ReadFacts(company, user));
+        } catch (const LoginError&) {
+            if (!AskPassword(company))
+                throw;
         }
     }
-    control_.Password(passwordBefore);
-    if (HasCompany())
-        UseCompany(control_, company_); // the one before stays open
-    Warn(S(windowTitle()), failure);
-    return false;
 }
 
 // The password of the server goes into the session only.

@@ -103,11 +103,7 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::Guard(const std::function<void()>& command) {
-    try {
-        command();
-    } catch (const std::exception& error) {
-        Warn(S(windowTitle()), error.what());
-    }
+    Attempt(S(windowTitle()), command);
 }
 
 void MainWindow::BuildCompanyMenu() {

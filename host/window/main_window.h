@@ -6,6 +6,7 @@
 #include <QSettings>
 #include <QTimer>
 
+#include "host/property_settings.h"
 #include "host/user_settings.h"
 #include "host/window/screen_menu.h"
 #include "session/lzjxc.h"
@@ -39,6 +40,9 @@ class MainWindow : public QMainWindow {
     bool OpenCompanyOf(const std::string& company, const std::string& user);
     // Asks where a company is that cannot be found. False when none was opened.
     bool FindCompany(const std::string& company);
+    // The supervisor, rights and company name given here are set whatever the company says of its users and itself;
+    // other properties the caller sets himself.
+    void StandOver(PropertySettings settings) { settings_ = std::move(settings); }
     // What is opened from now on is not among the companies that the person worked on.
     void LeaveNoTrace() { leavesNoTrace_ = true; }
     bool HasCompany() const { return !company_.empty(); }
@@ -53,6 +57,7 @@ class MainWindow : public QMainWindow {
     void BuildCompanyMenu();
     CompanyFacts ReadFacts(const std::string& company, const std::string& user);
     void TakeCompany(const std::string& company, CompanyFacts facts);
+    void TakeWithPassword(const std::string& company, const std::string& user);
     bool AskPassword(const std::string& company);
     void ReopenCompany();
     void StartGuarded(const MenuEntry& entry);
@@ -76,6 +81,7 @@ class MainWindow : public QMainWindow {
 
     lzJxc control_;
     QSettings memory_{"lzJxc", "jxc"};
+    PropertySettings settings_;
     std::string company_;
     bool leavesNoTrace_ = false;
     std::vector<Subject> subjects_;

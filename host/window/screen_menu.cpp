@@ -179,11 +179,10 @@ std::vector<Subject> SubjectsOf() {
             subjects.Add(entry.subject,
                          {entry.caption, entry.purpose, {{"打开(&O)", entry.action, entry.myType, ""}}});
     for (const EditorPlace& place : kPlaces)
-        for (const HostEditor& editor : HostEditors())
-            if (editor.screen == place.screen && FindScreen(editor.screen) && MayOpen(editor))
-                subjects.Add(place.subject, {std::string(editor.title),
-                                             place.purpose,
-                                             {{"打开(&O)", -1, -1, std::string(editor.screen)}}});
+        if (const HostEditor& editor = FindHostEditor(place.screen);
+            FindScreen(editor.screen) && MayOpen(editor))
+            subjects.Add(place.subject,
+                         {std::string(editor.title), place.purpose, {{"打开(&O)", -1, -1, place.screen}}});
     return subjects.Filled();
 }
 

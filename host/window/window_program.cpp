@@ -40,12 +40,16 @@ std::string SampleCompany() {
 
 } // namespace
 
-int RunWindows(const std::string& company, const std::string& user, bool sample) {
+int RunWindows(const WindowStart& start) {
+    lzJxc control;
+    SetProperties(control, start.settings);
     RequireDisplay();
+    const auto& [company, sample, user, settings] = start;
     if (!company.empty() && IsGone(company))
         throw std::runtime_error("帐套不存在：" + company);
     const WindowsInUse windows;
     MainWindow window;
+    window.StandOver(settings);
     std::string wanted = company;
     if (wanted.empty() && !sample)
         wanted = LastCompany();
@@ -54,7 +58,7 @@ int RunWindows(const std::string& company, const std::string& user, bool sample)
         return QApplication::exec();
     if (wanted.empty() || IsGone(wanted))
         wanted = SampleCompany();
-    if (!window.OpenCompanyOf(wanted, user) && company.empty() && !sample)
+    if (!window.OpenCompanyOf(wanted, user.empty() ? control.UserName() : user) && company.empty() && !sample)
         window.OpenCompanyOf(SampleCompany(), "");
     return QApplication::exec();
 }

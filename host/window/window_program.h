@@ -3,12 +3,22 @@
 
 #include <string>
 
+#include "host/property_settings.h"
+
 namespace jxc {
 
-// Shows the main window with the company, "" for the last one; with `sample`, or when there is no last one,
-// the sample company, which is made among the program's own data on first use. `user` "" for the company's
-// first. Returns the exit code when the window has been closed.
-int RunWindows(const std::string& company, const std::string& user, bool sample);
+// What the program is started with.
+struct WindowStart {
+    std::string company = {};       // "" for the last one
+    bool sample = false;            // the sample company instead
+    std::string user = {};          // "" for the one of the settings, or the company's first
+    PropertySettings settings = {}; // see MainWindow::StandOver
+};
+
+// Shows the main window with the company; where there is no last one, with the sample company, which is made among
+// the program's own data on first use. Returns the exit code when the window has been closed. Properties that
+// cannot be set, a company that is not there and a missing display are a std::runtime_error before any window.
+int RunWindows(const WindowStart& start);
 
 // Drives the windows through a sample company made for it and saves a picture of each as PNG in `folder`,
 // which is made if it is missing. Works without a display. Returns the exit code.

@@ -9,7 +9,6 @@
 
 #include "host/screens.h"
 #include "session/components.h"
-#include "view/focus_mark.h"
 #include "view/page_printer.h"
 #include "view/text.h"
 

@@ -125,6 +125,16 @@ TEST(GridModel, KnowsFiguresOutOfBounds) {
             EXPECT_THROW(TypeCell(desk, desk.grid, 1, 1, typed), GestureRefused) << typed;
         TypeCell(desk, desk.grid, 1, 1, "1e-400"); // nothing, and no overflow
         EXPECT_EQ(desk.grid.Number(1, 1), 0);
+        for (const char* typed : {"1e999", "-1e999"}) // in a column without a bound
+            try {
+                TypeCell(desk, desk.grid, 1, 2, typed);
+                ADD_FAILURE() << typed;
+            } catch (const GestureRefused& refused) {
+                EXPECT_NE(std::string(refused.what()).find("只能输入数字"), std::string::npos)
+                    << refused.what();
+            }
+        TypeCell(desk, desk.grid, 1, 2, "1e300");
+        EXPECT_EQ(desk.grid.Number(1, 2), 1e300);
     });
 }
 

@@ -190,6 +190,15 @@ TEST_P(CheckOfBooks, FindsEveryDamage) {
     EXPECT_EQ(CheckCompany(), Lines{});
 }
 
+// A document's number is a text of people: what the program puts into its own lines may stand in it.
+TEST_P(CheckOfBooks, TellsANumberThatLooksLikeAPlaceInALine) {
+    Do("Delete From tJXC_CkDj02 Where fInvID In (Select fInvID From tJXC_CkDj01 Where fInvType=4)");
+    Do("Update tJXC_CkDj01 Set fInvNo='{1}{2}{H}' Where fInvType=4");
+    const Lines found = CheckCompany();
+    const std::string told = "单据 {1}{2}{H}：没有明细；请补录明细，或删除该单据。";
+    EXPECT_EQ(std::count(found.begin(), found.end(), told), 1) << testing::PrintToString(found);
+}
+
 // Lawful states that look odd.
 TEST_P(CheckOfBooks, IsSilentAboutWhatIsLawful) {
     const char* const lawful[] = {

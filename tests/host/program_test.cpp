@@ -9,6 +9,7 @@
 #include <libpq-fe.h>
 #include <sys/wait.h>
 
+#include "session/database/sqlite_engine.h"
 #include "tests/support/test_company.h"
 
 namespace jxc::test {
@@ -36,6 +37,11 @@ Ended Jxc(const std::string& arguments, const std::string& environment = "") {
 void ExpectEnd(const Ended& ended, int status, const std::string& told) {
     EXPECT_EQ(ended.status, status) << ended.told;
     EXPECT_NE(ended.told.find(told), std::string::npos) << ended.told;
+}
+
+// Whether the program was built with its windows.
+bool HasWindows() {
+    return Jxc("--help").told.find("打开主窗口") != std::string::npos;
 }
 
 class Program : public testing::Test {
@@ -77,9 +83,38 @@ TEST_F(Program, NeedsADisplayForWindowsOnly) {
         ExpectEnd(Jxc("open " + File("a.db"), "DISPLAY=:9876"), 2, "不能打开窗口：连接不上图形显示");
 }
 
+TEST_F(Program, SetsPropertiesByTheirNames) {
+    ExpectEnd(Jxc("create " + File("a.db")), 0, "帐套已建立");
+    std::vector<std::string> commands{"drive"};
+    if (HasWindows())
+        commands.emplace_back("open"); // which looks at them before it looks for a display
+    for (const std::string& command : commands) {
+        const std::string start = command + " " + File("a.db") + " --set ";
+        ExpectEnd(Jxc(start + "ZgName"), 2, "--set 须为 属性=值：ZgName");
+        ExpectEnd(Jxc(start + "ZgName=a --set noSuch=b"), 2, "noSuch");
+        ExpectEnd(Jxc(start + "myType=many"), 2, "myType");
+    }
+    ExpectEnd(Jxc("drive " + File("a.db") + " --set ZgName=a=b --set myType=1 --set myType=2"), 0, "");
+    if (HasWindows())
+        ExpectEnd(Jxc("open " + File("a.db") + " --set ZgName=a --set myType=1"), 2, "没有图形显示");
+}
+
+TEST_F(Program, TakesPicturesInACompanyOfItsOwn) {
+    if (!HasWindows())
+        GTEST_SKIP() << "built without windows";
+    const Ended both = Jxc("tour " + File("a.db") + " --shots " + File("pictures"));
+    ExpectEnd(both, 2, "不能同时使用");
+    EXPECT_NE(both.told.find("COMPANY"), std::string::npos) << both.told;
+    EXPECT_NE(both.told.find("--shots"), std::string::npos) << both.told;
+    EXPECT_FALSE(std::filesystem::exists(File("a.db")));
+    EXPECT_FALSE(std::filesystem::exists(File("pictures")));
+}
+
 TEST_F(Program, PlaysItsTourInASampleOnly) {
     ExpectEnd(Jxc("create " + File("mine.db")), 0, "帐套已建立");
+    SqliteEngine(File("mine.db"), SqliteFile::Open).SetVersion(0); // as an older program left it
     ExpectEnd(Jxc("tour " + File("mine.db")), 2, "不是样例公司");
+    EXPECT_EQ(SqliteEngine(File("mine.db"), SqliteFile::Read).Version(), 0); // and so it stays
     ExpectEnd(Jxc("tour " + File("new.db"), "JXC_TODAY=2026-11-05"), 0, "全部相符");
 }
 
@@ -88,6 +123,7 @@ TEST_F(Program, HasAManualOfEveryOption) {
     text << std::ifstream(std::string(JXC_ROOT) + "/docs/jxc.1").rdbuf();
     const std::string manual = std::regex_replace(text.str(), std::regex("\\\\-"), "-");
     std::string help = Jxc("--help-all").told;
+    EXPECT_EQ(help.find("Options"), std::string::npos) << help; // it speaks one language
     int options = 0;
     const std::regex option("--[a-z-]+");
     for (std::sregex_iterator found(help.begin(), help.end(), option), end; found != end; ++found, ++options)

@@ -1,0 +1,50 @@
+// The commands of the program jxc: what each takes from the command line, and what it does.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+namespace jxc {
+
+class Commands {
+  public:
+    // Adds the commands to the command line. `app` is parsed afterwards and must outlive this.
+    explicit Commands(CLI::App& app);
+    Commands(const Commands&) = delete;
+    Commands& operator=(const Commands&) = delete;
+
+    // A CLI::ParseError when a command is needed and none was given: without windows nothing opens by itself.
+    void RequireOne() const;
+    // Runs the command that was given; without one, the main window. Returns the exit code; what cannot be done is a
+    // std::exception with a text for people.
+    int Run() const;
+
+  private:
+    CLI::App& Add(const char* name, const char* purpose, std::function<int()> run);
+    CLI::Option* AddCompany(CLI::App& command, const char* purpose = "文件，或 postgresql://... 地址");
+    void AddUserAndSettings(CLI::App& command);
+    void AddCreate();
+    void AddDrive();
+    void AddTour();
+    void AddOpen(); // in a program with windows
+    void AddBackupAndRestore();
+    void AddCheck();
+
+    CLI::App& app_;
+    std::vector<std::pair<CLI::App*, std::function<int()>>> commands_;
+    // What the commands take.
+    std::string company_;
+    std::string user_;
+    std::vector<std::string> settings_; // PROPERTY=VALUE
+    std::string copy_;                  // the file of a backup
+    std::string pictures_;              // the folder for them
+    bool sample_ = false;
+    bool bare_ = false;
+    bool createDatabase_ = false;
+};
+
+} // namespace jxc
