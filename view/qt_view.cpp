@@ -146,6 +146,20 @@ class WaitingWindow : public QDialog {
     bool gaveUp_ = false;
 };
 
+// A letter typed ahead, of the next code, say, must not answer a question that it was not meant for; with Alt it does.
+class AnswerBox : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool bare = !(event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier));
+        if (bare && !event->text().isEmpty() && event->text().at(0).isPrint() && event->key() != Qt::Key_Space)
+            return event->accept();
+        QMessageBox::keyPressEvent(event);
+    }
+};
+
 QtView::QtView() = default;
 QtView::~QtView() = default;
 
@@ -161,8 +175,8 @@ BoxButton QtView::ShowBox(const MessageBox& box) {
     if (Front())
         Front()->Refresh();
     ++boxesShown_;
-    QMessageBox window(IconOf(box.icon), Q(box.title), Q(box.text), QMessageBox::NoButton,
-                       Front() ? Front() : QApplication::activeWindow());
+    AnswerBox window(IconOf(box.icon), Q(box.title), Q(box.text), QMessageBox::NoButton,
+                     Front() ? Front() : QApplication::activeWindow());
     window.setTextFormat(Qt::PlainText);
     std::vector<QAbstractButton*> buttons;
     for (BoxButton button : box.buttons) {

@@ -1,4 +1,6 @@
 // What a message box shows of its message: the whole title, and the cause on demand.
+#include <QTest>
+
 #include "tests/windows/window_fixture.h"
 
 namespace jxc::test {
@@ -32,6 +34,40 @@ TEST_F(MessageBoxes, TitlesAreNotCutByTheFrame) {
             EXPECT_LT(box.width(), 1000);
         });
     }
+}
+
+TEST_F(MessageBoxes, LettersTypedAheadAreNoAnswer) {
+    const MessageBox question{"入库单",
+                              "单据尚未存盘，放弃所输入的内容？",
+                              BoxIcon::Question,
+                              {BoxButton::Save, BoxButton::Discard, BoxButton::Cancel},
+                              "",
+                              2};
+    const BoxButton answer = Show(question, Qt::Key_Escape, [&](QMessageBox& box) {
+        person.Type("DSCdsc123");
+        QTest::qWait(200); // a button goes down before it answers
+        EXPECT_TRUE(box.isVisible());
+    });
+    EXPECT_EQ(answer, BoxButton::Cancel);
+}
+
+TEST_F(MessageBoxes, WaitingIsGivenUpByItsButtonOnly) {
+    qApp->removeEventFilter(&person);
+    View& view = CurrentView();
+    EXPECT_TRUE(view.KeepWaiting(3));
+    EXPECT_EQ(person.Front().objectName(), "waiting");
+    EXPECT_NE(S(person.Front().findChild<QLabel*>()->text()).find("：3 秒"), std::string::npos);
+    person.Press(Qt::Key_Return); // of somebody who types on
+    EXPECT_TRUE(view.KeepWaiting(4));
+    person.Press(Qt::Key_C, Qt::AltModifier);
+    EXPECT_FALSE(view.KeepWaiting(5));
+    EXPECT_TRUE(view.KeepWaiting(-1));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(view.KeepWaiting(0)); // the next wait begins anew
+    person.Press(Qt::Key_Escape);
+    EXPECT_FALSE(view.KeepWaiting(1));
+    view.KeepWaiting(-1);
+    qApp->installEventFilter(&person);
 }
 
 TEST_F(MessageBoxes, DetailsAreShownOnDemandAndAreNoAnswer) {
