@@ -166,6 +166,9 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         }
         s.cmdSave.enabled = false; // until what the screen shows is a document again
         const Recordset header(Conn(), StoredHeaderStatement(stem, key));
+        if (s.InHand() == DocAction::Change)
+            s.txtZkl.text = s.txtZkl.tag =
+                "0.00"; // a discount typed for the document before is not this one's
         LoadHeader(s, sourceType, header);
         LoadLines(s, stem, key);
         if (s.type.IsKit() && s.InHand() != DocAction::New)
@@ -178,7 +181,7 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         else
             s.asLoaded = std::move(stored);
         if (s.InHand() == DocAction::Change) {
-            s.chkTh.value = s.type.fSetDjBack_; // the mark of the document before is not this one's
+            s.chkTh.value = s.type.fSetDjBack_; // nor is its mark
             SetReturnSign(s);
         }
         s.asBegun = TypedWork(s);

@@ -8,10 +8,12 @@
 
 #include <sys/stat.h>
 
+#include "controls/gestures.h"
 #include "controls/log.h"
 #include "host/company_address.h"
 #include "session/database/engine.h"
 #include "session/database/open_connection.h"
+#include "session/database/waiting.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
 #include "tests/support/sample_company.h"
@@ -110,6 +112,36 @@ TEST_P(Causes, OfAWaitThatWasGivenUp) {
         EXPECT_EQ(clerk->view.waits, (std::vector<int>{0, -1}));
     }
     EXPECT_TRUE(clerk->Approve(1, key)) << clerk->LastBox();
+}
+
+// The stage that a reversal can do without is no reason to go on for who wants nothing of it any more.
+TEST_P(Causes, OfAWaitThatWasGivenUpInAStageThatMayFail) {
+    DocumentInput receipt = TypicalDocument(1);
+    const int order = clerk->Save(TypicalDocument(23));
+    ASSERT_TRUE(clerk->Approve(23, order)) << clerk->LastBox();
+    receipt.order = RowsOf("Select fInvNo From tJXC_CkHt01 Where fInvID=" + std::to_string(order))[0];
+    const int key = clerk->Save(receipt);
+    ASSERT_TRUE(clerk->Approve(1, key)) << clerk->LastBox();
+    const Lines before = Books();
+    With("tJXC_CkHt02", DatabaseError(kGaveUpWaiting), [&] { EXPECT_FALSE(clerk->Reverse(1, key)); });
+    EXPECT_EQ(Changes(before, Books()), Lines{});
+    With("tJXC_CkHt02", DatabaseError("the order is out of reach"),
+         [&] { EXPECT_TRUE(clerk->Reverse(1, key)) << clerk->LastBox(); });
+}
+
+TEST_P(Causes, OfAPasteThatBreaksOffLeaveTheLinesAsTheyWere) {
+    clerk->Enter(TypicalDocument(1), [&](frmDj02& s) {
+        const int rows = s.Grid2.RowCount();
+        const std::string total = s.txtSum.text;
+        With("fCpPrice0", DatabaseError("the products are out of reach"), [&] {
+            PasteBlock(s, s.Grid2, {{"CAM001", "2", "5"}, {"HDD001", "1", "5"}});
+        });
+        EXPECT_FALSE(clerk->view.boxes.empty());
+        EXPECT_EQ(s.Grid2.RowCount(), rows);
+        EXPECT_EQ(s.txtSum.text, total);
+        PasteBlock(s, s.Grid2, {{"CAM001", "2", "5"}, {"HDD001", "1", "5"}});
+        EXPECT_EQ(s.Grid2.Text(rows + 2, line::kCode), "HDD001");
+    });
 }
 
 // A host's view may fail in the middle of the engine's waiting; the work that waits is not its concern.

@@ -108,6 +108,25 @@ TEST_F(TypedAhead, NextLineStandsBelowAfterASaveThatWasNone) {
     });
 }
 
+// A field that is still being typed is part of what is saved on the way out.
+TEST_F(TypedAhead, WayOutSavesTheFieldInHand) {
+    const int key = Save(2);
+    Open(13, 2,
+         [&] {
+             person.Click("cboInvMemo");
+             person.Type("asked twice");
+             person.Answer(Qt::Key_S);
+             person.Answer(Qt::Key_Return);
+             person.Answer(Qt::Key_Return);
+             person.Answer(Qt::Key_Escape);
+             person.Front().close();
+         },
+         {{"Action", 2}, {"invType", 2}, {"oldInvID", key}});
+    EXPECT_EQ(person.Boxes().size(), 4U);
+    EXPECT_EQ(Rows("select fInvMemo from tJXC_CkDj01 Where fInvID=" + std::to_string(key)),
+              Texts{"asked twice"});
+}
+
 TEST_F(TypedAhead, NextLineStandsBelowAPaste) {
     Receipt([&] {
         CurrentView().SetClipboard("CPU003\t5\t880\n");
