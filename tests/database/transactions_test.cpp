@@ -2,8 +2,6 @@
 #include <future>
 #include <thread>
 
-#include "session/database/engine.h"
-#include "session/database/open_connection.h"
 #include "session/database/recordset.h"
 #include "session/database/routines.h"
 #include "session/session.h"
@@ -17,6 +15,13 @@ class Transactions : public OnBothEngines {
   protected:
     void Add(int id) { Do("Insert Into tJXC_KhAdd (fKhID,fKhAdd) Values (" + std::to_string(id) + ",'x')"); }
     Lines Ids() { return RowsOf("Select fKhID From tJXC_KhAdd Order By fKhID"); }
+    // This program writes, while another is connected.
+    void BeginWriting(Connection& other) {
+        company->Open(other);
+        Conn().BeginTrans();
+        Add(1);
+        Conn().Flush();
+    }
     // Accepted by the translation, refused by the database.
     const char* bad = "Insert Into tJXC_KhAdd (fKhID,fNoSuchField) Values (1,2)";
 };
@@ -132,10 +137,7 @@ TEST_P(Transactions, FailWhenAnObserverInjectsAFault) {
 
 TEST_P(Transactions, OfASecondWriterWaitAtTheirBegin) {
     Connection other;
-    OpenConnection(company->Dialect(), other, company->Path(), "", "", company->Database());
-    Conn().BeginTrans();
-    Add(1);
-    Conn().Flush();
+    BeginWriting(other);
     auto waiting = std::async(std::launch::async, [&] {
         Transaction transaction(other);
         const std::string seen = other.Query("Select count(*) From tJXC_KhAdd").At(0, 0).AsText();
@@ -150,10 +152,7 @@ TEST_P(Transactions, OfASecondWriterWaitAtTheirBegin) {
 // Who waits is told after an instant and may give up; nothing is begun then.
 TEST_P(Transactions, WaitingForAnotherWriterCanBeGivenUp) {
     Connection other;
-    OpenConnection(company->Dialect(), other, company->Path(), "", "", company->Database());
-    Conn().BeginTrans();
-    Add(1);
-    Conn().Flush();
+    BeginWriting(other);
     std::vector<int> told;
     other.SetWaitObserver([&](int seconds) {
         told.push_back(seconds);
@@ -169,31 +168,28 @@ TEST_P(Transactions, WaitingForAnotherWriterCanBeGivenUp) {
     } catch (const DatabaseError& error) {
         EXPECT_STREQ(error.what(), "已取消等待，操作没有进行。");
     }
-    EXPECT_EQ(told, (std::vector<int>{0, -1}));
+    EXPECT_EQ(told, kAskedOnceAndEnded);
     EXPECT_FALSE(other.InTransaction());
     Conn().CommitTrans();
     begin();
     EXPECT_EQ(told.size(), 2U);
 }
 
+class LostLine : public Transactions {};
+ON_POSTGRES(LostLine);
+
 // A server that was away for a moment: what was under way has failed, what comes next is served.
-TEST_P(Transactions, AfterALostLineGoOn) {
-    if (!IsPostgres())
-        return;
+TEST_P(LostLine, EndsItsTransactionOnly) {
     Connection other;
-    OpenConnection(company->Dialect(), other, company->Path(), "", "", company->Database());
-    const auto cutLine = [&] {
-        other.EngineInUse().ExecuteScript("select pg_terminate_backend(pid) from pg_stat_activity where pid<>"
-                                          "pg_backend_pid() and datname=current_database()");
-    };
-    cutLine();
+    company->Open(other);
+    CutLinesOfOthers(other);
     EXPECT_THROW(RowsOf("Select fKhID From tJXC_KhAdd"), DatabaseError);
     EXPECT_EQ(Ids(), Lines{});
     {
         Transaction transaction(Conn());
         Add(1);
         Conn().Flush();
-        cutLine();
+        CutLinesOfOthers(other);
         EXPECT_THROW(transaction.Commit(), DatabaseError);
     }
     EXPECT_EQ(Ids(), Lines{});
