@@ -92,6 +92,15 @@ std::string Day(const std::string& slashDate) {
     return session.DateDelimiter + slashDate + session.DateDelimiter;
 }
 
+std::string RefusalOf(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const DatabaseError& error) {
+        return error.what();
+    }
+    return "";
+}
+
 void CutLinesOfOthers(Connection& connection) {
     connection.EngineInUse().ExecuteScript(
         "select pg_terminate_backend(pid) from pg_stat_activity where pid<>"

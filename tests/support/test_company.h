@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -86,6 +87,8 @@ std::string One(const std::string& sql);
 // A date mm/dd/yyyy as a statement of the session's dialect writes it.
 std::string Day(const std::string& slashDate);
 
+// What a DatabaseError says that the work ends with; "" when it ends well.
+std::string RefusalOf(const std::function<void()>& work);
 // Cuts the lines of all others to the company on the server that the connection is open on, as a server does that
 // goes away for a moment.
 void CutLinesOfOthers(Connection& connection);

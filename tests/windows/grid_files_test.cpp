@@ -26,12 +26,14 @@ struct PriceList : Screen {
     Grid Grid1{*this, "Grid1"};
 };
 
-// What a program writes about a file.
-std::string Output(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished()) << S(program);
-    return process.readAllStandardOutput().toStdString();
+// A part of a spreadsheet's file: its sheet, or the texts in it.
+const char* const kSheet = "xl/worksheets/sheet1.xml";
+const char* const kTexts = "xl/sharedStrings.xml";
+std::string PartOf(const QString& file, const char* part) {
+    QProcess unzip;
+    unzip.start("unzip", {"-p", file, part});
+    EXPECT_TRUE(unzip.waitForFinished());
+    return unzip.readAllStandardOutput().toStdString();
 }
 
 // Texts that a spreadsheet would run, and such as break the lines of copies.
@@ -92,11 +94,11 @@ TEST_F(GridFiles, Csv) {
 
 TEST_F(GridFiles, Xlsx) {
     SaveAsXlsx(list.Grid1, "价格", Path("a.xlsx"));
-    const std::string sheet = Output("unzip", {"-p", Path("a.xlsx"), "xl/worksheets/sheet1.xml"});
+    const std::string sheet = PartOf(Path("a.xlsx"), kSheet);
     EXPECT_NE(sheet.find("<c r=\"C3\" s=\"2\"><v>1234.5</v></c>"), std::string::npos) << sheet;
     EXPECT_NE(sheet.find("<c r=\"A4\" t=\"s\">"), std::string::npos) << sheet; // 007 is a text
     EXPECT_EQ(sheet.find("<v>7</v>"), std::string::npos) << sheet;             // of the hidden column
-    const std::string texts = Output("unzip", {"-p", Path("a.xlsx"), "xl/sharedStrings.xml"});
+    const std::string texts = PartOf(Path("a.xlsx"), kTexts);
     for (const char* text : {"价格", "编码", "螺丝,\"大\"", "007"})
         EXPECT_NE(texts.find(text), std::string::npos) << text;
     EXPECT_THROW(SaveAsXlsx(list.Grid1, "价格", Path("none/a.xlsx")), std::runtime_error);
@@ -109,7 +111,7 @@ TEST_F(GridFiles, NumbersHaveTheirPointUnderAnyLanguage) {
         GTEST_SKIP() << "localedef makes no de_DE here (package locales)";
     ASSERT_STREQ(std::localeconv()->decimal_point, ",");
     SaveAsXlsx(list.Grid1, "价格", Path("a.xlsx"));
-    const std::string sheet = Output("unzip", {"-p", Path("a.xlsx"), "xl/worksheets/sheet1.xml"});
+    const std::string sheet = PartOf(Path("a.xlsx"), kSheet);
     EXPECT_NE(sheet.find("<v>1234.5</v>"), std::string::npos) << sheet;
     EXPECT_EQ(sheet.find("width=\"10,"), std::string::npos) << sheet;
     EXPECT_STREQ(std::localeconv()->decimal_point, ","); // the program's own is left alone
@@ -156,10 +158,10 @@ TEST_F(GridFiles, NoTextStartsAFormula) {
         "'@SUM(1),-1234.50\r\n'\tx,-1234.50\r\n\"'\ry\",-1234.50\r\n''=1,-1234.50\r\n'平常,-1234.50\r\n"
         "'＝1,-1234.50\r\n\"a\tb\nc\"\"d\"\"\",-1234.50\r\n\"\"\"\",-1234.50\r\n5-3,-1234.50\r\n");
     SaveAsXlsx(hostile.Grid1, "=1+1", Path("a.xlsx"));
-    const std::string sheet = Output("unzip", {"-p", Path("a.xlsx"), "xl/worksheets/sheet1.xml"});
+    const std::string sheet = PartOf(Path("a.xlsx"), kSheet);
     EXPECT_EQ(sheet.find("<f>"), std::string::npos);
     EXPECT_NE(sheet.find("<v>-1234.5</v>"), std::string::npos);
-    const std::string texts = Output("unzip", {"-p", Path("a.xlsx"), "xl/sharedStrings.xml"});
+    const std::string texts = PartOf(Path("a.xlsx"), kTexts);
     EXPECT_NE(texts.find("<t>=cmd|' /C calc'!A0</t>"), std::string::npos) << texts;
     PriceList tooLong;
     tooLong.Grid1.FillCell(1, 1, std::string(40'000, 'x'));

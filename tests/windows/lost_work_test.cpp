@@ -91,7 +91,8 @@ TEST_F(LostWork, WhateverWasTypedIsAskedForWhereverItWouldGo) {
     });
     EXPECT_EQ(stored(), before);
     change([&] { person.Click("cmdQuit"); });
-    EXPECT_EQ(person.Boxes(), Texts{});
+    Enter(1, [&] { person.Click("cmdQuit"); });
+    EXPECT_EQ(person.Boxes(), Texts{}); // nothing typed, nothing asked
     Enter(5, [&] {
         person.Click("txtZkl");
         person.Press(Qt::Key_A, Qt::ControlModifier);
@@ -108,12 +109,15 @@ TEST_F(LostWork, CanBeSavedOnTheWayOut) {
     Enter(1, [&] {
         BeginReceipt();
         person.EnterEach({"CPU001", "3", "400"});
+        person.Answer(Qt::Key_Escape); // stays
+        person.Click("cmdQuit");
+        EXPECT_TRUE(person.Shown<frmDj02>().IsOpen());
         person.Answer(Qt::Key_S);
         person.Answer(Qt::Key_Return);
         person.Answer(Qt::Key_Escape);
         person.Click("cmdQuit");
-        EXPECT_EQ(person.Boxes(),
-                  (Texts{kQuestion, "入库单：新增：20261105RK001，确定？", "单据新增完毕。打印本张单据？"}));
+        EXPECT_EQ(person.Boxes(), (Texts{kQuestion, kQuestion, "入库单：新增：20261105RK001，确定？",
+                                         "单据新增完毕。打印本张单据？"}));
     });
     EXPECT_EQ(Rows("select fInvJE from tJXC_CkDj01 Where fInvNo='20261105RK001'"), Texts{"1200"});
     Enter(1, [&] { // what cannot be saved stays on the screen
