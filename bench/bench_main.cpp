@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "bench/result_table.h"
+#include "tests/support/test_server.h"
 
 namespace jxc::bench {
 
@@ -56,7 +57,7 @@ int Main(int argc, char** argv) {
             ->Unit(benchmark::kMillisecond);
     };
     add("receipt/sqlite", EngineKind::Sqlite);
-    if (options.server.empty())
+    if (test::TestServer().empty())
         std::printf("PostgreSQL is skipped: JXC_TEST_PG names no server.\n");
     else
         add("receipt/postgresql", EngineKind::Postgres);
@@ -77,8 +78,6 @@ Options ReadOptions() {
     options.documents = NumberFrom("JXC_BENCH_DOCUMENTS", options.documents, 1, kMostInADay);
     const char* folder = std::getenv("JXC_BENCH_FOLDER");
     options.folder = folder ? folder : std::filesystem::temp_directory_path().string();
-    const char* server = std::getenv("JXC_TEST_PG");
-    options.server = server ? server : "";
     return options;
 }
 

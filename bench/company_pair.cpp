@@ -7,9 +7,9 @@
 #include <unistd.h>
 
 #include "bench/history.h"
-#include "bench/server.h"
 #include "host/company/create_company.h"
 #include "session/database/open_connection.h"
+#include "tests/support/test_server.h"
 
 namespace jxc::bench {
 
@@ -18,7 +18,7 @@ namespace {
 std::string AddressOf(const Options& options, EngineKind kind, const std::string& name) {
     if (kind == EngineKind::Sqlite)
         return options.folder + "/" + name + ".db";
-    return AddressOnServer(options.server, name);
+    return test::AddressOnServer(name);
 }
 
 std::string NewName() {
@@ -55,8 +55,7 @@ CompanyPair::CompanyPair(const Options& options, EngineKind kind, int documents)
       system_(AddressOf(options, kind, systemName_)), floor_(AddressOf(options, kind, floorName_)) {
     try {
         if (kind == EngineKind::Postgres)
-            OnServer(options.server,
-                     "create database " + systemName_ + " template template0 encoding 'UTF8'");
+            test::OnServer("create database " + systemName_ + " template template0 encoding 'UTF8'");
         CreateCompany(kind == EngineKind::Postgres, system_, CompanyKind::Sample);
         Connection company;
         Open(company, kind, system_);
@@ -83,9 +82,9 @@ void CompanyPair::Copy() const {
         sync();
         return;
     }
-    OnServer(options_.server, "create database " + floorName_ + " template " + systemName_);
+    test::OnServer("create database " + floorName_ + " template " + systemName_);
     try {
-        OnServer(options_.server, "checkpoint");
+        test::OnServer("checkpoint");
     } catch (const DatabaseError& error) {
         std::fprintf(stderr, "%s\n", error.what());
     }
@@ -95,7 +94,7 @@ void CompanyPair::Remove() const {
     try {
         for (const std::string* name : {&systemName_, &floorName_}) {
             if (kind_ == EngineKind::Postgres)
-                OnServer(options_.server, "drop database if exists " + *name + " with (force)");
+                test::OnServer("drop database if exists " + *name + " with (force)");
             else
                 for (const char* ending : {"", "-wal", "-shm"})
                     std::filesystem::remove(AddressOf(options_, kind_, *name) + ending);

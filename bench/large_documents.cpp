@@ -13,7 +13,6 @@
 #include <unistd.h>
 
 #include "bench/large_floor.h"
-#include "bench/server.h"
 #include "controls/gestures.h"
 #include "controls/scripted_view.h"
 #include "controls/text.h"
@@ -23,6 +22,7 @@
 #include "host/screens.h"
 #include "session/database/recordset.h"
 #include "session/session.h"
+#include "tests/support/test_server.h"
 
 namespace jxc::bench {
 
@@ -194,22 +194,19 @@ void PrintRow(int type, int lines, const Times& system, const Times& floor) {
 }
 
 // A company of its own for each type, the longest document at once: the slowest of the rounds counts.
-void MeasureNewCompanies(const std::string& server, int rounds) {
+void MeasureNewCompanies(int rounds) {
     std::printf("\non companies made the moment before, on the server; milliseconds, median and slowest\n"
                 "type  lines            save         approve         reverse\n");
     const std::string name = "jxc_large_" + std::to_string(getpid());
     for (const int type : {1, 2, 3, 31}) {
         Times times;
         for (int round = 0; round < rounds; ++round) {
-            OnServer(server, "create database " + name + " template template0 encoding 'UTF8'");
-            MakeCompany(AddressOnServer(server, name));
-            {
-                const OpenCompany open(AddressOnServer(server, name));
-                SystemRoad road;
-                LargeDocument document = DocumentOf(type, kMostLines, round);
-                RunSystem(road, document, times);
-            }
-            OnServer(server, "drop database " + name + " with (force)");
+            const test::ServerDatabase database(name);
+            MakeCompany(database.Address());
+            const OpenCompany open(database.Address());
+            SystemRoad road;
+            LargeDocument document = DocumentOf(type, kMostLines, round);
+            RunSystem(road, document, times);
         }
         std::printf("%4d %6d", type, kMostLines);
         for (const std::vector<double>* seconds : {&times.save, &times.approve, &times.reverse})
@@ -254,8 +251,8 @@ int Main() {
     for (const char* company : {"_system.db", "_floor.db"})
         for (const char* ending : {"", "-wal", "-shm"})
             std::filesystem::remove(stem + company + ending);
-    if (const char* server = std::getenv("JXC_TEST_PG"))
-        MeasureNewCompanies(server, rounds);
+    if (!test::TestServer().empty())
+        MeasureNewCompanies(rounds);
     return 0;
 }
 

@@ -10,7 +10,6 @@ struct Options {
     int rounds = 10;              // JXC_BENCH_ROUNDS: each writes one block of every kind
     int documents = 100;          // JXC_BENCH_DOCUMENTS: in a block, at most kMostInADay
     std::string folder;           // JXC_BENCH_FOLDER: of the files, else the one for temporary files
-    std::string server;           // JXC_TEST_PG: URI of a maintenance database; "" measures no PostgreSQL
 };
 
 // Automatic document numbers count to 999 a day.

@@ -1,7 +1,6 @@
 // Creating and opening companies: what is refused and how it is said, older databases, and whose the file is.
 #include <sys/stat.h>
 
-#include <filesystem>
 #include <fstream>
 
 #include "session/database/engine.h"
@@ -16,13 +15,10 @@ namespace {
 
 std::string WhyNot(int dialect, const std::string& path, const std::string& database = "") {
     Connection connection;
-    try {
-        OpenConnection(dialect, connection, path, "", "", database);
-    } catch (const DatabaseError& error) {
-        EXPECT_FALSE(connection.IsOpen());
-        return error.what();
-    }
-    return "";
+    const std::string reason =
+        RefusalOf([&] { OpenConnection(dialect, connection, path, "", "", database); });
+    EXPECT_EQ(connection.IsOpen(), reason.empty());
+    return reason;
 }
 
 class Companies : public OnBothEngines {};
@@ -69,7 +65,7 @@ TEST_P(Companies, KeepTheOrderOfColumnsThatCopiesRelyOn) {
 TEST_P(Companies, MayGrowAColumnUnderOneWhoReads) {
     EXPECT_EQ(Conn().Query("Select * From tJXC_KhAdd").names.size(), 2u);
     Connection other;
-    OpenConnection(company->Dialect(), other, company->Path(), "", "", company->Database());
+    company->Open(other);
     other.Execute("ALTER TABLE tJXC_KhAdd ADD fMore Int NULL");
     EXPECT_EQ(Conn().Query("Select * From tJXC_KhAdd").names.size(), 3u);
 }
@@ -89,48 +85,40 @@ TEST(CompanyFiles, BelongToTheirOwnerOnly) {
 }
 
 TEST(CompanyFiles, ThatAreNoneAreRefused) {
-    const std::filesystem::path folder =
-        std::filesystem::temp_directory_path() / ("jxc_no_company_" + std::to_string(getpid()));
-    std::filesystem::create_directory(folder);
-    const std::string path = folder / "company.db";
+    const TemporaryFolder folder;
+    const std::string path = folder.File("company.db");
     EXPECT_EQ(WhyNot(0, path), "数据库文件 " + path + " 不存在。");
-    EXPECT_EQ(WhyNot(0, folder), folder.string() + " 不是数据库文件。");
+    EXPECT_EQ(WhyNot(0, folder.Path()), folder.Path() + " 不是数据库文件。");
     std::ofstream(path) << std::string(5000, 'x');
     EXPECT_EQ(WhyNot(0, path), "该文件不是数据库，或者已经损坏。");
     std::ofstream(path, std::ios::trunc).close();
     EXPECT_TRUE(WhyNot(0, path).starts_with("该数据库不是公司帐套：缺少表"));
-    std::filesystem::remove_all(folder);
 }
 
 TEST(CompanyServers, ThatDoNotAnswerAreNamed) {
     EXPECT_TRUE(WhyNot(1, "/tmp/no_server_is_here", "x").starts_with("不能连接数据库服务器："));
-    if (const std::string reason = WhyUnavailable(EngineKind::Postgres); !reason.empty())
-        GTEST_SKIP() << reason;
-    const std::string why = WhyNot(1, std::getenv("JXC_TEST_PG"), "jxc_no_such_database");
-    EXPECT_NE(why.find("jxc_no_such_database"), std::string::npos) << why;
-    EXPECT_TRUE(WhyNot(1, std::getenv("JXC_TEST_PG")).starts_with("该数据库不是公司帐套"));
 }
 
-TEST(CompanyServers, ThatGoAwayAreNoticed) {
-    if (const std::string reason = WhyUnavailable(EngineKind::Postgres); !reason.empty())
-        GTEST_SKIP() << reason;
-    const TestCompany company(EngineKind::Postgres);
+class CompanyServer : public Companies {};
+ON_POSTGRES(CompanyServer);
+
+TEST_P(CompanyServer, NamesTheDatabaseThatIsMissing) {
+    const std::string why = WhyNot(1, TestServer(), "jxc_no_such_database");
+    EXPECT_NE(why.find("jxc_no_such_database"), std::string::npos) << why;
+    EXPECT_TRUE(WhyNot(1, TestServer()).starts_with("该数据库不是公司帐套"));
+}
+
+TEST_P(CompanyServer, ThatGoesAwayIsNoticed) {
     Conn().BeginTrans();
     Do("Insert Into tJXC_Ck (fCkName) Values ('A')");
     Conn().Flush();
     Connection other;
-    OpenConnection(1, other, company.Path(), "", "", company.Database());
-    other.EngineInUse().ExecuteScript(
-        "select pg_terminate_backend(pid) from pg_stat_activity where datname = "
-        "current_database() and pid <> pg_backend_pid()");
+    company->Open(other);
+    CutLinesOfOthers(other);
     for (int time = 0; time < 2; ++time)
-        try {
-            One("Select count(*) From tJXC_Ck");
-            ADD_FAILURE() << "the line is cut";
-        } catch (const DatabaseError& error) {
-            EXPECT_TRUE(std::string(error.what()).starts_with("与数据库服务器的连接已经中断"))
-                << error.what();
-        }
+        EXPECT_TRUE(RefusalOf([] {
+                        One("Select count(*) From tJXC_Ck");
+                    }).starts_with("与数据库服务器的连接已经中断"));
     EXPECT_THROW(Conn().CommitTrans(), DatabaseError);
     Conn().RollbackTrans();
     EXPECT_EQ(other.Query("Select count(*) From tJXC_Ck").At(0, 0).AsLong(), 0);

@@ -3,7 +3,6 @@
 
 #include "session/database/company_version.h"
 #include "session/database/engine.h"
-#include "session/database/open_connection.h"
 #include "session/session.h"
 #include "tests/support/test_company.h"
 
@@ -13,9 +12,6 @@ namespace {
 
 class CompanyVersion : public OnBothEngines {
   protected:
-    void Reopen() {
-        OpenConnection(company->Dialect(), Conn(), company->Path(), "", "", company->Database());
-    }
     static void Script(const std::string& sql) {
         Conn().EngineInUse().ExecuteScript(sql);
         Conn().ForgetCatalogue();
@@ -26,12 +22,8 @@ ON_BOTH_ENGINES(CompanyVersion);
 TEST_P(CompanyVersion, IsToldAndANewerOneRefused) {
     EXPECT_EQ(Conn().EngineInUse().Version(), kCompanyVersion);
     Conn().EngineInUse().SetVersion(kCompanyVersion + 1);
-    try {
-        Reopen();
-        FAIL() << "opened";
-    } catch (const DatabaseError& error) {
-        EXPECT_NE(std::string(error.what()).find("较新版本"), std::string::npos) << error.what();
-    }
+    const std::string reason = RefusalOf([&] { company->Open(Conn()); });
+    EXPECT_NE(reason.find("较新版本"), std::string::npos) << reason;
     EXPECT_FALSE(session.Conn->IsOpen());
 }
 
@@ -43,16 +35,13 @@ TEST_P(CompanyVersion, AnOlderOneIsRaisedAllOrNothing) {
     Script("create index tHostUser_1 on tJXC_Cp (fCpName)"); // in the way of the table's own
     Conn().EngineInUse().SetVersion(0);
     const auto open = std::make_unique<Connection>();
-    const auto reopen = [&] {
-        OpenConnection(company->Dialect(), *open, company->Path(), "", "", company->Database());
-    };
-    EXPECT_THROW(reopen(), DatabaseError);
+    EXPECT_THROW(company->Open(*open), DatabaseError);
     Conn().ForgetCatalogue();
     EXPECT_FALSE(Conn().HasColumn("tHostUser", "fUserName"));
     EXPECT_EQ(Conn().EngineInUse().Version(), 0);
 
     Script("drop index tHostUser_1");
-    reopen();
+    company->Open(*open);
     EXPECT_EQ(open->EngineInUse().Version(), kCompanyVersion);
     EXPECT_TRUE(open->Query("Select fKhID From tJXC_Ck").At(0, 0).IsNull());
     open->Execute("Insert Into tJXC_CpTj02 (fTjID,fCpPjMemo) Values (1,'Left')");

@@ -14,22 +14,17 @@ struct Statement {
 
 const Statement kSelects[] = {
     {"select SerialNo,model_Name,Model_Name_0,SecondPass,password from tSysFunc Where NoUse_=0 And "
-     "(Model_Name = 'x' or "
-     "Model_Name_0 = 'x')"},
+     "(Model_Name = 'x' or Model_Name_0 = 'x')"},
     {"select fSysDate,fSysDay,fSysDeciSl,fSysDeciDj,fSysCostWay from tJXC_InvSys"},
     {"select CompDate from SystemSets"},
     {"select fCpID,fCpCode,fCpName,fCpGG,fCpUnit,fCpBarCode,fCpPrice0,fCpPrice1,fCpPrice2,fCpPrice3  from "
-     "tJXC_Cp  Where "
-     "fCpFlag<>1 And (fCpName like '%a%' Or fCpGG like '%a%') And (fCpName like '%b%' Or fCpGG like '%b%') "
-     "Order By "
-     "fCpCode"},
+     "tJXC_Cp  Where fCpFlag<>1 And (fCpName like '%a%' Or fCpGG like '%a%') And (fCpName like '%b%' Or "
+     "fCpGG like '%b%') Order By fCpCode"},
     {"Select COUNT(*)  From tJXC_Cp Where fCpFlag<>1 And fCpCode like '%a%'"},
     {"select sum(a.fKcSl) as fKcSl from tJXC_CkTj a Left Join tJXC_Ck b On a.fCkName=b.fCkName Where "
-     "a.fCpID=5 And "
-     "(b.fCkType2=0 Or b.fCkType2=1)"},
+     "a.fCpID=5 And (b.fCkType2=0 Or b.fCkType2=1)"},
     {"select fID,CompCode,compname,name,telphone,homephone,handphone,fax,E_mail,HomeEmail,http,HomeHttp from "
-     "cards  Where "
-     "(CompCode like '%a%' or CompName like '%a%') And CompName <> '' Order by compname,name"},
+     "cards  Where (CompCode like '%a%' or CompName like '%a%') And CompName <> '' Order by compname,name"},
     {"select distinct '',fCpUnit from tJXC_Cp Where fCpUnit<>'' order by fCpUnit"},
     {"Select fCkName,0 as aaa from tJXC_Ck where fCkFlag<>1 And not fCkType2=1 Order By fCkCode"},
     {"select max(mid(fInvNo,8,3)) as invID from tJXC_CkDj02 where left(fInvNo,7)='R200307' and "
@@ -39,47 +34,36 @@ const Statement kSelects[] = {
     {"Select Fieldname_0 from rptListDetail where LCase(ftable) ='tjxc_cp' and LCase(FieldName) ='fcpcode'",
      "Select Fieldname_0 from rptListDetail where Lower(ftable) ='tjxc_cp' and Lower(FieldName) ='fcpcode'"},
     {"select distinct a.* from (tJXC_CpTj01 a Left Join tJXC_Cp b On a.fCpID=b.fCpID) Left Join (tJXC_CpTj02 "
-     "K Left Join "
-     "tJXC_Cp c On K.fCpPjID=c.fCpID) on a.fTjID=K.fTjID Where b.fCpCode Like '%' And c.fCpName Like '%' "
-     "Order By a.fTjCode"},
+     "K Left Join tJXC_Cp c On K.fCpPjID=c.fCpID) on a.fTjID=K.fTjID Where b.fCpCode Like '%' And c.fCpName "
+     "Like '%' Order By a.fTjCode"},
     {"select a.*,b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit,b.fCpPrice0,b.fCpPrice3  from tJXC_CpTj02 a Left Join "
-     "tJXC_Cp b On "
-     "a.fCpPjID=b.fCpID  where a.fTjID = 3 Order By a.fRowID"},
+     "tJXC_Cp b On a.fCpPjID=b.fCpID  where a.fTjID = 3 Order By a.fRowID"},
     {"Select a.fCpID,a.fKhID,b.compname From tJXC_CpGys a Left Join cards b On a.fKhID=b.fID Order By "
-     "a.fCpID,a.fInvDate "
-     "Desc"},
+     "a.fCpID,a.fInvDate Desc"},
     {"Select Top 1 fInvID From tJXC_CkDj01  Where fInvType=1 And fInvShr='' And fInvNo<'R1' Order By fInvNo "
      "Desc"},
     {"Select b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit,a.fInvSl2 as fInvSl,a.fKhID,a.fCpID,a.fInvDj from "
-     "tJXC_CkHt02 a Left Join "
-     "tJXC_Cp b On a.fCpID =b.fCpID  Where a.fInvID = 4 Order By a.fRowID"},
+     "tJXC_CkHt02 a Left Join tJXC_Cp b On a.fCpID =b.fCpID  Where a.fInvID = 4 Order By a.fRowID"},
     {"Select a.fCpPjID as fCpID,a.fCpPjSL * 3 as fInvSL, b.fCpCode,b.fCpUnit,fCpPrice2 as fInvDJ,0.17 as "
-     "fInvTaxRate,'' as "
-     "fInvOther1,'' as fInvOther2, 0 as fInvSL2 from tJXC_CpTj02 a Left Join tJXC_Cp b On a.fCpPjID=b.fCpID  "
-     "where a.fTjID "
-     "= 2 Order By a.fRowID"},
+     "fInvTaxRate,'' as fInvOther1,'' as fInvOther2, 0 as fInvSL2 from tJXC_CpTj02 a Left Join tJXC_Cp b On "
+     "a.fCpPjID=b.fCpID  where a.fTjID = 2 Order By a.fRowID"},
     {"select b.fCpID,b.fCpCode,a.fCkName,a.fKcSl  From tJXC_CkTj a Right join tJXC_Cp b On (b.fCpID=a.fCpID) "
-     " Where 1=1  "
-     "Order By b.fCpCode"},
+     " Where 1=1  Order By b.fCpCode"},
     {"Select fChecker From tAccountDetail Where fInvID='R1' And fDate=#07/31/2003#",
      "Select fChecker From tAccountDetail Where fInvID='R1' And Convert(varchar(10),fDate,120)='2003-07-31'"},
     {"select distinct a.*,c.CompName From ((tJXC_CkDj01 a Inner Join tJXC_CkDj02 b On a.fInvID=b.fInvID)  "
-     "Left join Cards c "
-     "On a.fKhID=c.fID)  left join tJXC_Cp d on b.fCpid=d.fCpID Where  a.fInvSHR='' And abs(a.fInvType)=1 "
-     "And a.fInvDate "
-     "Between #2003-07-01# And #2003-07-31# And b.fInvDJ >= 2.5 Order By a.fInvDate,a.fInvNo",
+     "Left join Cards c On a.fKhID=c.fID)  left join tJXC_Cp d on b.fCpid=d.fCpID Where  a.fInvSHR='' And "
+     "abs(a.fInvType)=1 And a.fInvDate Between #2003-07-01# And #2003-07-31# And b.fInvDJ >= 2.5 Order By "
+     "a.fInvDate,a.fInvNo",
      "select distinct a.*,c.CompName From ((tJXC_CkDj01 a Inner Join tJXC_CkDj02 b On a.fInvID=b.fInvID)  "
-     "Left join Cards c "
-     "On a.fKhID=c.fID)  left join tJXC_Cp d on b.fCpid=d.fCpID Where  a.fInvSHR='' And abs(a.fInvType)=1 "
-     "And "
-     "Convert(varchar(10),a.fInvDate,120) Between '2003-07-01' And '2003-07-31' And b.fInvDJ >= 2.5 Order By "
-     "a.fInvDate,a.fInvNo"},
+     "Left join Cards c On a.fKhID=c.fID)  left join tJXC_Cp d on b.fCpid=d.fCpID Where  a.fInvSHR='' And "
+     "abs(a.fInvType)=1 And Convert(varchar(10),a.fInvDate,120) Between '2003-07-01' And '2003-07-31' And "
+     "b.fInvDJ >= 2.5 Order By a.fInvDate,a.fInvNo"},
     {"select distinct a.*,c.CompName From ((tJXC_CkHt01 a Inner Join tJXC_CkHt02 b On a.fInvID=b.fInvID)  "
      "Left join Cards c On a.fKhID=c.fID)  left join tJXC_Cp d on b.fCpid=d.fCpID Where 1=1 And "
      "a.fInvType=23 And b.fInvInOut=1 And a.fInvJBR Like '%x%' And a.fInvHb='x' And a.fInvDate = "
-     "#2003-07-01# "
-     "And a.fInvNo like 'x%' And b.fCkName like '%x%' And (d.fCpName Like '%x%' Or d.fCpGG Like '%x%') And "
-     "d.fCpZy='x' And b.fInvDJ  = -2.5 And a.fInvJE <> 0 Order By a.fInvDate,a.fInvNo",
+     "#2003-07-01# And a.fInvNo like 'x%' And b.fCkName like '%x%' And (d.fCpName Like '%x%' Or d.fCpGG Like "
+     "'%x%') And d.fCpZy='x' And b.fInvDJ  = -2.5 And a.fInvJE <> 0 Order By a.fInvDate,a.fInvNo",
      "select distinct a.*,c.CompName From ((tJXC_CkHt01 a Inner Join tJXC_CkHt02 b On a.fInvID=b.fInvID)  "
      "Left join Cards c On a.fKhID=c.fID)  left join tJXC_Cp d on b.fCpid=d.fCpID Where 1=1 And "
      "a.fInvType=23 And b.fInvInOut=1 And a.fInvJBR Like '%x%' And a.fInvHb='x' And "
@@ -87,27 +71,20 @@ const Statement kSelects[] = {
      "(d.fCpName Like '%x%' Or d.fCpGG Like '%x%') And d.fCpZy='x' And b.fInvDJ  = -2.5 And a.fInvJE <> 0 "
      "Order By a.fInvDate,a.fInvNo"},
     {"select b.*,a.fInvType,a.fInvDLR,c.CompName,d.fCpCode,e.fSetName From (((tJXC_CkDj_Bak02 b Left join "
-     "tJXC_CkDj_Bak01 a "
-     "On a.fInvID=b.fInvID)  Left join Cards c On a.fKhID=c.fID)  Left join tJXC_Cp d On b.fCpID=d.fCpID)  "
-     "Left join "
-     "tJXC_InvSet e On a.fInvType=e.fSetNo Where 1=1 Order By a.fInvDate,a.fInvNo"},
+     "tJXC_CkDj_Bak01 a On a.fInvID=b.fInvID)  Left join Cards c On a.fKhID=c.fID)  Left join tJXC_Cp d On "
+     "b.fCpID=d.fCpID)  Left join tJXC_InvSet e On a.fInvType=e.fSetNo Where 1=1 Order By "
+     "a.fInvDate,a.fInvNo"},
     {"Select a.fInvSl,a.fInvSl+a.fInvSl2 as fInvSl9,b.fCpName+'/'+b.fCpGG as fCpName From tJXC_CkDj02 a Left "
-     "Join tJxc_Cp b On "
-     "a.fCpID=b.fCpID Where a.fInvNo='R1' And fInv1=0 Order By a.fRowID"},
+     "Join tJxc_Cp b On a.fCpID=b.fCpID Where a.fInvNo='R1' And fInv1=0 Order By a.fRowID"},
     {"select b.fCpCode,b.fCpSlMin,a.*,b.fCpPrice0 as fCpPrice From (tJXC_CkTj a Left join tJXC_Cp b On "
-     "a.fCpID=b.fCpID)  "
-     "Where a.fCkName Like '%' Order By b.fCpCode,a.fCkName"},
+     "a.fCpID=b.fCpID)  Where a.fCkName Like '%' Order By b.fCpCode,a.fCkName"},
     {"Select Count(*) From tJXC_Cp Where not fCpFlag=1"},
     {"select b.fCpID,b.fKhName,sum(c.fKcSl) as fKcSl,sum(a.fInvSL2) as fXsSl From ((tJXC_CkHt02 a Inner Join "
-     "tJXC_Cp b On "
-     "b.fCpID=a.fCpID) Left Join tJXC_CkTj c On c.fCpID=a.fCpID) Where a.fInvSL2>0 And a.fInvID in (Select "
-     "fInvID From "
-     "tJXC_CkHt01 Where tJXC_CkHt01.fInvType=24)  And not  b.fCpID in (Select fCpID From tJXC_CpTj01 Where "
-     "fTjFlag<1) Group "
-     "By b.fCpID,b.fKhName Order By b.fKhName"},
+     "tJXC_Cp b On b.fCpID=a.fCpID) Left Join tJXC_CkTj c On c.fCpID=a.fCpID) Where a.fInvSL2>0 And a.fInvID "
+     "in (Select fInvID From tJXC_CkHt01 Where tJXC_CkHt01.fInvType=24)  And not  b.fCpID in (Select fCpID "
+     "From tJXC_CpTj01 Where fTjFlag<1) Group By b.fCpID,b.fKhName Order By b.fKhName"},
     {"Select Sum(fInvSL) From tJXC_CkDj02  Where fCpID=3 And fInvID in (Select fInvID From tJXC_CkDj01 Where "
-     "fInvType=31 And "
-     "fInvSHR='') And fInv1=1 "},
+     "fInvType=31 And fInvSHR='') And fInv1=1 "},
     {"Select count(*) From tJXC_CkDj01 where fInvDate<=#07/31/2003# And fInvSHR=''",
      "Select count(*) From tJXC_CkDj01 where Convert(varchar(10),fInvDate,120) <='2003-07-31' And "
      "fInvSHR=''"},
@@ -115,39 +92,30 @@ const Statement kSelects[] = {
     {"Select a.fJbCode, b.fJbName, a.fYj_Je_Zj, a.fYj_Je_Jl From tJXC_Yj_Data a Left Join tJXC_Yj_SetJb b On "
      "b.fJbCode=a.fJbCode Where Year(a.fMonth)=2003 And Month(a.fMonth)=7 And a.fJbCode>0 And a.fName='x'"},
     {"Select a.fName,sum(c.fYj_Je_Zj) as fYj_Je_Zj From (tJXC_Yj_jbr a Left Join tJXC_Yj_jbr b On "
-     "b.fName2=a.fName) Left Join "
-     "tJXC_Yj_Data c On c.fName=b.fName Where year(c.fMonth)=2003 And Month(c.fMonth)=7 And a.fFloor=1 Group "
-     "By a.fName "
-     "Order By a.fName"},
+     "b.fName2=a.fName) Left Join tJXC_Yj_Data c On c.fName=b.fName Where year(c.fMonth)=2003 And "
+     "Month(c.fMonth)=7 And a.fFloor=1 Group By a.fName Order By a.fName"},
     {"select count(*) From tJXC_Yj_Data Where fName not In (Select fName From tJXC_Yj_Jbr)"},
     {"Select format(a.fMonth,'yyyy-mm') as fMonth,b.fCode,a.fName,a.fYj_Tc From tJXC_Yj_Data_Bak a Left Join "
-     "tJXC_Yj_Jbr b On "
-     "b.fName=a.fName Where Format(a.fMonth,'YYYYMM') Between 200301 And 200312 Order By b.fCode,a.fMonth",
+     "tJXC_Yj_Jbr b On b.fName=a.fName Where Format(a.fMonth,'YYYYMM') Between 200301 And 200312 Order By "
+     "b.fCode,a.fMonth",
      "Select Convert(varchar(7),a.fMonth,120) as fMonth,b.fCode,a.fName,a.fYj_Tc From tJXC_Yj_Data_Bak a "
-     "Left Join "
-     "tJXC_Yj_Jbr b On b.fName=a.fName Where Convert(varchar(7),a.fMonth,120) Between '2003-01' And "
-     "'2003-12' Order By "
-     "b.fCode,a.fMonth"},
+     "Left Join tJXC_Yj_Jbr b On b.fName=a.fName Where Convert(varchar(7),a.fMonth,120) Between '2003-01' "
+     "And '2003-12' Order By b.fCode,a.fMonth"},
     {"Select '' as CompCode,'' as CompName,b.fCpCode,b.fCpName + '/' + b.fCpGG as fCpName,sum(a.fCkSl) as "
      "fCkSl,sum(a.fCkJe-a.fCkCb) as fCkMl From (tJXC_KhTj_bak a Left Join tJXC_Cp b on b.fCpID=a.FCpID) Left "
-     "Join Cards d on "
-     "d.fID=a.fKhID Where 1=1 And (a.fMonth Between #2003-01-01# And #2003-12-01#) And (d.fType0=1 Or "
-     "d.fType0=0) Group By "
-     "b.fCpCode,b.fCpName,b.fCpGG Order By b.fCpCode",
+     "Join Cards d on d.fID=a.fKhID Where 1=1 And (a.fMonth Between #2003-01-01# And #2003-12-01#) And "
+     "(d.fType0=1 Or d.fType0=0) Group By b.fCpCode,b.fCpName,b.fCpGG Order By b.fCpCode",
      "Select '' as CompCode,'' as CompName,b.fCpCode,b.fCpName + '/' + b.fCpGG as fCpName,sum(a.fCkSl) as "
      "fCkSl,sum(a.fCkJe-a.fCkCb) as fCkMl From (tJXC_KhTj_bak a Left Join tJXC_Cp b on b.fCpID=a.FCpID) Left "
-     "Join Cards d on "
-     "d.fID=a.fKhID Where 1=1 And (Convert(varchar(10),a.fMonth,120) Between '2003-01-01' And '2003-12-01') "
-     "And (d.fType0=1 "
-     "Or d.fType0=0) Group By b.fCpCode,b.fCpName,b.fCpGG Order By b.fCpCode"},
+     "Join Cards d on d.fID=a.fKhID Where 1=1 And (Convert(varchar(10),a.fMonth,120) Between '2003-01-01' "
+     "And '2003-12-01') And (d.fType0=1 Or d.fType0=0) Group By b.fCpCode,b.fCpName,b.fCpGG Order By "
+     "b.fCpCode"},
     {"Select Format(a.fMonth,'yyyy-mm') as fX1,Sum(IIF(a.fCkName='A',fCkJe,0)) as fJe1 From (tJXC_CkTj_bak a "
-     "Left Join tJXC_Cp "
-     "b on b.fCpID=a.FCpID) Left Join tJXC_Ck c on c.fCkName=a.FCkName Group By a.fMonth Order By a.fMonth",
+     "Left Join tJXC_Cp b on b.fCpID=a.FCpID) Left Join tJXC_Ck c on c.fCkName=a.FCkName Group By a.fMonth "
+     "Order By a.fMonth",
      "Select convert(varchar(7),a.fMonth,120) as fX1,Sum(Case When a.fCkName='A' Then fCkJe Else 0 End) as "
-     "fJe1 From "
-     "(tJXC_CkTj_bak a Left Join tJXC_Cp b on b.fCpID=a.FCpID) Left Join tJXC_Ck c on c.fCkName=a.FCkName "
-     "Group By a.fMonth "
-     "Order By a.fMonth"},
+     "fJe1 From (tJXC_CkTj_bak a Left Join tJXC_Cp b on b.fCpID=a.FCpID) Left Join tJXC_Ck c on "
+     "c.fCkName=a.FCkName Group By a.fMonth Order By a.fMonth"},
 };
 
 const Statement kCommands[] = {
@@ -158,47 +126,35 @@ const Statement kCommands[] = {
     {"Delete From tJXC_CpTj01 a  where a.fTjCode = 'x'", "Delete From tJXC_CpTj01  where fTjCode = 'x'"},
     {"Update tJXC_Cp Set fCpPrice0=12.50 Where fCpID=3"},
     {"Insert INTO tJXC_CpGys (fCpID,fKhID,fCpSl,fCpPrice,fInvDate,fInvNo) SELECT "
-     "fCpID,fKhID,fInvSl,fInvDJ,fInvDate,fInvNo "
-     "From tJXC_CkDj02 Where fKhID > 0 And fInvID In (Select fInvID From tJXC_CkDj01 Where "
-     "tJXC_CkDj01.fInvType=1 And "
-     "fInvSHR<>'')ORDER BY fInvDate,fCpID,fKhID"},
+     "fCpID,fKhID,fInvSl,fInvDJ,fInvDate,fInvNo From tJXC_CkDj02 Where fKhID > 0 And fInvID In (Select "
+     "fInvID From tJXC_CkDj01 Where tJXC_CkDj01.fInvType=1 And fInvSHR<>'')ORDER BY fInvDate,fCpID,fKhID"},
     {"Delete From tJXC_CpGys Where fInvDate >= #2003-07-01#",
      "Delete From tJXC_CpGys Where Convert(varchar(10),fInvDate,120) >= '2003-07-01'"},
     {"Update tJXC_CkHt02 Set fInvSL2=fInvSL2-(-5) Where fInvID=4 And fInvSL2>0 And fCpID=3"},
     {"Update tJXC_CkDj02 a,tJXC_CkTj b Set a.fInvDJ2=b.fKcDj Where a.fCpID=b.fCpID And a.fCkName=b.fCkName "
-     "And a.fInvID=7 "
-     "And b.fKcDj>0",
+     "And a.fInvID=7 And b.fKcDj>0",
      "Update tJXC_CkDj02 Set fInvDJ2=b.fKcDj From tJXC_CkDj02 a inner Join tJXC_CkTj b On a.fCpID=b.fCpID "
-     "And "
-     "a.fCkName=b.fCkName Where a.fInvID=7 And b.fKcDj>0"},
+     "And a.fCkName=b.fCkName Where a.fInvID=7 And b.fKcDj>0"},
     {"Delete From tAccountDetail Where fInvID='R1' And fDate=#07/31/2003#",
      "Delete From tAccountDetail Where fInvID='R1' And Convert(varchar(10),fDate,120) ='2003-07-31'"},
     {"Insert Into tJXC_CkTj (fCpID,fCkName,fQcSl,fDkSl) select "
      "a.fCpID,a.fCkName,sum(iif(c.fSetTjType=0,a.fInvSl,0)) as "
      "fQcSl,sum(iif(a.fInvInOut=1,1,-1)*iif(c.fSetTjType=3,a.fInvSl,0)) as fDkSl from (tJXC_CkDj02 a Left "
-     "Join tJXC_CkDj01 b "
-     "On b.fInvID=a.fInvID) Left Join tJXC_InvSet c On c.fSetNo=b.fInvType where a.fInvDate<=#07/31/2003# "
-     "And b.fInvSHR<>'' "
-     "Group by a.fCpID,a.fCkName Order by a.fCpID,a.fCkName",
+     "Join tJXC_CkDj01 b On b.fInvID=a.fInvID) Left Join tJXC_InvSet c On c.fSetNo=b.fInvType where "
+     "a.fInvDate<=#07/31/2003# And b.fInvSHR<>'' Group by a.fCpID,a.fCkName Order by a.fCpID,a.fCkName",
      "Insert Into tJXC_CkTj (fCpID,fCkName,fQcSl,fDkSl) select a.fCpID,a.fCkName,sum(case when "
-     "c.fSetTjType=0 then a.fInvSl "
-     "else 0 end) as fQcSl,sum((case when a.fInvInOut=1 then 1 else -1 end)*(case when c.fSetTjType=3 then "
-     "a.fInvSl else 0 "
-     "end)) as fDkSl from (tJXC_CkDj02 a Left Join tJXC_CkDj01 b On b.fInvID=a.fInvID) Left Join tJXC_InvSet "
-     "c On "
-     "c.fSetNo=b.fInvType where Convert(varchar(10),a.fInvDate,120) <='2003-07-31' And b.fInvSHR<>'' Group "
-     "by "
-     "a.fCpID,a.fCkName Order by a.fCpID,a.fCkName"},
+     "c.fSetTjType=0 then a.fInvSl else 0 end) as fQcSl,sum((case when a.fInvInOut=1 then 1 else -1 "
+     "end)*(case when c.fSetTjType=3 then a.fInvSl else 0 end)) as fDkSl from (tJXC_CkDj02 a Left Join "
+     "tJXC_CkDj01 b On b.fInvID=a.fInvID) Left Join tJXC_InvSet c On c.fSetNo=b.fInvType where "
+     "Convert(varchar(10),a.fInvDate,120) <='2003-07-31' And b.fInvSHR<>'' Group by a.fCpID,a.fCkName Order "
+     "by a.fCpID,a.fCkName"},
     {"Update tJXC_CkTj Set fKcDj=(fQcJe+fRkJe)/(fQcSl+fRkSl) Where fQcSl + fRkSl <> 0"},
     {"Update tJXC_CkTj a,tJXC_Cp b Set a.fKcDj=b.fCpPrice0 Where a.fCpID=b.fCpID And a.fQcSl + a.fRkSl=0",
      "Update tJXC_CkTj Set fKcDj=b.fCpPrice0 From tJXC_CkTj a Inner Join tJXC_Cp b On a.fCpID=b.fCpID Where "
-     "a.fQcSl + "
-     "a.fRkSl=0"},
+     "a.fQcSl + a.fRkSl=0"},
     {"Insert Into tJXC_CkTj_tmp (fCpID,fKcSl,fKcJe) select b.fCpID,sum(b.fKcSl) as fKcSl,sum(b.fKcJe) as "
-     "fKcJe from "
-     "(tJXC_CkTj b Left Join tJXC_Ck c On c.fCkName=b.fCkName) Where (c.fCkType2=0 Or c.fCkType2=1) Group By "
-     "b.fCpID Order By "
-     "b.fCpID"},
+     "fKcJe from (tJXC_CkTj b Left Join tJXC_Ck c On c.fCkName=b.fCkName) Where (c.fCkType2=0 Or "
+     "c.fCkType2=1) Group By b.fCpID Order By b.fCpID"},
     {"Insert Into tJXC_CkDj_Tmp01 "
      "(fInvID,fInvType,fHtNo,fInvNo,fInvDate,fKhID,fCkName,fCkName2,fInvHb,fInvHbDl,fInvMemo,"
      "fInvDLR,fInvJBR,fInvShr)  Values (9,0,'','QC001',#08/01/2003#,0,'A','','RMB',1,'自动结转','x','','x')",
@@ -217,84 +173,62 @@ const Statement kCommands[] = {
     {"Insert Into tJXC_CkDj_Bak01  Select * From tJXC_CkDj01 Where fInvDate <= #07/31/2003# Order By "
      "fInvDate,fInvID",
      "Insert Into tJXC_CkDj_Bak01  Select * From tJXC_CkDj01 Where Convert(varchar(10),fInvDate,120) <= "
-     "'2003-07-31' Order By "
-     "fInvDate,fInvID"},
+     "'2003-07-31' Order By fInvDate,fInvID"},
     {"Insert Into tJXC_KhTj_Bak (fKhID,fCpID,fMonth,fCkSL,fCkJE,fCkCB)  Select a.fKhID,a.fCpID,#07/01/2003# "
-     "As "
-     "fMonth,Sum(a.fInvSL) As fCkSL,Sum(a.fInvJE*a.fInvHbDl) as fCkJE,Sum(a.fInvSL*a.fInvDj2) as fCkCB From "
-     "(tJXC_CkDj02 a "
-     "Left Join tJXC_CkDj01 b On b.fInvID=a.fInvID) Left Join tJXC_InvSet c On c.fSetNo=b.fInvType Where "
-     "a.fInvDate <= "
-     "#07/31/2003# And c.fSetTjType=2 Group By a.fKhID,a.fCpID Order By a.fKhID,a.fCpID",
+     "As fMonth,Sum(a.fInvSL) As fCkSL,Sum(a.fInvJE*a.fInvHbDl) as fCkJE,Sum(a.fInvSL*a.fInvDj2) as fCkCB "
+     "From (tJXC_CkDj02 a Left Join tJXC_CkDj01 b On b.fInvID=a.fInvID) Left Join tJXC_InvSet c On "
+     "c.fSetNo=b.fInvType Where a.fInvDate <= #07/31/2003# And c.fSetTjType=2 Group By a.fKhID,a.fCpID Order "
+     "By a.fKhID,a.fCpID",
      "Insert Into tJXC_KhTj_Bak (fKhID,fCpID,fMonth,fCkSL,fCkJE,fCkCB)  Select a.fKhID,a.fCpID,'07/01/2003' "
-     "As "
-     "fMonth,Sum(a.fInvSL) As fCkSL,Sum(a.fInvJE*a.fInvHbDl) as fCkJE,Sum(a.fInvSL*a.fInvDj2) as fCkCB From "
-     "(tJXC_CkDj02 a "
-     "Left Join tJXC_CkDj01 b On b.fInvID=a.fInvID) Left Join tJXC_InvSet c On c.fSetNo=b.fInvType Where "
-     "Convert(varchar(10),a.fInvDate,120) <= '2003-07-31' And c.fSetTjType=2 Group By a.fKhID,a.fCpID Order "
-     "By "
-     "a.fKhID,a.fCpID"},
+     "As fMonth,Sum(a.fInvSL) As fCkSL,Sum(a.fInvJE*a.fInvHbDl) as fCkJE,Sum(a.fInvSL*a.fInvDj2) as fCkCB "
+     "From (tJXC_CkDj02 a Left Join tJXC_CkDj01 b On b.fInvID=a.fInvID) Left Join tJXC_InvSet c On "
+     "c.fSetNo=b.fInvType Where Convert(varchar(10),a.fInvDate,120) <= '2003-07-31' And c.fSetTjType=2 Group "
+     "By a.fKhID,a.fCpID Order By a.fKhID,a.fCpID"},
     {"Insert Into tJXC_CkTj_Bak  Select * From tJXC_CkTj  Order By fCpID,fCkName"},
     {"Update tJXC_InvSys Set fSysDate=#08/01/2003#", "Update tJXC_InvSys Set fSysDate='08/01/2003'"},
     {"Update tJXC_Yj_Jbr Set fName2 = '' Where isnull(fName2)",
      "Update tJXC_Yj_Jbr Set fName2 = '' Where fName2 is null"},
     {"Insert Into tJXC_Yj_Jbr (fCode,fName,fName2,fMemo,fFloor,fFlag)  Select fCode,fName,'','',-1,0 From "
-     "tRsBasic Where "
-     "fBmName='x' And fName not In (Select fName from tJXC_Yj_Jbr) Order By fCode"},
+     "tRsBasic Where fBmName='x' And fName not In (Select fName from tJXC_Yj_Jbr) Order By fCode"},
     {"Insert Into tJXC_Yj_Data (fName,fMonth,fYj_Je_Gr,fYj_Je_Zj) Select distinct a.fInvJbr as "
-     "fName,'07/31/2003' as "
-     "fMonth,sum(b.fInvJE*b.fInvHbDl) as fYj_Je_Gr,0.00 as fYj_Je_Zj From (tJXC_CkDj01 a Inner Join "
-     "tJXC_CkDj02 b On "
-     "a.fInvID=b.fInvID)  left join tJXC_Cp d on b.fCpID=d.fCpID Where a.fInvJbr<>'' and not "
-     "isnull(a.fInvJbr) And "
-     "(abs(a.fInvType)=2 or abs(a.fInvType)=5) And Year(a.fInvDate)=2003 And Month(a.fInvDate)=7 Group By "
-     "a.fInvJbr Order By "
-     "a.fInvJbr",
+     "fName,'07/31/2003' as fMonth,sum(b.fInvJE*b.fInvHbDl) as fYj_Je_Gr,0.00 as fYj_Je_Zj From (tJXC_CkDj01 "
+     "a Inner Join tJXC_CkDj02 b On a.fInvID=b.fInvID)  left join tJXC_Cp d on b.fCpID=d.fCpID Where "
+     "a.fInvJbr<>'' and not isnull(a.fInvJbr) And (abs(a.fInvType)=2 or abs(a.fInvType)=5) And "
+     "Year(a.fInvDate)=2003 And Month(a.fInvDate)=7 Group By a.fInvJbr Order By a.fInvJbr",
      "Insert Into tJXC_Yj_Data (fName,fMonth,fYj_Je_Gr,fYj_Je_Zj) Select distinct a.fInvJbr as "
-     "fName,'07/31/2003' as "
-     "fMonth,sum(b.fInvJE*b.fInvHbDl) as fYj_Je_Gr,0.00 as fYj_Je_Zj From (tJXC_CkDj01 a Inner Join "
-     "tJXC_CkDj02 b On "
-     "a.fInvID=b.fInvID)  left join tJXC_Cp d on b.fCpID=d.fCpID Where a.fInvJbr<>'' and (not a.fInvJbr is "
-     "Null) And "
-     "(abs(a.fInvType)=2 or abs(a.fInvType)=5) And Year(a.fInvDate)=2003 And Month(a.fInvDate)=7 Group By "
-     "a.fInvJbr Order By "
-     "a.fInvJbr"},
+     "fName,'07/31/2003' as fMonth,sum(b.fInvJE*b.fInvHbDl) as fYj_Je_Gr,0.00 as fYj_Je_Zj From (tJXC_CkDj01 "
+     "a Inner Join tJXC_CkDj02 b On a.fInvID=b.fInvID)  left join tJXC_Cp d on b.fCpID=d.fCpID Where "
+     "a.fInvJbr<>'' and (not a.fInvJbr is Null) And (abs(a.fInvType)=2 or abs(a.fInvType)=5) And "
+     "Year(a.fInvDate)=2003 And Month(a.fInvDate)=7 Group By a.fInvJbr Order By a.fInvJbr"},
     {"insert into tJXC_Yj_Jbr (fCode,fName,fName2,fMemo,fFloor) select '' as fCode,fName,'' as "
-     "fName2,'自动追加' as fMemo,-1 as "
-     "fFloor From tJXC_Yj_Data Where fName not In (Select fName From tJXC_Yj_Jbr)"},
+     "fName2,'自动追加' as fMemo,-1 as fFloor From tJXC_Yj_Data Where fName not In (Select fName From "
+     "tJXC_Yj_Jbr)"},
     {"Update tJXC_Yj_Data a,tJXC_Yj_SetJb b Set a.fJbCode=b.fJbCode Where year(a.fMonth)=2003 And "
-     "Month(a.fMonth)=7 And "
-     "b.fJbSet1=0 And a.fYj_Je_Zj>=b.fJbMin and a.fYj_Je_Zj<=b.fJbMax",
+     "Month(a.fMonth)=7 And b.fJbSet1=0 And a.fYj_Je_Zj>=b.fJbMin and a.fYj_Je_Zj<=b.fJbMax",
      "Update tJXC_Yj_Data Set fJbCode=b.fJbCode From tJXC_Yj_Data a Left Join tJXC_Yj_SetJb b On "
-     "a.fYj_Je_Zj>=b.fJbMin and "
-     "a.fYj_Je_Zj<=b.fJbMax Where year(a.fMonth)=2003 And Month(a.fMonth)=7 And b.fJbSet1=0 "},
+     "a.fYj_Je_Zj>=b.fJbMin and a.fYj_Je_Zj<=b.fJbMax Where year(a.fMonth)=2003 And Month(a.fMonth)=7 And "
+     "b.fJbSet1=0 "},
     {"Update tJXC_Yj_Jbr b Set b.fJbCode=0 Where isnull(b.fJbCode)",
      "Update tJXC_Yj_Jbr Set fJbCode=0 Where fJbCode is null"},
     {"Insert Into tJXC_Yj_Data_Tmp (fName,fYj_Tc_Xj) Select a.fName,sum(d.fYj_Je_Zj) as fYj_Tc_Xj From "
-     "((tJXC_Yj_Data a Left "
-     "Join tJXC_Yj_Jbr b On b.fName2=a.fName) Left Join tJXC_Yj_SetJb c On c.fJbCode=a.fJbCode) Left Join "
-     "tJXC_Yj_Data d On "
-     "d.fName=b.fName Where year(a.fMonth)=2003 And Month(a.fMonth)=7 And c.fJbSet2=1 And "
-     "d.fJbCode=a.fJbCode Group By "
-     "a.fName Order By a.fName"},
+     "((tJXC_Yj_Data a Left Join tJXC_Yj_Jbr b On b.fName2=a.fName) Left Join tJXC_Yj_SetJb c On "
+     "c.fJbCode=a.fJbCode) Left Join tJXC_Yj_Data d On d.fName=b.fName Where year(a.fMonth)=2003 And "
+     "Month(a.fMonth)=7 And c.fJbSet2=1 And d.fJbCode=a.fJbCode Group By a.fName Order By a.fName"},
     {"Update tJXC_Yj_Data a, tJXC_Yj_SetJb b Set a.fYj_Tc_Zj = ccur(a.fYj_Je_Zj * ccur(b.fJbRate1)) Where "
      "year(a.fMonth)=2003 And Month(a.fMonth)=7 And b.fJbCode = a.fJbCode",
      "Update tJXC_Yj_Data  Set fYj_Tc_Zj = convert(money,a.fYj_Je_Zj * convert(SmallMoney,b.fJbRate1)) From "
-     "tJXC_Yj_Data a "
-     "Inner Join tJXC_Yj_SetJb b On b.fJbCode = a.fJbCode  Where year(a.fMonth)=2003 And Month(a.fMonth)=7"},
+     "tJXC_Yj_Data a Inner Join tJXC_Yj_SetJb b On b.fJbCode = a.fJbCode  Where year(a.fMonth)=2003 And "
+     "Month(a.fMonth)=7"},
     {"Update tJXC_Yj_Data a, tJXC_Yj_Data_Tmp b Set a.fYj_Tc_Xj=ccur(b.fYj_Tc_Xj) Where b.fName = a.fName "
-     "and not "
-     "isnull(b.fYj_Tc_Xj)",
+     "and not isnull(b.fYj_Tc_Xj)",
      "Update tJXC_Yj_Data  Set fYj_Tc_Xj= b.fYj_Tc_Xj From tJXC_Yj_Data a Inner Join tJXC_Yj_Data_Tmp b On "
-     "b.fName = a.fName "
-     "Where not b.fYj_Tc_Xj is null"},
+     "b.fName = a.fName Where not b.fYj_Tc_Xj is null"},
     {"Update tJXC_Yj_Data  Set fYj_Tc = fYj_Tc_Zj - fYj_Tc_Xj + fYj_Tc_Jl  Where year(fMonth)=2003 And "
      "Month(fMonth)=7"},
     {"Update tJXC_Yj_Jbr a,tJXC_Yj_Data b Set a.fJbCode=b.fJbCode Where a.fName=b.fName And "
      "a.fJbCode<b.fJbCode",
      "Update tJXC_Yj_Jbr Set fJbCode=b.fJbCode From tJXC_Yj_Jbr a Inner Join tJXC_Yj_Data b On "
-     "b.fName=a.fName Where "
-     "a.fJbCode<b.fJbCode"},
+     "b.fName=a.fName Where a.fJbCode<b.fJbCode"},
 };
 
 class EveryStatement : public OnBothEngines {

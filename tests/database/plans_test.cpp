@@ -6,11 +6,9 @@
 
 #include "controls/gestures.h"
 #include "controls/text.h"
-#include "host/company_address.h"
 #include "session/database/engine.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
-#include "tests/support/sample_company.h"
 
 namespace jxc::test {
 
@@ -55,7 +53,7 @@ const std::set<std::string> kGrowing{"tjxc_ckdj01",    "tjxc_ckdj02", "tjxc_ckht
                                      "taccountdetail", "tjxc_cktj",   "tjxc_cktj_tmp", "tjxc_cp",
                                      "tjxc_cpgys",     "cards"};
 
-class Plans : public OnSampleCompany {
+class Plans : public OnOpenCompany {
   protected:
     bool IsPostgres() const { return GetParam() == EngineKind::Postgres; }
     void Fill() { Conn().EngineInUse().ExecuteScript(FillingScript(IsPostgres())); }
@@ -97,34 +95,32 @@ class Plans : public OnSampleCompany {
     }
 
     // Enters a document, changes it, steps from it, approves and reverses it where its type can be, deletes it.
-    static void Live(Clerk& clerk, const DocumentInput& input) {
-        const int key = clerk.Save(input);
-        ASSERT_NE(key, 0) << "type " << input.type << ": " << clerk.LastBox();
-        clerk.Open(DocAction::Change, input.type, key, [&](frmDj02& s) { ClickSave(clerk, s); });
-        clerk.Open(DocAction::Query, input.type, key, [&](frmDj02& s) {
+    void Live(const DocumentInput& input) {
+        const int key = clerk->Save(input);
+        ASSERT_NE(key, 0) << "type " << input.type << ": " << clerk->LastBox();
+        clerk->Open(DocAction::Change, input.type, key, [&](frmDj02& s) { ClickSave(*clerk, s); });
+        clerk->Open(DocAction::Query, input.type, key, [&](frmDj02& s) {
             Click(s, s.cmdPrevious);
             Click(s, s.cmdNext);
         });
         if (input.type < 20 || input.type > 29) {
-            EXPECT_TRUE(clerk.Approve(input.type, key)) << "type " << input.type << ": " << clerk.LastBox();
-            EXPECT_TRUE(clerk.Reverse(input.type, key)) << "type " << input.type << ": " << clerk.LastBox();
+            EXPECT_TRUE(clerk->Approve(input.type, key)) << "type " << input.type << ": " << clerk->LastBox();
+            EXPECT_TRUE(clerk->Reverse(input.type, key)) << "type " << input.type << ": " << clerk->LastBox();
         }
-        EXPECT_TRUE(clerk.Delete(input.type, key)) << "type " << input.type << ": " << clerk.LastBox();
+        EXPECT_TRUE(clerk->Delete(input.type, key)) << "type " << input.type << ": " << clerk->LastBox();
     }
 };
 ON_BOTH_ENGINES(Plans);
 
 TEST_P(Plans, OfOneDocumentWalkThroughNoTable) {
-    const OpenCompany open(company->Address());
     Fill();
-    Clerk clerk;
     const std::set<std::string> sent = SentBy([&] {
         for (const int type : AllTypes())
-            Live(clerk, TypicalDocument(type));
-        ASSERT_NE(clerk.Save(TypicalDocument(23)), 0);
+            Live(TypicalDocument(type));
+        ASSERT_NE(clerk->Save(TypicalDocument(23)), 0);
         DocumentInput receipt = TypicalDocument(1);
         receipt.order = One("Select fInvNo From tJXC_CkHt01 Where fInvType=23 And fInvID>120000");
-        Live(clerk, receipt);
+        Live(receipt);
     });
     const auto isSent = [&](const std::string& part) {
         return std::any_of(sent.begin(), sent.end(),
@@ -146,7 +142,6 @@ TEST_P(Plans, OfOneDocumentWalkThroughNoTable) {
 }
 
 TEST_P(Plans, ShowAWalkWhereThereIsOne) {
-    const OpenCompany open(company->Address());
     Fill();
     for (const char* sql : {"Select * From tJXC_CkDj02 Where fInvSL=3",
                             "Select a.fInvNo From tJXC_CkHt01 b Left Join tJXC_CkDj02 a On a.fInvID=b.fInvID "

@@ -1,49 +1,30 @@
 // Why work failed: the message of the work in the box, the engine's own words on demand and in the log.
 #include <atomic>
 #include <filesystem>
-#include <fstream>
 #include <optional>
-#include <sstream>
 #include <thread>
 
 #include <sys/stat.h>
 
 #include "controls/gestures.h"
 #include "controls/log.h"
-#include "host/company_address.h"
-#include "session/database/engine.h"
-#include "session/database/open_connection.h"
 #include "session/database/waiting.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
-#include "tests/support/sample_company.h"
 
 namespace jxc::test {
 
 namespace {
 
-std::string Contents(const std::string& file) {
-    std::ostringstream text;
-    text << std::ifstream(file).rdbuf();
-    return text.str();
-}
-
-class Causes : public OnSampleCompany {
+class Causes : public OnOpenCompany {
   protected:
     void Begin() override {
-        folder = (std::filesystem::temp_directory_path() / ("jxc-log-" + std::to_string(getpid()))).string();
-        std::filesystem::remove_all(folder);
-        before = LogFile();
-        setenv("JXC_LOG", (folder + "/a/jxc.log").c_str(), 1);
-        open = std::make_unique<OpenCompany>(company->Address());
-        clerk = std::make_unique<Clerk>();
+        setenv("JXC_LOG", folder.File("a/jxc.log").c_str(), 1);
+        OnOpenCompany::Begin();
     }
     void TearDown() override {
-        clerk.reset();
-        open.reset();
+        OnOpenCompany::TearDown();
         setenv("JXC_LOG", before.c_str(), 1);
-        std::filesystem::remove_all(folder);
-        OnSampleCompany::TearDown();
     }
     // Runs with an error at the first statement that holds the text.
     template <typename Error, typename Operation>
@@ -57,9 +38,8 @@ class Causes : public OnSampleCompany {
         ASSERT_FALSE(Conn().InTransaction());
     }
 
-    std::string folder, before;
-    std::unique_ptr<OpenCompany> open;
-    std::unique_ptr<Clerk> clerk;
+    const TemporaryFolder folder;
+    const std::string before = LogFile();
 };
 ON_BOTH_ENGINES(Causes);
 
@@ -76,7 +56,7 @@ TEST_P(Causes, StandBehindTheMessageAndInTheLog) {
     EXPECT_EQ(clerk->view.boxes.back().details, "disk full");
     EXPECT_EQ(Changes(before, Books()), Lines{});
 
-    const std::string log = Contents(LogFile());
+    const std::string log = FileText(LogFile());
     EXPECT_NE(log.find("[入库单：审核] 更新仓库的产品“库存成本表”错误，审核操作未完成！ disk I/O error\n"),
               std::string::npos)
         << log;
@@ -99,8 +79,7 @@ TEST_P(Causes, ThatAreFaultsOfTheProgramShowAsSuch) {
 TEST_P(Causes, OfAWaitThatWasGivenUp) {
     const int key = clerk->Save(TypicalDocument(1));
     Connection other;
-    OpenConnection(session.SQLData, other, session.UserPath, session.Password, session.UserID,
-                   session.Default);
+    OpenCompanyAt(company->Address(), other);
     {
         Transaction writing(other);
         other.Execute("Update Moneys Set MoneyRate=7 Where MoneyCode='USD'");
@@ -109,7 +88,7 @@ TEST_P(Causes, OfAWaitThatWasGivenUp) {
         Conn().SetWaitObserver([&](int seconds) { return clerk->view.KeepWaiting(seconds); });
         EXPECT_FALSE(clerk->Approve(1, key));
         EXPECT_EQ(clerk->LastBox(), "已取消等待，操作没有进行。");
-        EXPECT_EQ(clerk->view.waits, (std::vector<int>{0, -1}));
+        EXPECT_EQ(clerk->view.waits, kAskedOnceAndEnded);
     }
     EXPECT_TRUE(clerk->Approve(1, key)) << clerk->LastBox();
 }
@@ -148,8 +127,7 @@ TEST_P(Causes, OfAPasteThatBreaksOffLeaveTheLinesAsTheyWere) {
 TEST_P(Causes, OfAViewThatFailsEndNoWait) {
     const int key = clerk->Save(TypicalDocument(1));
     Connection other;
-    OpenConnection(session.SQLData, other, session.UserPath, session.Password, session.UserID,
-                   session.Default);
+    OpenCompanyAt(company->Address(), other);
     std::optional<Transaction> writing(std::in_place, other);
     other.Execute("Update Moneys Set MoneyRate=7 Where MoneyCode='USD'");
     other.Flush();
@@ -167,30 +145,26 @@ TEST_P(Causes, OfAViewThatFailsEndNoWait) {
     EXPECT_GT(told.exchange(1), 0);
     told.notify_all();
     writer.join();
-    EXPECT_NE(Contents(LogFile()).find("no window to tell it in"), std::string::npos);
+    EXPECT_NE(FileText(LogFile()).find("no window to tell it in"), std::string::npos);
 }
+
+class LostLineOfAClerk : public Causes {};
+ON_POSTGRES(LostLineOfAClerk);
 
 // A server that was away while a document was typed is found again by the save. One that goes in the middle of the save
 // undoes it, and the next save finds it again.
-TEST_P(Causes, OfALostLineLeaveWhatWasTyped) {
-    if (GetParam() == EngineKind::Sqlite)
-        return;
+TEST_P(LostLineOfAClerk, LeavesWhatWasTyped) {
     Connection other;
-    OpenConnection(session.SQLData, other, session.UserPath, session.Password, session.UserID,
-                   session.Default);
-    const auto cut = [&] {
-        other.EngineInUse().ExecuteScript("select pg_terminate_backend(pid) from pg_stat_activity where pid<>"
-                                          "pg_backend_pid() and datname=current_database()");
-    };
+    OpenCompanyAt(company->Address(), other);
     clerk->Enter(TypicalDocument(1), [&](frmDj02& s) {
-        cut();
+        CutLinesOfOthers(other);
         ClickSave(*clerk, s);
         EXPECT_EQ(clerk->LastBox(), "单据新增完毕。打印本张单据？");
     });
     clerk->Enter(TypicalDocument(1), [&](frmDj02& s) {
         Conn().SetObserver([&](std::string_view sql) {
             if (sql == "begin")
-                cut();
+                CutLinesOfOthers(other);
         });
         ClickSave(*clerk, s);
         EXPECT_EQ(clerk->LastBox(), "系统存盘错误，操作已经取消！");
@@ -203,7 +177,7 @@ TEST_P(Causes, OfALostLineLeaveWhatWasTyped) {
     const auto cutAtCommit = [&] {
         Conn().SetObserver([&](std::string_view sql) {
             if (sql == "commit")
-                cut();
+                CutLinesOfOthers(other);
         });
     };
     clerk->Enter(TypicalDocument(2), [&](frmDj02& s) {

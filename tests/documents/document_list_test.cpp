@@ -5,27 +5,17 @@
 #include "controls/gestures.h"
 #include "documents/document_list.h"
 #include "documents/frmDj02.h"
-#include "host/company_address.h"
 #include "session/components.h"
 #include "session/frmBrief.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
-#include "tests/support/sample_company.h"
 
 namespace jxc::test {
 
 namespace {
 
-class DocumentList : public OnSampleCompany {
+class DocumentList : public OnOpenCompany {
   protected:
-    void Begin() override {
-        open = std::make_unique<OpenCompany>(company->Address());
-        clerk = std::make_unique<Clerk>();
-    }
-    void TearDown() override {
-        clerk.reset();
-        OnSampleCompany::TearDown();
-    }
     // Opens the list as a host or a document does, and works on it.
     void Show(int mode, bool lines, const std::function<void(frmDj01&)>& work) {
         auto& s = static_cast<frmDj01&>(ScreenNamed("frmDj01"));
@@ -41,9 +31,6 @@ class DocumentList : public OnSampleCompany {
             EXPECT_TRUE(clerk->Approve(1, key));
         }
     }
-
-    std::unique_ptr<OpenCompany> open;
-    std::unique_ptr<Clerk> clerk;
 };
 ON_BOTH_ENGINES(DocumentList);
 

@@ -7,29 +7,19 @@
 #include "controls/gestures.h"
 #include "controls/text.h"
 #include "host/check.h"
-#include "host/company_address.h"
 #include "session/book.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
-#include "tests/support/sample_company.h"
 
 namespace jxc::test {
 
 namespace {
 
-class Posting : public OnSampleCompany {
+class Posting : public OnOpenCompany {
   protected:
+    // Goods in every warehouse.
     void Begin() override {
-        open = std::make_unique<OpenCompany>(company->Address());
-        clerk = std::make_unique<Clerk>();
-        StockUp();
-    }
-    void TearDown() override {
-        clerk.reset();
-        OnSampleCompany::TearDown();
-    }
-    // Goods in every warehouse, and an order with a balance.
-    void StockUp() {
+        OnOpenCompany::Begin();
         const DocumentInput receipt{.type = 1,
                                     .customer = "G001",
                                     .lines = {{"CPU002", 40, 600}, {"MEM002", 60, 170}, {"MB001", 9, 365}}};
@@ -43,15 +33,6 @@ class Posting : public OnSampleCompany {
                   .customer = "X002",
                   .lines = {{"CPU002", 9, 700}, {"MEM002", 9, 200}}});
     }
-    int Approved(const DocumentInput& input) {
-        const int key = clerk->Save(input);
-        EXPECT_GT(key, 0) << clerk->LastBox();
-        EXPECT_TRUE(clerk->Approve(input.type, key)) << clerk->LastBox();
-        return key;
-    }
-
-    std::unique_ptr<OpenCompany> open;
-    std::unique_ptr<Clerk> clerk;
 };
 ON_BOTH_ENGINES(Posting);
 

@@ -3,35 +3,28 @@
 
 #include "controls/gestures.h"
 #include "documents/document_entry.h"
-#include "host/company_address.h"
 #include "master/supplier_history.h"
 #include "session/lookups.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
-#include "tests/support/sample_company.h"
 
 namespace jxc::test {
 
 namespace {
 
-class Ties : public OnSampleCompany {
-  protected:
-    void Begin() override { open = std::make_unique<OpenCompany>(company->Address()); }
-    std::unique_ptr<OpenCompany> open;
-};
+class Ties : public OnOpenCompany {};
 ON_BOTH_ENGINES(Ties);
 
 // Two receipts of a product on a day, numbered against the order in which they were written.
 TEST_P(Ties, TheLaterReceiptOfADayNamesTheSupplier) {
-    Clerk clerk;
     const auto receive = [&](const std::string& customer, const std::string& number) {
-        clerk.Enter({.type = 1, .customer = customer, .lines = {{"CPU002", 1, 600}}}, [&](frmDj02& s) {
+        clerk->Enter({.type = 1, .customer = customer, .lines = {{"CPU002", 1, 600}}}, [&](frmDj02& s) {
             LeaveFocus(s);
             EnterText(s, s.txtNo, number);
-            ClickSave(clerk, s);
+            ClickSave(*clerk, s);
         });
         const std::string key = One("Select fInvID From tJXC_CkDj01 Where fInvNo='" + number + "'");
-        EXPECT_TRUE(clerk.Approve(1, std::stoi(key))) << clerk.LastBox();
+        EXPECT_TRUE(clerk->Approve(1, std::stoi(key))) << clerk->LastBox();
     };
     const auto supplier = [] {
         return One("Select b.CompCode From tJXC_Cp a Left Join cards b On a.fKhID=b.fID Where "
@@ -62,9 +55,8 @@ TEST_P(Ties, TheLaterCardProductAndDocumentIsTaken) {
     ProductSought sought;
     sought.code = "dup";
     EXPECT_EQ(FindProduct(sought), 903);
-    Clerk clerk;
-    const int key = clerk.Save({.type = 1, .customer = "G001", .lines = {{"CPU002", 1, 600}}});
-    clerk.Open(DocAction::Query, 1, key, [](frmDj02& s) {
+    const int key = clerk->Save({.type = 1, .customer = "G001", .lines = {{"CPU002", 1, 600}}});
+    clerk->Open(DocAction::Query, 1, key, [](frmDj02& s) {
         StepToDocument(s, false);
         while (s.Number() != "0DUP" && s.cmdPrevious.enabled)
             StepToDocument(s, false);

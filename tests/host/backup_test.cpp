@@ -17,6 +17,7 @@
 #include "session/database/recordset.h"
 #include "session/database/sqlite_content.h"
 #include "session/session.h"
+#include "tests/support/files.h"
 
 namespace jxc {
 
@@ -24,18 +25,13 @@ namespace {
 
 class BackupTest : public testing::Test {
   protected:
-    BackupTest() {
-        std::string name = (std::filesystem::temp_directory_path() / "jxc-backup-XXXXXX").string();
-        folder_ = mkdtemp(name.data());
-        CreateCompany(0, File("a.db"), CompanyKind::Sample);
-    }
-    ~BackupTest() override { std::filesystem::remove_all(folder_); }
-    std::string File(const std::string& name) const { return (folder_ / name).string(); }
+    BackupTest() { CreateCompany(0, File("a.db"), CompanyKind::Sample); }
+    std::string File(const std::string& name) const { return folder.File(name); }
     static std::int64_t Documents(const std::string& company) {
         const OpenCompany open(company);
         return Recordset(Conn(), "Select Count(*) From tJXC_CkDj01")[size_t{0}].AsLong();
     }
-    std::filesystem::path folder_;
+    const test::TemporaryFolder folder;
 };
 
 } // namespace
@@ -57,8 +53,6 @@ TEST_F(BackupTest, CopiesWhatIsCommittedAndComesBackWhole) {
     EXPECT_EQ(Documents(File("b.db")), documents);
     const OpenCompany restored(File("b.db"));
     EXPECT_EQ(CheckCompany(), std::vector<std::string>{});
-    const auto mode = std::filesystem::status(File("copy.db")).permissions();
-    EXPECT_EQ(mode & std::filesystem::perms::group_read, std::filesystem::perms::none);
 }
 
 namespace {
@@ -154,7 +148,7 @@ TEST_F(BackupTest, CopiesArePrivateAndMayBeReadOnly) {
     RestoreCompany(File("copy.db"), File("b.db"));
     const OpenCompany restored(File("b.db"));
     Conn().Execute("Update tJXC_InvSys Set fSysDay=1");
-    for (const auto& entry : std::filesystem::directory_iterator(folder_))
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
         EXPECT_EQ(entry.path().string().find(".part"), std::string::npos);
 }
 

@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "host/check.h"
-#include "host/company_address.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
-#include "tests/support/sample_company.h"
 
 namespace jxc::test {
 
@@ -131,28 +129,18 @@ const Damage kDamages[] = {
     {"Update tAccountDetail Set fAcntNo=''", "单号为空或带有空格"},
 };
 
-class CheckOfBooks : public OnSampleCompany {
+class CheckOfBooks : public OnOpenCompany {
   protected:
     // A document of every type, approved but for a receipt.
     void Begin() override {
-        open = std::make_unique<OpenCompany>(company->Address());
-        clerk = std::make_unique<Clerk>();
-        for (const int type : AllTypes()) {
-            const int key = clerk->Save(TypicalDocument(type));
-            ASSERT_TRUE(clerk->Approve(type, key)) << type << clerk->LastBox();
-        }
+        OnOpenCompany::Begin();
+        for (const int type : AllTypes())
+            Approved(TypicalDocument(type));
         for (const int again : {1, 6}) // not taken back by their returns
-            ASSERT_TRUE(clerk->Approve(again, clerk->Save(TypicalDocument(again)))) << clerk->LastBox();
+            Approved(TypicalDocument(again));
         ASSERT_GT(clerk->Save(TypicalDocument(1)), 0);
         clerk->Save({.type = 2, .customer = "X003", .order = "20261105XS001", .lines = {{"CPU002", 1, 700}}});
     }
-    void TearDown() override {
-        clerk.reset();
-        open.reset();
-        OnSampleCompany::TearDown();
-    }
-    std::unique_ptr<OpenCompany> open;
-    std::unique_ptr<Clerk> clerk;
 };
 ON_BOTH_ENGINES(CheckOfBooks);
 
@@ -226,7 +214,7 @@ TEST_P(CheckOfBooks, TellsWhatTheStatisticsAsAWholeLack) {
     Do("Insert Into tJXC_CkTj_Bak Select * From tJXC_CkTj");
     DocumentInput later = TypicalDocument(1);
     later.date = "2026-11-08";
-    ASSERT_TRUE(clerk->Approve(1, clerk->Save(later))) << clerk->LastBox();
+    Approved(later);
     Do("Delete From tJXC_CkTj");
     Do("Insert Into tJXC_CkTj Select * From tJXC_CkTj_Bak");
     const Lines found = CheckCompany();
@@ -252,7 +240,7 @@ TEST_P(CheckOfBooks, LeavesAloneWhatWasLawfulWhenItWasDone) {
     Do("Update tJXC_Cp Set fCpPrice0=0 Where fCpCode='KB003'");
     DocumentInput sale = TypicalDocument(2);
     sale.lines = {{"KB003", 1, 80}};
-    ASSERT_TRUE(clerk->Approve(2, clerk->Save(sale))) << clerk->LastBox();
+    Approved(sale);
     Do("Update tJXC_Cp Set fCpPrice0=50 Where fCpCode='KB003'");
     EXPECT_EQ(CheckCompany(), Lines{});
 
@@ -260,15 +248,12 @@ TEST_P(CheckOfBooks, LeavesAloneWhatWasLawfulWhenItWasDone) {
        "('09','空仓',0,1,0,0,0)");
     DocumentInput transfer = TypicalDocument(3);
     transfer.warehouse2 = "空仓";
-    const auto move = [&](double quantity) {
+    for (const double quantity : {2.0, -2.0}) {
         transfer.lines = {{"CPU002", quantity, 610}};
-        const int key = clerk->Save(transfer);
-        EXPECT_GT(key, 0) << quantity << clerk->LastBox();
-        return key;
-    };
-    ASSERT_TRUE(clerk->Approve(3, move(2))) << clerk->LastBox();
-    ASSERT_TRUE(clerk->Approve(3, move(-2))) << clerk->LastBox();
-    const int unapproved = move(1);
+        Approved(transfer);
+    }
+    transfer.lines = {{"CPU002", 1, 610}};
+    const int unapproved = clerk->Save(transfer);
     Do("Delete From tJXC_Ck Where fCkName='空仓'");
     const Lines found = CheckCompany();
     ASSERT_EQ(found.size(), 1U) << testing::PrintToString(found);

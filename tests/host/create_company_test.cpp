@@ -1,13 +1,10 @@
 // What a new company holds, on both engines, and that a creation that fails leaves nothing.
 #include "host/company/create_company.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <set>
 
 #include <gtest/gtest.h>
-#include <libpq-fe.h>
-#include <unistd.h>
 
 #include "controls/date.h"
 #include "controls/text.h"
@@ -23,31 +20,19 @@ namespace {
 
 using test::EngineKind;
 
-// A place for one company: a file, or an empty database of the test server. Gone afterwards.
+// Room for one company, on both engines.
 class NewCompany : public testing::TestWithParam<EngineKind> {
   protected:
     void SetUp() override {
         if (const std::string reason = test::WhyUnavailable(GetParam()); !reason.empty())
             GTEST_SKIP() << reason;
-        const std::string name = "jxc_new_company_" + std::to_string(getpid());
-        if (Dialect() == 0) {
-            path = std::filesystem::temp_directory_path() / (name + ".db");
-            return;
-        }
-        const std::string server = std::getenv("JXC_TEST_PG");
-        OnServer("create database " + name);
-        path = server + (server.find('?') == std::string::npos ? "?" : "&") + "dbname=" + name;
+        place.emplace(GetParam());
+        path = place->Address();
     }
     void TearDown() override {
         connection.Close();
-        if (path.empty())
-            return;
-        if (Dialect() == 0) {
-            for (const char* ending : {"", "-wal", "-shm"})
-                std::filesystem::remove(path + ending);
-        } else {
-            OnServer("drop database jxc_new_company_" + std::to_string(getpid()));
-        }
+        if (place && Dialect() == 1)
+            test::OnServer("drop database " + place->Database()); // refused while anybody is connected
     }
     int Dialect() const { return GetParam() == EngineKind::Sqlite ? 0 : 1; }
     void Create(CompanyKind kind) {
@@ -60,17 +45,9 @@ class NewCompany : public testing::TestWithParam<EngineKind> {
             Recordset(connection, "Select Count(*) From " + fromWhere)[size_t{0}].AsLong());
     }
 
+    std::optional<test::CompanyPlace> place;
     std::string path;
     Connection connection;
-
-  private:
-    void OnServer(const std::string& sql) {
-        PGconn* server = PQconnectdb(std::getenv("JXC_TEST_PG"));
-        PGresult* result = PQexec(server, sql.c_str());
-        EXPECT_EQ(PQresultStatus(result), PGRES_COMMAND_OK) << PQerrorMessage(server);
-        PQclear(result);
-        PQfinish(server);
-    }
 };
 
 ON_BOTH_ENGINES(NewCompany);
@@ -103,6 +80,7 @@ TEST_P(NewCompany, HoldsTheDocumentTypes) {
         row(32),
         "32|生产拆分单|3|-1|-1|.|.|.|YYYYMMDDCFXXX||散件入库|4|1|成品出库|1|-1|1|1|.|1|0|YYYYMMDDCFXXX|0");
     EXPECT_EQ(DefaultDocumentTypes()[19].fSetCkName1, "成品出库");
+    EXPECT_EQ(DefaultDocumentTypes()[19].fSetCrType1, 2);
     EXPECT_EQ(row(52),
               "52|内部资金帐|.|-1|-1|.|.|.|YYYYMMZJXXXXX||.|-1|-1|.|-1|-1|-1|0|.|0|0|YYYYMMZJXXXXX|0");
 }

@@ -1,7 +1,4 @@
 // The host that the READMEs show: it works to the letter, and they show its very lines.
-#include <fstream>
-#include <sstream>
-
 #include <gtest/gtest.h>
 
 #include "controls/scripted_view.h"
@@ -11,16 +8,6 @@
 #include "tests/support/sample_company.h"
 
 namespace jxc::test {
-
-namespace {
-
-std::string FileOf(const std::string& name) {
-    std::ostringstream text;
-    text << std::ifstream(std::string(JXC_ROOT) + "/" + name).rdbuf();
-    return text.str();
-}
-
-} // namespace
 
 TEST(ExampleHost, OpensDocumentEntryOfItsCompany) {
     const SampleCompany company(EngineKind::Sqlite);
@@ -36,15 +23,18 @@ TEST(ExampleHost, OpensDocumentEntryOfItsCompany) {
 }
 
 TEST(ExampleHost, StandsInTheReadmes) {
-    for (const char* readme : {"README.md", "README.zh-CN.md"}) {
-        const std::string text = FileOf(readme);
-        ASSERT_FALSE(text.empty());
-        for (const char* source : {"examples/host/trade.cpp", "examples/host/main.cpp"})
-            for (const std::string& line : Split(FileOf(source), '\n'))
-                if (!line.empty() && line != "#include \"examples/host/trade.h\"") {
-                    EXPECT_NE(text.find("    " + line + "\n"), std::string::npos) << readme << ": " << line;
-                }
-    }
+    for (const char* readme : {"README.md", "README.zh-CN.md"})
+        for (const char* file : {"trade.cpp", "main.cpp"}) {
+            std::string source = FileText(std::string(JXC_ROOT "/examples/host/") + file);
+            if (const std::string own = "#include \"examples/host/trade.h\"\n\n"; source.starts_with(own))
+                source.erase(0, own.size());
+            std::string shown; // as a block of a README
+            for (const std::string& line : Split(source, '\n'))
+                shown += (line.empty() ? "" : "    ") + line + "\n";
+            EXPECT_NE(FileText(std::string(JXC_ROOT "/") + readme).find("\n" + shown), std::string::npos)
+                << readme << " does not show\n"
+                << shown;
+        }
 }
 
 } // namespace jxc::test

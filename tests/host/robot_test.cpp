@@ -65,7 +65,7 @@ TEST(Robot, AnswersEveryLineAndShowsWhatIsWrong) {
     EXPECT_EQ(replies[15], json({{"ok", true}, {"waiting", "host"}}));
 }
 
-class RobotOnCompany : public testing::TestWithParam<EngineKind> {};
+class RobotOnCompany : public OnSampleCompany {};
 ON_BOTH_ENGINES(RobotOnCompany);
 
 const char* const kReceipt = R"({"op":"refresh","action":13,"properties":{"invType":1}}
@@ -96,10 +96,6 @@ const char* const kReceipt = R"({"op":"refresh","action":13,"properties":{"invTy
 )";
 
 TEST_P(RobotOnCompany, EntersADocumentAndLosesNothingItSaved) {
-    if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
-        GTEST_SKIP() << reason;
-    const SampleCompany company(GetParam());
-    lzJxc control = company.SignedIn();
     const auto replies = Drive(control, kReceipt);
     ASSERT_EQ(replies.size(), 25U);
     EXPECT_EQ(replies[0],
@@ -120,20 +116,16 @@ TEST_P(RobotOnCompany, EntersADocumentAndLosesNothingItSaved) {
     EXPECT_EQ(replies[23]["ok"], false);
     // The requests end at the printing question: it counts as No, the screen closes, what was saved stays.
     EXPECT_EQ(replies[24]["box"]["text"], "单据新增完毕。打印本张单据？");
-    EXPECT_EQ(QueryCompany(company.Address(), "select fInvNo from tJXC_CkDj01").At(0, 0).AsText(),
+    EXPECT_EQ(QueryCompany(company->Address(), "select fInvNo from tJXC_CkDj01").At(0, 0).AsText(),
               "20261105RK001");
     EXPECT_EQ(session.Conn, nullptr);
 }
 
 TEST_P(RobotOnCompany, EndOfRequestsSavesNothing) {
-    if (const std::string reason = WhyUnavailable(GetParam()); !reason.empty())
-        GTEST_SKIP() << reason;
-    const SampleCompany company(GetParam());
-    lzJxc control = company.SignedIn();
     const std::string all = kReceipt;
     const auto replies = Drive(control, all.substr(0, all.find("{\"op\":\"answer\"")));
     EXPECT_EQ(replies.size(), 24U);
-    EXPECT_EQ(QueryCompany(company.Address(), "select fInvNo from tJXC_CkDj01").Count(), 0U);
+    EXPECT_EQ(QueryCompany(company->Address(), "select fInvNo from tJXC_CkDj01").Count(), 0U);
 }
 
 // A screen whose button tells of a failure, once with its cause and once without.

@@ -1,8 +1,6 @@
 // Every scenario of tests/scenarios, on both engines: a day's work in the vocabulary of the screens, with the
 // messages and rows that must come of it. Afterwards the books must be consistent.
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -11,6 +9,7 @@
 #include "host/scenario.h"
 #include "host/screens.h"
 #include "tests/support/sample_company.h"
+#include "tests/support/scenario_statements.h"
 
 namespace jxc::test {
 
@@ -33,12 +32,6 @@ std::vector<Play> AllPlays() {
     return plays;
 }
 
-std::string Contents(const std::filesystem::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file).rdbuf();
-    return text.str();
-}
-
 class Scenarios : public testing::TestWithParam<Play> {};
 
 TEST_P(Scenarios, ComeOutAsWritten) {
@@ -49,8 +42,8 @@ TEST_P(Scenarios, ComeOutAsWritten) {
     lzJxc control = company.SignedIn();
     std::string told;
     Scenario scenario(
-        GetParam().file.filename().string(), Contents(GetParam().file),
-        [&](const std::string& sql) { return QueryCompany(company.Address(), sql); },
+        GetParam().file.filename().string(), FileText(GetParam().file),
+        [&](const std::string& text) { return QueryCompany(company.Address(), ScenarioStatement(text)); },
         [&](const std::string& sql) { ExecuteOnCompany(company.Address(), sql); },
         [&](const std::string& line) { told += line + "\n"; });
     for (const std::string& failure : PlayScenario(control, scenario))

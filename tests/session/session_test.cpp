@@ -83,7 +83,6 @@ class Company : public OnSampleCompany {
     ScriptedView view;
     ViewInUse inUse{view};
     std::unique_ptr<OpenCompany> open;
-    lzJxc control;
 };
 ON_BOTH_ENGINES(Company);
 
@@ -149,30 +148,58 @@ TEST_P(Company, EngineOfThePropertyBagHasItsDateDelimiter) {
 
 TEST_P(Company, RightsAreReadFromTheDigits) {
     Open();
-    Connection& books = *session.Conn;
-    books.Execute("Update tSysFunc Set SerialNo=3 Where model_Name='mnuJxcSysCk'");
-    books.Execute("Update tSysFunc Set SerialNo=-1 Where model_Name='mnuJxcSysCp'");
-    books.Execute("Update tSysFunc Set SerialNo=9 Where model_Name='mnuCardAdd'");
-    books.Execute("Update tSysFunc Set NoUse_=1 Where model_Name='mnuJxcSysZy'");
-    control.myPower("0010");
-    EXPECT_EQ(ModuleRight("mnuJxcSysCk", 0), 3);
-    EXPECT_EQ(ModuleRight("mnuJxcSysCp", 0), -1);
-    EXPECT_EQ(ModuleRight("", 5), 1);
-    EXPECT_EQ(ModuleRight("mnuJxcSysZy", 0), 0); // not in use: refused silently
-    EXPECT_EQ(ModuleRight("noSuchModule", 0), 0);
-    books.Execute("Update tSysFunc Set SerialNo=-2 Where model_Name='mnuJxcSysCp'");
-    EXPECT_EQ(ModuleRight("mnuJxcSysCp", 0), 0); // only -1 is everyone's
-    EXPECT_EQ(ModuleRight("mnuJxcSysCp", 3), 0);
-    view.boxes.clear();
-    EXPECT_TRUE(view.boxes.empty());
-    EXPECT_EQ(ModuleRight("mnuJxcSysCk", 1), 0);
-    EXPECT_EQ(ModuleRight("mnuCardAdd", 0), 0); // beyond the digits
-    ASSERT_EQ(view.boxes.size(), 2U);
-    EXPECT_EQ(view.boxes[0].text, "您无权进入!");
-    EXPECT_EQ(view.boxes[0].icon, BoxIcon::Warning);
-    control.UserName("");
-    EXPECT_EQ(ModuleRight("mnuJxcSysCp", 0), 0); // nobody is signed in
-    EXPECT_EQ(view.boxes.size(), 2U);
+    control.myPower("0310");
+    const auto expect = [&](const std::string& module, int offset, int right, bool told) {
+        SCOPED_TRACE(module + " and " + std::to_string(offset));
+        view.boxes.clear();
+        EXPECT_EQ(HasModuleRight(module, offset), right != 0);
+        EXPECT_TRUE(view.boxes.empty());
+        EXPECT_EQ(ModuleRight(module, offset), right);
+        ASSERT_EQ(view.boxes.size(), told ? 1U : 0U);
+        if (told) {
+            EXPECT_EQ(view.boxes[0].text, "您无权进入!");
+            EXPECT_EQ(view.boxes[0].icon, BoxIcon::Warning);
+        }
+    };
+    const auto enter = [](int serial, int notInUse) {
+        Do("Update tSysFunc Set SerialNo=" + std::to_string(serial) + ",NoUse_=" + std::to_string(notInUse) +
+           " Where model_Name='mnuJxcSysCk'");
+    };
+    struct Case {
+        int serial, offset, right;
+        bool told;
+    };
+    for (const auto& [serial, offset, right, told] :
+         {Case{1, 0, 0, true},
+          {1, 1, 2, false},
+          {2, 0, 2, false}, // any digit but 0
+          {2, 1, 3, false},
+          {3, 0, 3, false},
+          {3, 1, 0, true},
+          {4, 0, 0, true},
+          {5, 0, 0, true},    // beyond the digits
+          {-1, 0, -1, false}, // everyone's, whatever the digits say
+          {-1, 2, 1, false},
+          {-2, 4, 0, true}, // nobody's, although digit 2 is set
+          {0, 2, 0, false}}) {
+        enter(serial, 0);
+        SCOPED_TRACE(serial);
+        expect("mnuJxcSysCk", offset, right, told);
+    }
+    enter(2, 0);
+    expect("仓库管理", 0, 2, false);
+    expect("倉庫管理", 0, 0, false); // in the other language only
+    control.Language(1);
+    expect("倉庫管理", 0, 2, false);
+    control.Language(0);
+    expect("noSuchModule", 2, 0, false);
+    expect("", 4, 1, false);
+    control.UserName(""); // nobody is signed in
+    expect("mnuJxcSysCk", 0, 0, false);
+    expect("", 0, 0, false);
+    control.UserName("王芳");
+    enter(2, 1);
+    expect("mnuJxcSysCk", 0, 0, false);
 }
 
 TEST_P(Company, HeaderOfPrintoutsFollowsTheLanguage) {

@@ -3,11 +3,9 @@
 #include "settings/column_dictionary.h"
 
 #include "controls/gestures.h"
-#include "controls/scripted_view.h"
-#include "host/company_address.h"
 #include "session/session.h"
 #include "settings/frmRs_RptSet.h"
-#include "tests/support/sample_company.h"
+#include "tests/support/clerk.h"
 
 namespace jxc::test {
 
@@ -20,15 +18,15 @@ struct Caller : Screen {
     Label lblCpCw{*this, "lblCpCw", "仓位"};
 };
 
-class Dictionary : public OnSampleCompany {
+class Dictionary : public OnOpenCompany {
   protected:
-    void Begin() override { open = std::make_unique<OpenCompany>(company->Address()); }
     void TearDown() override {
         session.Language = 0;
-        OnSampleCompany::TearDown();
+        OnOpenCompany::TearDown();
     }
     void OnSettings(const std::function<void(frmRs_RptSet&)>& act) {
-        view.OnScreen("frmRs_RptSet", [act](Screen& screen) { act(dynamic_cast<frmRs_RptSet&>(screen)); });
+        clerk->view.OnScreen("frmRs_RptSet",
+                             [act](Screen& screen) { act(dynamic_cast<frmRs_RptSet&>(screen)); });
     }
     std::string StoredField(const std::string& field) {
         return One("select FieldName_0,FieldName_1,FieldBriefType from rptListDetail where ftable='tJXC_Cp' "
@@ -36,9 +34,6 @@ class Dictionary : public OnSampleCompany {
                    field + "'");
     }
 
-    ScriptedView view;
-    ViewInUse inUse{view};
-    std::unique_ptr<OpenCompany> open;
     Caller caller;
 };
 ON_BOTH_ENGINES(Dictionary);
@@ -102,8 +97,8 @@ TEST_P(Dictionary, KeepsTheWidthsOfColumns) {
     caller.Grid1.Column(2).width = 17;
     caller.Grid1.Column(3).width = 23.5;
     SaveGridColumnWidths("tJXC_Cp", caller.Grid1, 2);
-    EXPECT_EQ(view.boxes.back().title, "产品管理");
-    EXPECT_EQ(view.boxes.back().text, "栏目样式保存完毕！");
+    EXPECT_EQ(clerk->view.boxes.back().title, "产品管理");
+    EXPECT_EQ(clerk->view.boxes.back().text, "栏目样式保存完毕！");
     SetupGridColumns("tJXC_Cp", caller.Grid1, 1);
     EXPECT_EQ(caller.Grid1.Column(1).width, 17);
     EXPECT_EQ(caller.Grid1.Column(2).width, 23.5);
@@ -121,7 +116,7 @@ TEST_P(Dictionary, FieldsAreRenamedInTheLanguageInUse) {
         EXPECT_THROW(EnterText(s, s.txtItemNo, "2010"), GestureRefused);
         EXPECT_THROW(EnterText(s, s.txtName, "一二三四五六七八九十一二三四五六"), GestureRefused);
         EnterText(s, s.txtName, "货'架");
-        EXPECT_EQ(view.boxes.back().text, "文本错误: 文本中不可含有<引号>或<单引号> !");
+        EXPECT_EQ(clerk->view.boxes.back().text, "文本错误: 文本中不可含有<引号>或<单引号> !");
         EnterText(s, s.txtName, "");
         Click(s, s.CmdOk);
         EXPECT_TRUE(s.IsOpen());
@@ -153,7 +148,7 @@ TEST_P(Dictionary, FieldsAreFoundByTheirCaptionAndTakeACodeList) {
     settings.SetProperty("Field", "");
     settings.SetProperty("ModelName", "產品圖片");
     session.Language = 1;
-    view.OnScreen("frmBrief", [](Screen& screen) {
+    clerk->view.OnScreen("frmBrief", [](Screen& screen) {
         auto& lists = dynamic_cast<Grid&>(*screen.Find("Grid1"));
         ASSERT_EQ(lists.RowCount(), 6);
         for (int row = 1; row <= lists.RowCount(); ++row)
@@ -173,7 +168,7 @@ TEST_P(Dictionary, FieldsAreFoundByTheirCaptionAndTakeACodeList) {
 
     // Nothing chosen leaves the number; a field that is not there leaves the boxes empty.
     settings.SetProperty("Field", "fCpPicture");
-    view.OnScreen("frmBrief", [](Screen&) {});
+    clerk->view.OnScreen("frmBrief", [](Screen&) {});
     OnSettings([](frmRs_RptSet& s) {
         Click(s, s.Command3);
         EXPECT_EQ(s.txtItemNo.text, "1001");
@@ -185,7 +180,7 @@ TEST_P(Dictionary, FieldsAreFoundByTheirCaptionAndTakeACodeList) {
 }
 
 TEST_P(Dictionary, ColumnsAreSelectedAndOrderedOnTheirScreen) {
-    view.OnScreen("frmBrief", [](Screen& screen) {
+    clerk->view.OnScreen("frmBrief", [](Screen& screen) {
         EXPECT_EQ(screen.title, "栏目设置");
         auto& columns = dynamic_cast<Grid&>(*screen.Find("Grid1"));
         EXPECT_EQ(columns.Text(2, 2), "品名");
@@ -197,14 +192,14 @@ TEST_P(Dictionary, ColumnsAreSelectedAndOrderedOnTheirScreen) {
     });
     EXPECT_EQ(OpenBriefPicker("tJXC_Cp", "", BriefKind::SelectColumns), "tJXC_Cp");
     EXPECT_TRUE(SetupGridColumns("tJXC_Cp", caller.Grid1, 1).starts_with("fCpGG,fCpName,fCpUnit,"));
-    view.OnScreen("frmBrief", [this](Screen& screen) {
+    clerk->view.OnScreen("frmBrief", [this](Screen& screen) {
         auto& grid = dynamic_cast<Grid&>(*screen.Find("Grid1"));
         for (int row = 1; row <= grid.RowCount(); ++row)
             TypeCell(screen, grid, row, 1, "0");
-        view.boxes.clear();
+        clerk->view.boxes.clear();
         Click(screen, dynamic_cast<Button&>(*screen.Find("cmdOk"))); // a list without columns shows nothing
-        ASSERT_EQ(view.boxes.size(), 1U);
-        EXPECT_EQ(view.boxes.front().text, "请至少选择一个栏目！");
+        ASSERT_EQ(clerk->view.boxes.size(), 1U);
+        EXPECT_EQ(clerk->view.boxes.front().text, "请至少选择一个栏目！");
         EXPECT_TRUE(screen.IsOpen());
         Click(screen, dynamic_cast<Button&>(*screen.Find("cmdCancel")));
     });
@@ -213,13 +208,13 @@ TEST_P(Dictionary, ColumnsAreSelectedAndOrderedOnTheirScreen) {
 
 // The way in to a field's caption: the column editor.
 TEST_P(Dictionary, ColumnsAreRenamedFromTheirEditor) {
-    view.OnScreen("frmBrief", [](Screen& screen) {
+    clerk->view.OnScreen("frmBrief", [](Screen& screen) {
         SelectRow(screen, dynamic_cast<Grid&>(*screen.Find("Grid1")), 2);
         Click(screen, dynamic_cast<Button&>(*screen.Find("cmdRename")));
         EXPECT_EQ(dynamic_cast<Grid&>(*screen.Find("Grid1")).Text(2, 2), "货名");
         Click(screen, dynamic_cast<Button&>(*screen.Find("cmdCancel")));
     });
-    view.OnScreen("frmRs_RptSet", [](Screen& screen) {
+    clerk->view.OnScreen("frmRs_RptSet", [](Screen& screen) {
         EnterText(screen, dynamic_cast<TextBox&>(*screen.Find("txtName")), "货名");
         Click(screen, dynamic_cast<Button&>(*screen.Find("CmdOk")));
     });

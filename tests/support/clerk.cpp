@@ -163,6 +163,24 @@ bool Clerk::Delete(int type, int key) {
     return RunSave(DocAction::Delete, type, key);
 }
 
+void OnOpenCompany::Begin() {
+    open = std::make_unique<OpenCompany>(company->Address());
+    clerk = std::make_unique<Clerk>();
+}
+
+void OnOpenCompany::TearDown() {
+    clerk.reset();
+    open.reset();
+    OnSampleCompany::TearDown();
+}
+
+int OnOpenCompany::Approved(const DocumentInput& input) {
+    const int key = clerk->Save(input);
+    EXPECT_GT(key, 0) << "type " << input.type << ": " << clerk->LastBox();
+    EXPECT_TRUE(clerk->Approve(input.type, key)) << "type " << input.type << ": " << clerk->LastBox();
+    return key;
+}
+
 std::vector<std::string> Books() {
     static const char* const orders[][2] = {
         {"tJXC_CkDj01", "fInvID"},      {"tJXC_CkDj02", "fInvID,fInv1,fRowID"},

@@ -7,6 +7,8 @@
 
 #include "controls/scripted_view.h"
 #include "documents/frmDj02.h"
+#include "host/company_address.h"
+#include "tests/support/sample_company.h"
 
 namespace jxc::test {
 
@@ -56,6 +58,18 @@ class Clerk {
     void Show(frmDj02& screen, const std::function<void(frmDj02&)>& act);
     bool RunSave(DocAction action, int type, int key);
     ViewInUse inUse_{view};
+};
+
+// Every test of a suite runs on a sample company of its own that is open, with a clerk at work, on both engines.
+class OnOpenCompany : public OnSampleCompany {
+  protected:
+    void Begin() override;
+    void TearDown() override;
+    // The key of the document saved and approved; a refusal fails the test.
+    int Approved(const DocumentInput& input);
+
+    std::unique_ptr<OpenCompany> open;
+    std::unique_ptr<Clerk> clerk;
 };
 
 // Clicks the save command; boxes are answered OK, printing with No.

@@ -13,20 +13,15 @@ namespace jxc::test {
 class SampleCompany {
   public:
     explicit SampleCompany(EngineKind kind);
-    ~SampleCompany();
-    SampleCompany(const SampleCompany&) = delete;
-    SampleCompany& operator=(const SampleCompany&) = delete;
 
     // As the command line and lzJxc's UserPath name it.
-    const std::string& Address() const { return address_; }
+    const std::string& Address() const { return place_.Address(); }
     // A control that points at the company, signed in as a clerk who is also the supervisor, with every
     // right.
     lzJxc SignedIn() const;
 
   private:
-    EngineKind kind_;
-    std::string name_;
-    std::string address_;
+    CompanyPlace place_;
 };
 
 // Every test of a suite runs on a sample company of its own, on both engines, with all screens fresh and a
@@ -42,6 +37,8 @@ class OnSampleCompany : public testing::TestWithParam<EngineKind> {
     lzJxc control;
 };
 
+// Another connection to a company. Throws DatabaseError.
+void OpenCompanyAt(const std::string& address, Connection& connection);
 // Rows of a statement on a connection of its own, so that it also works between screens.
 Rows QueryCompany(const std::string& address, const std::string& sql);
 // A statement without rows, the same way.

@@ -1,11 +1,8 @@
 #include "tests/support/test_company.h"
 
-#include <libpq-fe.h>
 #include <unistd.h>
 
-#include <cstdlib>
-#include <filesystem>
-
+#include "session/database/engine.h"
 #include "session/database/open_connection.h"
 #include "session/database/schema.h"
 #include "session/session.h"
@@ -14,102 +11,62 @@ namespace jxc::test {
 
 namespace {
 
-std::string ServerUri() {
-    const char* uri = std::getenv("JXC_TEST_PG");
-    return uri ? uri : "";
-}
-
-// Runs commands on the server's maintenance database.
-void OnServer(const std::string& command) {
-    PGconn* connection = PQconnectdb(ServerUri().c_str());
-    PGresult* result = PQexec(connection, command.c_str());
-    const bool succeeded = PQresultStatus(result) == PGRES_COMMAND_OK;
-    const std::string reason = PQerrorMessage(connection);
-    PQclear(result);
-    PQfinish(connection);
-    if (!succeeded)
-        throw DatabaseError("test server: " + command + ": " + reason);
-}
-
 std::string NewName() {
     static int made = 0;
     return "jxc_test_" + std::to_string(getpid()) + "_" + std::to_string(++made);
 }
 
-// The tables are made once for the program; each company is a copy.
-class TemplateDatabase {
-  public:
-    TemplateDatabase() : name_(NewName() + "_template") {
-        OnServer("create database " + name_ + " template template0 encoding 'UTF8'");
+// The tables are made once for the program; each company on the server is a copy.
+struct EmptyCompany : CompanyPlace {
+    EmptyCompany() : CompanyPlace(EngineKind::Postgres) {
         Connection connection;
-        CreateCompanyTables(1, connection, ServerUri(), "", "", name_);
+        CreateCompanyTables(1, connection, TestServer(), "", "", Database());
     }
-    ~TemplateDatabase() {
-        try {
-            OnServer("drop database " + name_);
-        } catch (const DatabaseError& error) {
-            std::fprintf(stderr, "%s\n", error.what());
-        }
-    }
-    const std::string& Name() const { return name_; }
-
-  private:
-    std::string name_;
 };
 
-const std::string& TemplateName() {
-    static const TemplateDatabase database;
-    return database.Name();
+std::string NameOfEmptyCompany() {
+    static const EmptyCompany company;
+    return company.Database();
 }
 
 } // namespace
 
 std::string WhyUnavailable(EngineKind kind) {
-    if (kind == EngineKind::Postgres && ServerUri().empty())
+    if (kind == EngineKind::Postgres && TestServer().empty())
         return "JXC_TEST_PG names no PostgreSQL server";
     return "";
 }
 
-TestCompany::TestCompany(EngineKind kind) : kind_(kind) {
+CompanyPlace::CompanyPlace(EngineKind kind, const std::string& copied) {
+    if (kind == EngineKind::Postgres)
+        database_.emplace(NewName(), copied);
+    address_ = database_ ? database_->Address() : folder_.File("company.db");
+}
+
+TestCompany::TestCompany(EngineKind kind)
+    : place_(kind, kind == EngineKind::Postgres ? NameOfEmptyCompany() : "") {
     session.Conn = std::make_unique<Connection>();
     session.SQLData = static_cast<std::int16_t>(Dialect());
-    if (kind == EngineKind::Sqlite) {
-        path_ = std::filesystem::temp_directory_path() / (NewName() + ".db");
-        session.DateDelimiter = "#";
-        CreateCompanyTables(0, *session.Conn, path_);
-    } else {
-        path_ = ServerUri();
-        database_ = NewName();
-        session.DateDelimiter = "'";
-        OnServer("create database " + database_ + " template " + TemplateName());
-        OpenConnection(1, *session.Conn, path_, "", "", database_);
-    }
+    session.DateDelimiter = Dialect() == 0 ? "#" : "'";
+    if (Dialect() == 0)
+        CreateCompanyTables(0, *session.Conn, Path());
+    else
+        Open(*session.Conn);
 }
 
 TestCompany::~TestCompany() {
     session.Conn.reset();
-    if (kind_ == EngineKind::Sqlite) {
-        for (const char* suffix : {"", "-wal", "-shm"})
-            std::filesystem::remove(path_ + suffix);
-        return;
-    }
-    try {
-        OnServer("drop database if exists " + database_ + " with (force)");
-    } catch (const DatabaseError& error) {
-        ADD_FAILURE() << error.what();
-    }
 }
 
-int TestCompany::Dialect() const {
-    return kind_ == EngineKind::Sqlite ? 0 : 1;
+void TestCompany::Open(Connection& connection) const {
+    OpenConnection(Dialect(), connection, Path(), "", "", Database());
 }
 
 void Do(const std::string& sql) {
     Conn().Execute(sql);
 }
 
-Lines RowsOf(const std::string& sql) {
-    const Rows rows = Conn().Query(sql);
+Lines LinesOf(const Rows& rows) {
     Lines lines;
     for (size_t row = 0; row < rows.Count(); ++row) {
         std::string line;
@@ -122,6 +79,10 @@ Lines RowsOf(const std::string& sql) {
     return lines;
 }
 
+Lines RowsOf(const std::string& sql) {
+    return LinesOf(Conn().Query(sql));
+}
+
 std::string One(const std::string& sql) {
     const Lines rows = RowsOf(sql);
     return rows.size() == 1 ? rows[0] : std::to_string(rows.size()) + " rows";
@@ -129,6 +90,21 @@ std::string One(const std::string& sql) {
 
 std::string Day(const std::string& slashDate) {
     return session.DateDelimiter + slashDate + session.DateDelimiter;
+}
+
+std::string RefusalOf(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const DatabaseError& error) {
+        return error.what();
+    }
+    return "";
+}
+
+void CutLinesOfOthers(Connection& connection) {
+    connection.EngineInUse().ExecuteScript(
+        "select pg_terminate_backend(pid) from pg_stat_activity where pid<>"
+        "pg_backend_pid() and datname=current_database()");
 }
 
 } // namespace jxc::test

@@ -47,8 +47,6 @@ class FocusShown : public Windows {
             }
             if (stops.empty() || stops.back() != here)
                 stops.push_back(here);
-            if (const QString folder = qEnvironmentVariable("JXC_FOCUS_SHOTS"); !folder.isEmpty())
-                person.Front().grab().save(folder + "/" + here->objectName() + ".png");
             person.Press(Qt::Key_Tab);
         }
         return stops;

@@ -147,13 +147,16 @@ TEST_F(Focus, FunctionKeyTakesWhatIsTypedAndGoesWhereTheScreenSaysTo) {
             EXPECT_EQ(s.Grid2.Text(row, line::kCode), code);
         };
         person.ClickCell("Grid2", 1, line::kCode);
-        for (const char* cell : {"CPU001", "3"})
-            person.Enter(cell);
+        person.EnterEach({"CPU001", "3"});
         person.Type("400"); // the price is still being typed
         person.Press(Qt::Key_F6);
         EXPECT_EQ(person.Cell("Grid2", 1, line::kPrice), "400.00");
         typedIntoNewRow(2, "CPU002");
-        for (const auto& [field, code] : {std::pair("txtMemo", "MEM001"),
+        person.ClickCell("Grid2", 2, line::kMemo1); // behind the cells that Enter walks through
+        person.Press(Qt::Key_F6);
+        typedIntoNewRow(3, "CPU003");
+        for (const auto& [field, code] : {std::pair("txtHtNo", "CPF001"),
+                                          {"txtMemo", "MEM001"},
                                           {"cboInvMemo", "SSD001"},
                                           {"dtpInvDate", "HDD001"},
                                           {"chkTh", "CAB001"},

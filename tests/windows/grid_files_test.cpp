@@ -26,18 +26,14 @@ struct PriceList : Screen {
     Grid Grid1{*this, "Grid1"};
 };
 
-QByteArray Contents(const QString& file) {
-    QFile in(file);
-    EXPECT_TRUE(in.open(QIODevice::ReadOnly)) << S(file);
-    return in.readAll();
-}
-
-// What a program writes about a file.
-std::string Output(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished()) << S(program);
-    return process.readAllStandardOutput().toStdString();
+// A part of a spreadsheet's file: its sheet, or the texts in it.
+const char* const kSheet = "xl/worksheets/sheet1.xml";
+const char* const kTexts = "xl/sharedStrings.xml";
+std::string PartOf(const QString& file, const char* part) {
+    QProcess unzip;
+    unzip.start("unzip", {"-p", file, part});
+    EXPECT_TRUE(unzip.waitForFinished());
+    return unzip.readAllStandardOutput().toStdString();
 }
 
 // Texts that a spreadsheet would run, and such as break the lines of copies.
@@ -91,18 +87,18 @@ class GridFiles : public Windows {
 
 TEST_F(GridFiles, Csv) {
     SaveAsCsv(list.Grid1, Path("a.csv"));
-    EXPECT_EQ(Contents(Path("a.csv")).toStdString(),
+    EXPECT_EQ(FileText(S(Path("a.csv"))),
               "\xEF\xBB\xBF编码,品名,金额\r\nA1,\"螺丝,\"\"大\"\"\",1234.50\r\n007,,\r\n");
     EXPECT_THROW(SaveAsCsv(list.Grid1, Path("none/a.csv")), std::runtime_error);
 }
 
 TEST_F(GridFiles, Xlsx) {
     SaveAsXlsx(list.Grid1, "价格", Path("a.xlsx"));
-    const std::string sheet = Output("unzip", {"-p", Path("a.xlsx"), "xl/worksheets/sheet1.xml"});
+    const std::string sheet = PartOf(Path("a.xlsx"), kSheet);
     EXPECT_NE(sheet.find("<c r=\"C3\" s=\"2\"><v>1234.5</v></c>"), std::string::npos) << sheet;
     EXPECT_NE(sheet.find("<c r=\"A4\" t=\"s\">"), std::string::npos) << sheet; // 007 is a text
     EXPECT_EQ(sheet.find("<v>7</v>"), std::string::npos) << sheet;             // of the hidden column
-    const std::string texts = Output("unzip", {"-p", Path("a.xlsx"), "xl/sharedStrings.xml"});
+    const std::string texts = PartOf(Path("a.xlsx"), kTexts);
     for (const char* text : {"价格", "编码", "螺丝,\"大\"", "007"})
         EXPECT_NE(texts.find(text), std::string::npos) << text;
     EXPECT_THROW(SaveAsXlsx(list.Grid1, "价格", Path("none/a.xlsx")), std::runtime_error);
@@ -115,7 +111,7 @@ TEST_F(GridFiles, NumbersHaveTheirPointUnderAnyLanguage) {
         GTEST_SKIP() << "localedef makes no de_DE here (package locales)";
     ASSERT_STREQ(std::localeconv()->decimal_point, ",");
     SaveAsXlsx(list.Grid1, "价格", Path("a.xlsx"));
-    const std::string sheet = Output("unzip", {"-p", Path("a.xlsx"), "xl/worksheets/sheet1.xml"});
+    const std::string sheet = PartOf(Path("a.xlsx"), kSheet);
     EXPECT_NE(sheet.find("<v>1234.5</v>"), std::string::npos) << sheet;
     EXPECT_EQ(sheet.find("width=\"10,"), std::string::npos) << sheet;
     EXPECT_STREQ(std::localeconv()->decimal_point, ","); // the program's own is left alone
@@ -130,8 +126,7 @@ TEST_F(GridFiles, ReceiptBecomesStockUnderAnyLanguage) {
         person.Click("txtKhSeek");
         person.Enter("G001");
         person.ClickCell("Grid2", 1, line::kCode);
-        for (const char* typed : {"CPF004", "12288", "6.50"})
-            person.Enter(typed);
+        person.EnterEach({"CPF004", "12288", "6.50"});
         EXPECT_EQ(person.Cell("Grid2", 1, line::kAmount), "79,872.00");
         EXPECT_EQ(person.Text("txtSum"), "79872.00");
         for (const int key : {Qt::Key_Return, Qt::Key_Escape})
@@ -158,15 +153,15 @@ TEST_F(GridFiles, NoTextStartsAFormula) {
     const Hostile hostile;
     SaveAsCsv(hostile.Grid1, Path("a.csv"));
     EXPECT_EQ(
-        Contents(Path("a.csv")).toStdString(),
+        FileText(S(Path("a.csv"))),
         "\xEF\xBB\xBF'=摘要,金额\r\n'=cmd|' /C calc'!A0,-1234.50\r\n'+1+1,-1234.50\r\n'-2+3,-1234.50\r\n"
         "'@SUM(1),-1234.50\r\n'\tx,-1234.50\r\n\"'\ry\",-1234.50\r\n''=1,-1234.50\r\n'平常,-1234.50\r\n"
         "'＝1,-1234.50\r\n\"a\tb\nc\"\"d\"\"\",-1234.50\r\n\"\"\"\",-1234.50\r\n5-3,-1234.50\r\n");
     SaveAsXlsx(hostile.Grid1, "=1+1", Path("a.xlsx"));
-    const std::string sheet = Output("unzip", {"-p", Path("a.xlsx"), "xl/worksheets/sheet1.xml"});
+    const std::string sheet = PartOf(Path("a.xlsx"), kSheet);
     EXPECT_EQ(sheet.find("<f>"), std::string::npos);
     EXPECT_NE(sheet.find("<v>-1234.5</v>"), std::string::npos);
-    const std::string texts = Output("unzip", {"-p", Path("a.xlsx"), "xl/sharedStrings.xml"});
+    const std::string texts = PartOf(Path("a.xlsx"), kTexts);
     EXPECT_NE(texts.find("<t>=cmd|' /C calc'!A0</t>"), std::string::npos) << texts;
     PriceList tooLong;
     tooLong.Grid1.FillCell(1, 1, std::string(40'000, 'x'));
@@ -194,8 +189,8 @@ TEST_F(GridFiles, CopiedTextsComeBackAsTheyWere) {
 
 TEST_F(GridFiles, Pdf) {
     SaveAsPdf(list.Grid1, "价格", Path("a.pdf"));
-    EXPECT_TRUE(Contents(Path("a.pdf")).startsWith("%PDF"));
-    EXPECT_GT(Contents(Path("a.pdf")).size(), 1000);
+    EXPECT_TRUE(FileText(S(Path("a.pdf"))).starts_with("%PDF"));
+    EXPECT_GT(FileText(S(Path("a.pdf"))).size(), 1000U);
 }
 
 TEST_F(GridFiles, MenuSavesUnderTheNameGiven) {
@@ -212,8 +207,8 @@ TEST_F(GridFiles, MenuSavesUnderTheNameGiven) {
         person.ClickCell("Grid1", 1, 1, Qt::RightButton);
         EXPECT_EQ(person.Boxes(), Texts{"已保存：" + S(Path("stock.csv"))});
     });
-    EXPECT_NE(Contents(Path("stock.csv")).indexOf("\r\nCPU002,处理器 四核/4核8线程 3.3GHz,颗,总部仓,3.00,"),
-              -1);
+    EXPECT_NE(FileText(S(Path("stock.csv"))).find("\r\nCPU002,处理器 四核/4核8线程 3.3GHz,颗,总部仓,3.00,"),
+              std::string::npos);
 }
 
 TEST_F(GridFiles, RangeIsCopied) {
@@ -249,8 +244,7 @@ TEST_F(GridFiles, BlockIsPastedAsIfTyped) {
 
 TEST_F(GridFiles, LinesGoFromOneDocumentToAnother) {
     EnterLines([&] {
-        for (const char* cell : {"CPU002", "10", "600", "MEM002", "20", "170.5"})
-            person.Enter(cell);
+        person.EnterEach({"CPU002", "10", "600", "MEM002", "20", "170.5"});
         person.ClickCell("Grid2", 1, line::kCode);
         person.Press(Qt::Key_Down, Qt::ShiftModifier);
         for (int column = line::kCode; column < line::kMemo1; ++column)

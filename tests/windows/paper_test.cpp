@@ -262,9 +262,7 @@ TEST_F(Preview, SavesAndPrintsAllPages) {
     LongList list(120);
     const GridPaper paper(list.Job("5.00"), kPrinted);
     const auto pages = [&](const QString& file) {
-        QFile in(file);
-        EXPECT_TRUE(in.open(QIODevice::ReadOnly));
-        return in.readAll().count("/Type /Page\n");
+        return QByteArray::fromStdString(FileText(S(file))).count("/Type /Page\n");
     };
     WritePdf(paper, folder.filePath("a.pdf"));
     EXPECT_EQ(pages(folder.filePath("a.pdf")), paper.PageCount());

@@ -49,22 +49,6 @@ TEST_F(Typing, OpenCellGoesWithItsOwnRow) {
     });
 }
 
-TEST_F(Typing, LeavingAsksAboutLinesThatAreNotSaved) {
-    Enter(1, [&] {
-        BeginLine("7");
-        person.Press(Qt::Key_Return);
-        person.Answer(Qt::Key_Escape);
-        person.Click("cmdQuit");
-        EXPECT_EQ(person.Boxes(), Texts{"单据尚未存盘，放弃所输入的内容？"});
-        EXPECT_TRUE(person.Shown<frmDj02>().IsOpen());
-        person.Answer(Qt::Key_Return);
-        person.Click("cmdQuit");
-        EXPECT_EQ(person.Boxes().size(), 1U);
-    });
-    Enter(1, [&] { person.Click("cmdQuit"); }); // nothing typed, nothing asked
-    EXPECT_EQ(person.Boxes(), Texts{});
-}
-
 TEST_F(Typing, HalfADateCountsWhenAFunctionKeyIsPressed) {
     Save(1);
     Open(11, 1, [&] {

@@ -2,13 +2,11 @@
 
 #include <QTest>
 
-#include "host/company_address.h"
-
 namespace jxc::test {
 
 namespace {
 
-constexpr int kPatience = 20'000; // milliseconds for a whole test
+constexpr int kPatience = 20'000; // milliseconds without a key or click
 
 QWindow* HandleOf(const QWidget& widget) {
     return widget.window()->windowHandle();
@@ -52,6 +50,11 @@ Person::Person() {
     qApp->installEventFilter(this);
     connect(&patience_, &QTimer::timeout, this, [this] { GiveUp(); });
     patience_.start(kPatience);
+}
+
+void Person::Moves() {
+    if (!gaveUp_)
+        patience_.start(kPatience);
 }
 
 bool Person::eventFilter(QObject* object, QEvent* event) {
@@ -103,7 +106,7 @@ void Person::AnswerBox(QMessageBox& box) {
 
 // Closes everything, so that the test ends.
 void Person::GiveUp() {
-    if (patience_.interval() == kPatience)
+    if (!std::exchange(gaveUp_, true))
         ADD_FAILURE() << "the windows hang at: " << S(Front().windowTitle());
     patience_.start(100);
     if (QWidget* popup = QApplication::activePopupWidget())
@@ -124,6 +127,7 @@ QWidget& Person::Front() {
 }
 
 void Person::Press(int key, Qt::KeyboardModifiers held) {
+    Moves();
     ++keys;
     Activate(Front());
     QTest::keyClick(HandleOf(Front()), static_cast<Qt::Key>(key), held);
@@ -134,6 +138,7 @@ void Person::Press(int key, Qt::KeyboardModifiers held) {
 
 void Person::Type(const QString& ascii) {
     for (const QChar character : ascii) {
+        Moves();
         ++keys;
         Activate(Front());
         QTest::keyClick(HandleOf(Front()), character.toLatin1());
@@ -145,6 +150,11 @@ void Person::Enter(const QString& ascii) {
     Press(Qt::Key_Return);
 }
 
+void Person::EnterEach(std::initializer_list<const char*> texts) {
+    for (const char* ascii : texts)
+        Enter(ascii);
+}
+
 void Person::Compose(const QString& text) {
     QInputMethodEvent event;
     event.setCommitString(text);
@@ -153,6 +163,7 @@ void Person::Compose(const QString& text) {
 }
 
 void Person::Click(QWidget& widget, QPoint at, Qt::MouseButton button) {
+    Moves();
     Activate(*widget.window());
     QTest::mouseClick(HandleOf(widget), button, {}, widget.mapTo(widget.window(), at));
 }
@@ -165,6 +176,7 @@ void Person::Click(const QString& name) {
 }
 
 void Person::DoubleClick(QWidget& widget, QPoint at) {
+    Moves();
     Activate(*widget.window());
     QTest::mouseDClick(HandleOf(widget), Qt::LeftButton, {}, widget.mapTo(widget.window(), at));
 }
@@ -241,14 +253,7 @@ int Windows::Save(const DocumentInput& input, bool approve) {
 }
 
 std::vector<std::string> Windows::Rows(const std::string& sql) const {
-    const jxc::Rows rows = QueryCompany(company.Address(), sql);
-    std::vector<std::string> lines;
-    for (size_t row = 0; row < rows.Count(); ++row) {
-        lines.emplace_back();
-        for (size_t column = 0; column < rows.names.size(); ++column)
-            lines.back().append(column > 0 ? "|" : "").append(rows.At(row, column).AsText());
-    }
-    return lines;
+    return LinesOf(QueryCompany(company.Address(), sql));
 }
 
 } // namespace jxc::test

@@ -12,7 +12,6 @@
 #include <QtWidgets>
 
 #include "tests/support/clerk.h"
-#include "tests/support/sample_company.h"
 #include "view/screen_window.h"
 #include "view/text.h"
 
@@ -32,7 +31,8 @@ class Person : public QObject {
 
     void Press(int key, Qt::KeyboardModifiers held = Qt::NoModifier);
     void Type(const QString& ascii);
-    void Enter(const QString& ascii);  // and the Enter key
+    void Enter(const QString& ascii); // and the Enter key
+    void EnterEach(std::initializer_list<const char*> texts);
     void Compose(const QString& text); // by an input method
     void Click(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton);
     void Click(const QString& widget); // its middle
@@ -71,11 +71,13 @@ class Person : public QObject {
   private:
     void Meet(QWidget& window);
     void AnswerBox(QMessageBox& box);
-    void GiveUp();
+    void Moves();  // patience begins anew
+    void GiveUp(); // when nothing has moved for too long
     std::deque<std::function<void()>> work_;
     std::deque<int> answers_;
     std::vector<std::string> boxes_;
     QTimer patience_;
+    bool gaveUp_ = false;
 };
 
 // A fresh sample company on which somebody is signed in; no window is open.
@@ -89,7 +91,7 @@ class Windows : public testing::Test {
     // Saves a document, of a type a typical one, and approves it. Its key.
     int Save(const DocumentInput& input, bool approve = false);
     int Save(int type, bool approve = false) { return Save(TypicalDocument(type), approve); }
-    // Rows of the company, cells joined by "|".
+    // Rows of the company, cells joined by "|", a null as "null".
     std::vector<std::string> Rows(const std::string& sql) const;
 
     SampleCompany company{EngineKind::Sqlite};
