@@ -15,8 +15,8 @@ using namespace jxc;
 constexpr int kUsage = 2;   // what was asked for cannot be understood
 constexpr int kFailure = 2; // or cannot be done
 
-int RefuseUsage(const CLI::ParseError& error) {
-    std::cerr << "用法错误：" << ReasonOf(error) << "。用 jxc --help 查看用法。" << std::endl;
+int RefuseUsage(const CLI::App& app, const CLI::ParseError& error) {
+    std::cerr << "用法错误：" << ReasonOf(app, error) << "。用 jxc --help 查看用法。" << std::endl;
     return kUsage;
 }
 
@@ -40,7 +40,7 @@ int main(int argc, char** argv) {
         app.parse(argc, argv);
         commands.RequireOne();
     } catch (const CLI::ParseError& error) {
-        return error.get_exit_code() == 0 ? app.exit(error) : RefuseUsage(error);
+        return error.get_exit_code() == 0 ? app.exit(error) : RefuseUsage(app, error);
     }
     try {
         RequireFixedDate();

@@ -26,15 +26,15 @@ void SpeakChinese(CLI::App& app) {
 }
 
 // The library tells it in English, as far as it names something.
-std::string ReasonOf(const CLI::ParseError& error) {
+std::string ReasonOf(const CLI::App& app, const CLI::ParseError& error) {
     const std::string told = error.what();
     const auto before = [&](const char* mark) { return told.substr(0, told.find(mark)); };
     const auto after = [&](const char* mark) {
         const size_t at = told.find(mark);
         return at == std::string::npos ? "" : told.substr(at + std::strlen(mark));
     };
-    if (dynamic_cast<const CLI::ExtrasError*>(&error))
-        return "多余的参数，或不认识的命令或选项：" + after(": ");
+    if (dynamic_cast<const CLI::ExtrasError*>(&error)) // which tells the words backwards
+        return "多余的参数，或不认识的命令或选项：" + CLI::detail::join(app.remaining(true), " ");
     if (dynamic_cast<const CLI::ExcludesError*>(&error))
         return before(" excludes ") + " 与 " + after(" excludes ") + " 不能同时使用";
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error))

@@ -96,7 +96,7 @@ TEST_F(Program, NeedsADisplayForWindowsOnly) {
     ExpectEnd(Jxc("open " + File("a.db"), "DISPLAY=:9876"), 2, "不能打开窗口：连接不上图形显示");
 #else
     ExpectEnd(Jxc(""), 2, "缺少命令");
-    ExpectEnd(Jxc("open"), 2, "不认识的命令或选项：open。");
+    ExpectEnd(Jxc("open x y"), 2, "不认识的命令或选项：open x y。");
 #endif
 }
 
