@@ -115,12 +115,9 @@ Value TypedValue(const GridColumn& column, const std::string& text) {
         return column.maxBytes > 0 ? TruncateToBytes(text, column.maxBytes) : text;
     if (column.type == CellType::Check)
         return TypedTick(column, text);
-    std::string digits;
-    for (const char c : text)
-        if (c != ',')
-            digits += c;
-    if (Trim(digits).empty())
+    if (Trim(text).empty())
         return {};
+    const std::string digits = WithoutThousands(text);
     if (!IsNumericText(digits))
         throw NoNumber(column);
     const double number = Val(digits);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <regex>
 
 namespace jxc {
 
@@ -79,6 +80,28 @@ std::string Trim(std::string_view text) {
     while (!text.empty() && IsBlank(text.back()))
         text.remove_suffix(1);
     return std::string(text);
+}
+
+std::string TrimAnyBlanks(std::string_view text) {
+    const auto isUnseen = [](char32_t c) {
+        return (c >= 0x200B && c <= 0x200D) || c == 0x2060 || c == 0xFEFF;
+    };
+    const auto isBlank = [](char32_t c) {
+        return c <= 0x20 || c == 0xA0 || c == 0x3000 || (c >= 0x2000 && c <= 0x200A);
+    };
+    std::u32string points = ToCodePoints(text);
+    std::erase_if(points, isUnseen);
+    const auto first = std::find_if_not(points.begin(), points.end(), isBlank);
+    const auto last = std::find_if_not(points.rbegin(), std::make_reverse_iterator(first), isBlank).base();
+    return FromCodePoints(std::u32string(first, last));
+}
+
+std::string WithoutThousands(std::string_view text) {
+    static const std::regex grouped(R"(\s*[-+]?\d{1,3}(,\d{3})+(\.\d*)?\s*)");
+    std::string digits(text);
+    if (std::regex_match(digits, grouped))
+        std::erase(digits, ',');
+    return digits;
 }
 
 std::string UpperCase(std::string_view text) {

@@ -21,6 +21,12 @@ std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);
 bool EqualsNoCase(std::string_view a, std::string_view b);
 
+// `text` without outer blanks of any script (the wide one, the one that does not break) and without characters that
+// nobody sees.
+std::string TrimAnyBlanks(std::string_view text);
+// A number's text without the commas between its thousands. With commas elsewhere, "12,5" say, it is left as it is and
+// is no number: nobody can tell which sign its writer means.
+std::string WithoutThousands(std::string_view text);
 // The shortest decimal text that reads back as `number`, without exponent between 1e-7 and 1e15.
 std::string NumberText(double number);
 // `number` with exactly `decimals` decimals, halves away from zero on its decimal text; "," between thousands

@@ -29,7 +29,7 @@ void ChooseType(frmDj02& s);
 
 // -- unsaved_work.cpp
 // What a person can type into the document, as one text: two documents with the same text are alike. The number
-// of a new document is not part of it, nor are rows without a product.
+// that a new document got by itself is not part of it, nor are rows without a product.
 std::string TypedWork(const frmDj02& s);
 
 // -- load_document.cpp: a stored document into the screen
@@ -68,7 +68,8 @@ struct LineFigures {
 LineFigures ReadLineFigures(const frmDj02& s);
 void ShowRowFigures(frmDj02& s, int row, const LineFigures& figures);
 void RefreshTotals(frmDj02& s);
-void SetReturnSign(frmDj02& s); // after chkTh changed
+void SetReturnSign(frmDj02& s);  // as chkTh says
+void TurnReturnMark(frmDj02& s); // by a person: without the mark nothing is returned
 // The rate field, or the discount field unless it is 0, into every row. False when it is out of bounds: a message
 // has told so, and the field keeps the focus.
 bool SpreadTaxRate(frmDj02& s);

@@ -32,7 +32,7 @@ void WireHead(frmDj02& s) {
     FilterKeys(s.txtZkl, 8, true);
     for (TextBox* box : {&s.txtNo, &s.txtHtNo})
         box->onLeave = [box] {
-            box->text = Trim(box->text); // a number has no outer blanks
+            box->text = TrimAnyBlanks(box->text);
             return CheckNoQuote(box->text);
         };
     s.txtKhSeek.onLeave = [&s] { return CheckNoQuote(s.txtKhSeek.text); };
@@ -63,7 +63,7 @@ void WireHead(frmDj02& s) {
     };
     s.txtTaxRate.onLeave = [&s] { return SpreadTaxRate(s); };
     s.txtZkl.onLeave = [&s] { return SpreadDiscount(s); };
-    s.chkTh.onChange = [&s] { SetReturnSign(s); };
+    s.chkTh.onChange = [&s] { TurnReturnMark(s); };
     s.cmdLoadKh2.onClick = [&s] { s.fraKh2.visible = !s.fraKh2.visible; };
 }
 

@@ -38,6 +38,9 @@ void MakeNumber(frmDj02& s) {
         Warn(s.title, "自动单号 " + s.madeNumber + " 超过 " + std::to_string(s.txtNo.maxBytes) +
                           " 个字节，请在 [单据类型设置] 中缩短单号规则，或自行输入单号！");
         s.madeNumber.clear();
+    } else if (HasUsedUpCounter(s.madeNumber, s.type.fSetAutoNo)) {
+        CurrentView().Signal(
+            "自动单号的计数位已经用完，又从 0 开始：请自行输入单号，或在 [单据类型设置] 中增加计数位。");
     }
     s.txtNo.text = s.madeNumber;
 }

@@ -22,9 +22,10 @@ std::string StockWarehouse(const frmDj02& s) {
     return s.type.HasFirstWarehouse() ? s.cboCkName.Chosen() : "";
 }
 
-// Prices come into the cells as people write them, with two decimals.
-double PriceAsShown(double price) {
-    return Val(FormatFixed(price, 2));
+// Prices come into the cells as people write them, with two decimals, or fewer where the company shows fewer: the
+// amount is that of the price that is seen and stored.
+double PriceAsShown(const Grid& grid, int column, double price) {
+    return RoundDecimal(price, std::min(2, grid.Column(column).decimals));
 }
 
 void ClearRow(Grid& grid, int row) {
@@ -45,9 +46,11 @@ void FillProduct(frmDj02& s, int row, const ProductSought& found, std::int32_t i
     grid.SetCell(row, line::kUnit, found.unit);
     grid.SetCell(row, line::kStock, found.stock);
     if (s.type.fSetDjType1 >= 1 && s.type.fSetDjType1 <= 4)
-        grid.SetCell(row, line::kReference, PriceAsShown(found.price[s.type.fSetDjType1 - 1]));
+        grid.SetCell(row, line::kReference,
+                     PriceAsShown(grid, line::kReference, found.price[s.type.fSetDjType1 - 1]));
     if (s.type.fSetDjType2 >= 1 && s.type.fSetDjType2 <= 4)
-        grid.SetCell(row, line::kPrice, PriceAsShown(found.price[s.type.fSetDjType2 - 1]));
+        grid.SetCell(row, line::kPrice,
+                     PriceAsShown(grid, line::kPrice, found.price[s.type.fSetDjType2 - 1]));
     grid.SetCell(row, line::kProduct, std::int64_t{id});
 }
 
@@ -118,6 +121,8 @@ void LeaveProductCell(frmDj02& s, int row, int column) {
     if (const int other = GridHasValue(grid, row, sought.code); other > 0)
         return ShowOtherRow(s, row, other);
     FillProduct(s, row, sought, id);
+    if (s.type.fSetDjType2 == 5 && grid.Number(row, line::kDiscount) == 0)
+        CurrentView().Signal("折扣为 0，单价因此为 0：请输入折扣。");
 }
 
 void LeaveQuantityCell(frmDj02& s, int row) {
@@ -291,6 +296,14 @@ void SetReturnSign(frmDj02& s) {
         for (int row = 1; row <= s.Grid2.RowCount(); ++row)
             s.Grid2.SetCell(row, line::kQuantity, -std::fabs(s.Grid2.Number(row, line::kQuantity)));
     RefreshTotals(s);
+}
+
+void TurnReturnMark(frmDj02& s) {
+    if (!s.chkTh.value && !s.type.IsStocktake())
+        for (int row = 1; row <= s.Grid2.RowCount(); ++row)
+            if (const double quantity = s.Grid2.Number(row, line::kQuantity); quantity < 0)
+                s.Grid2.SetCell(row, line::kQuantity, -quantity);
+    SetReturnSign(s);
 }
 
 bool SpreadTaxRate(frmDj02& s) {

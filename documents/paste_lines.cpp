@@ -28,6 +28,7 @@ struct PastedLine {
 class Problems {
   public:
     void Add(int row, const std::string& text) { problems_.emplace(row, text); }
+    bool None() const { return problems_.empty(); }
     // Tells them, if there are any.
     bool Told(const frmDj02& s) const {
         if (problems_.empty())
@@ -96,6 +97,18 @@ PastedLine ReadLine(const Grid& grid, int source, const std::vector<std::string>
         }
     }
     return read;
+}
+
+// A block that brings quantities brings one for each line; a column of codes alone waits for theirs.
+void CheckQuantities(const frmDj02& s, const std::vector<PastedLine>& lines, Problems& problems) {
+    const bool counts = s.type.IsStocktake();
+    const int column = counts ? line::kCounted : line::kQuantity;
+    for (const PastedLine& line : lines) {
+        const auto given = std::find_if(line.figures.begin(), line.figures.end(),
+                                        [&](const auto& figure) { return figure.first == column; });
+        if (given == line.figures.end() || (!counts && given->second.AsDouble() == 0))
+            problems.Add(line.source, "没有“" + s.Grid2.Column(column).caption + "”");
+    }
 }
 
 void CheckCodes(const frmDj02& s, const std::vector<PastedLine>& lines, Problems& problems) {
@@ -208,6 +221,8 @@ void PasteLines(frmDj02& s, const CellBlock& block) {
     }
     if (!lines.empty())
         CheckCodes(s, lines, problems);
+    if (width > 1 && problems.None())
+        CheckQuantities(s, lines, problems);
     const size_t most = static_cast<size_t>(s.parameters.maxRows);
     if (most > 0 && static_cast<size_t>(FilledRows(grid)) + lines.size() > most)
         problems.Add(static_cast<int>(lines.size()), "单据最多 " + std::to_string(most) + " 行");

@@ -49,7 +49,7 @@ bool DocumentInHand(frmDj02& s) {
 bool DateAndNumberGiven(frmDj02& s) {
     if (!s.dtpInvDate.date || *s.dtpInvDate.date < s.parameters.periodStart)
         return Refuse(s, DateRefusal(s.parameters.periodStart), &s.dtpInvDate);
-    s.txtNo.text = Trim(s.txtNo.text);
+    s.txtNo.text = TrimAnyBlanks(s.txtNo.text);
     if (s.Number().empty())
         return Refuse(s, "请输入单号！", &s.txtNo);
     return true;
@@ -157,7 +157,41 @@ bool MayGoOn(frmDj02& s, const std::string& stem) {
     return !renumbered || NumberIsFree(s, stem, s.Number() + kNumberTakenByOther);
 }
 
+// A row of a stocktake that nobody has counted would be a count of 0.
+bool CountsGiven(frmDj02& s) {
+    if (!s.type.IsStocktake() || !IsEditing(s.InHand()))
+        return true;
+    Grid& grid = s.Grid2;
+    for (int row = 1; row <= grid.RowCount(); ++row)
+        if (!grid.Text(row, line::kCode).empty() && grid.Text(row, line::kCounted).empty()) {
+            grid.selectedRow = row;
+            grid.selectedColumn = line::kCounted;
+            return Refuse(
+                s, "第 " + std::to_string(row) + " 行：请输入“" + grid.Column(line::kCounted).caption + "”！",
+                &grid);
+        }
+    return true;
+}
+
+// Rows in which something is typed and which are no lines all the same: they go at saving, not without a word.
+void TellOfRowsLeftOut(frmDj02& s) {
+    if (s.type.IsStocktake() || !IsEditing(s.InHand()))
+        return; // a count that is as the book says is no line
+    std::string rows;
+    for (int row = 1; row <= s.Grid2.RowCount(); ++row) {
+        const std::string code = s.Grid2.Text(row, line::kCode);
+        if (code.empty() != (s.Grid2.Number(row, line::kQuantity) == 0))
+            rows += (rows.empty() ? "第 " : "、第 ") + std::to_string(row) + " 行" +
+                    (code.empty() ? "（没有产品）" : "（" + code + "，没有数量）");
+    }
+    if (!rows.empty())
+        CurrentView().Signal("以下各行不计入单据：" + rows + "。");
+}
+
 bool LinesGiven(frmDj02& s) {
+    if (!CountsGiven(s))
+        return false;
+    TellOfRowsLeftOut(s);
     RemoveBlankRows(s.Grid2, line::kQuantity);
     RefreshTotals(s);
     if (s.Grid2.RowCount() > 0 || s.InHand() == DocAction::Delete)

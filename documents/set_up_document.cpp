@@ -87,10 +87,14 @@ void AllowByAction(frmDj02& s) {
     s.cmdLoadKh2.enabled = !s.type.HasCustomer() || HasModuleRight("mnuCardAdd", 0);
 }
 
-void SetStartingValues(frmDj02& s) {
+void SetStartingRates(frmDj02& s) {
     s.txtTaxRate.text = s.parameters.taxWay == TaxWay::None ? "0" : FormatFixed(s.parameters.taxRate, 4);
     s.txtTaxRate.tag = s.txtTaxRate.text;
     s.txtZkl.text = s.txtZkl.tag = s.InHand() == DocAction::New ? "1.00" : "0.00";
+}
+
+void SetStartingValues(frmDj02& s) {
+    SetStartingRates(s);
     s.txtSsSf.text = "0.00";
     s.txtMemo.text.clear();
     s.chkFlag.visible = s.InHand() == DocAction::Change;
@@ -178,7 +182,10 @@ void ResetDocument(frmDj02& s) {
     s.chkFlag.value = false;
     s.lblSHR.caption.clear();
     Show(false, {&s.lblSHR, &s.shpSHR});
-    s.chkTh.value = s.type.fSetDjBack_; // the mark of the document before is not the next one's
+    s.chkTh.value =
+        s.type.fSetDjBack_; // mark, discount, tax rate and memo of the document before are not its own
+    SetStartingRates(s);
+    s.txtMemo.text.clear();
     s.Grid2.Clear();
     SetReturnSign(s);
     AppendLine(s);

@@ -65,13 +65,14 @@ class Lines {
         rows_.Set(kInvDJ2, 0);
     }
 
-    // Quantity and product are the cells' values; prices, amounts and taxes what the cells show.
+    // Quantity, price and product are the cells' values; amounts and taxes what the cells show. A price has more
+    // decimals than its column shows only where it was stored before the company chose fewer, and stays so.
     void SetFigures(int at) {
         const Grid& grid = s_.Grid2;
         rows_.Set(kRowID, at);
         rows_.Set(kCpID, grid.Cell(at, line::kProduct).AsLong());
         rows_.Set(kInvSL, grid.Number(at, line::kQuantity));
-        rows_.Set(kInvDJ, ShownNumber(grid, at, line::kPrice));
+        rows_.Set(kInvDJ, grid.Number(at, line::kPrice));
         rows_.Set(kInvJE, ShownNumber(grid, at, line::kAmount));
         rows_.Set(kInvTaxRate, ShownNumber(grid, at, line::kTaxRate));
         rows_.Set(kInvTax, ShownNumber(grid, at, line::kTax));

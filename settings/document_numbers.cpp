@@ -46,10 +46,15 @@ struct Pattern {
     size_t counterDigits;
 };
 
-Pattern PatternOf(Date date, const std::string& upperRule) {
+size_t CounterDigits(const std::string& upperRule) {
     size_t digits = 0;
     while (digits < upperRule.size() && upperRule[upperRule.size() - 1 - digits] == 'X')
         ++digits;
+    return digits;
+}
+
+Pattern PatternOf(Date date, const std::string& upperRule) {
+    const size_t digits = CounterDigits(upperRule);
     return {WithDate(date, upperRule.substr(0, upperRule.size() - digits)), digits};
 }
 
@@ -73,6 +78,19 @@ std::string LargestCounterStatement(const Pattern& pattern, int series) {
            " Desc";
 }
 
+// Counters have up to 20 digits, more than a number holds.
+std::string CounterBehind(std::string counter) {
+    if (counter.find_first_not_of("0123456789") != std::string::npos)
+        return NumberText(Val(counter) + 1);
+    size_t at = counter.size();
+    while (at > 0 && counter[at - 1] == '9')
+        counter[--at] = '0';
+    if (at == 0)
+        return "1" + counter;
+    ++counter[at - 1];
+    return counter;
+}
+
 // The largest counter stored, "" when there is none.
 std::string LargestCounter(const Pattern& pattern, int series) {
     const Recordset row(Conn(), LargestCounterStatement(pattern, series));
@@ -91,8 +109,7 @@ std::string NextDocumentNo(Date date, std::string& rule, int series) {
     if (series != kSeriesTest) {
         const std::string largest = LargestCounter(pattern, series);
         if (!largest.empty())
-            return stem +
-                   LastCharacters(zeros + "000000000000" + NumberText(Val(largest) + 1), counterDigits);
+            return stem + LastCharacters(zeros + CounterBehind(largest), counterDigits);
     }
     return stem + LastCharacters(zeros + "1", counterDigits);
 }
@@ -101,6 +118,11 @@ std::string NextNumberStatement(Date date, const std::string& rule, int series) 
     const Pattern pattern = PatternOf(date, UpperCase(rule));
     return pattern.counterDigits == 0 || series == kSeriesTest ? ""
                                                                : LargestCounterStatement(pattern, series);
+}
+
+bool HasUsedUpCounter(const std::string& number, const std::string& rule) {
+    const size_t digits = CounterDigits(UpperCase(rule));
+    return digits > 0 && number.ends_with(std::string(digits, '0'));
 }
 
 bool CheckNumberRule(const std::string& rule) {

@@ -24,6 +24,9 @@ constexpr int kNumberBytes = 20;
 // outgrows its digits wraps.
 std::string NextDocumentNo(Date date, std::string& rule, int series);
 
+// Whether that number's counter has wrapped: the next saves may meet numbers that are there.
+bool HasUsedUpCounter(const std::string& number, const std::string& rule);
+
 // The statement with which it looks for the largest number, "" when it asks nothing.
 std::string NextNumberStatement(Date date, const std::string& rule, int series);
 

@@ -97,9 +97,11 @@ class EditLine {
         return !list || list->editable;
     }
 
+    // A comma that a box of numbers refuses is the decimal sign of half the world's number pads.
     void TypeText(const QString& text) {
         for (const uint point : text.toUcs4())
-            Type(static_cast<int>(point));
+            if (!Taken(static_cast<int>(point)) && !(point == ',' && Taken('.')))
+                QApplication::beep();
     }
 
     bool DeleteAhead() {
@@ -109,6 +111,12 @@ class EditLine {
     }
 
     bool Type(int keyCode) {
+        if (!Taken(keyCode))
+            QApplication::beep();
+        return true;
+    }
+
+    bool Taken(int keyCode) {
         const QString text = line_.text();
         const int from = line_.hasSelectedText() ? line_.selectionStart() : line_.cursorPosition();
         box_.selStart = CharactersBefore(text, from);
@@ -116,10 +124,8 @@ class EditLine {
             line_.hasSelectedText() ? CharactersBefore(line_.selectedText(), line_.selectionLength()) : 0;
         bool taken = false;
         window_.Do([&] { taken = TypeKey(window_.Shown(), box_, keyCode); });
-        if (!taken)
-            QApplication::beep();
         line_.setCursorPosition(UnitsOf(line_.text(), box_.selStart));
-        return true;
+        return taken;
     }
 
     void ShowMenu(const QPoint& at) {

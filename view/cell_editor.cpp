@@ -67,6 +67,7 @@ QWidget* CellEditor::createEditor(QWidget* parent, const QStyleOptionViewItem&,
     const GridColumn& column = grid_.Column(index.column() + 1);
     line->setAlignment(column.alignment == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft);
     line->setValidator(ValidatorOf(column, line));
+    line->setProperty("numeric", column.type != CellType::Text);
     return line;
 }
 
@@ -101,6 +102,11 @@ bool CellEditor::eventFilter(QObject* object, QEvent* event) {
     auto* line = qobject_cast<QLineEdit*>(object);
     if (!line || event->type() != QEvent::KeyPress)
         return QStyledItemDelegate::eventFilter(object, event);
+    if (const auto& key = static_cast<QKeyEvent&>(*event);
+        key.text() == "," && line->property("numeric").toBool()) {
+        line->insert("."); // the decimal sign of half the world's number pads
+        return true;
+    }
     const std::optional<CellExit> exit = ExitOf(static_cast<QKeyEvent&>(*event), *line);
     if (!exit)
         return QStyledItemDelegate::eventFilter(object, event);

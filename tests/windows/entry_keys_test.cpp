@@ -108,6 +108,9 @@ TEST_F(EntryKeys, NumbersTakeNumbersOnly) {
         person.Type("."); // the point moves here
         EXPECT_EQ(person.Text("txtInvHbDl"), "1.25");
         person.Press(Qt::Key_A, Qt::ControlModifier);
+        person.Type("7,5"); // where the number pad has a comma
+        EXPECT_EQ(person.Text("txtInvHbDl"), "7.5");
+        person.Press(Qt::Key_A, Qt::ControlModifier);
         person.Compose("3a2");
         EXPECT_EQ(person.Text("txtInvHbDl"), "32");
         person.Press(Qt::Key_Z, Qt::ControlModifier);
@@ -125,6 +128,18 @@ TEST_F(EntryKeys, NumbersTakeNumbersOnly) {
         EXPECT_EQ(person.Text("txtSum"), "0.00");
     });
     EXPECT_EQ(person.Boxes(), Texts{});
+}
+
+TEST_F(EntryKeys, CommaOfTheNumberPadIsThePoint) {
+    Enter(1, [&] {
+        person.ClickCell("Grid2", 1, line::kCode);
+        for (const char* typed : {"CPU001", "2,5", "6,5"})
+            person.Enter(typed);
+        EXPECT_EQ(person.Cell("Grid2", 1, line::kAmount), "16.25");
+        person.Answer(Qt::Key_D);
+        person.Click("cmdQuit");
+        person.Boxes();
+    });
 }
 
 TEST_F(EntryKeys, NumberFieldCountsBytes) {
