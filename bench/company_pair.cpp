@@ -8,7 +8,7 @@
 
 #include "bench/history.h"
 #include "host/company/create_company.h"
-#include "session/database/open_connection.h"
+#include "session/company/open_connection.h"
 #include "tests/support/test_server.h"
 
 namespace jxc::bench {

@@ -3,10 +3,10 @@
 #include <chrono>
 #include <stdexcept>
 
+#include "base/text.h"
 #include "controls/gestures.h"
-#include "controls/text.h"
 #include "host/company_address.h"
-#include "session/database/open_connection.h"
+#include "session/company/open_connection.h"
 #include "session/session.h"
 
 namespace jxc::bench {

@@ -1,6 +1,6 @@
 #include "bench/history.h"
 
-#include "session/database/engine.h"
+#include "database/engine.h"
 
 namespace jxc::bench {
 

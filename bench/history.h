@@ -3,7 +3,7 @@
 #pragma once
 
 #include "bench/receipt.h"
-#include "session/database/connection.h"
+#include "database/connection.h"
 
 namespace jxc::bench {
 

@@ -12,15 +12,15 @@
 
 #include <unistd.h>
 
+#include "base/text.h"
 #include "bench/large_floor.h"
 #include "controls/gestures.h"
 #include "controls/scripted_view.h"
-#include "controls/text.h"
+#include "database/recordset.h"
 #include "documents/frmDj02.h"
 #include "host/company/create_company.h"
 #include "host/company_address.h"
 #include "host/screens.h"
-#include "session/database/recordset.h"
 #include "session/session.h"
 #include "tests/support/test_server.h"
 

@@ -2,9 +2,9 @@
 
 #include <cstdio>
 
+#include "database/recordset.h"
 #include "host/company/sample_cards.h"
 #include "host/company/sample_warehouses.h"
-#include "session/database/recordset.h"
 
 namespace jxc::bench {
 

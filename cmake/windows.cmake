@@ -6,7 +6,7 @@ find_library(XLSXWRITER xlsxwriter REQUIRED)
 function(jxc_windows name folder)
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
   add_library(jxc_${name} STATIC ${sources})
-  target_precompile_headers(jxc_${name} PRIVATE ${PROJECT_SOURCE_DIR}/view/standard_headers.h)
+  target_precompile_headers(jxc_${name} PRIVATE ${PROJECT_SOURCE_DIR}/view/qt_headers.h)
   target_link_libraries(jxc_${name} PUBLIC ${ARGN})
 endfunction()
 

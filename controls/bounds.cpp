@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "controls/text.h"
+#include "base/text.h"
 
 namespace jxc {
 

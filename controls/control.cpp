@@ -1,7 +1,7 @@
 #include "controls/control.h"
 
+#include "base/text.h"
 #include "controls/screen.h"
-#include "controls/text.h"
 #include "controls/view.h"
 
 namespace jxc {

@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "controls/date.h"
-#include "controls/value.h"
+#include "base/date.h"
+#include "base/value.h"
 
 namespace jxc {
 

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
+#include "base/text.h"
 #include "controls/bounds.h"
-#include "controls/text.h"
 #include "controls/view.h"
 
 namespace jxc {

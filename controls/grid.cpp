@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/text.h"
 #include "controls/bounds.h"
 #include "controls/screen.h"
-#include "controls/text.h"
 
 namespace jxc {
 

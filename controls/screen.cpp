@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
 
 namespace jxc {

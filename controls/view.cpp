@@ -2,7 +2,7 @@
 
 #include <typeinfo>
 
-#include "controls/log.h"
+#include "base/log.h"
 
 namespace jxc {
 

@@ -1,6 +1,6 @@
 #include "documents/bounds.h"
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "documents/document_entry.h"
 
 namespace jxc {

@@ -1,6 +1,6 @@
 // What lies beside the document: the customer's telephone, mail and web page, and the master data screens.
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
 #include "documents/document_entry.h"
 #include "session/components.h"

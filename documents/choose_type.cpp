@@ -4,12 +4,12 @@
 #include <cmath>
 #include <tuple>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
 #include "documents/document_entry.h"
 #include "documents/shared_lists.h"
-#include "session/book.h"
-#include "session/lists.h"
+#include "session/lookups/book.h"
+#include "session/lookups/lists.h"
 
 namespace jxc {
 

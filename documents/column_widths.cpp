@@ -2,8 +2,8 @@
 // fieldID is the column's place. Only the supervisor may change them.
 
 #include "controls/view.h"
+#include "database/recordset.h"
 #include "documents/document_entry.h"
-#include "session/database/recordset.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -1,12 +1,12 @@
 // The document's customer: search, choice, card fields, delivery addresses.
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
+#include "database/recordset.h"
 #include "documents/document_entry.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
-#include "session/lists.h"
-#include "session/lookups.h"
+#include "session/lookups/database_routines.h"
+#include "session/lookups/find_by_text.h"
+#include "session/lookups/lists.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "documents/bounds.h"
 
 namespace jxc {

@@ -1,12 +1,12 @@
 #include "documents/frmDj01.h"
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "controls/grid_routines.h"
 #include "controls/view.h"
 #include "documents/document_list.h"
 #include "documents/list_columns.h"
-#include "session/edit_filter.h"
-#include "session/grid_routines.h"
-#include "session/lists.h"
+#include "forms/edit_filter.h"
+#include "session/lookups/lists.h"
 #include "session/period.h"
 
 namespace jxc {

@@ -1,13 +1,13 @@
 #include "documents/frmDj02.h"
 
+#include "base/text.h"
 #include "controls/gestures.h"
-#include "controls/text.h"
 #include "controls/view.h"
 #include "documents/document_entry.h"
 #include "documents/frmDj01.h"
-#include "session/edit_filter.h"
-#include "session/lists.h"
-#include "session/lookups.h"
+#include "forms/edit_filter.h"
+#include "session/lookups/find_by_text.h"
+#include "session/lookups/lists.h"
 #include "settings/document_numbers.h"
 
 namespace jxc {
@@ -173,11 +173,6 @@ void frmDj02::SaveWork() {
 
 std::int64_t frmDj02::CustomerId() const {
     return CustomerIdOf(cboKhList.Chosen());
-}
-
-void RegisterDocumentScreens() {
-    RegisterScreen("frmDj01", [] { return std::make_unique<frmDj01>(); });
-    RegisterScreen("frmDj02", [] { return std::make_unique<frmDj02>(); });
 }
 
 } // namespace jxc

@@ -123,6 +123,4 @@ struct frmDj02 : Screen {
     std::int64_t CustomerId() const;
 };
 
-void RegisterDocumentScreens();
-
 } // namespace jxc

@@ -1,12 +1,12 @@
 // Date, warehouses, currency and quick payment of the document in hand.
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
+#include "database/recordset.h"
 #include "documents/bounds.h"
 #include "documents/document_entry.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
-#include "session/lookups.h"
+#include "session/lookups/database_routines.h"
+#include "session/lookups/find_by_text.h"
 #include "session/session.h"
 #include "settings/document_numbers.h"
 

@@ -1,13 +1,13 @@
 // The finished product of assembly and dismantling. The lines are its parts, for as many pieces as the panel
 // says.
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
+#include "database/recordset.h"
 #include "documents/bounds.h"
 #include "documents/document_entry.h"
-#include "session/database/recordset.h"
-#include "session/edit_filter.h"
-#include "session/lookups.h"
+#include "forms/edit_filter.h"
+#include "session/lookups/find_by_text.h"
 #include "session/session.h"
 
 namespace jxc {

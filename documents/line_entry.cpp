@@ -2,15 +2,15 @@
 
 #include <cmath>
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "controls/grid_routines.h"
 #include "controls/view.h"
+#include "database/recordset.h"
 #include "documents/bounds.h"
 #include "documents/document_entry.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
-#include "session/edit_filter.h"
-#include "session/grid_routines.h"
-#include "session/lookups.h"
+#include "forms/edit_filter.h"
+#include "session/lookups/database_routines.h"
+#include "session/lookups/find_by_text.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <set>
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "database/recordset.h"
 #include "documents/document_list.h"
-#include "session/database/recordset.h"
 #include "session/session.h"
 #include "settings/column_dictionary.h"
 

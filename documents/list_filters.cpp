@@ -1,10 +1,10 @@
 // The filters of the document list: their lists, and which of them the type ticked leaves.
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "documents/document_list.h"
 #include "documents/shared_lists.h"
-#include "session/database/routines.h"
-#include "session/lists.h"
+#include "session/lookups/database_routines.h"
+#include "session/lookups/lists.h"
 #include "session/session.h"
 
 namespace jxc {

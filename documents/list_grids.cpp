@@ -1,9 +1,9 @@
 // Documents and lines into the two grids of the list, with their colours.
 
+#include "controls/grid_routines.h"
+#include "database/recordset.h"
 #include "documents/document_list.h"
 #include "documents/list_columns.h"
-#include "session/database/recordset.h"
-#include "session/grid_routines.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -1,12 +1,12 @@
 // A stored document into the entry screen.
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
+#include "database/recordset.h"
 #include "documents/document_entry.h"
-#include "session/book.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
-#include "session/lists.h"
+#include "session/lookups/book.h"
+#include "session/lookups/database_routines.h"
+#include "session/lookups/lists.h"
 #include "session/session.h"
 
 namespace jxc {

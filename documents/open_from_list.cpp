@@ -1,6 +1,6 @@
 // From the document list into frmDj02: the commands, the menu of a row, and the picker's answer.
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
 #include "documents/document_list.h"
 #include "documents/list_columns.h"

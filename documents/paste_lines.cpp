@@ -3,12 +3,12 @@
 #include <map>
 #include <set>
 
+#include "base/text.h"
 #include "controls/gestures.h"
-#include "controls/text.h"
 #include "controls/view.h"
+#include "database/recordset.h"
 #include "documents/document_entry.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

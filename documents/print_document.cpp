@@ -2,9 +2,9 @@
 
 #include <cmath>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "documents/document_entry.h"
-#include "session/print_grid.h"
+#include "session/printing/print_grid.h"
 
 namespace jxc {
 

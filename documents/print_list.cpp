@@ -3,8 +3,8 @@
 
 #include "documents/document_list.h"
 #include "documents/list_columns.h"
-#include "session/database/routines.h"
-#include "session/print_grid.h"
+#include "session/lookups/database_routines.h"
+#include "session/printing/print_grid.h"
 
 namespace jxc {
 

@@ -2,16 +2,16 @@
 
 #include <optional>
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "controls/grid_routines.h"
 #include "controls/view.h"
+#include "database/recordset.h"
 #include "documents/approval/run_approval.h"
 #include "documents/bounds.h"
 #include "documents/document_entry.h"
 #include "documents/write_document.h"
-#include "session/book.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
-#include "session/grid_routines.h"
+#include "session/lookups/book.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -2,13 +2,13 @@
 
 #include <cstdlib>
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "controls/grid_routines.h"
 #include "documents/approval/stages.h"
 #include "documents/document_entry.h"
 #include "documents/shared_lists.h"
-#include "session/book.h"
-#include "session/grid_routines.h"
-#include "session/lists.h"
+#include "session/lookups/book.h"
+#include "session/lookups/lists.h"
 #include "session/period.h"
 #include "session/rights.h"
 #include "session/session.h"

@@ -1,8 +1,8 @@
 #include "documents/shared_lists.h"
 
-#include "controls/text.h"
-#include "session/lists.h"
-#include "session/lookups.h"
+#include "base/text.h"
+#include "session/lookups/find_by_text.h"
+#include "session/lookups/lists.h"
 
 namespace jxc {
 

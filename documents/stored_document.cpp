@@ -1,6 +1,6 @@
 #include "documents/stored_document.h"
 
-#include "session/database/connection.h"
+#include "database/connection.h"
 #include "session/session.h"
 
 namespace jxc {

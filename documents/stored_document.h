@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "controls/value.h"
+#include "base/value.h"
 
 namespace jxc {
 

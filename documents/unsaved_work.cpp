@@ -1,6 +1,6 @@
 // What would be lost if the screen were left now.
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "documents/document_entry.h"
 
 namespace jxc {

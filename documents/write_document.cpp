@@ -1,9 +1,9 @@
 #include "documents/write_document.h"
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "database/recordset.h"
+#include "database/row_inserter.h"
 #include "documents/document_entry.h"
-#include "session/database/recordset.h"
-#include "session/database/row_inserter.h"
 #include "session/session.h"
 
 namespace jxc {

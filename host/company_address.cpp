@@ -1,7 +1,7 @@
 #include "host/company_address.h"
 
-#include "session/database/open_connection.h"
-#include "session/database/server_address.h"
+#include "database/server_address.h"
+#include "session/company/open_connection.h"
 #include "session/session.h"
 
 namespace jxc {

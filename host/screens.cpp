@@ -1,6 +1,6 @@
 #include "host/screens.h"
 
-#include "documents/frmDj02.h"
+#include "documents/document_screens.h"
 #include "host/editors/host_editors.h"
 #include "settings/frmRs_RptSet.h"
 #include "stock/frmCkKc.h"
@@ -9,8 +9,9 @@ namespace jxc {
 
 void RegisterAllScreens() {
     RegisterSettingsScreens();
-    RegisterDocumentScreens();
     RegisterStockScreens();
+    RegisterDocumentScreens();
+    RegisterPlannedScreens();
     RegisterHostEditors();
 }
 

@@ -10,9 +10,9 @@
 #include "host/company/prepare_database.h"
 #include "host/company/sample_company.h"
 #include "host/company_address.h"
-#include "host/scenario.h"
 #include "host/screens.h"
-#include "session/database/open_connection.h"
+#include "robot/scenario.h"
+#include "session/company/open_connection.h"
 #include "session/session.h"
 
 namespace jxc {

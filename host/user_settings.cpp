@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
+#include "database/recordset.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -1,8 +1,8 @@
 #include "master/supplier_history.h"
 
 #include "controls/view.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
+#include "database/recordset.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

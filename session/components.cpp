@@ -1,13 +1,25 @@
 #include "session/components.h"
 
+#include "controls/screen.h"
 #include "controls/view.h"
-#include "session/frmBrief.h"
-#include "session/html_printer.h"
+#include "session/printing/html_printer.h"
 #include "session/session.h"
 
 namespace jxc {
 
 namespace {
+
+class CodeListScreen : public CodeListEditor {
+  public:
+    std::string Edit(const std::string& table, const std::string& code, BriefKind kind) override {
+        const ScreenToShow screen("frmBrief");
+        screen->SetProperty("table", table);
+        screen->SetProperty("code", code);
+        screen->SetProperty("kind", static_cast<int>(kind));
+        ShowModal(*screen);
+        return screen->GetProperty("chosen").AsText();
+    }
+};
 
 class TreeAsNotice : public TreePrinter {
   public:

@@ -1,124 +1,38 @@
 // Refresh: from a screen number to the screen, with the settings that the number stands for.
 
-#include <functional>
-#include <vector>
-
-#include "controls/screen.h"
-#include "session/company_visit.h"
+#include "session/company/company_visit.h"
 #include "session/lzjxc.h"
-#include "session/session.h"
+#include "session/screens.h"
 
 namespace jxc {
 
 namespace {
 
-bool Always() {
-    return true;
-}
-bool IsClose() {
-    return session.myType == 1;
-}
-bool IsReverseClose() {
-    return session.myType != 1;
-}
-bool IsTree() {
-    return session.myType == 0;
-}
-bool IsList() {
-    return session.myType != 0;
-}
-
-using Prepare = void (*)(Screen&);
-
-void Nothing(Screen&) {}
-void CpNoEditOff(Screen& screen) {
-    screen.SetProperty("CpNoEdit", 0);
-}
-void CpTjSelectOff(Screen& screen) {
-    screen.SetProperty("CpTjSelect", 0);
-}
-template <int State>
-void FixedState(Screen& screen) {
-    screen.SetProperty("myState", State);
-}
-void StateOfType(Screen& screen) {
-    screen.SetProperty("myState", session.myType);
-}
-void Tick(Screen& screen, const char* box, bool ticked) {
-    if (auto* toggle = dynamic_cast<Toggle*>(screen.Find(box)))
-        toggle->value = ticked;
-}
-// The screen is kept between calls: the box that the other call cleared is ticked again.
-void HeaderList(Screen& screen) {
-    screen.SetProperty("invType", session.myType);
-    Tick(screen, "chkDj", true);
-    Tick(screen, "chkDjMx", false);
-}
-void LineList(Screen& screen) {
-    screen.SetProperty("invType", session.myType);
-    Tick(screen, "chkDj", false);
-    Tick(screen, "chkDjMx", true);
-}
-// A host that calls the entry screen wants to write a new document.
-void NewDocument(Screen& screen) {
-    screen.SetProperty("Action", 1);
-    screen.SetProperty("OldType", 0);
-    screen.SetProperty("oldInvID", 0);
-    screen.SetProperty("JzState", 0);
-    screen.SetProperty("invType", session.myType);
-}
-
-struct DispatchRow {
-    int action;
-    bool (*when)();
-    const char* screen;
-    Prepare prepare;
+struct Called {
+    const ScreenEntry* entry = nullptr; // null for a number without a screen
+    const HostCall* call = nullptr;
 };
 
-const DispatchRow kDispatch[] = {
-    {0, Always, "frmSystem", Nothing},
-    {1, Always, "frmCk", Nothing},
-    {2, Always, "frmCp", CpNoEditOff},
-    {3, Always, "frmCpTj", CpTjSelectOff},
-    {4, Always, "frmCkKc", FixedState<0>},
-    {5, Always, "frmCkKc", FixedState<1>},
-    {6, Always, "frmCkKc", FixedState<2>},
-    {7, IsClose, "frmJz_Step", Nothing},
-    {7, IsReverseClose, "frmJz_unStep", Nothing},
-    {8, Always, "frmTb01", StateOfType},
-    {9, Always, "frmTb02", StateOfType},
-    {11, Always, "frmDj01", HeaderList},
-    {12, Always, "frmDj01", LineList},
-    {13, Always, "frmDj02", NewDocument},
-    {14, Always, "frmJh02", StateOfType},
-    {21, IsTree, "frmYj_Jbr_Jb", FixedState<0>},
-    {21, IsList, "frmYj_Jbr", Nothing},
-    {22, Always, "frmYj_Set", Nothing},
-    {23, Always, "frmYj_Gr", Nothing},
-    {24, Always, "frmYj_Jbr_Jb", StateOfType},
-    {25, Always, "frmYj_Tj", StateOfType},
-    {28, Always, "frmYj_Tj02", Nothing},
-    {29, Always, "frmYj_Step", Nothing},
-};
-
-const DispatchRow* RowOf(int action) {
-    for (const DispatchRow& row : kDispatch)
-        if (row.action == action && row.when())
-            return &row;
-    return nullptr;
+Called ScreenOf(int action) {
+    for (const ScreenEntry& entry : ScreenEntries())
+        for (const HostCall& call : entry.calls)
+            if (call.action == action && (!call.when || call.when()))
+                return {&entry, &call};
+    return {};
 }
 
 // A host's mistake in a property is told before anything is opened or set.
-void CheckProperties(const DispatchRow* row, const ScreenProperties& properties) {
-    const Screen* screen = row ? FindScreen(row->screen) : nullptr;
+void CheckProperties(const Called& called, const ScreenProperties& properties) {
+    const Screen* screen = called.entry ? FindScreen(called.entry->name) : nullptr;
     for (const auto& [name, value] : properties)
         if (screen && !screen->HasProperty(name))
             throw ScreenError(screen->name + " 没有属性 " + name + "。");
 }
 
-void ShowScreen(const DispatchRow& row, const ScreenProperties& properties) {
-    Screen& screen = ScreenNamed(row.screen);
-    row.prepare(screen);
+void ShowScreen(const Called& called, const ScreenProperties& properties) {
+    Screen& screen = ScreenNamed(called.entry->name);
+    if (called.call->prepare)
+        called.call->prepare(screen);
     for (const auto& [name, value] : properties)
         screen.SetProperty(name, value);
     ShowModal(screen);
@@ -127,11 +41,11 @@ void ShowScreen(const DispatchRow& row, const ScreenProperties& properties) {
 } // namespace
 
 void lzJxc::Refresh(std::int16_t RAction, const ScreenProperties& properties) {
-    const DispatchRow* row = RowOf(RAction);
-    CheckProperties(row, properties);
+    const Called called = ScreenOf(RAction);
+    CheckProperties(called, properties);
     VisitCompany([&] {
-        if (row)
-            ShowScreen(*row, properties);
+        if (called.entry)
+            ShowScreen(called, properties);
     });
 }
 

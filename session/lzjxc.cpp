@@ -3,9 +3,9 @@
 #include <functional>
 #include <limits>
 
+#include "base/text.h"
 #include "controls/screen.h"
-#include "controls/text.h"
-#include "session/database/storable_text.h"
+#include "database/storable_text.h"
 #include "session/session.h"
 
 namespace jxc {

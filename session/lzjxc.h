@@ -19,7 +19,7 @@
 #include <utility>
 #include <vector>
 
-#include "controls/value.h"
+#include "base/value.h"
 
 namespace jxc {
 

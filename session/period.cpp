@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "session/database/recordset.h"
+#include "database/recordset.h"
 #include "session/session.h"
 
 namespace jxc {

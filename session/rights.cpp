@@ -1,9 +1,9 @@
 #include "session/rights.h"
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
-#include "session/database/open_connection.h"
-#include "session/database/recordset.h"
+#include "database/recordset.h"
+#include "session/company/open_connection.h"
 #include "session/messages.h"
 #include "session/session.h"
 

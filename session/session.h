@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "controls/date.h"
-#include "session/database/connection.h"
+#include "base/date.h"
+#include "database/connection.h"
 
 namespace jxc {
 

@@ -1,9 +1,9 @@
 #include "settings/column_dictionary.h"
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
+#include "database/recordset.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

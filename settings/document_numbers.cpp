@@ -1,9 +1,9 @@
 #include "settings/document_numbers.h"
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
-#include "session/book.h"
-#include "session/database/recordset.h"
+#include "database/recordset.h"
+#include "session/lookups/book.h"
 #include "session/session.h"
 
 namespace jxc {

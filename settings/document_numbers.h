@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "controls/date.h"
+#include "base/date.h"
 
 namespace jxc {
 

@@ -1,10 +1,12 @@
 #include "settings/frmRs_RptSet.h"
 
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
-#include "session/edit_filter.h"
+#include "database/recordset.h"
+#include "forms/edit_filter.h"
+#include "session/lookups/database_routines.h"
+#include "session/screens.h"
 #include "session/session.h"
 #include "settings/column_dictionary.h"
+#include "settings/frmBrief.h"
 
 namespace jxc {
 
@@ -79,7 +81,8 @@ void frmRs_RptSet::Open() {
 }
 
 void RegisterSettingsScreens() {
-    RegisterScreen("frmRs_RptSet", [] { return std::make_unique<frmRs_RptSet>(); });
+    AddScreen({"frmRs_RptSet", [] { return std::make_unique<frmRs_RptSet>(); }});
+    AddScreen({"frmBrief", [] { return std::make_unique<frmBrief>(); }});
 }
 
 } // namespace jxc

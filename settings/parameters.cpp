@@ -1,6 +1,6 @@
 #include "settings/parameters.h"
 
-#include "session/database/recordset.h"
+#include "database/recordset.h"
 #include "session/period.h"
 #include "session/session.h"
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "session/database/recordset.h"
+#include "database/recordset.h"
 
 namespace jxc {
 

@@ -2,14 +2,15 @@
 
 #include <algorithm>
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "controls/grid_routines.h"
 #include "controls/view.h"
-#include "session/database/routines.h"
-#include "session/edit_filter.h"
-#include "session/grid_routines.h"
-#include "session/lists.h"
+#include "forms/edit_filter.h"
+#include "session/lookups/database_routines.h"
+#include "session/lookups/lists.h"
 #include "session/period.h"
-#include "session/print_grid.h"
+#include "session/printing/print_grid.h"
+#include "session/screens.h"
 #include "session/session.h"
 #include "stock/stock_query.h"
 
@@ -136,7 +137,12 @@ int frmCkKc::ChosenPrice() const {
 }
 
 void RegisterStockScreens() {
-    RegisterScreen("frmCkKc", [] { return std::make_unique<frmCkKc>(); });
+    AddScreen({.name = "frmCkKc",
+               .make = [] { return std::make_unique<frmCkKc>(); },
+               .calls = {{4, FixedState<0>}, {5, FixedState<1>}, {6, FixedState<2>}},
+               .menu = {{"查询(&Q)", "库存统计", "各仓库现有的库存数。", 4},
+                        {"查询(&Q)", "库存报警", "低于下限或高于上限的产品。", 5},
+                        {"查询(&Q)", "成本核算统计", "库存与本期进销的数量、单价与金额。", 6}}});
 }
 
 } // namespace jxc

@@ -1,9 +1,9 @@
 #include "stock/stock_query.h"
 
+#include "controls/grid_routines.h"
 #include "controls/view.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
-#include "session/grid_routines.h"
+#include "database/recordset.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

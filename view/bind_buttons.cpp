@@ -2,8 +2,8 @@
 
 #include "controls/gestures.h"
 #include "view/binding.h"
+#include "view/qt_text.h"
 #include "view/screen_window.h"
-#include "view/text.h"
 
 namespace jxc {
 

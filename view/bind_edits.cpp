@@ -3,11 +3,11 @@
 
 #include <QDateEdit>
 
+#include "base/text.h"
 #include "controls/gestures.h"
-#include "controls/text.h"
 #include "view/binding.h"
+#include "view/qt_text.h"
 #include "view/screen_window.h"
-#include "view/text.h"
 
 namespace jxc {
 

@@ -1,15 +1,15 @@
 // Grids: a table over the model itself, typed into cell by cell, walked with Enter and the arrow keys, copied
 // from and pasted into as spreadsheets do.
 
+#include "base/text.h"
 #include "controls/gestures.h"
-#include "controls/text.h"
 #include "view/binding.h"
 #include "view/cell_editor.h"
 #include "view/grid_menu.h"
 #include "view/grid_model.h"
+#include "view/qt_text.h"
 #include "view/qt_view.h"
 #include "view/screen_window.h"
-#include "view/text.h"
 
 namespace jxc {
 

@@ -3,8 +3,8 @@
 #include "controls/gestures.h"
 #include "controls/tree.h"
 #include "view/binding.h"
+#include "view/qt_text.h"
 #include "view/screen_window.h"
-#include "view/text.h"
 
 namespace jxc {
 

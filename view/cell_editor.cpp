@@ -3,9 +3,9 @@
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "view/grid_model.h"
-#include "view/text.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 

@@ -6,15 +6,15 @@
 
 #include <xlsxwriter.h>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
 #include "session/session.h"
 #include "view/cell_texts.h"
 #include "view/grid_paper.h"
 #include "view/page_printer.h"
 #include "view/paper_preview.h"
+#include "view/qt_text.h"
 #include "view/save_dialog.h"
-#include "view/text.h"
 
 namespace jxc {
 

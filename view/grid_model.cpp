@@ -3,7 +3,7 @@
 #include <QBrush>
 #include <QColor>
 
-#include "view/text.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <utility>
 
-#include "session/print_grid.h"
-#include "view/text.h"
+#include "session/printing/print_grid.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 

@@ -5,10 +5,10 @@
 #include <QPdfWriter>
 #include <QPrinter>
 
-#include "session/html_pages.h"
+#include "session/printing/html_pages.h"
 #include "view/grid_paper.h"
 #include "view/paper_preview.h"
-#include "view/text.h"
+#include "view/qt_text.h"
 #include "view/text_paper.h"
 
 namespace jxc {

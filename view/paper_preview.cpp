@@ -6,8 +6,8 @@
 #include <QPrinter>
 
 #include "view/page_printer.h"
+#include "view/qt_text.h"
 #include "view/save_dialog.h"
-#include "view/text.h"
 
 namespace jxc {
 

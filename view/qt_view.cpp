@@ -1,7 +1,7 @@
 #include "view/qt_view.h"
 
+#include "view/qt_text.h"
 #include "view/screen_window.h"
-#include "view/text.h"
 
 namespace jxc {
 
@@ -154,7 +154,8 @@ class AnswerBox : public QMessageBox {
   protected:
     void keyPressEvent(QKeyEvent* event) override {
         const bool bare = !(event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier));
-        if (bare && !event->text().isEmpty() && event->text().at(0).isPrint() && event->key() != Qt::Key_Space)
+        if (bare && !event->text().isEmpty() && event->text().at(0).isPrint() &&
+            event->key() != Qt::Key_Space)
             return event->accept();
         QMessageBox::keyPressEvent(event);
     }

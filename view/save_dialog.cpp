@@ -3,7 +3,7 @@
 #include <QFileDialog>
 
 #include "controls/view.h"
-#include "view/text.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 

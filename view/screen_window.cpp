@@ -6,8 +6,8 @@
 #include "controls/gestures.h"
 #include "session/session.h"
 #include "view/binding.h"
+#include "view/qt_text.h"
 #include "view/qt_view.h"
-#include "view/text.h"
 
 namespace jxc {
 

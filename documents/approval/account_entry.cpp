@@ -3,10 +3,10 @@
 
 #include <optional>
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "database/recordset.h"
 #include "documents/approval/stages.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 #include "settings/document_numbers.h"
 #include "settings/type_row.h"

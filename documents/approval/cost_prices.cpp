@@ -5,10 +5,10 @@
 #include <map>
 #include <vector>
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "database/recordset.h"
 #include "documents/approval/stages.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -1,9 +1,9 @@
 // The open balance of orders: what a receipt, issue or dispatch that refers to an order takes from it.
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "database/recordset.h"
 #include "documents/approval/stages.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -13,12 +13,12 @@
 #include <unordered_map>
 #include <vector>
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "database/recordset.h"
+#include "database/row_inserter.h"
 #include "documents/approval/stages.h"
 #include "documents/bounds.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
-#include "session/database/row_inserter.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -4,15 +4,15 @@
 #include <functional>
 #include <vector>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
+#include "database/recordset.h"
+#include "database/waiting.h"
 #include "documents/approval/stages.h"
 #include "documents/document_entry.h"
 #include "master/supplier_history.h"
-#include "session/book.h"
-#include "session/database/recordset.h"
-#include "session/database/routines.h"
-#include "session/database/waiting.h"
+#include "session/lookups/book.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 #include "settings/document_numbers.h"
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "database/connection.h"
 #include "documents/frmDj02.h"
-#include "session/database/connection.h"
 
 namespace jxc {
 

@@ -1,8 +1,8 @@
 // Documents: headers, lines, the copies of the header on them, figures, dates and what they refer to.
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "host/check/checked_company.h"
-#include "session/book.h"
+#include "session/lookups/book.h"
 
 namespace jxc {
 

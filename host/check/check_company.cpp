@@ -2,8 +2,8 @@
 
 #include <optional>
 
+#include "database/engine.h"
 #include "host/check/checked_company.h"
-#include "session/database/engine.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -1,7 +1,7 @@
 #include "host/check/checked_company.h"
 
-#include "controls/text.h"
-#include "session/database/recordset.h"
+#include "base/text.h"
+#include "database/recordset.h"
 #include "session/period.h"
 #include "session/session.h"
 #include "settings/document_types.h"

@@ -5,7 +5,7 @@
 #include <optional>
 #include <set>
 
-#include "controls/date.h"
+#include "base/date.h"
 #include "host/check/findings.h"
 #include "settings/type_row.h"
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <map>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "host/check/checked_company.h"
 
 namespace jxc {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "session/database/connection.h"
+#include "database/connection.h"
 
 namespace jxc {
 

@@ -4,10 +4,10 @@
 #include <map>
 #include <set>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "documents/approval/stages.h"
 #include "host/check/checked_company.h"
-#include "session/book.h"
+#include "session/lookups/book.h"
 
 namespace jxc {
 

@@ -3,7 +3,7 @@
 
 #include <set>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "host/check/checked_company.h"
 
 namespace jxc {

@@ -1,6 +1,6 @@
 // Parameters, document types and master data: what everything else rests on.
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "documents/approval/stages.h"
 #include "host/check/checked_company.h"
 #include "session/session.h"

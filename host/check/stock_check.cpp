@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "host/check/stock_recount.h"
 
 namespace jxc {

@@ -1,6 +1,6 @@
 #include "host/check/stock_recount.h"
 
-#include "controls/text.h"
+#include "base/text.h"
 
 namespace jxc {
 

@@ -9,9 +9,9 @@
 #include <filesystem>
 #include <functional>
 
+#include "database/sqlite_engine.h"
 #include "host/company_address.h"
-#include "session/database/open_connection.h"
-#include "session/database/sqlite_engine.h"
+#include "session/company/open_connection.h"
 
 namespace jxc {
 

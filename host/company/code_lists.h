@@ -1,7 +1,7 @@
 // The code lists of a new company.
 #pragma once
 
-#include "session/database/connection.h"
+#include "database/connection.h"
 
 namespace jxc {
 

@@ -2,7 +2,7 @@
 // print.
 #pragma once
 
-#include "session/database/connection.h"
+#include "database/connection.h"
 
 namespace jxc {
 

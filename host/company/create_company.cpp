@@ -2,12 +2,12 @@
 
 #include <cstdio>
 
+#include "database/engine.h"
+#include "database/schema.h"
 #include "host/company/code_lists.h"
 #include "host/company/column_dictionary.h"
 #include "host/company/default_settings.h"
 #include "host/company/sample_company.h"
-#include "session/database/engine.h"
-#include "session/database/schema.h"
 
 namespace jxc {
 

@@ -1,6 +1,6 @@
 #include "host/company/default_settings.h"
 
-#include "controls/date.h"
+#include "base/date.h"
 #include "host/company/table_writer.h"
 #include "settings/document_types.h"
 

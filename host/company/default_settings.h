@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "session/database/connection.h"
+#include "database/connection.h"
 
 namespace jxc {
 

@@ -6,8 +6,8 @@
 #include <iostream>
 #include <memory>
 
-#include "session/database/connection.h"
-#include "session/database/server_address.h"
+#include "database/connection.h"
+#include "database/server_address.h"
 
 namespace jxc {
 

@@ -4,12 +4,12 @@
 #include <stdexcept>
 #include <vector>
 
-#include "controls/date.h"
-#include "controls/text.h"
+#include "base/date.h"
+#include "base/text.h"
 #include "host/company_address.h"
-#include "host/scenario.h"
-#include "session/book.h"
-#include "session/database/open_connection.h"
+#include "robot/scenario.h"
+#include "session/company/open_connection.h"
+#include "session/lookups/book.h"
 #include "session/session.h"
 #include "settings/document_types.h"
 

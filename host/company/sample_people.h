@@ -1,7 +1,7 @@
 // People of the sample company: departments, staff, system users, salespeople and their levels.
 #pragma once
 
-#include "session/database/connection.h"
+#include "database/connection.h"
 
 namespace jxc {
 

@@ -1,7 +1,7 @@
 // Products and kit templates of the sample company.
 #pragma once
 
-#include "session/database/connection.h"
+#include "database/connection.h"
 
 namespace jxc {
 

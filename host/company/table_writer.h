@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "session/database/recordset.h"
+#include "database/recordset.h"
 
 namespace jxc {
 

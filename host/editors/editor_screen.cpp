@@ -1,8 +1,8 @@
 #include "host/editors/editor_screen.h"
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "controls/view.h"
-#include "session/edit_filter.h"
+#include "forms/edit_filter.h"
 #include "session/messages.h"
 #include "session/session.h"
 

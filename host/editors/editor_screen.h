@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "controls/screen.h"
-#include "session/database/recordset.h"
+#include "database/recordset.h"
 
 namespace jxc {
 

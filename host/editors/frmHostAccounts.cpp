@@ -1,6 +1,6 @@
 #include "host/editors/frmHostAccounts.h"
 
-#include "controls/text.h"
+#include "base/text.h"
 
 namespace jxc {
 

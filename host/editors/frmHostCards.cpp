@@ -1,8 +1,8 @@
 #include "host/editors/frmHostCards.h"
 
-#include "controls/text.h"
-#include "session/database/routines.h"
-#include "session/edit_filter.h"
+#include "base/text.h"
+#include "forms/edit_filter.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

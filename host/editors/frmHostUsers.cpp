@@ -1,6 +1,6 @@
 #include "host/editors/frmHostUsers.h"
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "host/user_settings.h"
 #include "session/session.h"
 

@@ -5,50 +5,30 @@
 #include "host/editors/frmHostCompany.h"
 #include "host/editors/frmHostMoneys.h"
 #include "host/editors/frmHostUsers.h"
-#include "session/company_visit.h"
-#include "session/rights.h"
+#include "session/screens.h"
 
 namespace jxc {
 
 namespace {
 
-constexpr HostEditor kEditors[] = {{"frmHostCompany", "公司资料", ""},
-                                   {"frmHostUsers", "用户与权限", ""},
-                                   {"frmHostCards", "客户资料", "mnuCardAdd"},
-                                   {"frmHostMoneys", "货币", ""},
-                                   {"frmHostAccounts", "内部资金帐户", ""}};
+template <typename Editor>
+void AddEditor(const std::string& name, const MenuPlace& place, const std::string& module = "") {
+    AddScreen({.name = name,
+               .make = [] { return std::make_unique<Editor>(); },
+               .menu = {place},
+               .module = module,
+               .openedByName = true});
+}
 
 } // namespace
 
-std::span<const HostEditor> HostEditors() {
-    return kEditors;
-}
-
-const HostEditor& FindHostEditor(std::string_view screen) {
-    for (const HostEditor& editor : kEditors)
-        if (editor.screen == screen)
-            return editor;
-    throw ScreenError("没有窗口 " + std::string(screen) + "。");
-}
-
 void RegisterHostEditors() {
-    RegisterScreen("frmHostCompany", [] { return std::make_unique<frmHostCompany>(); });
-    RegisterScreen("frmHostUsers", [] { return std::make_unique<frmHostUsers>(); });
-    RegisterScreen("frmHostCards", [] { return std::make_unique<frmHostCards>(); });
-    RegisterScreen("frmHostMoneys", [] { return std::make_unique<frmHostMoneys>(); });
-    RegisterScreen("frmHostAccounts", [] { return std::make_unique<frmHostAccounts>(); });
-}
-
-bool MayOpen(const HostEditor& editor) {
-    return editor.module.empty() || HasModuleRight(std::string(editor.module), 0);
-}
-
-void OpenHostEditor(std::string_view screen) {
-    const HostEditor& editor = FindHostEditor(screen);
-    VisitCompany([&] {
-        if (editor.module.empty() || ModuleRight(std::string(editor.module), 0) != 0)
-            ShowModal(ScreenNamed(screen));
-    });
+    AddEditor<frmHostCards>("frmHostCards", {"资料(&D)", "客户资料", "供应商、销售商与代销商。"},
+                            "mnuCardAdd");
+    AddEditor<frmHostMoneys>("frmHostMoneys", {"资料(&D)", "货币", "货币与汇率。"});
+    AddEditor<frmHostAccounts>("frmHostAccounts", {"资料(&D)", "内部资金帐户", "现金与银行帐户。"});
+    AddEditor<frmHostCompany>("frmHostCompany", {"系统(&T)", "公司资料", "印在单据上的公司名称与地址。"});
+    AddEditor<frmHostUsers>("frmHostUsers", {"系统(&T)", "用户与权限", "谁可以使用哪些功能。"});
 }
 
 } // namespace jxc

@@ -1,9 +1,9 @@
 #include "host/editors/list_editor.h"
 
-#include "controls/text.h"
+#include "base/text.h"
+#include "controls/grid_routines.h"
 #include "controls/view.h"
-#include "session/database/routines.h"
-#include "session/grid_routines.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {

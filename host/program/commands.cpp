@@ -9,9 +9,9 @@
 #include "host/company_address.h"
 #include "host/program/words.h"
 #include "host/property_settings.h"
-#include "host/robot.h"
 #include "host/screens.h"
 #include "host/tour.h"
+#include "robot/robot.h"
 #ifdef JXC_VIEW
 #include "host/window/window_program.h"
 #endif

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <iostream>
 
-#include "controls/date.h"
+#include "base/date.h"
 #include "host/program/commands.h"
 #include "host/program/words.h"
 

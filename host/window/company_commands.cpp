@@ -3,15 +3,15 @@
 #include <stdexcept>
 
 #include "controls/view.h"
+#include "database/recordset.h"
 #include "host/company/backup.h"
 #include "host/company/create_company.h"
 #include "host/company_address.h"
 #include "host/window/company_users.h"
 #include "host/window/main_window.h"
-#include "session/database/recordset.h"
 #include "session/period.h"
 #include "session/session.h"
-#include "view/text.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 

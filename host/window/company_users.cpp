@@ -1,7 +1,7 @@
 #include "host/window/company_users.h"
 
+#include "database/recordset.h"
 #include "host/user_settings.h"
-#include "session/database/recordset.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -1,10 +1,10 @@
 #include "host/window/main_window.h"
 
 #include "controls/view.h"
-#include "host/editors/host_editors.h"
 #include "host/window/recent_documents.h"
+#include "session/screens.h"
 #include "session/session.h"
-#include "view/text.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 
@@ -218,7 +218,7 @@ void MainWindow::StartGuarded(const MenuEntry& entry) {
 
 void MainWindow::Start(const MenuEntry& entry) {
     if (!entry.screen.empty()) {
-        OpenHostEditor(entry.screen);
+        OpenByName(entry.screen);
         if (entry.screen == "frmHostCompany" || entry.screen == "frmHostUsers")
             ReopenCompany();
         return;

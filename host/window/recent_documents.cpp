@@ -2,12 +2,12 @@
 
 #include <QHeaderView>
 
-#include "controls/text.h"
-#include "session/book.h"
-#include "session/database/open_connection.h"
-#include "session/database/recordset.h"
+#include "base/text.h"
+#include "database/recordset.h"
+#include "session/company/open_connection.h"
+#include "session/lookups/book.h"
 #include "session/session.h"
-#include "view/text.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 

@@ -3,9 +3,8 @@
 #include <cstdlib>
 
 #include "controls/screen.h"
-#include "host/editors/host_editors.h"
-#include "session/database/recordset.h"
-#include "session/rights.h"
+#include "database/recordset.h"
+#include "session/screens.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -15,7 +14,6 @@ namespace {
 constexpr std::int16_t kList = 11;
 constexpr std::int16_t kLineList = 12;
 constexpr std::int16_t kEntry = 13;
-constexpr std::int16_t kAllTypes = 99;
 
 // The subject of a document type: what it does, not its number, is what people look for.
 const char* SubjectOfType(int type) {
@@ -84,48 +82,6 @@ const char* PurposeOfType(int type) {
     }
 }
 
-// A host's entry is offered when its screen is part of this version.
-struct FixedEntry {
-    const char* subject;
-    const char* caption;
-    const char* purpose;
-    std::int16_t action;
-    std::int16_t myType;
-    const char* screen; // that must be there
-    const char* module; // whose right is needed
-};
-constexpr FixedEntry kFixed[] = {
-    {"查询(&Q)", "库存统计", "各仓库现有的库存数。", 4, -1, "frmCkKc", ""},
-    {"查询(&Q)", "库存报警", "低于下限或高于上限的产品。", 5, -1, "frmCkKc", ""},
-    {"查询(&Q)", "成本核算统计", "库存与本期进销的数量、单价与金额。", 6, -1, "frmCkKc", ""},
-    {"查询(&Q)", "仓库单据查询", "按任意条件查找所有单据。", kList, kAllTypes, "frmDj01", ""},
-    {"查询(&Q)", "仓库明细查询", "按任意条件查找单据的每一行。", kLineList, kAllTypes, "frmDj01", ""},
-    {"查询(&Q)", "经理查询", "经营情况的图表。", 8, 0, "frmTb01", ""},
-    {"查询(&Q)", "销售分析", "销售情况的图表。", 9, 0, "frmTb02", ""},
-    {"资料(&D)", "仓库资料", "仓库的名称与用途。", 1, -1, "frmCk", "mnuJxcSysCk"},
-    {"资料(&D)", "产品资料", "产品的编码、名称、价格与库存限额。", 2, -1, "frmCp", "mnuJxcSysCp"},
-    {"资料(&D)", "产品套件", "组装与拆卸的配件清单。", 3, -1, "frmCpTj", "mnuJxcSysCp"},
-    {"业绩(&Y)", "营销员关系图", "营销员的上下级。", 21, 0, "frmYj_Jbr_Jb", ""},
-    {"业绩(&Y)", "营销员资料", "营销员名册。", 21, 1, "frmYj_Jbr", ""},
-    {"系统(&T)", "系统参数", "会计期间、税、成本方法与小数位数。", 0, -1, "frmSystem", ""},
-    {"系统(&T)", "月末结帐", "结束本月，进入下一会计期间。", 7, 1, "frmJz_Step", ""},
-    {"系统(&T)", "反结帐", "取消上月的结帐。", 7, 0, "frmJz_unStep", ""},
-};
-
-// Where the host's own editors stand, and what for.
-struct EditorPlace {
-    const char* screen;
-    const char* subject;
-    const char* purpose;
-};
-constexpr EditorPlace kPlaces[] = {
-    {"frmHostCards", "资料(&D)", "供应商、销售商与代销商。"},
-    {"frmHostMoneys", "资料(&D)", "货币与汇率。"},
-    {"frmHostAccounts", "资料(&D)", "现金与银行帐户。"},
-    {"frmHostCompany", "系统(&T)", "印在单据上的公司名称与地址。"},
-    {"frmHostUsers", "系统(&T)", "谁可以使用哪些功能。"},
-};
-
 class SubjectList {
   public:
     SubjectList() {
@@ -146,10 +102,6 @@ class SubjectList {
   private:
     std::vector<Subject> subjects_;
 };
-
-bool Allowed(const char* module) {
-    return *module == '\0' || HasModuleRight(module, 0);
-}
 
 void AddDocumentTypes(SubjectList& subjects) {
     Recordset types(*session.Conn,
@@ -174,15 +126,13 @@ void AddDocumentTypes(SubjectList& subjects) {
 std::vector<Subject> SubjectsOf() {
     SubjectList subjects;
     AddDocumentTypes(subjects);
-    for (const FixedEntry& entry : kFixed)
-        if (FindScreen(entry.screen) && Allowed(entry.module))
-            subjects.Add(entry.subject,
-                         {entry.caption, entry.purpose, {{"打开(&O)", entry.action, entry.myType, ""}}});
-    for (const EditorPlace& place : kPlaces)
-        if (const HostEditor& editor = FindHostEditor(place.screen);
-            FindScreen(editor.screen) && MayOpen(editor))
-            subjects.Add(place.subject,
-                         {std::string(editor.title), place.purpose, {{"打开(&O)", -1, -1, place.screen}}});
+    for (const ScreenEntry& entry : ScreenEntries())
+        if (entry.make && !entry.menu.empty() && MayOpen(entry))
+            for (const MenuPlace& place : entry.menu)
+                subjects.Add(place.subject, {place.caption,
+                                             place.purpose,
+                                             {{"打开(&O)", place.action, place.myType,
+                                               place.action < 0 ? entry.name : ""}}});
     return subjects.Filled();
 }
 

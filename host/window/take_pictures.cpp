@@ -8,7 +8,7 @@
 #include "host/window/window_program.h"
 #include "host/window/window_script.h"
 #include "host/window/windows_in_use.h"
-#include "view/text.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 

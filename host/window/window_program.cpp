@@ -6,7 +6,7 @@
 #include "host/window/main_window.h"
 #include "host/window/sample_company_file.h"
 #include "host/window/windows_in_use.h"
-#include "view/text.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 

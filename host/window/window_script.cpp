@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "view/text.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 

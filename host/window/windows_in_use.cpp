@@ -10,7 +10,7 @@
 #include "host/screens.h"
 #include "session/components.h"
 #include "view/page_printer.h"
-#include "view/text.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 

@@ -1,12 +1,12 @@
 // Texts and figures, row formulas, the key filter, gestures: what a person meets at every control.
 #include <gtest/gtest.h>
 
+#include "base/text.h"
 #include "controls/gestures.h"
+#include "controls/grid_routines.h"
 #include "controls/scripted_view.h"
-#include "controls/text.h"
-#include "session/edit_filter.h"
-#include "session/grid_routines.h"
-#include "session/lists.h"
+#include "forms/edit_filter.h"
+#include "session/lookups/lists.h"
 
 namespace jxc {
 

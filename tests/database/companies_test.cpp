@@ -3,9 +3,9 @@
 
 #include <fstream>
 
-#include "session/database/engine.h"
-#include "session/database/open_connection.h"
-#include "session/database/schema.h"
+#include "database/engine.h"
+#include "database/schema.h"
+#include "session/company/open_connection.h"
 #include "session/session.h"
 #include "tests/support/test_company.h"
 

@@ -1,8 +1,8 @@
 // A company tells its version: newer ones are refused, older ones raised, all or nothing.
 #include <gtest/gtest.h>
 
-#include "session/database/company_version.h"
-#include "session/database/engine.h"
+#include "database/engine.h"
+#include "session/company/company_version.h"
 #include "session/session.h"
 #include "tests/support/test_company.h"
 

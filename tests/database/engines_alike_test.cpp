@@ -1,7 +1,7 @@
 // Where the engines by themselves would part: what one refuses, cuts or takes for nothing means the same on
 // both, or is refused by both in the same words.
-#include "session/database/recordset.h"
-#include "session/database/storable_text.h"
+#include "database/recordset.h"
+#include "database/storable_text.h"
 #include "session/session.h"
 #include "tests/support/test_company.h"
 

@@ -4,9 +4,9 @@
 #include <regex>
 #include <set>
 
+#include "base/text.h"
 #include "controls/gestures.h"
-#include "controls/text.h"
-#include "session/database/engine.h"
+#include "database/engine.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
 

@@ -1,6 +1,6 @@
 // Recordsets: reading by name and place, and changing rows one at a time.
-#include "session/database/open_connection.h"
-#include "session/database/recordset.h"
+#include "database/recordset.h"
+#include "session/company/open_connection.h"
 #include "session/session.h"
 #include "tests/support/test_company.h"
 

@@ -1,9 +1,9 @@
 // Addresses of servers: what is shown holds no password, whatever it is made of, and leads to the same place.
 #include <gtest/gtest.h>
 
-#include "session/database/connection.h"
-#include "session/database/open_connection.h"
-#include "session/database/server_address.h"
+#include "database/connection.h"
+#include "database/server_address.h"
+#include "session/company/open_connection.h"
 #include "tests/support/test_company.h"
 
 namespace jxc::test {

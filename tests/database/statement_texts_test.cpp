@@ -1,5 +1,5 @@
 // What a statement's text may hold, what is refused, and that literals reach the rows as they were written.
-#include "session/database/lexer.h"
+#include "database/lexer.h"
 #include "session/session.h"
 #include "tests/support/test_company.h"
 

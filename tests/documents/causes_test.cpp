@@ -6,9 +6,9 @@
 
 #include <sys/stat.h>
 
+#include "base/log.h"
 #include "controls/gestures.h"
-#include "controls/log.h"
-#include "session/database/waiting.h"
+#include "database/waiting.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
 

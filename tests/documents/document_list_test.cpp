@@ -6,8 +6,8 @@
 #include "documents/document_list.h"
 #include "documents/frmDj02.h"
 #include "session/components.h"
-#include "session/frmBrief.h"
 #include "session/session.h"
+#include "settings/frmBrief.h"
 #include "tests/support/clerk.h"
 
 namespace jxc::test {

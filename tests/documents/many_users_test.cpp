@@ -9,7 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "host/check.h"
 #include "host/company_address.h"
 #include "session/session.h"

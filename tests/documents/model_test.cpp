@@ -9,7 +9,7 @@
 #include <map>
 #include <random>
 
-#include "controls/text.h"
+#include "base/text.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
 

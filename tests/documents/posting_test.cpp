@@ -4,10 +4,10 @@
 
 #include <set>
 
+#include "base/text.h"
 #include "controls/gestures.h"
-#include "controls/text.h"
 #include "host/check.h"
-#include "session/book.h"
+#include "session/lookups/book.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
 

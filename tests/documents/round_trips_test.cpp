@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/gestures.h"
-#include "session/database/engine.h"
+#include "database/engine.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
 

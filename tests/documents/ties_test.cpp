@@ -4,7 +4,7 @@
 #include "controls/gestures.h"
 #include "documents/document_entry.h"
 #include "master/supplier_history.h"
-#include "session/lookups.h"
+#include "session/lookups/find_by_text.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
 

@@ -8,14 +8,14 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include "database/recordset.h"
+#include "database/sqlite_content.h"
 #include "host/check.h"
 #include "host/company/backup.h"
 #include "host/company/create_company.h"
 #include "host/company/sample_month.h"
 #include "host/company_address.h"
 #include "host/screens.h"
-#include "session/database/recordset.h"
-#include "session/database/sqlite_content.h"
 #include "session/session.h"
 #include "tests/support/files.h"
 

@@ -6,11 +6,11 @@
 
 #include <gtest/gtest.h>
 
-#include "controls/date.h"
-#include "controls/text.h"
-#include "session/database/open_connection.h"
-#include "session/database/recordset.h"
-#include "session/database/schema.h"
+#include "base/date.h"
+#include "base/text.h"
+#include "database/recordset.h"
+#include "database/schema.h"
+#include "session/company/open_connection.h"
 #include "settings/document_types.h"
 #include "tests/support/test_company.h"
 

@@ -1,8 +1,8 @@
 // The host that the READMEs show: it works to the letter, and they show its very lines.
 #include <gtest/gtest.h>
 
+#include "base/text.h"
 #include "controls/scripted_view.h"
-#include "controls/text.h"
 #include "examples/host/trade.h"
 #include "session/session.h"
 #include "tests/support/sample_company.h"

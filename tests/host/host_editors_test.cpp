@@ -1,6 +1,6 @@
 // What every editor of the host owes its users: a title as menus name it, a word for every box, a key for
 // every button, and a save that is whole or not at all.
-#include "host/editors/host_editors.h"
+#include "session/screens.h"
 
 #include <set>
 
@@ -23,10 +23,13 @@ class HostEditorScreens : public OnSampleCompany {
 ON_BOTH_ENGINES(HostEditorScreens);
 
 TEST_P(HostEditorScreens, OpenByNameAndCanBeWorkedByKeyboard) {
-    ASSERT_EQ(HostEditors().size(), 5U);
-    for (const HostEditor& editor : HostEditors()) {
-        view.OnScreen(std::string(editor.screen), [&](Screen& screen) {
-            EXPECT_EQ(screen.title, editor.title);
+    int editors = 0;
+    for (const ScreenEntry& editor : ScreenEntries()) {
+        if (!editor.openedByName)
+            continue;
+        ++editors;
+        view.OnScreen(editor.name, [&](Screen& screen) {
+            EXPECT_EQ(screen.title, editor.menu.at(0).caption);
             EXPECT_NE(screen.Focus(), nullptr);
             std::set<char> keys;
             for (const Control* control : screen.Controls()) {
@@ -40,23 +43,24 @@ TEST_P(HostEditorScreens, OpenByNameAndCanBeWorkedByKeyboard) {
                 }
             }
         });
-        OpenHostEditor(editor.screen);
-        EXPECT_EQ(view.screens.back(), editor.screen);
+        OpenByName(editor.name);
+        EXPECT_EQ(view.screens.back(), editor.name);
         EXPECT_EQ(session.Conn, nullptr);
     }
-    EXPECT_THROW(OpenHostEditor("frmDj02"), ScreenError);
+    EXPECT_EQ(editors, 5);
+    EXPECT_THROW(OpenByName("frmDj02"), ScreenError);
     EXPECT_TRUE(view.boxes.empty());
 }
 
 // Whoever asks for it, from a menu or by script: without the right the editor stays shut, and it is said.
 TEST_P(HostEditorScreens, AskForTheirRight) {
     control.myPower("00000");
-    OpenHostEditor("frmHostCards");
+    OpenByName("frmHostCards");
     EXPECT_TRUE(view.screens.empty());
     ASSERT_EQ(view.boxes.size(), 1U);
     EXPECT_EQ(view.boxes[0].text, "您无权进入!");
-    for (const HostEditor& editor : HostEditors()) {
-        if (editor.module.empty())
+    for (const ScreenEntry& editor : ScreenEntries()) {
+        if (!editor.openedByName || editor.module.empty())
             continue;
         const OpenCompany open(company->Address());
         EXPECT_FALSE(MayOpen(editor));
@@ -86,7 +90,7 @@ TEST_P(HostEditorScreens, SaveWholeOrNotAtAll) {
         EXPECT_EQ(s.mode, EditorMode::Browse);
         EXPECT_EQ(One("select count(*) from tJXC_KhAdd Where fKhID=13"), "0");
     });
-    OpenHostEditor("frmHostCards");
+    OpenByName("frmHostCards");
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "session/database/sqlite_engine.h"
+#include "database/sqlite_engine.h"
 #include "tests/support/test_company.h"
 
 namespace jxc::test {

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "host/company_address.h"
-#include "host/robot.h"
 #include "host/screens.h"
+#include "robot/robot.h"
 #include "session/session.h"
 #include "tests/support/sample_company.h"
 

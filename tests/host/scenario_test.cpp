@@ -6,8 +6,8 @@
 
 #include "host/check.h"
 #include "host/company_address.h"
-#include "host/scenario.h"
 #include "host/screens.h"
+#include "robot/scenario.h"
 #include "tests/support/sample_company.h"
 #include "tests/support/scenario_statements.h"
 

@@ -1,18 +1,18 @@
 // The control, rights, messages, periods and lookups, on both engines where they read the company.
 #include <gtest/gtest.h>
 
+#include "base/text.h"
 #include "controls/gestures.h"
 #include "controls/scripted_view.h"
-#include "controls/text.h"
 #include "host/company_address.h"
 #include "host/screens.h"
-#include "session/company_fields.h"
+#include "session/company/company_fields.h"
 #include "session/components.h"
-#include "session/database/routines.h"
-#include "session/html_pages.h"
-#include "session/lookups.h"
+#include "session/lookups/database_routines.h"
+#include "session/lookups/find_by_text.h"
 #include "session/messages.h"
 #include "session/period.h"
+#include "session/printing/html_pages.h"
 #include "session/rights.h"
 #include "session/session.h"
 #include "settings/document_numbers.h"

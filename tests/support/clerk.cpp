@@ -5,11 +5,11 @@
 #include <set>
 #include <stdexcept>
 
+#include "base/text.h"
 #include "controls/gestures.h"
-#include "controls/text.h"
 #include "host/screens.h"
-#include "session/book.h"
-#include "session/database/routines.h"
+#include "session/lookups/book.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc::test {

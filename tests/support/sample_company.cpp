@@ -6,7 +6,7 @@
 #include "host/company/create_company.h"
 #include "host/company_address.h"
 #include "host/screens.h"
-#include "session/database/open_connection.h"
+#include "session/company/open_connection.h"
 
 namespace jxc::test {
 

@@ -2,9 +2,9 @@
 
 #include <unistd.h>
 
-#include "session/database/engine.h"
-#include "session/database/open_connection.h"
-#include "session/database/schema.h"
+#include "database/engine.h"
+#include "database/schema.h"
+#include "session/company/open_connection.h"
 #include "session/session.h"
 
 namespace jxc::test {

@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-#include "session/database/connection.h"
+#include "database/connection.h"
 #include "tests/support/files.h"
 #include "tests/support/test_server.h"
 

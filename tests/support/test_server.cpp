@@ -5,7 +5,7 @@
 
 #include <libpq-fe.h>
 
-#include "session/database/connection.h"
+#include "database/connection.h"
 
 namespace jxc::test {
 

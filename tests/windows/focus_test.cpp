@@ -4,7 +4,7 @@
 #include "documents/document_list.h"
 #include "documents/frmDj01.h"
 #include "documents/frmDj02.h"
-#include "session/database/open_connection.h"
+#include "session/company/open_connection.h"
 #include "session/session.h"
 #include "tests/windows/window_fixture.h"
 

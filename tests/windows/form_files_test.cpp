@@ -7,7 +7,6 @@
 #include "host/company_address.h"
 #include "host/editors/editor_screen.h"
 #include "host/screens.h"
-#include "session/frmBrief.h"
 #include "tests/windows/window_fixture.h"
 #include "view/binding.h"
 
@@ -22,14 +21,6 @@ std::vector<std::string> Forms() {
     std::vector<std::string> names;
     for (const QString& file : QDir(":/ui").entryList({"*.ui"}))
         names.push_back(S(QFileInfo(file).completeBaseName()));
-    return names;
-}
-
-// The screens of the table and those that are opened without it.
-std::vector<std::string> Screens() {
-    std::vector<std::string> names = ScreenNames();
-    names.push_back("frmBrief");
-    std::sort(names.begin(), names.end());
     return names;
 }
 
@@ -51,7 +42,7 @@ class FormFiles : public testing::TestWithParam<std::string> {
         ResetScreens();
         form = LoadForm(GetParam());
         ASSERT_TRUE(form);
-        screen = GetParam() == "frmBrief" ? &brief : FindScreen(GetParam());
+        screen = FindScreen(GetParam());
         ASSERT_TRUE(screen);
     }
     bool HasRowMenu() const {
@@ -60,7 +51,6 @@ class FormFiles : public testing::TestWithParam<std::string> {
             return grid && grid->rowMenu;
         });
     }
-    frmBrief brief;
     Screen* screen = nullptr;
     std::unique_ptr<QWidget> form;
 };
@@ -98,7 +88,7 @@ TEST_P(FormFiles, NameControlsAndWidgetsThatAreThere) {
 }
 
 TEST(Forms, AreThoseOfTheScreens) {
-    EXPECT_EQ(Forms(), Screens());
+    EXPECT_EQ(Forms(), ScreenNames());
 }
 
 // Letters and function keys that two things in the window in front would answer.
@@ -157,9 +147,8 @@ TEST_F(Keys, MeanOneThingInTheLists) {
 
 TEST_F(Keys, MeanOneThingInTheOtherScreens) {
     const OpenCompany open(company.Address());
-    for (const std::string& name : Screens()) {
-        frmBrief brief;
-        Screen& screen = name == "frmBrief" ? brief : ScreenNamed(name);
+    for (const std::string& name : ScreenNames()) {
+        Screen& screen = ScreenNamed(name);
         if (name == "frmDj01" || name == "frmDj02" || name == "frmCkKc")
             continue;
         person.Next([&] {

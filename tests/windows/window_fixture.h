@@ -12,8 +12,8 @@
 #include <QtWidgets>
 
 #include "tests/support/clerk.h"
+#include "view/qt_text.h"
 #include "view/screen_window.h"
-#include "view/text.h"
 
 namespace jxc::test {
 

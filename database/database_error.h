@@ -1,0 +1,32 @@
+// What a database refuses. Faults of the program are other errors, and what a screen refuses is a ScreenError.
+#pragma once
+
+#include <stdexcept>
+
+namespace jxc {
+
+// What the database, or the translation of a statement for it, refused. what() is text for people.
+class DatabaseError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+// The server does not let this user in: the name or the password is wrong, or missing.
+class LoginError : public DatabaseError {
+  public:
+    using DatabaseError::DatabaseError;
+};
+
+// The line to the server was lost while a commit was on its way: it may have been done, or not.
+class CommitUnknown : public DatabaseError {
+  public:
+    using DatabaseError::DatabaseError;
+};
+
+// An update by row found its row changed or gone since it was read.
+class ConflictError : public DatabaseError {
+  public:
+    using DatabaseError::DatabaseError;
+};
+
+} // namespace jxc

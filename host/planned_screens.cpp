@@ -1,0 +1,91 @@
+// Screens that this version does not have yet. A host's call of one is answered by a box that says so, and menus do
+// not offer it. Whoever makes one moves its entry to the screen's own folder.
+
+#include "host/screens.h"
+#include "session/screens.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+void CpNoEditOff(Screen& screen) {
+    screen.SetProperty("CpNoEdit", 0);
+}
+void CpTjSelectOff(Screen& screen) {
+    screen.SetProperty("CpTjSelect", 0);
+}
+bool IsClose() {
+    return session.myType == 1;
+}
+bool IsReverseClose() {
+    return session.myType != 1;
+}
+bool IsTree() {
+    return session.myType == 0;
+}
+bool IsList() {
+    return session.myType != 0;
+}
+
+void PlanMasterData() {
+    AddScreen({.name = "frmCk",
+               .calls = {{1}},
+               .menu = {{"资料(&D)", "仓库资料", "仓库的名称与用途。", 1}},
+               .module = "mnuJxcSysCk"});
+    AddScreen({.name = "frmCp",
+               .calls = {{2, CpNoEditOff}},
+               .menu = {{"资料(&D)", "产品资料", "产品的编码、名称、价格与库存限额。", 2}},
+               .module = "mnuJxcSysCp"});
+    AddScreen({.name = "frmCpTj",
+               .calls = {{3, CpTjSelectOff}},
+               .menu = {{"资料(&D)", "产品套件", "组装与拆卸的配件清单。", 3}},
+               .module = "mnuJxcSysCp"});
+}
+
+void PlanPeriods() {
+    AddScreen({.name = "frmSystem",
+               .calls = {{0}},
+               .menu = {{"系统(&T)", "系统参数", "会计期间、税、成本方法与小数位数。", 0}}});
+    AddScreen({.name = "frmJz_Step",
+               .calls = {{7, nullptr, IsClose}},
+               .menu = {{"系统(&T)", "月末结帐", "结束本月，进入下一会计期间。", 7, 1}}});
+    AddScreen({.name = "frmJz_unStep",
+               .calls = {{7, nullptr, IsReverseClose}},
+               .menu = {{"系统(&T)", "反结帐", "取消上月的结帐。", 7, 0}}});
+    AddScreen({.name = "frmJh02", .calls = {{14, StateOfType}}});
+}
+
+void PlanAnalyses() {
+    AddScreen({.name = "frmTb01",
+               .calls = {{8, StateOfType}},
+               .menu = {{"查询(&Q)", "经理查询", "经营情况的图表。", 8, 0}}});
+    AddScreen({.name = "frmTb02",
+               .calls = {{9, StateOfType}},
+               .menu = {{"查询(&Q)", "销售分析", "销售情况的图表。", 9, 0}}});
+}
+
+void PlanPerformance() {
+    AddScreen({.name = "frmYj_Jbr_Jb",
+               .calls = {{21, FixedState<0>, IsTree}, {24, StateOfType}},
+               .menu = {{"业绩(&Y)", "营销员关系图", "营销员的上下级。", 21, 0}}});
+    AddScreen({.name = "frmYj_Jbr",
+               .calls = {{21, nullptr, IsList}},
+               .menu = {{"业绩(&Y)", "营销员资料", "营销员名册。", 21, 1}}});
+    AddScreen({.name = "frmYj_Set", .calls = {{22}}});
+    AddScreen({.name = "frmYj_Gr", .calls = {{23}}});
+    AddScreen({.name = "frmYj_Tj", .calls = {{25, StateOfType}}});
+    AddScreen({.name = "frmYj_Tj02", .calls = {{28}}});
+    AddScreen({.name = "frmYj_Step", .calls = {{29}}});
+}
+
+} // namespace
+
+void RegisterPlannedScreens() {
+    PlanMasterData();
+    PlanAnalyses();
+    PlanPerformance();
+    PlanPeriods();
+}
+
+} // namespace jxc

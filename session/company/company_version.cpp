@@ -1,0 +1,56 @@
+#include "session/company/company_version.h"
+
+#include "database/schema.h"
+#include "session/company/create_tables.h"
+
+namespace jxc {
+
+namespace {
+
+struct NewColumn {
+    const char* table;
+    const char* field;
+};
+constexpr NewColumn kColumnsOfVersion1[] = {{"tJXC_Ck", "fKhID"}, {"tJXC_CpTj02", "fCpPjMemo"}};
+
+void RaiseToVersion1(Connection& connection) {
+    Engine& engine = connection.EngineInUse();
+    for (const TableDef& table : AllTables())
+        if (table.late && !connection.HasColumn(table.name, table.fields.front().name))
+            engine.ExecuteScript(TableScript(engine, table));
+    for (const auto& [table, field] : kColumnsOfVersion1)
+        if (!connection.HasColumn(table, field))
+            engine.ExecuteScript(std::string("alter table ") + table + " add column " +
+                                 engine.ColumnDefinition(*FindField(*FindTable(table), field)));
+}
+
+} // namespace
+
+void RequireKnownVersion(Connection& connection) {
+    connection.HasColumn("tJXC_InvSys", "fSysDate"); // a server tells tables and version at once
+    const int version = connection.EngineInUse().Version();
+    if (version > kCompanyVersion)
+        throw DatabaseError("该帐套由较新版本的程序建立（版本 " + std::to_string(version) + "，本程序只到 " +
+                            std::to_string(kCompanyVersion) + "），请使用新版本打开。");
+}
+
+void RaiseCompany(Connection& connection) {
+    if (connection.EngineInUse().Version() >= kCompanyVersion)
+        return;
+    try {
+        Transaction transaction(connection); // another program may be doing the same
+        connection.ForgetCatalogue();
+        if (connection.HasColumn("tJXC_InvSys", "fSysDate") &&
+            connection.EngineInUse().Version() < kCompanyVersion) {
+            RaiseToVersion1(connection);
+            connection.EngineInUse().SetVersion(kCompanyVersion);
+            transaction.Commit();
+        }
+    } catch (const DatabaseError& error) {
+        throw DatabaseError("该帐套由较早的版本建立，须由有权修改表结构的用户打开一次，未能升级：" +
+                            std::string(error.what()));
+    }
+    connection.ForgetCatalogue();
+}
+
+} // namespace jxc

@@ -1,0 +1,15 @@
+// The DDL of a company, rendered from the schema for an engine.
+#pragma once
+
+#include <string>
+
+#include "database/engine.h"
+
+namespace jxc {
+
+// One table with its indexes.
+std::string TableScript(const Engine& engine, const TableDef& table);
+// All tables and indexes, as one script without transaction commands.
+std::string CompanyTablesScript(const Engine& engine);
+
+} // namespace jxc

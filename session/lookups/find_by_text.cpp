@@ -1,0 +1,209 @@
+#include "session/lookups/find_by_text.h"
+
+#include <optional>
+
+#include "base/text.h"
+#include "controls/screen.h"
+#include "database/recordset.h"
+#include "session/lookups/database_routines.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kNameWidth = 80;  // of a customer list's row
+constexpr int kMostCards = 101; // listed by one search
+
+const std::string kProducts =
+    "select fCpID,fCpCode,fCpName,fCpGG,fCpUnit,fCpBarCode,fCpPrice0,fCpPrice1,fCpPrice2,fCpPrice3 "
+    " from tJXC_Cp "
+    " Where fCpFlag<>1";
+
+std::string NameOrSpecClause(const std::string& typed) {
+    const std::string pattern = LikePattern(typed);
+    return " And (fCpName like '" + pattern + "' Or fCpGG like '" + pattern + "')";
+}
+
+// The parts of a name typed with a comma of either form between; one part without a comma.
+std::vector<std::string> NameParts(const std::string& typed) {
+    std::string plain = typed;
+    const std::string wide = "，";
+    for (size_t at = plain.find(wide); at != std::string::npos; at = plain.find(wide))
+        plain.replace(at, wide.size(), ",");
+    std::vector<std::string> parts = Split(plain, ',');
+    parts.resize(std::min<size_t>(parts.size(), 2));
+    return parts;
+}
+
+// Lets the user pick among several hits; the statement of the product picked, nothing when none was.
+std::optional<std::string> PickProduct(const std::string& code, const std::string& name) {
+    session.SelectedProductID = 0;
+    Screen& picker = ScreenNamed("frmCp");
+    picker.SetProperty("CpCode", code);
+    picker.SetProperty("CpName", name);
+    picker.SetProperty("CpNoEdit", 1);
+    ShowModal(picker);
+    if (session.SelectedProductID == 0)
+        return std::nullopt;
+    return kProducts + " And fCpID = " + std::to_string(session.SelectedProductID) + " Order By fCpCode";
+}
+
+// The statements of a search by code: the exact code, how many have it in their codes, and the stock of the exact one.
+struct ByCode {
+    std::string exact, count, stock;
+};
+
+ByCode StatementsByCode(const std::string& code, const std::string& warehouse) {
+    const std::string ofCode = " Inner Join tJXC_Cp c On c.fCpID=a.fCpID";
+    const std::string isCode = "c.fCpFlag<>1 And c.fCpCode = '" + code + "'";
+    return {
+        kProducts + " And fCpCode = '" + code + "' Order By fCpCode,fCpID Desc",
+        "Select COUNT(*) "
+        " From tJXC_Cp Where fCpFlag<>1 And fCpCode like '" +
+            LikePattern(code) + "'",
+        warehouse.empty()
+            ? "select sum(a.fKcSl) as fKcSl from (tJXC_CkTj a Left Join tJXC_Ck b On a.fCkName=b.fCkName)" +
+                  ofCode + " Where " + isCode + " And (b.fCkType2=0 Or b.fCkType2=1)"
+            : "select a.fKcSl from tJXC_CkTj a" + ofCode + " Where " + isCode +
+                  " And a.fCkName=" + InQuotes(warehouse)};
+}
+
+std::optional<std::string> StatementByCode(const std::string& code, const ByCode& statements) {
+    if (!Recordset(Conn(), statements.exact).AtEnd())
+        return statements.exact;
+    const auto hits = Recordset(Conn(), statements.count)[size_t{0}].AsLong();
+    if (hits == 0)
+        return std::nullopt;
+    if (hits == 1)
+        return kProducts + " And fCpCode like '" + LikePattern(code) + "'";
+    return PickProduct(code, "");
+}
+
+std::optional<std::string> StatementByName(const std::string& name) {
+    std::string statement = kProducts;
+    for (const std::string& part : NameParts(name))
+        statement += NameOrSpecClause(part);
+    statement += " Order By fCpCode";
+    const size_t hits = Recordset(Conn(), statement).RecordCount();
+    if (hits == 0)
+        return std::nullopt;
+    return hits == 1 ? std::optional(statement) : PickProduct("", name);
+}
+
+} // namespace
+
+std::vector<Connection::Expected> ProductStatements(const std::string& code, const std::string& warehouse) {
+    const ByCode statements = StatementsByCode(code, warehouse);
+    return {{statements.exact}, {statements.stock}};
+}
+
+std::int32_t FindProduct(ProductSought& sought) {
+    if (sought.code.empty() && sought.name.empty())
+        return 0;
+    const bool byCode = !sought.code.empty();
+    const ByCode statements = byCode ? StatementsByCode(sought.code, sought.warehouse) : ByCode{};
+    // A line's code costs one waiting for a server.
+    const ReadAhead ahead(Conn(), byCode ? ProductStatements(sought.code, sought.warehouse)
+                                         : std::vector<Connection::Expected>{});
+    const auto statement = byCode ? StatementByCode(sought.code, statements) : StatementByName(sought.name);
+    if (!statement)
+        return 0;
+    const Recordset row(Conn(), *statement);
+    if (row.AtEnd())
+        return 0;
+    const auto id = static_cast<std::int32_t>(row["fCpID"].AsLong());
+    sought.code = row["fCpCode"].AsText();
+    sought.name = row["fCpName"].AsText();
+    sought.spec = row["fCpGG"].AsText();
+    sought.unit = row["fCpUnit"].AsText();
+    sought.barCode = row["fCpBarCode"].AsText();
+    for (int i = 0; i < 4; ++i)
+        sought.price[i] = row["fCpPrice" + std::to_string(i)].AsDouble();
+    if (sought.stock < 0)
+        return id;
+    if (*statement != statements.exact || row.RecordCount() > 1) {
+        sought.stock = GetStockQty(sought.warehouse, id);
+    } else {
+        const Recordset stock(Conn(), statements.stock);
+        sought.stock = stock.AtEnd() ? 0 : stock["fKcSl"].AsDouble();
+    }
+    return id;
+}
+
+double GetStockQty(const std::string& warehouse, std::int32_t fCpID) {
+    if (fCpID == 0)
+        return 0;
+    const std::string id = std::to_string(fCpID);
+    const std::string statement = warehouse.empty() ? "select sum(a.fKcSl) as fKcSl from tJXC_CkTj a"
+                                                      " Left Join tJXC_Ck b On a.fCkName=b.fCkName"
+                                                      " Where a.fCpID=" +
+                                                          id + " And (b.fCkType2=0 Or b.fCkType2=1)"
+                                                    : "select fKcSl from tJXC_CkTj Where fCpID=" + id +
+                                                          " And fCkName=" + InQuotes(warehouse);
+    const Recordset row(Conn(), statement);
+    return row.AtEnd() ? 0 : row["fKcSl"].AsDouble();
+}
+
+std::string StockQtysStatement(const std::string& warehouse, std::span<const std::int64_t> products) {
+    return warehouse.empty() ? "select a.fCpID,sum(a.fKcSl) as fKcSl from tJXC_CkTj a"
+                               " Left Join tJXC_Ck b On a.fCkName=b.fCkName"
+                               " Where a.fCpID" +
+                                   InKeys(products) + " And (b.fCkType2=0 Or b.fCkType2=1) Group By a.fCpID"
+                             : "select fCpID,fKcSl from tJXC_CkTj Where fCpID" + InKeys(products) +
+                                   " And fCkName=" + InQuotes(warehouse);
+}
+
+std::map<std::int64_t, double> GetStockQtys(const std::string& warehouse,
+                                            std::span<const std::int64_t> products) {
+    std::map<std::int64_t, double> stock;
+    for (Recordset row(Conn(), StockQtysStatement(warehouse, products)); !row.AtEnd(); row.MoveNext())
+        stock[row[size_t{0}].AsLong()] = row["fKcSl"].AsDouble();
+    return stock;
+}
+
+int FindCustomerCard(ListBox& list, const std::string& text) {
+    const std::string key = UpperCase(text);
+    if (key.empty())
+        return 0;
+    std::string where = "CompCode = '" + key + "'";
+    if (DbCount("cards", where) < 1) {
+        const std::string pattern = LikePattern(text);
+        where = "(CompCode like '" + pattern + "' or CompName like '" + pattern + "') And CompName <> ''";
+    }
+    Recordset row(Conn(), "select fID,CompCode,compname,name,telphone,homephone,handphone,fax,"
+                          "E_mail,HomeEmail,http,HomeHttp "
+                          "from cards "
+                          " Where " +
+                              where + " Order by compname,name,fID Desc");
+    list.Clear();
+    for (; !row.AtEnd() && list.items.size() < kMostCards; row.MoveNext())
+        list.items.push_back(CustomerRow(row["compname"].AsText(), row["fID"].AsLong()));
+    list.SetIndex(list.items.empty() ? -1 : 0);
+    return static_cast<int>(list.items.size());
+}
+
+std::string CustomerRow(const std::string& companyName, std::int64_t id) {
+    return PadRight(companyName.empty() ? "（空）" : companyName, kNameWidth) + std::to_string(id);
+}
+
+std::string CustomerNameOf(const std::string& row) {
+    return Trim(MidText(row, 1, kNameWidth));
+}
+
+std::int64_t CustomerIdOf(const std::string& row) {
+    return static_cast<std::int64_t>(Val(MidText(row, kNameWidth + 1)));
+}
+
+std::string WarehouseFilter(int kind, const std::string& base) {
+    static const char* const filters[] = {"",
+                                          " And fCkType0=1",
+                                          " And fCkType1=1",
+                                          " And fCkType2=1",
+                                          " And fCkType3=1",
+                                          " And not fCkType2=1"};
+    const bool known = kind >= 0 && kind < static_cast<int>(std::size(filters));
+    return base + (known ? std::string(" where fCkFlag<>1") + filters[kind] : "");
+}
+
+} // namespace jxc

@@ -1,0 +1,194 @@
+#include "settings/frmBrief.h"
+
+#include <set>
+
+#include "base/text.h"
+#include "controls/grid_routines.h"
+#include "controls/view.h"
+#include "database/recordset.h"
+#include "forms/edit_filter.h"
+#include "session/lookups/database_routines.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kCodeBytes = 20;
+constexpr int kNameBytes = 50;
+
+std::string EntriesOf(const frmBrief& s) {
+    return " from briefDetail where briefType=" + InQuotes(s.code);
+}
+
+// The rows of a statement whose columns are the grid's.
+void FillRows(Grid& grid, const std::string& sql) {
+    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
+        grid.SetRowCount(grid.RowCount() + 1);
+        for (int column = 1; column <= grid.ColumnCount(); ++column)
+            grid.FillCell(grid.RowCount(), column, row[static_cast<size_t>(column - 1)]);
+    }
+}
+
+void FillLists(frmBrief& s) {
+    s.title = "代码表";
+    s.Grid1.SetColumns(
+        {{.caption = "编号", .width = 12, .locked = true}, {.caption = "名称", .width = 24, .locked = true}});
+    FillRows(s.Grid1, "select BriefType,BriefTypeName from Brief Order By BriefType");
+}
+
+void FillEntries(frmBrief& s) {
+    const std::string name = DbScalar("select BriefTypeName from Brief where BriefType=" + InQuotes(s.code));
+    s.title = "代码表：" + (name.empty() ? s.code : name);
+    s.Grid1.SetColumns({{.caption = "编号", .width = 12, .maxBytes = kCodeBytes},
+                        {.caption = "名称", .width = 24, .maxBytes = kNameBytes}});
+    FillRows(s.Grid1, "select BriefCode,BriefName" + EntriesOf(s) + " Order By BriefCode");
+}
+
+void FillColumns(frmBrief& s) {
+    s.title = "栏目设置";
+    s.Grid1.SetColumns({{.caption = "显示", .type = CellType::Check},
+                        {.caption = "名称", .width = 24, .locked = true},
+                        {.caption = "FieldName", .hidden = true}});
+    FillRows(s.Grid1, "select FieldSelected,FieldName_" + std::to_string(session.Language) +
+                          ",FieldName from rptListDetail where ftable=" + InQuotes(s.table) +
+                          " Order By fieldID");
+}
+
+// The entries as typed: no quote, no code twice, no entry without a name; rows with nothing in them are left
+// out. False after a message.
+bool EntriesAreSound(frmBrief& s) {
+    std::set<std::string> codes;
+    for (int row = s.Grid1.RowCount(); row >= 1; --row)
+        if (Trim(s.Grid1.Text(row, 1)).empty() && Trim(s.Grid1.Text(row, 2)).empty())
+            s.Grid1.RemoveRow(row);
+    for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
+        const std::string code = Trim(s.Grid1.Text(row, 1));
+        const std::string name = Trim(s.Grid1.Text(row, 2));
+        if (!CheckNoQuote(code) || !CheckNoQuote(name))
+            return false;
+        if (code.empty() || name.empty()) {
+            Warn(s.title, "第 " + std::to_string(row) + " 行：编号与名称不能为空值！");
+            return false;
+        }
+        if (!codes.insert(UpperCase(code)).second) {
+            Warn(s.title, "编号 " + code + " 重复！");
+            return false;
+        }
+    }
+    return true;
+}
+
+void SaveEntries(const frmBrief& s) {
+    Transaction transaction(Conn());
+    Conn().Execute("Delete" + EntriesOf(s));
+    Recordset entries(Conn(), "select *" + EntriesOf(s), Access::Write);
+    for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
+        entries.AddNew();
+        entries.Set("briefType", s.code);
+        entries.Set("BriefCode", Trim(s.Grid1.Text(row, 1)));
+        entries.Set("BriefName", Trim(s.Grid1.Text(row, 2)));
+        entries.Update();
+    }
+    transaction.Commit();
+}
+
+void SaveColumns(const frmBrief& s) {
+    Transaction transaction(Conn());
+    for (int row = 1; row <= s.Grid1.RowCount(); ++row)
+        Conn().Execute("Update rptListDetail Set fieldID=" + std::to_string(row) + ",FieldSelected=" +
+                       (s.Grid1.Number(row, 1) != 0 ? "1" : "0") + " Where ftable=" + InQuotes(s.table) +
+                       " And FieldName=" + InQuotes(s.Grid1.Text(row, 3)));
+    transaction.Commit();
+}
+
+void Confirm(frmBrief& s) {
+    if (s.Is(BriefKind::EditEntries)) {
+        if (!EntriesAreSound(s))
+            return;
+        SaveEntries(s);
+    } else if (s.Is(BriefKind::SelectColumns)) {
+        if (SumGridColumn(s.Grid1, 1) == 0)
+            return Warn(s.title, "请至少选择一个栏目！");
+        SaveColumns(s);
+    }
+    const int row = s.Grid1.selectedRow;
+    if (s.Is(BriefKind::SelectColumns))
+        s.chosen = s.table;
+    else if (row > 0)
+        s.chosen = s.Grid1.Text(row, s.Is(BriefKind::ChooseList) ? 1 : 2);
+    s.Close();
+}
+
+void MoveRow(Grid& grid, int distance) {
+    const int from = grid.selectedRow;
+    const int to = from + distance;
+    if (from < 1 || to < 1 || to > grid.RowCount())
+        return;
+    for (int column = 1; column <= grid.ColumnCount(); ++column) {
+        const Value moved = grid.Cell(from, column);
+        grid.FillCell(from, column, grid.Cell(to, column));
+        grid.FillCell(to, column, moved);
+    }
+    grid.selectedRow = to;
+}
+
+// Another caption for the selected column, or another code list behind it.
+void RenameColumn(frmBrief& s) {
+    const int row = s.Grid1.selectedRow;
+    if (row < 1)
+        return;
+    Screen& field = ScreenNamed("frmRs_RptSet");
+    field.SetProperty("TabelName", s.table);
+    field.SetProperty("Field", s.Grid1.Text(row, 3));
+    field.SetProperty("ItemEnable", 0);
+    ShowModal(field);
+    if (session.RptSetResult.empty() || session.RptSetResult == s.Grid1.Text(row, 2))
+        return;
+    s.Grid1.SetCell(row, 2, session.RptSetResult);
+    s.chosen = s.table; // also when the order is left alone, the columns are to be shown anew
+}
+
+} // namespace
+
+frmBrief::frmBrief() : Screen("frmBrief") {
+    AddNumberProperty("kind", kind);
+    AddTextProperty("table", table);
+    AddTextProperty("code", code);
+    AddTextProperty("chosen", chosen);
+    cmdAdd.onClick = [this] { GridAppendRow(Grid1, 1); };
+    cmdDelete.onClick = [this] { GridAppendRow(Grid1, 2); };
+    cmdUp.onClick = [this] { MoveRow(Grid1, -1); };
+    cmdDown.onClick = [this] { MoveRow(Grid1, 1); };
+    cmdRename.onClick = [this] { RenameColumn(*this); };
+    cmdOk.onClick = [this] { Confirm(*this); };
+    cmdCancel.onClick = [this] { Close(); };
+    Grid1.onDoubleClick = [this](int) {
+        if (Is(BriefKind::ChooseList))
+            Confirm(*this);
+    };
+    Grid1.onKey = [this](const std::string& key) {
+        if (key == "Enter" && Is(BriefKind::ChooseList))
+            Confirm(*this);
+    };
+}
+
+void frmBrief::Open() {
+    chosen.clear();
+    const bool entries = Is(BriefKind::EditEntries);
+    const bool columns = Is(BriefKind::SelectColumns);
+    cmdAdd.visible = cmdDelete.visible = entries;
+    cmdUp.visible = cmdDown.visible = cmdRename.visible = columns;
+    Grid1.onEnterKey = nullptr;
+    if (entries)
+        Grid1.onEnterKey = [this] { GridAppendRow(Grid1, 1); };
+    if (entries)
+        FillEntries(*this);
+    else if (columns)
+        FillColumns(*this);
+    else
+        FillLists(*this);
+    MoveFocus(&Grid1);
+}
+
+} // namespace jxc
