@@ -4,7 +4,7 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "documents/document_entry.h"
-#include "session/lookups/database_routines.h"
+#include "session/dialect.h"
 #include "session/lookups/find_by_text.h"
 #include "session/lookups/lists.h"
 #include "session/session.h"

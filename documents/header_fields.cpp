@@ -5,6 +5,7 @@
 #include "database/recordset.h"
 #include "documents/bounds.h"
 #include "documents/document_entry.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/lookups/find_by_text.h"
 #include "session/session.h"

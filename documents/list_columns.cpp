@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "database/recordset.h"
 #include "documents/document_list.h"
+#include "session/dialect.h"
 #include "session/session.h"
 #include "settings/column_dictionary.h"
 
@@ -79,7 +80,8 @@ void SetUpGrid(Grid& grid, const std::vector<ListColumn>& columns, const Paramet
 }
 
 std::string DictionaryOf(bool lines) {
-    return "select * from rptListDetail where ftable='" + ListKey(lines) + "' Order By fieldID,FieldName";
+    return "select * from rptListDetail where ftable=" + InQuotes(ListKey(lines)) +
+           " Order By fieldID,FieldName";
 }
 
 bool IsMemo(const std::string& field) {

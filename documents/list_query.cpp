@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "documents/document_list.h"
+#include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
@@ -49,13 +50,10 @@ std::string DateTest(const frmDj01& s) {
     const auto days = FilteredDays(s);
     if (!days)
         return "";
-    const auto literal = [](Date day) {
-        return session.DateDelimiter + IsoText(day) + session.DateDelimiter;
-    };
-    const std::string column = Dialect("a.fInvDate", "Convert(varchar(10),a.fInvDate,120)");
     if (!days->last)
-        return " And " + column + " = " + literal(days->first);
-    return " And " + column + " Between " + literal(days->first) + " And " + literal(*days->last);
+        return " And " + DayTest("a.fInvDate", " = ", days->first, DayForm::Iso);
+    return " And " + DayTest("a.fInvDate", " Between ", days->first, DayForm::Iso) + " And " +
+           DayLiteral(*days->last, DayForm::Iso);
 }
 
 // Without a type the header's warehouse may be either of two: the lines tell where goods moved.

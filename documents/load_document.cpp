@@ -4,6 +4,7 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "documents/document_entry.h"
+#include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
 #include "session/lookups/lists.h"
@@ -197,7 +198,7 @@ void StepToDocument(frmDj02& s, bool next) {
     const std::string hit = DbScalar(
         "Select Top 1 fInvID From " + stem + "01 " + " Where fInvType=" + std::to_string(s.invType) +
         (s.InHand() == DocAction::Change ? " And fInvShr=''" : "") + " And fInvNo" + (next ? ">" : "<") +
-        "'" + s.Number() + "'" + " Order By fInvNo" + (next ? "" : " Desc") + ",fInvID Desc");
+        InQuotes(s.Number()) + " Order By fInvNo" + (next ? "" : " Desc") + ",fInvID Desc");
     if (hit.empty()) {
         (next ? s.cmdNext : s.cmdPrevious).enabled = false;
         (next ? s.cmdPrevious : s.cmdNext).enabled = true;

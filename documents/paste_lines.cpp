@@ -8,7 +8,7 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "documents/document_entry.h"
-#include "session/lookups/database_routines.h"
+#include "session/dialect.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -3,6 +3,7 @@
 
 #include "documents/document_list.h"
 #include "documents/list_columns.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/printing/print_grid.h"
 

@@ -10,6 +10,7 @@
 #include "documents/bounds.h"
 #include "documents/document_entry.h"
 #include "documents/write_document.h"
+#include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
@@ -83,11 +84,11 @@ bool CustomerGiven(frmDj02& s) {
 }
 
 std::string WithNumber(const frmDj02& s) {
-    return "fInvNo = '" + s.Number() + "'";
+    return "fInvNo = " + InQuotes(s.Number());
 }
 
 std::string WithOrder(const frmDj02& s) {
-    return "fInvNo='" + s.txtHtNo.text + "'";
+    return "fInvNo=" + InQuotes(s.txtHtNo.text);
 }
 
 std::string OrderTypeStatement(const frmDj02& s) {

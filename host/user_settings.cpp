@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "database/recordset.h"
-#include "session/lookups/database_routines.h"
+#include "session/dialect.h"
 #include "session/session.h"
 
 namespace jxc {

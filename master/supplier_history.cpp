@@ -2,6 +2,7 @@
 
 #include "controls/view.h"
 #include "database/recordset.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 
@@ -35,8 +36,8 @@ void SetLatestSuppliers() {
 } // namespace
 
 std::string RefreshSupplierByDocument(const std::string& number, bool reversal) {
-    const std::string statement = reversal ? "Delete From tJXC_CpGys Where fInvNo ='" + number + "' "
-                                           : kFields + "Where fInvNo ='" + number + "'";
+    const std::string statement =
+        (reversal ? "Delete From tJXC_CpGys " : kFields) + "Where fInvNo =" + InQuotes(number);
     try {
         Conn().Tolerantly([&] { Conn().Execute(statement); });
         return "";
@@ -47,9 +48,7 @@ std::string RefreshSupplierByDocument(const std::string& number, bool reversal) 
 
 bool RefreshSupplierAll(Date from) {
     try {
-        Conn().Execute(Dialect("Delete From tJXC_CpGys Where fInvDate >= #",
-                               "Delete From tJXC_CpGys Where Convert(varchar(10),fInvDate,120) >= '") +
-                       IsoText(from) + (session.IsJet() ? "#" : "'"));
+        Conn().Execute("Delete From tJXC_CpGys Where " + DayTest("fInvDate", " >= ", from, DayForm::Iso));
         Conn().Execute(kFields + "Where fKhID > 0 And fInvID In (Select fInvID From tJXC_CkDj01 Where "
                                  "tJXC_CkDj01.fInvType=1 And fInvSHR<>'')"
                                  "ORDER BY fInvDate,fCpID,fKhID");

@@ -4,6 +4,7 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "session/company/open_connection.h"
+#include "session/dialect.h"
 #include "session/messages.h"
 #include "session/session.h"
 
@@ -26,8 +27,8 @@ Module GetModule(const std::string& moduleName) {
     const std::string captionField = "Model_Name_" + std::to_string(session.Language);
     const Recordset row(Conn(), "select SerialNo,model_Name," + captionField +
                                     ",SecondPass,password from tSysFunc" +
-                                    " Where NoUse_=0 And (Model_Name = '" + moduleName + "' or " +
-                                    captionField + " = '" + moduleName + "')");
+                                    " Where NoUse_=0 And (Model_Name = " + InQuotes(moduleName) + " or " +
+                                    captionField + " = " + InQuotes(moduleName) + ")");
     if (row.AtEnd())
         return {};
     Module module;

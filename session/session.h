@@ -57,9 +57,5 @@ extern Session session;
 
 // The open connection; a DatabaseError when there is none.
 Connection& Conn();
-// One of the two dialect forms of a statement.
-inline const char* Dialect(const char* jet, const char* sqlServer) {
-    return session.IsJet() ? jet : sqlServer;
-}
 
 } // namespace jxc

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "controls/view.h"
 #include "database/recordset.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 
@@ -37,11 +38,10 @@ GridColumn ColumnOf(const Recordset& row) {
 } // namespace
 
 std::string GetFieldCaption(const std::string& table, const std::string& field) {
-    const Recordset row(
-        Conn(), "Select Fieldname_" + std::to_string(session.Language) + " from rptListDetail" +
-                    Dialect(" where LCase(ftable) =", " where Lower(ftable) =") + InQuotes(LowerCase(table)) +
-                    Dialect(" and LCase(FieldName) =", " and Lower(FieldName) =") +
-                    InQuotes(LowerCase(field)));
+    const Recordset row(Conn(), "Select Fieldname_" + std::to_string(session.Language) +
+                                    " from rptListDetail" + " where " + LowerCaseOf("ftable") + " =" +
+                                    InQuotes(LowerCase(table)) + " and " + LowerCaseOf("FieldName") + " =" +
+                                    InQuotes(LowerCase(field)));
     return row.AtEnd() ? kNoCaption : row[size_t{0}].AsText();
 }
 

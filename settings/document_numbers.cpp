@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "controls/view.h"
 #include "database/recordset.h"
+#include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/session.h"
 
@@ -70,12 +71,9 @@ std::string LargestCounterStatement(const Pattern& pattern, int series) {
     const std::string table = account ? "tAccountDetail" : BookStem(series, false) + "02";
     const std::string field = account ? "fAcntNo" : "fInvNo";
     const std::string length = std::to_string(CharacterCount(stem));
-    const std::string counter = std::string(Dialect("mid", "SUBSTRING")) + "(" + field + "," +
-                                std::to_string(CharacterCount(stem) + 1) + "," +
-                                std::to_string(counterDigits) + ")";
+    const std::string counter = PartOf(field, CharacterCount(stem) + 1, static_cast<int>(counterDigits));
     return "select top 1 " + counter + " as invID from " + table + " where left(" + field + "," + length +
-           ")='" + stem + "'" + " and IsNumeric(" + counter + ")" + Dialect("", "=1") + " Order By " + field +
-           " Desc";
+           ")=" + InQuotes(stem) + " and " + NumericTest(counter) + " Order By " + field + " Desc";
 }
 
 // Counters have up to 20 digits, more than a number holds.

@@ -7,6 +7,7 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "forms/edit_filter.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 

@@ -2,7 +2,7 @@
 
 #include "database/recordset.h"
 #include "forms/edit_filter.h"
-#include "session/lookups/database_routines.h"
+#include "session/dialect.h"
 #include "session/screens.h"
 #include "session/session.h"
 #include "settings/column_dictionary.h"

@@ -3,6 +3,7 @@
 #include "controls/grid_routines.h"
 #include "controls/view.h"
 #include "database/recordset.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 
@@ -77,12 +78,12 @@ int DecimalsOf(int column, const StockColumn& figure) {
 std::string StockStatement(const frmCkKc& s) {
     std::string where = "1=1";
     if (s.chkCk.value)
-        where += " And a.fCkName Like '" + LikePattern(s.cboCk.text) + "'";
+        where += " And a.fCkName Like " + InQuotes(LikePattern(s.cboCk.text));
     if (s.chkCpCode.value)
-        where += " And b.fCpCode Like '" + LikePattern(s.txtCpCode.text) + "'";
+        where += " And b.fCpCode Like " + InQuotes(LikePattern(s.txtCpCode.text));
     if (s.chkCpName.value) {
-        const std::string pattern = LikePattern(s.txtCpName.text);
-        where += " And (b.fCpName Like '" + pattern + "' Or b.fCpGG Like '" + pattern + "')";
+        const std::string pattern = InQuotes(LikePattern(s.txtCpName.text));
+        where += " And (b.fCpName Like " + pattern + " Or b.fCpGG Like " + pattern + ")";
     }
     if (s.chkKcBj.value)
         where += " And not (a.fKcSL >= b.fCpSlMin And a.fKcSL <= b.fCpSlMax) And b.fCpSlMax>0";

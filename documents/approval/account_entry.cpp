@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "database/recordset.h"
 #include "documents/approval/stages.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 #include "settings/document_numbers.h"
@@ -28,7 +29,7 @@ std::string Incremented(std::string number) {
 }
 
 std::string EntryStatement(const std::string& number) {
-    return "Select * From tAccountDetail Where fAcntNo='" + number + "'";
+    return "Select * From tAccountDetail Where fAcntNo=" + InQuotes(number);
 }
 
 // A free number of the series. One that is already taken, because the counter has wrapped, gives way to the
@@ -73,11 +74,8 @@ void AddEntry(const frmDj02& s, int kind, int direction, std::int64_t company) {
 }
 
 void RemoveEntry(const frmDj02& s) {
-    const Date date = *s.dtpInvDate.date;
-    const std::string onDate = session.IsJet()
-                                   ? " And fDate=#" + SlashText(date) + "#"
-                                   : " And Convert(varchar(10),fDate,120) ='" + IsoText(date) + "'";
-    Conn().Execute("Delete From tAccountDetail Where fInvID='" + s.Number() + "'" + onDate);
+    Conn().Execute("Delete From tAccountDetail Where fInvID=" + InQuotes(s.Number()) + " And " +
+                   DayTest("fDate", "=", *s.dtpInvDate.date));
 }
 
 } // namespace

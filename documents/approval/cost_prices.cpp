@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "database/recordset.h"
 #include "documents/approval/stages.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 
@@ -70,12 +71,12 @@ void SetOverallPrices(const std::vector<std::int64_t>& products, std::map<std::i
 // Sets fInvDJ2 from a table of prices. `join` is the further condition that ties a line to its price row.
 void TakePrice(const std::string& table, const std::string& field, const std::string& join,
                const std::string& key, const std::string& condition) {
-    if (session.IsJet())
-        Conn().Execute("Update tJXC_CkDj02 a," + table + " b Set a.fInvDJ2=b." + field +
-                       " Where a.fCpID=b.fCpID" + join + " And a.fInvID=" + key + condition);
-    else
-        Conn().Execute("Update tJXC_CkDj02 Set fInvDJ2=b." + field + " From tJXC_CkDj02 a inner Join " +
-                       table + " b On a.fCpID=b.fCpID" + join + " Where a.fInvID=" + key + condition);
+    Conn().Execute(UpdateText({.table = "tJXC_CkDj02",
+                               .field = "fInvDJ2",
+                               .second = table,
+                               .value = field,
+                               .join = "a.fCpID=b.fCpID" + join,
+                               .condition = "a.fInvID=" + key + condition}));
 }
 
 } // namespace

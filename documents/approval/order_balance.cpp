@@ -3,13 +3,14 @@
 #include "base/text.h"
 #include "database/recordset.h"
 #include "documents/approval/stages.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {
 
 std::string OrderStatement(const std::string& orderNumber) {
-    return "Select fInvID From tJXC_CkHt01 Where fInvNo='" + orderNumber + "' Order By fInvID Desc";
+    return "Select fInvID From tJXC_CkHt01 Where fInvNo=" + InQuotes(orderNumber) + " Order By fInvID Desc";
 }
 
 namespace {
@@ -39,7 +40,7 @@ void PostOrderBalance(const frmDj02& s, bool reversal) {
 void MarkProduced(const frmDj02& s) {
     const std::int64_t order = OrderKey(s.txtHtNo.text);
     const auto product = static_cast<std::int64_t>(
-        Val(DbScalar("Select fCpID From tJXC_Cp Where fCpCode='" + s.txtCpCode.text + "'")));
+        Val(DbScalar("Select fCpID From tJXC_Cp Where fCpCode=" + InQuotes(s.txtCpCode.text))));
     if (order > 0 && product > 0)
         Conn().Execute("Update tJXC_CkHt02 Set fInvOther1='生产完毕' Where fInvID=" + std::to_string(order) +
                        " And fCpID=" + std::to_string(product));

@@ -18,6 +18,7 @@
 #include "database/row_inserter.h"
 #include "documents/approval/stages.h"
 #include "documents/bounds.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 

@@ -11,6 +11,7 @@
 #include "documents/approval/stages.h"
 #include "documents/document_entry.h"
 #include "master/supplier_history.h"
+#include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
@@ -126,10 +127,8 @@ void RunStage(const Stage& stage) {
 }
 
 std::string AccountEntryStatement(const frmDj02& s) {
-    const Date day = *s.dtpInvDate.date;
-    const std::string date = session.IsJet() ? " And fDate=#" + SlashText(day) + "#"
-                                             : " And Convert(varchar(10),fDate,120)='" + IsoText(day) + "'";
-    return "Select fChecker From tAccountDetail Where fInvID='" + s.Number() + "'" + date;
+    return "Select fChecker From tAccountDetail Where fInvID=" + InQuotes(s.Number()) + " And " +
+           DayTest("fDate", "=", *s.dtpInvDate.date);
 }
 
 // Why the host's funds module forbids a reversal, "" when it does not. Errors are thrown: a check that could

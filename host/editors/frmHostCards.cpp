@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "forms/edit_filter.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 

@@ -1,7 +1,7 @@
 #include "host/editors/frmHostMoneys.h"
 
 #include "base/text.h"
-#include "session/lookups/database_routines.h"
+#include "session/dialect.h"
 #include "session/session.h"
 
 namespace jxc {

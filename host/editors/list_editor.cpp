@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"
-#include "session/lookups/database_routines.h"
+#include "session/dialect.h"
 #include "session/session.h"
 
 namespace jxc {

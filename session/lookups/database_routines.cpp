@@ -76,14 +76,4 @@ std::string InKeys(std::span<const std::int64_t> keys) {
     return list + ")";
 }
 
-std::string InQuotes(std::string_view text) {
-    std::string quoted = "'";
-    for (const char c : text) {
-        quoted += c;
-        if (c == '\'')
-            quoted += c;
-    }
-    return quoted + "'";
-}
-
 } // namespace jxc

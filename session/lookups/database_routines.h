@@ -27,8 +27,4 @@ std::string LikePattern(std::string_view text);
 // about a document just written.
 std::string InKeys(std::span<const std::int64_t> keys);
 
-// A text as a statement holds it: in single quotes, its own quotes doubled. For names that come from other
-// tables or from the host, which no edit box has filtered.
-std::string InQuotes(std::string_view text);
-
 } // namespace jxc

@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "controls/screen.h"
 #include "database/recordset.h"
+#include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 
@@ -21,8 +22,8 @@ const std::string kProducts =
     " Where fCpFlag<>1";
 
 std::string NameOrSpecClause(const std::string& typed) {
-    const std::string pattern = LikePattern(typed);
-    return " And (fCpName like '" + pattern + "' Or fCpGG like '" + pattern + "')";
+    const std::string pattern = InQuotes(LikePattern(typed));
+    return " And (fCpName like " + pattern + " Or fCpGG like " + pattern + ")";
 }
 
 // The parts of a name typed with a comma of either form between; one part without a comma.
@@ -56,12 +57,12 @@ struct ByCode {
 
 ByCode StatementsByCode(const std::string& code, const std::string& warehouse) {
     const std::string ofCode = " Inner Join tJXC_Cp c On c.fCpID=a.fCpID";
-    const std::string isCode = "c.fCpFlag<>1 And c.fCpCode = '" + code + "'";
+    const std::string isCode = "c.fCpFlag<>1 And c.fCpCode = " + InQuotes(code);
     return {
-        kProducts + " And fCpCode = '" + code + "' Order By fCpCode,fCpID Desc",
+        kProducts + " And fCpCode = " + InQuotes(code) + " Order By fCpCode,fCpID Desc",
         "Select COUNT(*) "
-        " From tJXC_Cp Where fCpFlag<>1 And fCpCode like '" +
-            LikePattern(code) + "'",
+        " From tJXC_Cp Where fCpFlag<>1 And fCpCode like " +
+            InQuotes(LikePattern(code)),
         warehouse.empty()
             ? "select sum(a.fKcSl) as fKcSl from (tJXC_CkTj a Left Join tJXC_Ck b On a.fCkName=b.fCkName)" +
                   ofCode + " Where " + isCode + " And (b.fCkType2=0 Or b.fCkType2=1)"
@@ -76,7 +77,7 @@ std::optional<std::string> StatementByCode(const std::string& code, const ByCode
     if (hits == 0)
         return std::nullopt;
     if (hits == 1)
-        return kProducts + " And fCpCode like '" + LikePattern(code) + "'";
+        return kProducts + " And fCpCode like " + InQuotes(LikePattern(code));
     return PickProduct(code, "");
 }
 
@@ -166,10 +167,10 @@ int FindCustomerCard(ListBox& list, const std::string& text) {
     const std::string key = UpperCase(text);
     if (key.empty())
         return 0;
-    std::string where = "CompCode = '" + key + "'";
+    std::string where = "CompCode = " + InQuotes(key);
     if (DbCount("cards", where) < 1) {
-        const std::string pattern = LikePattern(text);
-        where = "(CompCode like '" + pattern + "' or CompName like '" + pattern + "') And CompName <> ''";
+        const std::string pattern = InQuotes(LikePattern(text));
+        where = "(CompCode like " + pattern + " or CompName like " + pattern + ") And CompName <> ''";
     }
     Recordset row(Conn(), "select fID,CompCode,compname,name,telphone,homephone,handphone,fax,"
                           "E_mail,HomeEmail,http,HomeHttp "

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "database/recordset.h"
+#include "session/dialect.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -26,7 +27,7 @@ void FillDistinctCombo(const std::string& table, ListBox& list, const std::strin
 }
 
 std::string BriefStatement(const std::string& briefType) {
-    return "select * from briefDetail where briefType='" + briefType + "' Order By briefcode";
+    return "select * from briefDetail where briefType=" + InQuotes(briefType) + " Order By briefcode";
 }
 
 void FillBriefCombo(ListBox& list, const std::string& briefType, bool withCode) {

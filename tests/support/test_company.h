@@ -10,6 +10,7 @@
 #include <string>
 
 #include "database/connection.h"
+#include "session/session.h"
 #include "tests/support/files.h"
 #include "tests/support/test_server.h"
 
@@ -95,6 +96,11 @@ void CutLinesOfOthers(Connection& connection);
 // What an observer of waits is told when its first question, put at once, is answered with giving up (see
 // Connection::SetWaitObserver).
 inline const std::vector<int> kAskedOnceAndEnded{0, -1};
+
+// Of two texts the one in the session's dialect.
+inline const char* Dialect(const char* jet, const char* sqlServer) {
+    return session.IsJet() ? jet : sqlServer;
+}
 
 } // namespace jxc::test
 
