@@ -1,4 +1,5 @@
-// The main window: what it offers of a company, its last documents, another company, and a new one.
+// The main window: what it offers of a company, its last documents, another company, and a new one. Where it begins:
+// last_company_test.cpp.
 #include <QTest>
 
 #include "host/window/main_window.h"
@@ -141,22 +142,6 @@ TEST_F(Main, RemembersWhereACompanyIsAndNothingElse) {
     tour.LeaveNoTrace();
     ASSERT_TRUE(tour.OpenCompanyOf(company.Address(), ""));
     EXPECT_EQ(recent(), QStringList{"/kept.db"});
-}
-
-TEST_F(Main, LooksForACompanyThatIsGone) {
-    MainWindow empty;
-    person.Answer(Qt::Key_N); // rather the sample
-    EXPECT_FALSE(empty.FindCompany("/moved/shop.db"));
-    const Texts asked = person.Boxes();
-    ASSERT_EQ(asked.size(), 1U);
-    EXPECT_EQ(asked[0].rfind("找不到上次的帐套：\n/moved/shop.db", 0), 0U) << asked[0];
-    person.Next([&] {
-        person.Find<QLineEdit>("companyAddress").setText(Q(company.Address()));
-        person.Press(Qt::Key_Return);
-    });
-    person.Answer(Qt::Key_Y);
-    EXPECT_TRUE(empty.FindCompany("/moved/shop.db"));
-    person.Boxes();
 }
 
 } // namespace
