@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "host/window/main_window.h"
+#include "session/session.h"
 #include "tests/windows/window_fixture.h"
 
 namespace jxc::test {
@@ -142,6 +143,32 @@ TEST_F(Main, RemembersWhereACompanyIsAndNothingElse) {
     tour.LeaveNoTrace();
     ASSERT_TRUE(tour.OpenCompanyOf(company.Address(), ""));
     EXPECT_EQ(recent(), QStringList{"/kept.db"});
+}
+
+// What a host says of the user and the company stands above what the company says, for each company that is opened.
+TEST_F(Main, StandsOverWhatTheCompanySaysOfItsUsers) {
+    const std::string user = session.UserName;
+    EXPECT_EQ(session.ZgName, user);
+    EXPECT_NE(window.FindEntry("用户与权限", "打开"), nullptr);
+    EXPECT_NE(window.FindEntry("客户资料", "打开"), nullptr);
+    window.StandOver({{"ZgName", "张三"}, {"myPower", "0000"}, {"CompName", "分店"}});
+    for (int times = 0; times < 2; ++times) {
+        ASSERT_TRUE(window.OpenCompanyOf(company.Address(), ""));
+        EXPECT_EQ(session.UserName, user);
+        EXPECT_EQ(session.ZgName, "张三");
+        EXPECT_EQ(session.myPower, "0000");
+        EXPECT_EQ(S(window.windowTitle()), "lzJxc 进销存 — 分店");
+        EXPECT_EQ(window.FindEntry("客户资料", "打开"), nullptr); // that right is missing
+        const Texts master = Branch("资料");
+        EXPECT_EQ(std::count(master.begin(), master.end(), "客户资料"), 0);
+        EXPECT_EQ(std::count(master.begin(), master.end(), "货币"), 1); // needs none
+        EXPECT_EQ(Menu("资料(&D)"), master);
+    }
+    window.StandOver({});
+    ASSERT_TRUE(window.OpenCompanyOf(company.Address(), ""));
+    EXPECT_EQ(session.ZgName, user);
+    EXPECT_NE(window.FindEntry("客户资料", "打开"), nullptr);
+    EXPECT_EQ(person.Boxes(), Texts{});
 }
 
 } // namespace
