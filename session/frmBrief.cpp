@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "controls/gestures.h"
 #include "controls/text.h"
 #include "controls/view.h"
 #include "session/database/recordset.h"
@@ -55,12 +56,16 @@ void FillColumns(frmBrief& s) {
                           " Order By fieldID");
 }
 
+bool IsBlank(const Grid& grid, int row) {
+    return Trim(grid.Text(row, 1)).empty() && Trim(grid.Text(row, 2)).empty();
+}
+
 // The entries as typed: no quote, no code twice, no entry without a name; rows with nothing in them are left
 // out. False after a message.
 bool EntriesAreSound(frmBrief& s) {
     std::set<std::string> codes;
     for (int row = s.Grid1.RowCount(); row >= 1; --row)
-        if (Trim(s.Grid1.Text(row, 1)).empty() && Trim(s.Grid1.Text(row, 2)).empty())
+        if (IsBlank(s.Grid1, row))
             s.Grid1.RemoveRow(row);
     for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
         const std::string code = Trim(s.Grid1.Text(row, 1));
@@ -120,6 +125,17 @@ void Confirm(frmBrief& s) {
     s.Close();
 }
 
+// What is saved by the ok button; the name of a column is stored when it is given.
+std::string TypedWork(const frmBrief& s) {
+    const bool columns = s.kind == BriefKind::SelectColumns;
+    std::string work;
+    for (int row = 1; row <= s.Grid1.RowCount(); ++row)
+        for (int column = 1; column <= s.Grid1.ColumnCount() && !IsBlank(s.Grid1, row); ++column)
+            if (!columns || column != 2)
+                work.append(s.Grid1.Text(row, column)).push_back('\x1f');
+    return work;
+}
+
 void MoveRow(Grid& grid, int distance) {
     const int from = grid.selectedRow;
     const int to = from + distance;
@@ -159,6 +175,7 @@ frmBrief::frmBrief() : Screen("frmBrief") {
     cmdRename.onClick = [this] { RenameColumn(*this); };
     cmdOk.onClick = [this] { Confirm(*this); };
     cmdCancel.onClick = [this] { Close(); };
+    cmdCancel.dropsWork = true;
     Grid1.onDoubleClick = [this](int) {
         if (kind == BriefKind::ChooseList)
             Confirm(*this);
@@ -184,7 +201,17 @@ void frmBrief::Open() {
         FillColumns(*this);
     else
         FillLists(*this);
+    asOpened = TypedWork(*this);
     MoveFocus(&Grid1);
+}
+
+std::string frmBrief::UnsavedWork() const {
+    return TypedWork(*this) != asOpened ? "代码表尚未保存，放弃所作的修改？" : "";
+}
+
+void frmBrief::SaveWork() {
+    if (LeaveFocus(*this)) // what stands in the cell in hand counts
+        Confirm(*this);
 }
 
 std::string CodeListScreen::Edit(const std::string& table, const std::string& code, BriefKind kind) {

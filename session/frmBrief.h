@@ -12,6 +12,8 @@ namespace jxc {
 struct frmBrief : Screen {
     frmBrief();
     void Open() override;
+    std::string UnsavedWork() const override;
+    void SaveWork() override;
 
     Grid Grid1{*this, "Grid1"};
     Button cmdAdd{*this, "cmdAdd", "增加(&A)"};
@@ -28,6 +30,8 @@ struct frmBrief : Screen {
     std::string code;
     // Left behind: the text chosen, "" for none.
     std::string chosen;
+
+    std::string asOpened; // what the rows were, to be compared
 };
 
 class CodeListScreen : public CodeListEditor {

@@ -38,6 +38,12 @@ class LoginError : public DatabaseError {
     using DatabaseError::DatabaseError;
 };
 
+// The line to the server is lost, or could not be made anew. The engine's own words are nested in it.
+class LineLost : public DatabaseError {
+  public:
+    LineLost() : DatabaseError("与服务器的连接已中断。") {}
+};
+
 // The line to the server was lost while a commit was on its way: it may have been done, or not.
 class CommitUnknown : public DatabaseError {
   public:
@@ -65,7 +71,8 @@ class Connection {
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    // With `again` a server whose line was lost is connected anew at the next statement outside a transaction.
+    // With `again` a server whose line was lost is connected anew at the next statement outside a transaction; a read
+    // there that finds it lost is tried once more.
     void Open(std::unique_ptr<Engine> engine, std::function<std::unique_ptr<Engine>()> again = {});
     void Close();
     bool IsOpen() const;
@@ -145,6 +152,8 @@ class Connection {
     void ForgetExpected();
     template <typename Work>
     auto Guarded(std::string_view sql, Work work);
+    template <typename Work>
+    auto Reading(Work work);
     void RequireUsable();
     void ConnectAgain();
     void NoteFailure(const DatabaseError& error);
