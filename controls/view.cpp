@@ -68,10 +68,19 @@ void WarnOfFailure(const std::string& title, const std::string& text, const std:
     CurrentView().ShowBox({title, text, BoxIcon::Warning, {BoxButton::OK}, itself ? "" : cause});
 }
 
+std::string CauseOf(const std::exception& error) {
+    try {
+        std::rethrow_if_nested(error);
+    } catch (const std::exception& cause) {
+        return cause.what();
+    }
+    return "";
+}
+
 void WarnOfError(const std::string& title, const std::exception& error) {
     if (dynamic_cast<const std::runtime_error*>(&error)) {
-        Log(title, error.what());
-        return Warn(title, error.what());
+        const std::string cause = CauseOf(error);
+        return WarnOfFailure(title, error.what(), cause.empty() ? error.what() : cause);
     }
     WarnOfFailure(title, "程序出现内部错误，本次操作没有完成。请把日志交给技术支持：" + LogFile(),
                   std::string(typeid(error).name()) + "：" + error.what());

@@ -88,7 +88,11 @@ void Connection::ConnectAgain() {
     ForgetExpected();
     ForgetCatalogue();
     cache_->Clear(); // statements die before their engine
-    engine_ = again_();
+    try {
+        engine_ = again_();
+    } catch (const DatabaseError&) {
+        std::throw_with_nested(LineLost());
+    }
     engine_->waiting.SetObserver(waitObserver_);
     engine_->Flush(); // its settings, before a transaction that may be rolled back
 }
@@ -123,6 +127,18 @@ auto Connection::Guarded(std::string_view sql, Work work) {
         NoteFailure(error);
         throw;
     }
+}
+
+// Nothing hangs on a read outside a transaction: a person whose server was away for a moment need not notice.
+template <typename Work>
+auto Connection::Reading(Work work) {
+    try {
+        return work();
+    } catch (const LineLost&) {
+        if (inTransaction_ || !again_)
+            throw;
+    }
+    return work();
 }
 
 CachedStatement& Connection::Prepared(std::string_view sql, bool editRows) {
@@ -169,19 +185,23 @@ void Connection::Execute(std::string_view sql) {
 }
 
 Rows Connection::Query(std::string_view sql) {
-    return Guarded(sql, [&] {
-        CachedStatement& statement = Prepared(sql, false);
-        if (!statement.givesRows)
-            throw DatabaseError("SQL 语句有误：这里需要 Select 语句。");
-        return Read(sql, statement, false);
+    return Reading([&] {
+        return Guarded(sql, [&] {
+            CachedStatement& statement = Prepared(sql, false);
+            if (!statement.givesRows)
+                throw DatabaseError("SQL 语句有误：这里需要 Select 语句。");
+            return Read(sql, statement, false);
+        });
     });
 }
 
 Rows Connection::QueryRows(std::string_view sql, std::string& table) {
-    return Guarded(sql, [&] {
-        CachedStatement& statement = Prepared(sql, true);
-        table = statement.table;
-        return Read(sql, statement, true);
+    return Reading([&] {
+        return Guarded(sql, [&] {
+            CachedStatement& statement = Prepared(sql, true);
+            table = statement.table;
+            return Read(sql, statement, true);
+        });
     });
 }
 
@@ -265,9 +285,11 @@ void Connection::Mark(int mark) {
 }
 
 bool Connection::HasColumn(std::string_view table, std::string_view column) {
-    RequireUsable();
-    if (catalogue_.empty())
-        catalogue_ = engine_->Catalogue();
+    Reading([&] {
+        RequireUsable();
+        if (catalogue_.empty())
+            catalogue_ = engine_->Catalogue();
+    });
     const auto known = catalogue_.find(LowerCase(table));
     return known != catalogue_.end() && known->second.contains(LowerCase(column));
 }

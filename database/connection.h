@@ -42,7 +42,8 @@ class Connection {
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    // With `again` a server whose line was lost is connected anew at the next statement outside a transaction.
+    // With `again` a server whose line was lost is connected anew at the next statement outside a transaction; a read
+    // there that finds it lost is tried once more.
     void Open(std::unique_ptr<Engine> engine, std::function<std::unique_ptr<Engine>()> again = {});
     void Close();
     bool IsOpen() const;
@@ -122,6 +123,8 @@ class Connection {
     void ForgetExpected();
     template <typename Work>
     auto Guarded(std::string_view sql, Work work);
+    template <typename Work>
+    auto Reading(Work work);
     void RequireUsable();
     void ConnectAgain();
     void NoteFailure(const DatabaseError& error);

@@ -17,6 +17,12 @@ class LoginError : public DatabaseError {
     using DatabaseError::DatabaseError;
 };
 
+// The line to the server is lost, or could not be made anew. The engine's own words are nested in it.
+class LineLost : public DatabaseError {
+  public:
+    LineLost() : DatabaseError("与服务器的连接已中断。") {}
+};
+
 // The line to the server was lost while a commit was on its way: it may have been done, or not.
 class CommitUnknown : public DatabaseError {
   public:

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstring>
 
+#include "base/log.h"
 #include "database/postgres_values.h"
 #include "database/server_address.h"
 
@@ -82,13 +83,23 @@ PostgresPipeline::~PostgresPipeline() {
     PQfinish(connection_);
 }
 
-void PostgresPipeline::Lost() {
+void PostgresPipeline::GiveUpLine() {
     lost_ = true;
     for (const Sent& sent : sent_)
         if (sent.statement)
             sent.statement->state = ServerStatement::State::Unknown;
     sent_.clear();
-    throw DatabaseError("与数据库服务器的连接已经中断：" + Trimmed(PQerrorMessage(connection_)));
+}
+
+void PostgresPipeline::Lost() {
+    GiveUpLine();
+    const std::string words = Trimmed(PQerrorMessage(connection_));
+    Log("database", words); // whoever tells of the failed work may know no more than that it failed
+    try {
+        throw DatabaseError(words);
+    } catch (const DatabaseError&) {
+        std::throw_with_nested(LineLost());
+    }
 }
 
 void PostgresPipeline::Require(int sent) {
@@ -178,8 +189,10 @@ void PostgresPipeline::CancelAtServer() {
     gaveUp_ = true;
     char reason[256];
     const std::unique_ptr<PGcancel, decltype(&PQfreeCancel)> cancel(PQgetCancel(connection_), PQfreeCancel);
-    if (!cancel || !PQcancel(cancel.get(), reason, sizeof reason))
-        Lost(); // a server that cannot be reached gives no answer either
+    if (!cancel || !PQcancel(cancel.get(), reason, sizeof reason)) {
+        GiveUpLine(); // a server that cannot be reached gives no answer either
+        throw DatabaseError(kGaveUpWaiting);
+    }
 }
 
 void PostgresPipeline::ReceiveOne(const Sent& sent) {

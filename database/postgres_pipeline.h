@@ -96,7 +96,8 @@ class PostgresPipeline {
     void CancelAtServer();
     void Accept(const Sent& sent, PGresult* result);
     void NoteFailure(const PGresult* result, int depth, int mark);
-    [[noreturn]] void Lost();
+    void GiveUpLine();
+    [[noreturn]] void Lost(); // a LineLost
     const char* const* Encode(std::span<const Value> values);
 
     Waiting& waiting_;

@@ -1,5 +1,6 @@
 #include "database/storable_text.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -29,6 +30,12 @@ size_t LengthOfCharacter(std::string_view text) {
     return isOutside ? 0 : length;
 }
 
+// Of any character at the front of `text`; 0 when it is none.
+size_t LengthOfAny(std::string_view text) {
+    const auto c = static_cast<unsigned char>(text.front());
+    return c == 0 ? 0 : c < 0x80 ? 1 : LengthOfCharacter(text);
+}
+
 // Eight letters of ASCII, none of them zero.
 bool AreEightLetters(const char* text) {
     std::uint64_t letters;
@@ -45,13 +52,22 @@ bool IsStorable(std::string_view text) {
             at += 8;
             continue;
         }
-        const auto c = static_cast<unsigned char>(text[at]);
-        const size_t length = c == 0 ? 0 : c < 0x80 ? 1 : LengthOfCharacter(text.substr(at));
+        const size_t length = LengthOfAny(text.substr(at));
         if (length == 0)
             return false;
         at += length;
     }
     return true;
+}
+
+std::string Readable(std::string_view text) {
+    std::string readable;
+    while (!text.empty()) {
+        const size_t length = LengthOfAny(text);
+        readable += length == 0 ? "\uFFFD" : text.substr(0, length);
+        text.remove_prefix(std::max<size_t>(length, 1));
+    }
+    return readable;
 }
 
 void RequireStorable(std::string_view text) {

@@ -24,6 +24,8 @@ constexpr double kDiscount = 100;
 // The counters that documents add up to.
 constexpr double kQuantitySum = 1e9;
 constexpr double kAmountSum = 1e11;
+// What follows from them: a price in home currency, less the digits that dividing by a rest of stock adds.
+constexpr double kUnitCost = 1e10;
 } // namespace below
 
 // Why the document's figures cannot be saved, and where: a control, of the grid also row and column.

@@ -10,6 +10,7 @@
 #include "host/company/prepare_database.h"
 #include "host/company/sample_company.h"
 #include "host/company_address.h"
+#include "host/exit_status.h"
 #include "host/screens.h"
 #include "robot/scenario.h"
 #include "session/company/open_connection.h"
@@ -128,10 +129,10 @@ int Play(const std::string& company) {
     Scenario scenario("tour", kTour, query, execute,
                       [](const std::string& line) { std::cout << line << std::endl; });
     if (!Tell("未如预期：", PlayScenario(control, scenario)))
-        return 1;
+        return kFindings;
     const OpenCompany open(company);
     if (!Tell("帐套检查：", CheckCompany()))
-        return 1;
+        return kFindings;
     std::cout << "帐套检查：全部相符。" << std::endl;
     return 0;
 }

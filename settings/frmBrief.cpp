@@ -3,6 +3,7 @@
 #include <set>
 
 #include "base/text.h"
+#include "controls/gestures.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"
 #include "database/recordset.h"
@@ -56,12 +57,16 @@ void FillColumns(frmBrief& s) {
                           " Order By fieldID");
 }
 
+bool IsBlank(const Grid& grid, int row) {
+    return Trim(grid.Text(row, 1)).empty() && Trim(grid.Text(row, 2)).empty();
+}
+
 // The entries as typed: no quote, no code twice, no entry without a name; rows with nothing in them are left
 // out. False after a message.
 bool EntriesAreSound(frmBrief& s) {
     std::set<std::string> codes;
     for (int row = s.Grid1.RowCount(); row >= 1; --row)
-        if (Trim(s.Grid1.Text(row, 1)).empty() && Trim(s.Grid1.Text(row, 2)).empty())
+        if (IsBlank(s.Grid1, row))
             s.Grid1.RemoveRow(row);
     for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
         const std::string code = Trim(s.Grid1.Text(row, 1));
@@ -121,6 +126,17 @@ void Confirm(frmBrief& s) {
     s.Close();
 }
 
+// What is saved by the ok button; the name of a column is stored when it is given.
+std::string TypedWork(const frmBrief& s) {
+    const bool columns = s.Is(BriefKind::SelectColumns);
+    std::string work;
+    for (int row = 1; row <= s.Grid1.RowCount(); ++row)
+        for (int column = 1; column <= s.Grid1.ColumnCount() && !IsBlank(s.Grid1, row); ++column)
+            if (!columns || column != 2)
+                work.append(s.Grid1.Text(row, column)).push_back('\x1f');
+    return work;
+}
+
 void MoveRow(Grid& grid, int distance) {
     const int from = grid.selectedRow;
     const int to = from + distance;
@@ -164,6 +180,7 @@ frmBrief::frmBrief() : Screen("frmBrief") {
     cmdRename.onClick = [this] { RenameColumn(*this); };
     cmdOk.onClick = [this] { Confirm(*this); };
     cmdCancel.onClick = [this] { Close(); };
+    cmdCancel.dropsWork = true;
     Grid1.onDoubleClick = [this](int) {
         if (Is(BriefKind::ChooseList))
             Confirm(*this);
@@ -189,7 +206,17 @@ void frmBrief::Open() {
         FillColumns(*this);
     else
         FillLists(*this);
+    asOpened = TypedWork(*this);
     MoveFocus(&Grid1);
+}
+
+std::string frmBrief::UnsavedWork() const {
+    return TypedWork(*this) != asOpened ? "代码表尚未保存，放弃所作的修改？" : "";
+}
+
+void frmBrief::SaveWork() {
+    if (LeaveFocus(*this)) // what stands in the cell in hand counts
+        Confirm(*this);
 }
 
 } // namespace jxc

@@ -12,6 +12,8 @@ namespace jxc {
 struct frmBrief : Screen {
     frmBrief();
     void Open() override;
+    std::string UnsavedWork() const override;
+    void SaveWork() override;
 
     Grid Grid1{*this, "Grid1"};
     Button cmdAdd{*this, "cmdAdd", "增加(&A)"};
@@ -28,6 +30,8 @@ struct frmBrief : Screen {
     std::string code;
     // Property, left behind: the text chosen, "" for none.
     std::string chosen;
+
+    std::string asOpened; // what the rows were, to be compared
 
     bool Is(BriefKind wanted) const { return kind == static_cast<std::int16_t>(wanted); }
 };

@@ -30,6 +30,21 @@ std::string OriginalText(const std::string& harmless) {
     return harmless.starts_with('\'') && NeedsApostrophe(harmless) ? harmless.substr(1) : harmless;
 }
 
+std::string HarmlessWithin(const std::string& text) {
+    const std::string_view all = text;
+    std::string harmless;
+    for (size_t at = 0; at < all.size(); ++at) {
+        harmless += all[at];
+        if (all[at] != ';' && all[at] != '\r' && all[at] != '\n')
+            continue;
+        // Quotes at the beginning of a cell are not part of it.
+        const std::string_view next = all.substr(std::min(all.find_first_not_of('"', at + 1), all.size()));
+        if (BeginsAsFormula(next) && next.front() != '\r' && next.front() != '\n')
+            harmless += '\'';
+    }
+    return harmless;
+}
+
 std::string Quoted(const std::string& text, char separator) {
     if (text.find_first_of("\"\r\n") == std::string::npos && text.find(separator) == std::string::npos)
         return text;

@@ -11,6 +11,10 @@ namespace jxc {
 std::string HarmlessText(const std::string& text);
 std::string OriginalText(const std::string& harmless);
 
+// A text of a file that separates by commas, safe also where it is read by semicolons: a formula sign behind a
+// semicolon or a line end within the text gets an apostrophe before it. Such a file is not read back.
+std::string HarmlessWithin(const std::string& text);
+
 // A text between separators: in quotes when it holds one, a quote or a line end.
 std::string Quoted(const std::string& text, char separator);
 

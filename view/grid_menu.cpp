@@ -143,7 +143,7 @@ void SaveAsCsv(const Grid& grid, const QString& file) {
     std::string text = "\xEF\xBB\xBF";
     const auto add = [&](const auto& cell) {
         for (size_t i = 0; i < columns.size(); ++i)
-            text.append(i > 0 ? "," : "").append(Quoted(cell(columns[i]), ','));
+            text.append(i > 0 ? "," : "").append(Quoted(HarmlessWithin(cell(columns[i])), ','));
         text += "\r\n";
     };
     add([&](int column) { return HarmlessText(grid.Column(column).caption); });

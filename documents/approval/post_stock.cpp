@@ -219,9 +219,13 @@ void PostLine(const Recordset& line, const Counters& counters, bool reversal, Do
     DeriveStock(figures, line[kCostPrice]);
 }
 
-} // namespace
-
-namespace {
+// A rest of stock that bears the value of goods long gone has a cost that no later document makes good.
+void RequireDerivedInBounds(const Recordset& line, DocumentStock& stock) {
+    const Figures& figures = stock.In(line[kLineWarehouse].Text()).Of(line[kLineProduct].AsLong());
+    if (Reaches(figures[kKcDj], below::kUnitCost) || Reaches(figures[kKcJE], below::kAmountSum))
+        throw DatabaseError("产品 " + line[kLineProduct].AsText() + " 在“" + line[kLineWarehouse].Text() +
+                            "”的成本价或库存金额超出范围。");
+}
 
 bool MovesStock(const TypeRow& type) {
     return type.fSetTjType >= 0 && type.fSetCrType1 != -1 &&
@@ -257,6 +261,9 @@ void PostStock(const frmDj02& s, bool reversal) {
     DocumentStock stock(lines);
     for (; !lines.AtEnd(); lines.MoveNext())
         PostLine(lines, kCounters[statistics], reversal, stock);
+    if (!reversal) // which must always be possible
+        for (lines.MoveTo(0); !lines.AtEnd(); lines.MoveNext())
+            RequireDerivedInBounds(lines, stock);
     stock.Write(kCounters[statistics]);
 }
 

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "host/check/checked_company.h"
 #include "session/lookups/book.h"
+#include "settings/parameters.h"
 
 namespace jxc {
 
@@ -47,6 +48,8 @@ std::vector<Rule> BookRules(const Book& book) {
         {"Select min(fInvNo),fRowID,count(*) From {L} Where fRowID is not null Group By "
          "fInvID,fInv1,fRowID{M} Having count(*)>1",
          "单据 {1}：第 {2} 行重复 {3} 次；请反审核后重新存盘，核对库存。"},
+        {"Select min(fInvNo),count(*) From {L} Where fRowID is null Group By fInvID{M}",
+         "单据 {1}：有 {2} 行没有行号；请反审核后重新存盘。"},
         {"Select b.fInvNo,b.fRowID From {L} b Where b.fInvSL is null Or b.fCpID is null" +
              FiguresAbsurd(
                  {"fInvSL", "fInvSL2", "fInvDJ", "fInvDJ2", "fInvJE", "fInvHbDl", "fInvTaxRate", "fInvTax"}) +
@@ -139,17 +142,43 @@ void CheckAmounts(const Book& book, std::int64_t decimals, Findings& findings) {
         findings);
 }
 
+// A rate is a fraction. The tax follows from it and the amount, on top of it or contained in it: the company may have
+// changed its way since. Documents that are changed while it takes no tax keep theirs, whatever becomes of their amounts.
+void CheckTaxes(const Book& book, TaxWay way, Findings& findings) {
+    Run({OfBook("Select fInvNo,fRowID,fInvTaxRate From {L} Where fInvTaxRate<0 Or fInvTaxRate>=1", book),
+         "单据 {1}：第 {2} 行税率 {3} 不在 0 与 1 之间；请反审核后修改。"},
+        findings);
+    if (way == TaxWay::None)
+        return;
+    // Shown are four decimals of the rate, two of amount and tax.
+    const auto isFar = [](const std::string& expected) {
+        return "abs(" + OrZero("fInvTax") + "-" + expected + ")>0.0151+0.000051*abs(" + OrZero("fInvJE") +
+               ")";
+    };
+    const std::string onTop = OrZero("fInvJE") + "*fInvTaxRate";
+    Run({OfBook("Select fInvNo,fRowID,fInvTax,fInvJE,fInvTaxRate From {L} Where fInvTaxRate>=0 And "
+                "fInvTaxRate<1 And " +
+                    IsPlausible(OrZero("fInvJE")) + " And " + isFar(onTop) + " And " +
+                    isFar(onTop + "/(1+fInvTaxRate)"),
+                book),
+         "单据 {1}：第 {2} 行税额 {3} 不符合金额 {4} 与税率 {5}；请反审核后修改。"},
+        findings);
+}
+
 void CheckDates(const Book& book, const std::optional<Date>& periodStart, Findings& findings) {
     const Rows rows =
         findings.Ask(OfBook("Select fInvDate,min(fInvNo),count(*) From {H} Group By fInvDate", book));
     for (size_t row = 0; row < rows.Count(); ++row) {
         const std::string number = "单据 " + rows.At(row, 1).AsText() + "：日期";
         const auto date = ParseDate(rows.At(row, 0).AsText());
-        if (!date || YearOf(*date) < 1990 || YearOf(*date) > 2100)
+        if (!date)
             findings.Add(number + "“" + rows.At(row, 0).AsText() + "”不正确；请修改单据日期。");
         else if (book.stem == "tJXC_CkDj" && periodStart && *date < *periodStart)
             findings.Add(number + " " + IsoText(*date) + " 早于本期起始日期 " + IsoText(*periodStart) +
                          "；请核对[系统参数设置]的本期年月，或修改单据日期。");
+        else if (YearOf(*date) < 1990 ||
+                 YearOf(*date) > 2100) // the screens take any day of the period or later
+            findings.Note(number + " " + IsoText(*date) + " 少见；如果是误输，请修改单据日期。");
     }
 }
 
@@ -169,11 +198,13 @@ void CheckTypesOf(const Book& book, const CheckedTypes& types, Findings& finding
 
 void CheckBooks(const CheckedCompany& company, Findings& findings) {
     const auto decimals = company.parameters.Count() > 0 ? company.Parameter("fSysDeciDj").AsLong() : 2;
+    const auto way = static_cast<TaxWay>(company.Parameter("fSysTaxWay").AsLong());
     for (const Book& book : AllBooks()) {
         for (const Rule& rule : BookRules(book))
             Run({OfBook(rule.sql, book), OfBook(rule.told, book)}, findings);
         CheckCopies(book, findings);
         CheckAmounts(book, decimals, findings);
+        CheckTaxes(book, way, findings);
         CheckDates(book, company.periodStart, findings);
         if (book.closed)
             continue;

@@ -85,6 +85,18 @@ const Rule kWrongOrder{
     " Or (o.fInvType=24 And (abs(a.fInvType)=2 Or abs(a.fInvType)=6 Or a.fInvType=31)) then 1 else 0 end)=0",
     "单据 {1}：所对应的订单 {2} 类型不符；请反审核后修改订单号。"};
 
+// Orders may be deleted after the documents that refer to them.
+void NoteMissingOrders(Findings& findings) {
+    const Rows rows = findings.Ask("Select a.fInvNo,a.fHtNo From tJXC_CkDj01 a Where a.fHtNo<>'' And "
+                                   "a.fInvSHR<>'' And (abs(a.fInvType)=1"
+                                   " Or abs(a.fInvType)=2 Or abs(a.fInvType)=6) And not exists (Select "
+                                   "o.fInvID From tJXC_CkHt01 o Where "
+                                   "o.fInvNo=a.fHtNo) Order By a.fInvNo");
+    for (size_t row = 0; row < rows.Count(); ++row)
+        findings.Note("单据 " + rows.At(row, 0).AsText() + "：订单 " + rows.At(row, 1).AsText() +
+                      " 不存在，可能已在审核之后删除；如果不是，请反审核后修改订单号。");
+}
+
 // Seven sums over a receipt's lines, alike for lines and history rows.
 std::string Sums(const std::string& quantity, const std::string& price) {
     const std::string parts[] = {
@@ -133,6 +145,7 @@ void CheckHistory(const std::string& periodStart, Findings& findings) {
 void CheckOrders(const CheckedCompany& company, Findings& findings) {
     CheckBalances(company.types, findings);
     Run(kWrongOrder, findings);
+    NoteMissingOrders(findings);
 }
 
 void CheckSupplierHistory(const CheckedCompany& company, Findings& findings) {

@@ -33,7 +33,7 @@ class StockCheck {
         const Rows rows =
             findings_.Ask("Select fCkName,fCpID,fQcSl,fRkSl,fCkSl,fDkSl,fPdSl,fQcJe,fRkJe,fCkJe,fKcSL,fKcDj,"
                           "fKcJE,fMonth From tJXC_CkTj Order By fCkName,fCpID");
-        stale_ = IsStale(rows);
+        CheckMonths(rows);
         for (size_t row = 0; row < rows.Count(); ++row)
             CheckRow(rows, row);
         if (stale_)
@@ -46,13 +46,24 @@ class StockCheck {
     }
 
   private:
-    // A close or a reverse close moves the period; the counters stand until they are refreshed.
-    bool IsStale(const Rows& rows) {
-        const std::string month = company_.Parameter("fSysDate").AsText().substr(0, 7);
+    // A close or a reverse close moves the period; the counters stand until they are refreshed. It marks the whole
+    // table: a few rows of another month do not make the others stale.
+    void CheckMonths(const Rows& rows) {
+        const auto monthOf = [&](size_t row) { return rows.At(row, 13).AsText().substr(0, 7); };
+        std::map<std::string, size_t> count; // "" for rows that have come since
         for (size_t row = 0; row < rows.Count(); ++row)
-            if (const Value& of = rows.At(row, 13); !of.IsNull() && of.AsText().substr(0, 7) != month)
-                return true;
-        return false;
+            ++count[monthOf(row)];
+        const auto commonest = std::max_element(
+            count.begin(), count.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+        if (commonest == count.end())
+            return;
+        const std::string current = company_.Parameter("fSysDate").AsText().substr(0, 7);
+        stale_ = !commonest->first.empty() && commonest->first != current;
+        for (size_t row = 0; row < rows.Count(); ++row)
+            if (const std::string month = monthOf(row);
+                !month.empty() && month != current && month != commonest->first)
+                findings_.Add(Place(rows.At(row, 0).AsText(), rows.At(row, 1).AsLong()) + "月份 " + month +
+                              " 与库存表的其他行不同；请在[库存查询]中刷新库存统计。");
     }
 
     // One line for a state of the whole table, else one for each row.

@@ -1,6 +1,8 @@
 #include "host/editors/editor_screen.h"
 
 #include "base/text.h"
+#include "controls/gestures.h"
+#include "controls/grid.h"
 #include "controls/view.h"
 #include "forms/edit_filter.h"
 #include "session/messages.h"
@@ -10,10 +12,14 @@ namespace jxc {
 
 namespace {
 
+bool IsTyping(const EditorScreen& s) {
+    return s.mode == EditorMode::Add || s.mode == EditorMode::Change;
+}
+
 void SetMode(EditorScreen& s, EditorMode mode) {
     s.mode = mode;
     const bool browsing = mode == EditorMode::Browse;
-    const bool typing = mode == EditorMode::Add || mode == EditorMode::Change;
+    const bool typing = IsTyping(s);
     for (const EditorField& field : s.fields)
         field.box->enabled = typing;
     s.cmdChange.enabled = s.cmdQuit.enabled = browsing;
@@ -30,10 +36,20 @@ EditorScreen::EditorScreen(std::string name, std::string title) : Screen(std::mo
     cmdSave.onClick = [this] { SaveRecord(*this); };
     cmdCancel.onClick = [this] { LeaveMode(*this); };
     cmdQuit.onClick = [this] { Close(); };
+    cmdCancel.dropsWork = true;
 }
 
 void EditorScreen::Open() {
     LeaveMode(*this);
+}
+
+std::string EditorScreen::UnsavedWork() const {
+    return IsTyping(*this) && TypedWork(*this) != asBegun ? "资料尚未保存，放弃所输入的内容？" : "";
+}
+
+void EditorScreen::SaveWork() {
+    if (LeaveFocus(*this)) // what stands in the field in hand counts
+        SaveRecord(*this);
 }
 
 EditorField& EditorScreen::Hold(TextBox& box, const char* field, const char* caption, int maxBytes,
@@ -49,12 +65,28 @@ void EditorScreen::Clear() {
         field.box->text.clear();
 }
 
+std::string TypedWork(const EditorScreen& s) {
+    std::string work;
+    const auto add = [&](const std::string& text) { work.append(text).push_back('\x1f'); };
+    for (const Control* control : s.Controls()) {
+        add(control->Shown().AsText());
+        const auto* grid = dynamic_cast<const Grid*>(control);
+        if (!grid || grid->readOnly)
+            continue;
+        for (int row = 1; row <= grid->RowCount(); ++row)
+            for (int column = 1; column <= grid->ColumnCount(); ++column)
+                add(grid->Text(row, column));
+    }
+    return work;
+}
+
 void BeginMode(EditorScreen& s, EditorMode mode) {
     if (mode != EditorMode::Add && !s.HasRecord())
         return;
     SetMode(s, mode);
     if (mode == EditorMode::Add)
         s.Clear();
+    s.asBegun = TypedWork(s);
     s.MoveFocus(mode == EditorMode::Delete ? static_cast<Control*>(&s.cmdSave) : s.fields.front().box);
 }
 

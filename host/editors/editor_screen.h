@@ -30,6 +30,8 @@ struct EditorField {
 struct EditorScreen : Screen {
     EditorScreen(std::string name, std::string title);
     void Open() override;
+    std::string UnsavedWork() const override;
+    void SaveWork() override;
 
     Button cmdChange{*this, "cmdChange", "修改(&C)"};
     Button cmdSave{*this, "cmdSave", "保存(&S)"};
@@ -38,6 +40,7 @@ struct EditorScreen : Screen {
 
     EditorMode mode = EditorMode::Browse;
     std::vector<EditorField> fields;
+    std::string asBegun; // TypedWork when adding or changing began
 
     // Has the box hold the field: its caption, its limit in bytes, no quotes.
     EditorField& Hold(TextBox& box, const char* field, const char* caption, int maxBytes,
@@ -61,6 +64,9 @@ struct EditorScreen : Screen {
     // Where the focus goes in browse mode.
     virtual Control& Home() = 0;
 };
+
+// What a person can type and choose on the screen, as it stands now: to be compared.
+std::string TypedWork(const EditorScreen& s);
 
 void BeginMode(EditorScreen& s, EditorMode mode);
 void LeaveMode(EditorScreen& s);

@@ -2,13 +2,15 @@
 
 #include <iostream>
 
+#include "controls/screen.h"
+#include "database/storable_text.h"
 #include "host/check.h"
 #include "host/company/backup.h"
 #include "host/company/create_company.h"
 #include "host/company/prepare_database.h"
 #include "host/company_address.h"
+#include "host/exit_status.h"
 #include "host/program/words.h"
-#include "host/property_settings.h"
 #include "host/screens.h"
 #include "host/tour.h"
 #include "robot/robot.h"
@@ -46,12 +48,14 @@ int Check(const std::string& company) {
     const std::vector<std::string> books = CheckCompany(&notes);
     findings.insert(findings.end(), books.begin(), books.end());
     for (const std::string& line : findings)
-        std::cout << line << "\n";
+        std::cout << Readable(line) << "\n";
     for (const std::string& note : notes)
-        std::cout << note << "\n";
-    if (findings.empty())
+        std::cout << Readable(note) << "\n";
+    if (findings.empty() && notes.empty())
         std::cout << "帐套检查：全部相符。" << std::endl;
-    return findings.empty() ? 0 : 1;
+    else if (findings.empty())
+        std::cout << "帐套检查：没有发现错误，另有 " << notes.size() << " 处提示。" << std::endl;
+    return findings.empty() ? 0 : kFindings;
 }
 
 int BackUp(const std::string& company, const std::string& file) {
@@ -115,6 +119,20 @@ void Commands::AddUserAndSettings(CLI::App& command) {
         ->allow_extra_args(false);
 }
 
+// Tried on a control, before anything is opened.
+PropertySettings Commands::Settings() const {
+    if (!IsStorable(user_))
+        throw UsageError("--user 的用户名含有无效字符。");
+    try {
+        PropertySettings settings = ReadSettings(settings_);
+        lzJxc control;
+        SetProperties(control, settings);
+        return settings;
+    } catch (const ScreenError& error) {
+        throw UsageError(error.what());
+    }
+}
+
 void Commands::AddCreate() {
     CLI::App& create = Add("create", "建立帐套", [this] {
         const CompanyKind kind = sample_ ? CompanyKind::Sample
@@ -130,7 +148,7 @@ void Commands::AddCreate() {
 
 void Commands::AddDrive() {
     CLI::App& drive = Add("drive", "以 JSON 行驱动各窗口：每行一个请求，每个请求一个回答",
-                          [this] { return Drive(company_, user_, ReadSettings(settings_)); });
+                          [this] { return Drive(company_, user_, Settings()); });
     AddCompany(drive)->required();
     AddUserAndSettings(drive);
 }
@@ -153,7 +171,7 @@ void Commands::AddTour() {
 #ifdef JXC_VIEW
 void Commands::AddOpen() {
     CLI::App& open = Add("open", "打开主窗口", [this] {
-        return RunWindows({company_, sample_, user_, ReadSettings(settings_)});
+        return RunWindows({company_, sample_, user_, Settings()});
     });
     CLI::Option* company = AddCompany(open);
     open.add_flag("--sample", sample_, "样例公司，没有就建立")->excludes(company);

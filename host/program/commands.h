@@ -2,13 +2,22 @@
 #pragma once
 
 #include <functional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include <CLI/CLI.hpp>
 
+#include "host/property_settings.h"
+
 namespace jxc {
+
+// What was asked for cannot be understood, which shows only behind the command line's grammar. what() is for people.
+class UsageError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
 
 class Commands {
   public:
@@ -19,14 +28,16 @@ class Commands {
 
     // A CLI::ParseError when a command is needed and none was given: without windows nothing opens by itself.
     void RequireOne() const;
-    // Runs the command that was given; without one, the main window. Returns the exit code; what cannot be done is a
-    // std::exception with a text for people.
+    // Runs the command that was given; without one, the main window. Returns the exit code, 1 for a check with
+    // findings; a property or user that is none is a UsageError, what cannot be done another std::exception with a text
+    // for people.
     int Run() const;
 
   private:
     CLI::App& Add(const char* name, const char* purpose, std::function<int()> run);
     CLI::Option* AddCompany(CLI::App& command, const char* purpose = "文件，或 postgresql://... 地址");
     void AddUserAndSettings(CLI::App& command);
+    PropertySettings Settings() const;
     void AddCreate();
     void AddDrive();
     void AddTour();

@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "base/date.h"
+#include "host/exit_status.h"
 #include "host/program/commands.h"
 #include "host/program/words.h"
 
@@ -12,19 +13,21 @@ namespace {
 
 using namespace jxc;
 
-constexpr int kUsage = 2;   // what was asked for cannot be understood
-constexpr int kFailure = 2; // or cannot be done
-
 int RefuseUsage(const CLI::App& app, const CLI::ParseError& error) {
     std::cerr << "用法错误：" << ReasonOf(app, error) << "。用 jxc --help 查看用法。" << std::endl;
     return kUsage;
+}
+
+int Tell(const std::exception& error, int status) {
+    std::cerr << error.what() << std::endl;
+    return status;
 }
 
 // A date that is none would let today's pass for it.
 void RequireFixedDate() {
     const char* fixed = std::getenv("JXC_TODAY");
     if (fixed && *fixed && (!ParseDate(fixed) || std::strlen(fixed) != std::strlen("yyyy-mm-dd")))
-        throw std::runtime_error("环境变量 JXC_TODAY 须为日期 yyyy-mm-dd：" + std::string(fixed));
+        throw UsageError("环境变量 JXC_TODAY 须为日期 yyyy-mm-dd：" + std::string(fixed));
 }
 
 } // namespace
@@ -45,8 +48,9 @@ int main(int argc, char** argv) {
     try {
         RequireFixedDate();
         return commands.Run();
+    } catch (const UsageError& error) {
+        return Tell(error, kUsage);
     } catch (const std::exception& error) {
-        std::cerr << error.what() << std::endl;
-        return kFailure;
+        return Tell(error, kFailure);
     }
 }

@@ -9,6 +9,7 @@
 #include "host/company_address.h"
 #include "host/window/company_users.h"
 #include "host/window/main_window.h"
+#include "host/window/recent_companies.h"
 #include "session/period.h"
 #include "session/session.h"
 #include "view/qt_text.h"
@@ -16,8 +17,6 @@
 namespace jxc {
 
 namespace {
-
-constexpr int kRecent = 8; // companies
 
 QString ShownName(const std::string& company) {
     return DialectOf(company) != 0 ? Q(WithoutPassword(company)) : QFileInfo(Q(company)).fileName();
@@ -126,20 +125,10 @@ void MainWindow::TakeCompany(const std::string& company, CompanyFacts facts) {
                           Q(facts.period));
     FillTree();
     BuildMenus();
-    Remember(company);
-}
-
-// A password is not written down: the server's own file of passwords, or the person, gives it again.
-void MainWindow::Remember(const std::string& company) {
-    if (leavesNoTrace_)
-        return;
-    // From wherever the program is started next.
-    const QString address =
-        DialectOf(company) == 0 ? QFileInfo(Q(company)).absoluteFilePath() : Q(WithoutPassword(company));
-    QStringList recent = memory_.value("recent").toStringList();
-    recent.removeAll(address);
-    recent.prepend(address);
-    memory_.setValue("recent", recent.mid(0, kRecent));
+    for (QAction* command : ofCompany_)
+        command->setEnabled(true);
+    if (!leavesNoTrace_)
+        RecentCompanies(memory_).Remember(company);
 }
 
 // A user who was renamed or went away is followed by the company's first.
@@ -154,20 +143,10 @@ void MainWindow::ReopenCompany() {
 
 void MainWindow::ShowRecent() {
     recent_->clear();
-    for (const QString& company : memory_.value("recent").toStringList())
+    for (const QString& company : RecentCompanies(memory_).List())
         recent_->addAction(ShownName(S(company)), this, [this, company] { OpenCompanyOf(S(company), ""); })
             ->setToolTip(company);
     recent_->setEnabled(!recent_->isEmpty());
-}
-
-// The company that was worked on last is not where it was: the person says where it is now, or looks at the sample.
-bool MainWindow::FindCompany(const std::string& company) {
-    if (AskYesNo(
-            S(windowTitle()),
-            "找不到上次的帐套：\n" + company +
-                "\n\n它可能已经移动、改名，或者所在的磁盘没有接上。\n\n是：查找该帐套。否：打开样例公司。"))
-        Guard([this] { ChooseCompany(); });
-    return HasCompany();
 }
 
 void MainWindow::ChooseCompany() {

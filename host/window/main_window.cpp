@@ -56,6 +56,7 @@ MainWindow::MainWindow() {
     });
     connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { NewDocument(); });
     BuildCompanyMenu();
+    StandWithoutCompany();
     restoreGeometry(memory_.value("mainWindow").toByteArray());
 }
 
@@ -97,6 +98,15 @@ QWidget* MainWindow::CommandPage() {
     return page;
 }
 
+void MainWindow::StandWithoutCompany() {
+    heading_->setText("没有打开帐套");
+    purpose_->setText("请在菜单[帐套]中打开或新建帐套（Ctrl+O 打开）。");
+    recentHeading_->hide();
+    documents_->hide();
+    for (QAction* command : ofCompany_)
+        command->setEnabled(false);
+}
+
 MainWindow::~MainWindow() {
     if (!leavesNoTrace_)
         memory_.setValue("mainWindow", saveGeometry());
@@ -114,8 +124,8 @@ void MainWindow::BuildCompanyMenu() {
     recent_ = company->addMenu("最近的帐套(&R)");
     connect(recent_, &QMenu::aboutToShow, this, [this] { ShowRecent(); });
     company->addSeparator();
-    company->addAction("更换用户(&U)...", this, [this] { Guard([this] { ChangeUser(); }); });
-    company->addAction("备份(&B)...", this, [this] { Guard([this] { BackUp(); }); });
+    ofCompany_ = {company->addAction("更换用户(&U)...", this, [this] { Guard([this] { ChangeUser(); }); }),
+                  company->addAction("备份(&B)...", this, [this] { Guard([this] { BackUp(); }); })};
     company->addSeparator();
     company->addAction("退出(&X)", QKeySequence::Quit, this, [this] { close(); });
     QMenu* help = menuBar()->addMenu("帮助(&H)");

@@ -30,6 +30,9 @@ struct CompanyFacts {
     std::vector<Subject> subjects;
 };
 
+// Whether a company's file is not there; of a server that is known only when it is opened.
+bool IsGone(const std::string& company);
+
 class MainWindow : public QMainWindow {
   public:
     MainWindow();
@@ -38,8 +41,12 @@ class MainWindow : public QMainWindow {
     // Opens a company as `user`, "" for its first one. Failures are told in a box; false then, and the
     // company before stays open.
     bool OpenCompanyOf(const std::string& company, const std::string& user);
-    // Asks where a company is that cannot be found. False when none was opened.
-    bool FindCompany(const std::string& company);
+    // Opens the company that the person worked on last. One that is gone is asked for; where none is opened the
+    // person is asked whether he wants the sample, else the window stands without a company. Who has not worked on any
+    // yet gets the sample.
+    void OpenLastCompany(const std::string& user);
+    // Opens the program's own sample company, which is made on first use.
+    void OpenSample(const std::string& user);
     // The supervisor, rights and company name given here are set whatever the company says of its users and itself;
     // other properties the caller sets himself.
     void StandOver(PropertySettings settings) { settings_ = std::move(settings); }
@@ -55,6 +62,9 @@ class MainWindow : public QMainWindow {
   private:
     void BuildMenus();
     void BuildCompanyMenu();
+    void StandWithoutCompany();
+    bool FindCompany(const std::string& company);
+    bool WantsSample();
     CompanyFacts ReadFacts(const std::string& company, const std::string& user);
     void TakeCompany(const std::string& company, CompanyFacts facts);
     void TakeWithPassword(const std::string& company, const std::string& user);
@@ -68,7 +78,6 @@ class MainWindow : public QMainWindow {
     void ShowDocuments();
     void NewDocument();
     void OpenDocument(int type, std::int32_t key);
-    void Remember(const std::string& company);
     void ShowRecent();
     void ChooseCompany();
     void NewCompany();
@@ -93,6 +102,7 @@ class MainWindow : public QMainWindow {
     RecentDocuments* documents_ = nullptr;
     QLabel* companyLine_ = nullptr;
     QMenu* recent_ = nullptr;
+    std::vector<QAction*> ofCompany_; // commands that need an open company
     QTimer patience_;
     std::vector<QAction*> subjectMenus_;
 };

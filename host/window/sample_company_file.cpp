@@ -7,6 +7,7 @@
 #include "host/company_address.h"
 #include "host/user_settings.h"
 #include "host/window/company_users.h"
+#include "view/qt_text.h"
 
 namespace jxc {
 
@@ -31,6 +32,18 @@ void MakeSampleCompany(const std::string& file) {
         }
         throw;
     }
+}
+
+std::string SampleCompanyFile() {
+    return S(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/lzJxc/样例公司.db");
+}
+
+std::string OwnSampleCompany() {
+    const std::string file = SampleCompanyFile();
+    QDir().mkpath(QFileInfo(Q(file)).path());
+    if (!QFileInfo::exists(Q(file)))
+        MakeSampleCompany(file);
+    return file;
 }
 
 } // namespace jxc

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <iostream>
+#include <stdexcept>
 
 #include "host/window/main_window.h"
 #include "host/window/sample_company_file.h"
@@ -171,7 +172,7 @@ int TakePictures(const std::string& folder) {
     window.LeaveNoTrace();
     window.show();
     if (!window.OpenCompanyOf(company, ""))
-        return 1;
+        throw std::runtime_error("不能打开样例公司。");
     PictureBook book(window, Q(folder));
     book.Script().Then([&window] { window.SelectItem("入库单"); });
     book.Take("main");
@@ -182,8 +183,8 @@ int TakePictures(const std::string& folder) {
     Editors(book);
     book.Script().Run();
     if (!book.Script().Failure().empty())
-        std::cerr << book.Script().Failure() << std::endl;
-    return book.Script().Failure().empty() ? 0 : 1;
+        throw std::runtime_error(book.Script().Failure());
+    return 0;
 }
 
 } // namespace jxc

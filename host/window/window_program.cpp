@@ -1,24 +1,14 @@
 #include "host/window/window_program.h"
 
 #include <cstdlib>
+#include <stdexcept>
 
-#include "host/company_address.h"
 #include "host/window/main_window.h"
-#include "host/window/sample_company_file.h"
 #include "host/window/windows_in_use.h"
-#include "view/qt_text.h"
 
 namespace jxc {
 
 namespace {
-
-std::string LastCompany() {
-    return S(QSettings("lzJxc", "jxc").value("recent").toStringList().value(0));
-}
-
-bool IsGone(const std::string& company) {
-    return DialectOf(company) == 0 && !QFileInfo::exists(Q(company));
-}
 
 // Without a display the toolkit would end the program without a word.
 void RequireDisplay() {
@@ -27,15 +17,6 @@ void RequireDisplay() {
             return;
     throw std::runtime_error(
         "没有图形显示（DISPLAY 或 WAYLAND_DISPLAY），不能打开窗口；其他命令见 jxc --help。");
-}
-
-std::string SampleCompany() {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/lzJxc";
-    QDir().mkpath(folder);
-    const QString file = folder + "/样例公司.db";
-    if (!QFileInfo::exists(file))
-        MakeSampleCompany(S(file));
-    return S(file);
 }
 
 } // namespace
@@ -50,16 +31,14 @@ int RunWindows(const WindowStart& start) {
     const WindowsInUse windows;
     MainWindow window;
     window.StandOver(settings);
-    std::string wanted = company;
-    if (wanted.empty() && !sample)
-        wanted = LastCompany();
     window.show();
-    if (!wanted.empty() && IsGone(wanted) && window.FindCompany(wanted))
-        return QApplication::exec();
-    if (wanted.empty() || IsGone(wanted))
-        wanted = SampleCompany();
-    if (!window.OpenCompanyOf(wanted, user.empty() ? control.UserName() : user) && company.empty() && !sample)
-        window.OpenCompanyOf(SampleCompany(), "");
+    const std::string signsIn = user.empty() ? control.UserName() : user;
+    if (sample)
+        window.OpenSample(signsIn);
+    else if (company.empty())
+        window.OpenLastCompany(signsIn);
+    else
+        window.OpenCompanyOf(company, signsIn);
     return QApplication::exec();
 }
 

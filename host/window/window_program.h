@@ -15,13 +15,16 @@ struct WindowStart {
     PropertySettings settings = {}; // see MainWindow::StandOver
 };
 
-// Shows the main window with the company; where there is no last one, with the sample company, which is made among
-// the program's own data on first use. Returns the exit code when the window has been closed. Properties that
-// cannot be set, a company that is not there and a missing display are a std::runtime_error before any window.
+// Shows the main window with the company; where nobody has worked on one yet, with the sample company, which is made
+// among the program's own data on first use. A last company that is gone or cannot be opened is told, and the window
+// stands without one unless the person wants the sample. Returns the exit code when the window has been closed.
+// Properties that cannot be set, a company that is not there and a missing display are a std::runtime_error before any
+// window.
 int RunWindows(const WindowStart& start);
 
 // Drives the windows through a sample company made for it and saves a picture of each as PNG in `folder`,
-// which is made if it is missing. Works without a display. Returns the exit code.
+// which is made if it is missing. Works without a display. Returns the exit code; a window that does not do what
+// it is told is a std::runtime_error.
 int TakePictures(const std::string& folder);
 
 } // namespace jxc

@@ -7,6 +7,7 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include "host/exit_status.h"
 #include "host/screens.h"
 #include "session/components.h"
 #include "view/page_printer.h"
@@ -24,7 +25,7 @@ void TellMessage(QtMsgType type, const QMessageLogContext& context, const QStrin
     if (isStarting && type == QtFatalMsg) {
         std::cerr << "不能打开窗口：连接不上图形显示（DISPLAY 或 WAYLAND_DISPLAY）；其他命令见 jxc --help。"
                   << std::endl;
-        std::_Exit(2);
+        std::_Exit(kFailure);
     }
     if (!text.startsWith("This plugin does not support propagateSizeHints"))
         std::cerr << S(qFormatLogMessage(type, context, text)) << std::endl;

@@ -195,6 +195,14 @@ TEST_P(EnginesAlike, TextsThatNoEngineMayGet) {
         EXPECT_TRUE(IsStorable(text)) << text;
 }
 
+TEST(StorableText, IsReadableWhateverItHolds) {
+    EXPECT_EQ(Readable("单据 A\xff\xe4\xb8"
+                       "B"),
+              "单据 A\uFFFD\uFFFD\uFFFDB");
+    EXPECT_EQ(Readable(std::string_view("\0é", 3)), "\uFFFDé");
+    EXPECT_EQ(Readable(""), "");
+}
+
 } // namespace
 
 } // namespace jxc::test

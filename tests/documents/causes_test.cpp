@@ -8,7 +8,10 @@
 
 #include "base/log.h"
 #include "controls/gestures.h"
+#include "database/postgres_engine.h"
 #include "database/waiting.h"
+#include "documents/frmDj01.h"
+#include "host/editors/frmHostCards.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
 
@@ -201,6 +204,72 @@ TEST_P(LostLineOfAClerk, LeavesWhatWasTyped) {
     EXPECT_TRUE(clerk->Approve(1, key)) << clerk->LastBox();
     EXPECT_EQ(RowsOf("Select fInvNo From tJXC_CkDj01 Where fInvType=1 Order By fInvNo"),
               (Lines{"20261105RK001", "20261105RK002"}));
+}
+
+// A list or an editor that stood open while the server was away goes on as if nothing had been.
+TEST_P(LostLineOfAClerk, IsNotNoticedByWhoOnlyReads) {
+    Connection other;
+    OpenCompanyAt(company->Address(), other);
+    ASSERT_GT(clerk->Save(TypicalDocument(1)), 0);
+    const auto cut = [&](Screen& screen, Button& button) {
+        CutLinesOfOthers(other);
+        const size_t boxes = clerk->view.boxes.size();
+        Click(screen, button);
+        EXPECT_EQ(clerk->view.boxes.size(), boxes) << button.name << ": " << clerk->LastBox();
+    };
+    auto& list = static_cast<frmDj01&>(ScreenNamed("frmDj01"));
+    list.SetProperty("invType", 1);
+    clerk->view.OnScreen("frmDj01", [&](Screen&) {
+        cut(list, list.cmdList);
+        EXPECT_EQ(list.Grid1.RowCount(), 1);
+    });
+    ShowModal(list);
+    frmHostCards cards;
+    clerk->view.OnScreen("frmHostCards", [&](Screen&) {
+        cut(cards, cards.cmdSeek);
+        cut(cards, cards.cmdChange);
+        EXPECT_EQ(cards.mode, EditorMode::Change);
+    });
+    ShowModal(cards);
+}
+
+// A server that stays away is told in the language of the program; what the engine says of it stands behind.
+TEST_P(LostLineOfAClerk, IsToldWithItsCauseBehind) {
+    Connection other;
+    OpenCompanyAt(company->Address(), other);
+    auto engine = std::make_unique<PostgresEngine>(ServerAddress{company->Address(), "", "", ""});
+    Conn().Open(std::move(engine),
+                []() -> std::unique_ptr<Engine> { throw DatabaseError("connection refused"); });
+    CutLinesOfOthers(other);
+    EXPECT_FALSE(Attempt("入库单", [] { Conn().Query("Select count(*) From tJXC_Ck"); }));
+    EXPECT_EQ(clerk->LastBox(), "与服务器的连接已中断。");
+    EXPECT_EQ(clerk->view.boxes.back().details, "connection refused");
+    const std::string log = FileText(LogFile());
+    EXPECT_NE(log.find("[入库单] 与服务器的连接已中断。 connection refused"), std::string::npos) << log;
+    EXPECT_NE(log.find("[database] "), std::string::npos) << log; // what the engine said of the first loss
+}
+
+// Nearly all goods go back for next to nothing: what stays, 0.01 pieces worth 9,999,998,990.0001, would cost
+// 999,999,899,000 each. All of them may go back.
+TEST_P(Causes, OfAnApprovalThatWouldLeaveAnAbsurdCost) {
+    DocumentInput receipt = TypicalDocument(1), back = TypicalDocument(-1);
+    receipt.lines = {{"CAM001", 1000, 9'999'999}};
+    const int received = Approved(receipt);
+    back.lines = {{"CAM001", 999.99, 0.01}};
+    const int nearlyAll = clerk->Save(back);
+    ASSERT_GT(nearlyAll, 0) << clerk->LastBox();
+    const Lines before = Books();
+    EXPECT_FALSE(clerk->Approve(-1, nearlyAll));
+    EXPECT_EQ(clerk->LastBox(), "更新仓库的产品“库存成本表”错误，审核操作未完成！");
+    EXPECT_NE(clerk->view.boxes.back().details.find("的成本价或库存金额超出范围"), std::string::npos)
+        << clerk->view.boxes.back().details;
+    EXPECT_EQ(Changes(before, Books()), Lines{});
+
+    back.lines = {{"CAM001", 1000, 0.01}};
+    const int all = clerk->Save(back);
+    ASSERT_GT(all, 0) << clerk->LastBox();
+    EXPECT_TRUE(clerk->Approve(-1, all)) << clerk->view.boxes.back().details;
+    EXPECT_TRUE(clerk->Reverse(1, received)) << clerk->LastBox();
 }
 
 TEST_P(Causes, FillALogThatDoesNotGrowForever) {

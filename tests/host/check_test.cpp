@@ -25,6 +25,9 @@ const Damage kDamages[] = {
     {"Update tJXC_CkTj Set fKcSL=fKcSL+5,fKcJE=(fKcSL+5)*fKcDj", "fKcSL 为"},
     {"Update tJXC_CkTj Set fKcDj=fKcDj*2,fKcJE=fKcJE*2 Where fRkSl>0", "fKcDj 为"},
     {"Update tJXC_CkTj Set fKcJE=fKcJE+100", "fKcJE 为"},
+    {"Update tJXC_CkTj Set fMonth='2026-10-01' Where fCkName='代销仓'", "月份 2026-10 与库存表的其他行不同"},
+    {"Update tJXC_CkTj Set fMonth='2026-10-01' Where fCkName='代销仓';Update tJXC_CkTj Set fRkSl=fRkSl+50",
+     "fRkSl 为"},
     {"Delete From tJXC_CkTj Where fCkName='代销仓'", "库存表没有该行"},
     {"Update tJXC_CkTj Set fCkName='没有的仓' Where fCkName='代销仓'", "仓库已不存在而有库存"},
     {"Update tJXC_CkTj Set fKcDj=9e999,fKcJE=9e999 Where fCkName='代销仓'", "不是正常的数值"},
@@ -44,7 +47,11 @@ const Damage kDamages[] = {
     {"Delete From tJXC_CkDj02 Where fInvType=4", "没有明细"},
     {"Delete From tJXC_CkDj01 Where fInvType=4", "有 2 行明细而没有单据"},
     {"Insert Into tJXC_CkDj02 Select * From tJXC_CkDj02 Where fInvType=1", "行重复"},
+    {"Update tJXC_CkDj02 Set fRowID=1 Where fInvType=1", "行重复"},
+    {"Update tJXC_CkDj02 Set fRowID=null Where fInvType=1", "2 行没有行号"},
     {"Update tJXC_CkHt02 Set fInvSL=null", "数值为空或超出范围"},
+    {"Update tJXC_CkDj02 Set fInvTaxRate=5 Where fInvType=1", "税率 5 不在 0 与 1 之间"},
+    {"Update tJXC_CkHt02 Set fInvTaxRate=-0.17", "税率 -0.17 不在 0 与 1 之间"},
     {"Update tJXC_CkDj02 Set fInvSL=9e999 Where fInvType=2", "数值为空或超出范围"},
     {"Update tJXC_CkDj02 Set fInvSL=0 Where fInvType=2", "数量为 0"},
     {"Update tJXC_CkJh01 Set fInvHbDl=0;Update tJXC_CkJh02 Set fInvHbDl=0", "不大于 0"},
@@ -195,9 +202,9 @@ TEST_P(CheckOfBooks, IsSilentAboutWhatIsLawful) {
         "Update tJXC_InvSet Set fSetNoUse_=1 Where fSetNo=3",
         "Update tJXC_InvSet Set fSetCrType1=3-fSetCrType1 Where fSetNo=32",
         "Update tJXC_Cp Set fCpPrice0=fCpPrice0*1.5",
-        "Update tJXC_CkTj Set "
+        "Update tJXC_CkTj Set " // closed, and not refreshed since
         "fMonth='2026-10-01',fRkSl=fRkSl+1,fKcSL=fKcSL+1,fRkJe=fRkJe+fKcDj,fKcJE=(fKcSL+1)*fKcDj"
-        " Where fCkName='代销仓' And fRkSl<>0",
+        " Where fRkSl<>0 Or fCkName<>'代销仓'",
         "Update tJXC_CkDj01 Set fFlag=1",
         "Insert Into tAccountDetail (fAcntNo,fDate,fCompID,fType1,fType2,fMoneyA,fMoneyB,fBrief) Values "
         "('','2026-11-05',0,0,1,1,0,'手工')"};
@@ -207,6 +214,41 @@ TEST_P(CheckOfBooks, IsSilentAboutWhatIsLawful) {
         EXPECT_EQ(CheckCompany(), Lines{}) << sql;
         Conn().RollbackTrans();
     }
+}
+
+// Tax of 17% on 1000: 170 on top of it, 145.30 contained in it.
+TEST_P(CheckOfBooks, KnowsBothWaysOfTax) {
+    DocumentInput receipt = TypicalDocument(1);
+    receipt.lines = {{"CPU002", 1, 1000}};
+    const std::string line = " Where fInvID=" + std::to_string(Approved(receipt));
+    const auto findings = [&](int way, const char* tax) {
+        Do("Update tJXC_InvSys Set fSysTaxWay=" + std::to_string(way));
+        Do("Update tJXC_CkDj02 Set fInvTaxRate=0.17,fInvTax=" + std::string(tax) + line);
+        return CheckCompany();
+    };
+    for (const int way : {0, 1, 2})
+        for (const char* tax : {"170", "145.30"}) // the company may have changed its way since
+            EXPECT_EQ(findings(way, tax), Lines{}) << way << " " << tax;
+    EXPECT_EQ(findings(0, "150"), Lines{}); // its amount may have been changed while no tax was taken
+    for (const int way : {1, 2})
+        for (const char* tax : {"150", "-170", "null"}) {
+            const Lines found = findings(way, tax);
+            ASSERT_EQ(found.size(), 1U) << testing::PrintToString(found);
+            EXPECT_NE(found[0].find("不符合金额 1000 与税率 0.17"), std::string::npos) << found[0];
+        }
+}
+
+// What the screens take, or leave behind, is no more than worth a look.
+TEST_P(CheckOfBooks, NotesWhatIsLawfulAndRare) {
+    DocumentInput late = TypicalDocument(1);
+    late.date = "2199-01-01";
+    Approved(late);
+    Do("Update tJXC_CkDj01 Set fHtNo='XS-9' Where fInvType=2 And fInvSHR<>''"); // an order deleted since
+    Lines notes;
+    EXPECT_EQ(CheckCompany(&notes), Lines{});
+    ASSERT_EQ(notes.size(), 2U) << testing::PrintToString(notes);
+    EXPECT_NE(notes[0].find("日期 2199-01-01 少见"), std::string::npos) << notes[0];
+    EXPECT_NE(notes[1].find("订单 XS-9 不存在，可能已在审核之后删除"), std::string::npos) << notes[1];
 }
 
 // A refresh up to a date and a reverse close leave the whole table behind the documents: one line, not one a row.

@@ -84,16 +84,16 @@ TEST_F(Program, RefusesWhatItCannotUnderstandInOneWay) {
     for (const char* date : {"2026-13-01", "tomorrow", "'2026-11-05 or so'"})
         ExpectEnd(Jxc("create " + File("a.db"), std::string("JXC_TODAY=") + date), 2, "JXC_TODAY 须为日期");
     EXPECT_FALSE(std::filesystem::exists(File("a.db")));
-    ExpectEnd(Jxc("check " + File("absent.db")), 2, "不存在");
+    ExpectEnd(Jxc("check " + File("absent.db")), 3, "不存在");
 }
 
 TEST_F(Program, NeedsADisplayForWindowsOnly) {
     ExpectEnd(Jxc("create " + File("a.db")), 0, "帐套已建立");
     ExpectEnd(Jxc("check " + File("a.db")), 0, "全部相符");
 #ifdef JXC_VIEW
-    ExpectEnd(Jxc(""), 2, "没有图形显示");
-    ExpectEnd(Jxc("open " + File("a.db")), 2, "没有图形显示");
-    ExpectEnd(Jxc("open " + File("a.db"), "DISPLAY=:9876"), 2, "不能打开窗口：连接不上图形显示");
+    ExpectEnd(Jxc(""), 3, "没有图形显示");
+    ExpectEnd(Jxc("open " + File("a.db")), 3, "没有图形显示");
+    ExpectEnd(Jxc("open " + File("a.db"), "DISPLAY=:9876"), 3, "不能打开窗口：连接不上图形显示");
 #else
     ExpectEnd(Jxc(""), 2, "缺少命令");
     ExpectEnd(Jxc("open x y"), 2, "不认识的命令或选项：open x y。");
@@ -111,9 +111,31 @@ TEST_F(Program, SetsPropertiesByTheirNames) {
         ExpectEnd(Jxc(start + "ZgName=a --set noSuch=b"), 2, "noSuch");
         ExpectEnd(Jxc(start + "myType=many"), 2, "myType");
     }
+    for (const std::string& command : commands)
+        ExpectEnd(Jxc(command + " " + File("a.db") + " --user \"$(printf '\\377\\376')\""), 2,
+                  "--user 的用户名含有无效字符");
     ExpectEnd(Jxc("drive " + File("a.db") + " --set ZgName=a=b --set myType=1 --set myType=2"), 0, "");
     if (HasWindows())
-        ExpectEnd(Jxc("open " + File("a.db") + " --set ZgName=a --set myType=1"), 2, "没有图形显示");
+        ExpectEnd(Jxc("open " + File("a.db") + " --set ZgName=a --set myType=1"), 3, "没有图形显示");
+}
+
+TEST_F(Program, TellsFindingsAndNotesOfTheBooksApart) {
+    ExpectEnd(Jxc("create " + File("a.db")), 0, "帐套已建立");
+    const auto change = [&](const char* sql) {
+        SqliteEngine(File("a.db"), SqliteFile::Open).ExecuteScript(sql);
+    };
+    change("insert into tJXC_CkTj "
+           "(fCkName,fCpID,fQcSl,fRkSl,fCkSl,fDkSl,fPdSl,fQcJe,fRkJe,fCkJe,fKcSL,fKcDj,fKcJE,"
+           "fMonth) values ('空仓',1,0,0,0,0,0,0,0,0,0,0,0,'2001-01-01')");
+    const Ended noted = Jxc("check " + File("a.db"));
+    ExpectEnd(noted, 0, "提示：库存统计仍是以前月份的");
+    ExpectEnd(noted, 0, "帐套检查：没有发现错误，另有 1 处提示。");
+    EXPECT_EQ(noted.told.find("全部相符"), std::string::npos) << noted.told;
+    change("insert into tJXC_CkDj01 (fInvID,fInvNo,fInvType) values (1,cast(x'41ff42' as text),1)");
+    const Ended found = Jxc("check " + File("a.db"));
+    ExpectEnd(found, 1, "单据 A\uFFFDB：没有明细");
+    EXPECT_EQ(found.told.find('\xff'), std::string::npos);
+    EXPECT_EQ(found.told.find("没有发现错误"), std::string::npos) << found.told;
 }
 
 TEST_F(Program, TakesPicturesInACompanyOfItsOwn) {
@@ -130,7 +152,7 @@ TEST_F(Program, TakesPicturesInACompanyOfItsOwn) {
 TEST_F(Program, PlaysItsTourInASampleOnly) {
     ExpectEnd(Jxc("create " + File("mine.db")), 0, "帐套已建立");
     SqliteEngine(File("mine.db"), SqliteFile::Open).SetVersion(0); // as an older program left it
-    ExpectEnd(Jxc("tour " + File("mine.db")), 2, "不是样例公司");
+    ExpectEnd(Jxc("tour " + File("mine.db")), 3, "不是样例公司");
     EXPECT_EQ(SqliteEngine(File("mine.db"), SqliteFile::Read).Version(), 0); // and so it stays
     ExpectEnd(Jxc("tour " + File("new.db"), "JXC_TODAY=2026-11-05"), 0, "全部相符");
 }
@@ -150,10 +172,10 @@ TEST_F(Program, HasAManualOfEveryOption) {
 
 TEST_F(ProgramOnServer, SaysWhatStandsInTheWay) {
     const std::string owner = Address("postgres");
-    ExpectEnd(Jxc("create " + owner), 2, "数据库 " + database + " 不存在");
+    ExpectEnd(Jxc("create " + owner), 3, "数据库 " + database + " 不存在");
     ExpectEnd(Jxc("create --create-database " + owner), 0, "帐套已建立");
-    ExpectEnd(Jxc("create " + owner), 2, "中已有帐套");
-    ExpectEnd(Jxc("check " + Address(guest)), 2, "没有读取表");
+    ExpectEnd(Jxc("create " + owner), 3, "中已有帐套");
+    ExpectEnd(Jxc("check " + Address(guest)), 3, "没有读取表");
 }
 
 TEST_F(ProgramOnServer, PlaysItsTourInASampleOnly) {
@@ -161,7 +183,7 @@ TEST_F(ProgramOnServer, PlaysItsTourInASampleOnly) {
     for (int times = 0; times < 2; ++times) // makes its sample, and plays in it again
         ExpectEnd(Jxc("tour " + Address("postgres"), "JXC_TODAY=2026-11-05"), 0, "全部相符");
     OnServer("update mycompany set compname = 'mine'", database);
-    ExpectEnd(Jxc("tour " + Address("postgres")), 2, "不是样例公司");
+    ExpectEnd(Jxc("tour " + Address("postgres")), 3, "不是样例公司");
 }
 
 } // namespace jxc::test

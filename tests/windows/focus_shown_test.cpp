@@ -1,6 +1,9 @@
 // The focus is to be seen wherever the keyboard goes, and only there.
 #include "documents/frmDj01.h"
 #include "documents/frmDj02.h"
+#include "session/components.h"
+#include "session/screens.h"
+#include "settings/frmRs_RptSet.h"
 #include "tests/windows/window_fixture.h"
 
 namespace jxc::test {
@@ -71,6 +74,51 @@ TEST_F(FocusShown, AtEveryStopOfTheEntryAndOfTheList) {
         const auto stops = Walk();
         EXPECT_TRUE(AnyOf<QRadioButton>(stops) && AnyOf<QCheckBox>(stops)) << stops.size();
     });
+}
+
+TEST_F(FocusShown, AtEveryStopOfTheEditors) {
+    for (const ScreenEntry& editor : ScreenEntries()) {
+        if (!editor.openedByName)
+            continue;
+        person.Next([&] {
+            EXPECT_GT(Walk().size(), 1U) << editor.name;
+            person.Press(Qt::Key_C, Qt::AltModifier); // the fields are usable now
+            EXPECT_GT(Walk().size(), 3U) << editor.name;
+        });
+        OpenByName(editor.name);
+    }
+    EXPECT_EQ(person.Boxes(), Texts{});
+}
+
+TEST_F(FocusShown, AtEveryStopOfTheSmallScreens) {
+    const OpenCompany open(company.Address());
+    const auto walksThrough = [&](const char* table, const char* code, BriefKind kind) {
+        person.Next([&] {
+            person.Find("cmdOk").setFocus(); // the cells of the grid are one stop, to be met on the way
+            const auto stops = Walk();
+            EXPECT_TRUE(AnyOf<QTableView>(stops) && AnyOf<QPushButton>(stops))
+                << static_cast<int>(kind) << ": " << stops.size();
+        });
+        ComponentsInUse().codeLists->Edit(table, code, kind);
+    };
+    walksThrough("", "99999999", BriefKind::ChooseList);
+    walksThrough("", "2010", BriefKind::EditEntries);
+    walksThrough("tJXC_Cp", "", BriefKind::SelectColumns);
+    auto& field = static_cast<frmRs_RptSet&>(ScreenNamed("frmRs_RptSet"));
+    field.TabelName = "tJXC_Cp";
+    field.Field = "fCpCw";
+    person.Next([&] { EXPECT_TRUE(AnyOf<QLineEdit>(Walk())); });
+    ShowModal(field);
+    EXPECT_EQ(person.Boxes(), Texts{});
+}
+
+TEST_F(FocusShown, AtEveryStopOfTheStockQuery) {
+    Save(1, true);
+    for (const int action : {4, 5, 6})
+        Open(action, -1, [&] {
+            const auto stops = Walk();
+            EXPECT_TRUE(AnyOf<QTableView>(stops) && AnyOf<QPushButton>(stops)) << action;
+        });
 }
 
 TEST_F(FocusShown, SelectionIsFaintWhileTheFocusIsElsewhere) {

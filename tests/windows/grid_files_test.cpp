@@ -47,8 +47,23 @@ struct Hostile : Screen {
         }
     }
     void Open() override {}
-    const Texts texts{"=cmd|' /C calc'!A0", "+1+1", "-2+3", "@SUM(1)", "\tx", "\ry", "'=1", "'平常", "＝1",
-                      "a\tb\nc\"d\"",       "\"",   "5-3"};
+    const Texts texts{"=cmd|' /C calc'!A0",
+                      "+1+1",
+                      "-2+3",
+                      "@SUM(1)",
+                      "\tx",
+                      "\ry",
+                      "'=1",
+                      "'平常",
+                      "＝1",
+                      "a\tb\nc\"d\"",
+                      "\"",
+                      "5-3",
+                      "x;=cmd|' /C calc'!A0",
+                      "x;\"-1\"",
+                      "x;\t1;＠",
+                      "y\n+1",
+                      "a;b;5-3"};
     Grid Grid1{*this, "Grid1"};
 };
 
@@ -156,7 +171,9 @@ TEST_F(GridFiles, NoTextStartsAFormula) {
         FileText(S(Path("a.csv"))),
         "\xEF\xBB\xBF'=摘要,金额\r\n'=cmd|' /C calc'!A0,-1234.50\r\n'+1+1,-1234.50\r\n'-2+3,-1234.50\r\n"
         "'@SUM(1),-1234.50\r\n'\tx,-1234.50\r\n\"'\ry\",-1234.50\r\n''=1,-1234.50\r\n'平常,-1234.50\r\n"
-        "'＝1,-1234.50\r\n\"a\tb\nc\"\"d\"\"\",-1234.50\r\n\"\"\"\",-1234.50\r\n5-3,-1234.50\r\n");
+        "'＝1,-1234.50\r\n\"a\tb\nc\"\"d\"\"\",-1234.50\r\n\"\"\"\",-1234.50\r\n5-3,-1234.50\r\n"
+        "x;'=cmd|' /C calc'!A0,-1234.50\r\n\"x;'\"\"-1\"\"\",-1234.50\r\nx;'\t1;'＠,-1234.50\r\n"
+        "\"y\n'+1\",-1234.50\r\na;b;5-3,-1234.50\r\n");
     SaveAsXlsx(hostile.Grid1, "=1+1", Path("a.xlsx"));
     const std::string sheet = PartOf(Path("a.xlsx"), kSheet);
     EXPECT_EQ(sheet.find("<f>"), std::string::npos);

@@ -1,5 +1,7 @@
 // A person who types at speed and looks away: nothing goes, and nothing incomplete is saved, without a word.
 #include "documents/frmDj02.h"
+#include "session/components.h"
+#include "session/screens.h"
 #include "tests/windows/window_fixture.h"
 
 namespace jxc::test {
@@ -129,6 +131,122 @@ TEST_F(LostWork, CanBeSavedOnTheWayOut) {
         EXPECT_TRUE(person.Shown<frmDj02>().IsOpen());
         Discard();
     });
+}
+
+const char* const kCardQuestion = "资料尚未保存，放弃所输入的内容？";
+
+class LostCard : public LostWork {
+  protected:
+    void Edit(const char* screen, const std::function<void()>& work) {
+        person.Next(work);
+        OpenByName(screen);
+    }
+    void BeginCard() {
+        person.Press(Qt::Key_A, Qt::AltModifier);
+        person.Enter("K999");
+        person.Compose("远山商行");
+    }
+};
+
+TEST_F(LostCard, IsAskedForBeforeItGoes) {
+    Edit("frmHostCards", [&] {
+        BeginCard();
+        for (const int key : {Qt::Key_Escape, Qt::Key_Escape}) // to the cancel button, out
+            person.Press(key);
+        EXPECT_EQ(person.Boxes(), Texts{kCardQuestion}); // Enter means to stay
+        EXPECT_EQ(person.Text("txtCompName"), "远山商行");
+        person.Click("cmdCancel");
+        EXPECT_EQ(person.Boxes(), Texts{kCardQuestion});
+        person.Front().close(); // by the frame
+        EXPECT_EQ(person.Boxes(), Texts{kCardQuestion});
+        person.Answer(Qt::Key_D);
+        person.Click("cmdCancel");
+        EXPECT_EQ(person.Boxes(), Texts{kCardQuestion});
+        person.Press(Qt::Key_C, Qt::AltModifier); // a change that changes nothing
+        person.Click("cmdCancel");
+        EXPECT_EQ(person.Boxes(), Texts{});
+        EXPECT_TRUE(person.Find("cmdQuit").isEnabled());
+        person.Click("cmdQuit");
+    });
+    EXPECT_EQ(person.Boxes(), Texts{});
+    EXPECT_EQ(Rows("select count(*) from cards where CompCode='K999'"), Texts{"0"});
+}
+
+TEST_F(LostCard, CanBeSavedOnTheWayOut) {
+    Edit("frmHostCards", [&] {
+        BeginCard();
+        person.Answer(Qt::Key_S);
+        person.Click("cmdCancel");
+        EXPECT_EQ(person.Boxes(), Texts{kCardQuestion});
+        EXPECT_TRUE(person.Find("cmdQuit").isEnabled()); // not at the next card
+        person.Press(Qt::Key_A, Qt::AltModifier);
+        person.Enter("K999"); // taken by now
+        person.Compose("另一家");
+        person.Answer(Qt::Key_S);
+        person.Click("cmdCancel");
+        EXPECT_EQ(person.Boxes(), (Texts{kCardQuestion, "[编号] K999 已有存在！"}));
+        EXPECT_EQ(person.Text("txtCompName"), "另一家");
+        person.Answer(Qt::Key_D);
+        person.Click("cmdCancel");
+    });
+    person.Boxes();
+    EXPECT_EQ(Rows("select CompName from cards where CompCode='K999'"), Texts{"远山商行"});
+}
+
+// The list behind the summaries of documents: opened, changed, left.
+TEST_F(LostCard, IsAnEntryOfACodeListToo) {
+    const OpenCompany open(company.Address());
+    const char* const question = "代码表尚未保存，放弃所作的修改？";
+    const auto change = [&](const std::function<void()>& work) {
+        person.Next([&] {
+            person.ClickCell("Grid1", 1, 2);
+            person.Enter("Z");
+            work();
+        });
+        ComponentsInUse().codeLists->Edit("", "2010", BriefKind::EditEntries);
+    };
+    const auto stored = [&] { return Rows("select BriefName from BriefDetail where BriefName='Z'"); };
+    change([&] {
+        for (const int key : {Qt::Key_Escape, Qt::Key_Escape})
+            person.Press(key);
+        EXPECT_EQ(person.Boxes(), Texts{question});
+        person.Answer(Qt::Key_D);
+        person.Click("cmdCancel");
+        EXPECT_EQ(person.Boxes(), Texts{question});
+    });
+    EXPECT_EQ(stored(), Texts{});
+    change([&] {
+        person.Answer(Qt::Key_S);
+        person.Click("cmdCancel");
+        EXPECT_EQ(person.Boxes(), Texts{question});
+    });
+    EXPECT_EQ(stored(), Texts{"Z"});
+}
+
+// What is chosen and ticked beside the fields is work too.
+TEST_F(LostCard, HoldsMoreThanTexts) {
+    const auto asksAfter = [&](const char* screen, const std::function<void()>& work) {
+        Edit(screen, [&] {
+            person.Press(Qt::Key_C, Qt::AltModifier);
+            work();
+            person.Answer(Qt::Key_D);
+            person.Click("cmdCancel");
+            EXPECT_EQ(person.Boxes(), Texts{kCardQuestion}) << screen;
+        });
+    };
+    asksAfter("frmHostCards", [&] {
+        person.Find("cboType0").setFocus();
+        person.Press(Qt::Key_Up);
+    });
+    asksAfter("frmHostMoneys", [&] {
+        person.Find("chkMoneyType").setFocus();
+        person.Press(Qt::Key_Space);
+    });
+    asksAfter("frmHostCompany", [&] {
+        person.Find("dtpCompDate").setFocus();
+        person.Press(Qt::Key_Up);
+    });
+    asksAfter("frmHostUsers", [&] { person.ClickCell("Grid2", 1, 2); });
 }
 
 } // namespace

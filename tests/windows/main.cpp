@@ -1,4 +1,4 @@
-// The tests of the windows run without a display, and leave the user's own settings alone.
+// The tests of the windows run without a display, and leave the user's own settings and sample alone.
 #include <cstdlib>
 #include <iostream>
 
@@ -22,7 +22,8 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     const QTemporaryDir settings;
-    setenv("XDG_CONFIG_HOME", settings.path().toUtf8().constData(), 1);
+    for (const char* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        setenv(folder, settings.path().toUtf8().constData(), 1);
     qInstallMessageHandler(Tell);
     const jxc::WindowsInUse windows;
     return RUN_ALL_TESTS();

@@ -1,7 +1,9 @@
-// The main window: what it offers of a company, its last documents, another company, and a new one.
+// The main window: what it offers of a company, its last documents, another company, and a new one. Where it begins:
+// last_company_test.cpp.
 #include <QTest>
 
 #include "host/window/main_window.h"
+#include "session/session.h"
 #include "tests/windows/window_fixture.h"
 
 namespace jxc::test {
@@ -143,20 +145,30 @@ TEST_F(Main, RemembersWhereACompanyIsAndNothingElse) {
     EXPECT_EQ(recent(), QStringList{"/kept.db"});
 }
 
-TEST_F(Main, LooksForACompanyThatIsGone) {
-    MainWindow empty;
-    person.Answer(Qt::Key_N); // rather the sample
-    EXPECT_FALSE(empty.FindCompany("/moved/shop.db"));
-    const Texts asked = person.Boxes();
-    ASSERT_EQ(asked.size(), 1U);
-    EXPECT_EQ(asked[0].rfind("找不到上次的帐套：\n/moved/shop.db", 0), 0U) << asked[0];
-    person.Next([&] {
-        person.Find<QLineEdit>("companyAddress").setText(Q(company.Address()));
-        person.Press(Qt::Key_Return);
-    });
-    person.Answer(Qt::Key_Y);
-    EXPECT_TRUE(empty.FindCompany("/moved/shop.db"));
-    person.Boxes();
+// What a host says of the user and the company stands above what the company says, for each company that is opened.
+TEST_F(Main, StandsOverWhatTheCompanySaysOfItsUsers) {
+    const std::string user = session.UserName;
+    EXPECT_EQ(session.ZgName, user);
+    EXPECT_NE(window.FindEntry("用户与权限", "打开"), nullptr);
+    EXPECT_NE(window.FindEntry("客户资料", "打开"), nullptr);
+    window.StandOver({{"ZgName", "张三"}, {"myPower", "0000"}, {"CompName", "分店"}});
+    for (int times = 0; times < 2; ++times) {
+        ASSERT_TRUE(window.OpenCompanyOf(company.Address(), ""));
+        EXPECT_EQ(session.UserName, user);
+        EXPECT_EQ(session.ZgName, "张三");
+        EXPECT_EQ(session.myPower, "0000");
+        EXPECT_EQ(S(window.windowTitle()), "lzJxc 进销存 — 分店");
+        EXPECT_EQ(window.FindEntry("客户资料", "打开"), nullptr); // that right is missing
+        const Texts master = Branch("资料");
+        EXPECT_EQ(std::count(master.begin(), master.end(), "客户资料"), 0);
+        EXPECT_EQ(std::count(master.begin(), master.end(), "货币"), 1); // needs none
+        EXPECT_EQ(Menu("资料(&D)"), master);
+    }
+    window.StandOver({});
+    ASSERT_TRUE(window.OpenCompanyOf(company.Address(), ""));
+    EXPECT_EQ(session.ZgName, user);
+    EXPECT_NE(window.FindEntry("客户资料", "打开"), nullptr);
+    EXPECT_EQ(person.Boxes(), Texts{});
 }
 
 } // namespace
