@@ -74,14 +74,12 @@ std::string CauseOf(const std::exception& error) {
     } catch (const std::exception& cause) {
         return cause.what();
     }
-    return "";
+    return error.what();
 }
 
 void WarnOfError(const std::string& title, const std::exception& error) {
-    if (dynamic_cast<const std::runtime_error*>(&error)) {
-        const std::string cause = CauseOf(error);
-        return WarnOfFailure(title, error.what(), cause.empty() ? error.what() : cause);
-    }
+    if (dynamic_cast<const std::runtime_error*>(&error))
+        return WarnOfFailure(title, error.what(), CauseOf(error));
     WarnOfFailure(title, "程序出现内部错误，本次操作没有完成。请把日志交给技术支持：" + LogFile(),
                   std::string(typeid(error).name()) + "：" + error.what());
 }

@@ -3,7 +3,7 @@
 #include <cstdlib>
 
 #include "base/text.h"
-#include "documents/bounds.h"
+#include "documents/figure_bounds.h"
 
 namespace jxc {
 

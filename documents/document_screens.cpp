@@ -2,7 +2,7 @@
 
 #include "documents/frmDj01.h"
 #include "documents/frmDj02.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -188,7 +188,7 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         s.asBegun = TypedWork(s);
         return true;
     } catch (const DatabaseError& error) {
-        WarnOfFailure(s.title, "系统数据错误，操作已经取消！", error.what());
+        WarnOfFailure(s.title, "系统数据错误，操作已经取消！", CauseOf(error));
         return false;
     }
 }

@@ -7,8 +7,8 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "documents/approval/run_approval.h"
-#include "documents/bounds.h"
 #include "documents/document_entry.h"
+#include "documents/figure_bounds.h"
 #include "documents/write_document.h"
 #include "session/dialect.h"
 #include "session/lookups/book.h"
@@ -223,10 +223,10 @@ bool InTransaction(frmDj02& s, const std::function<std::string()>& write) {
         if (refusal.empty())
             transaction.Commit();
     } catch (const CommitUnknown& error) {
-        WarnOfFailure(s.title, CommitUnknownText(s, "存盘"), error.what());
+        WarnOfFailure(s.title, CommitUnknownText(s, "存盘"), CauseOf(error));
         return false;
     } catch (const DatabaseError& error) {
-        WarnOfFailure(s.title, "系统存盘错误，操作已经取消！", error.what());
+        WarnOfFailure(s.title, "系统存盘错误，操作已经取消！", CauseOf(error));
         return false;
     }
     return refusal.empty() || Refuse(s, refusal);

@@ -2,7 +2,7 @@
 // not offer it. Whoever makes one moves its entry to the screen's own folder.
 
 #include "host/screens.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -5,7 +5,7 @@
 
 #include "controls/gestures.h"
 #include "robot/robot_requests.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 
 namespace jxc {
 

@@ -2,7 +2,7 @@
 
 #include "session/company/company_visit.h"
 #include "session/lzjxc.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 
 namespace jxc {
 

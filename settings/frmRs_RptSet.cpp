@@ -3,7 +3,7 @@
 #include "database/recordset.h"
 #include "forms/edit_filter.h"
 #include "session/dialect.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 #include "session/session.h"
 #include "settings/column_dictionary.h"
 #include "settings/frmBrief.h"

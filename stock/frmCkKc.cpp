@@ -10,7 +10,7 @@
 #include "session/lookups/lists.h"
 #include "session/period.h"
 #include "session/printing/print_grid.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 #include "session/session.h"
 #include "stock/stock_query.h"
 

@@ -17,7 +17,7 @@
 #include "database/recordset.h"
 #include "database/row_inserter.h"
 #include "documents/approval/stages.h"
-#include "documents/bounds.h"
+#include "documents/figure_bounds.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"

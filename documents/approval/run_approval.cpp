@@ -178,13 +178,13 @@ std::string Post(const frmDj02& s, bool reversal, const std::string& verb, std::
         transaction.Commit();
         return "";
     } catch (const CommitUnknown& error) {
-        cause = error.what();
+        cause = CauseOf(error);
         return CommitUnknownText(s, verb);
     } catch (const DatabaseError& error) {
-        cause = error.what();
+        cause = CauseOf(error);
         const int failed = Conn().MarkOfFailure();
         if (failed < 0 || failed >= static_cast<int>(stages.size()))
-            return cause; // before the first stage: it could not begin
+            return error.what(); // before the first stage: it could not begin
         return stages[static_cast<size_t>(failed)].name + "错误，" + verb + "操作未完成！";
     }
 }

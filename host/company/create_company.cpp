@@ -5,7 +5,7 @@
 #include "database/engine.h"
 #include "database/schema.h"
 #include "host/company/code_lists.h"
-#include "host/company/column_dictionary.h"
+#include "host/company/default_dictionary.h"
 #include "host/company/default_settings.h"
 #include "host/company/sample_company.h"
 

@@ -1,7 +1,7 @@
 // The company's own money accounts: cash and banks. A retail warehouse posts its takings to one.
 #pragma once
 
-#include "host/editors/list_editor.h"
+#include "forms/list_editor.h"
 
 namespace jxc {
 

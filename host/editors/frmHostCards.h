@@ -1,7 +1,7 @@
 // Cards of customers and suppliers.
 #pragma once
 
-#include "host/editors/list_editor.h"
+#include "forms/list_editor.h"
 
 namespace jxc {
 

@@ -20,7 +20,7 @@ Recordset RowToWrite(const char* statement) {
 
 } // namespace
 
-frmHostCompany::frmHostCompany() : EditorScreen("frmHostCompany", "公司资料") {
+frmHostCompany::frmHostCompany() : RecordEditor("frmHostCompany", "公司资料") {
     Hold(txtFullName, "FullName", "公司全称", 80);
     Hold(txtCompName, "CompName", "公司简称", 40).required = true;
     Hold(txtProvince, "Province", "省份", 20);

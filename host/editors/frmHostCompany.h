@@ -1,11 +1,11 @@
 // The company's own data: what stands at the head of every printout, and the day its books began.
 #pragma once
 
-#include "host/editors/editor_screen.h"
+#include "forms/record_editor.h"
 
 namespace jxc {
 
-struct frmHostCompany : EditorScreen {
+struct frmHostCompany : RecordEditor {
     frmHostCompany();
 
     TextBox txtFullName{*this, "txtFullName"};

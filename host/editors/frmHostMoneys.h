@@ -1,7 +1,7 @@
 // Currencies and their rates; one of them is the home currency.
 #pragma once
 
-#include "host/editors/list_editor.h"
+#include "forms/list_editor.h"
 
 namespace jxc {
 

@@ -2,7 +2,7 @@
 // in becomes the first user, supervisor with all rights.
 #pragma once
 
-#include "host/editors/list_editor.h"
+#include "forms/list_editor.h"
 
 namespace jxc {
 

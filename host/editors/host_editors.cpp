@@ -5,7 +5,7 @@
 #include "host/editors/frmHostCompany.h"
 #include "host/editors/frmHostMoneys.h"
 #include "host/editors/frmHostUsers.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 
 namespace jxc {
 

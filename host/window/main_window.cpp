@@ -2,7 +2,7 @@
 
 #include "controls/view.h"
 #include "host/window/recent_documents.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 #include "session/session.h"
 #include "view/qt_text.h"
 

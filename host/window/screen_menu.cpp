@@ -4,7 +4,7 @@
 
 #include "controls/screen.h"
 #include "database/recordset.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 #include "session/session.h"
 
 namespace jxc {

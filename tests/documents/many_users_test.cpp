@@ -14,7 +14,7 @@
 #include "host/company_address.h"
 #include "session/session.h"
 #include "tests/support/clerk.h"
-#include "tests/support/sample_company.h"
+#include "tests/support/on_sample_company.h"
 
 namespace jxc::test {
 

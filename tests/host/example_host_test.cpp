@@ -5,7 +5,7 @@
 #include "controls/scripted_view.h"
 #include "examples/host/trade.h"
 #include "session/session.h"
-#include "tests/support/sample_company.h"
+#include "tests/support/on_sample_company.h"
 
 namespace jxc::test {
 

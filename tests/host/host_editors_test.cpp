@@ -1,6 +1,6 @@
 // What every editor of the host owes its users: a title as menus name it, a word for every box, a key for
 // every button, and a save that is whole or not at all.
-#include "session/screens.h"
+#include "session/screen_entries.h"
 
 #include <set>
 
@@ -9,7 +9,7 @@
 #include "host/company_address.h"
 #include "host/editors/frmHostCards.h"
 #include "session/session.h"
-#include "tests/support/sample_company.h"
+#include "tests/support/on_sample_company.h"
 
 namespace jxc::test {
 

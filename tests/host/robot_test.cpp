@@ -8,7 +8,7 @@
 #include "host/screens.h"
 #include "robot/robot.h"
 #include "session/session.h"
-#include "tests/support/sample_company.h"
+#include "tests/support/on_sample_company.h"
 
 namespace jxc::test {
 

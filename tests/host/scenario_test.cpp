@@ -8,7 +8,7 @@
 #include "host/company_address.h"
 #include "host/screens.h"
 #include "robot/scenario.h"
-#include "tests/support/sample_company.h"
+#include "tests/support/on_sample_company.h"
 #include "tests/support/scenario_statements.h"
 
 namespace jxc::test {

@@ -16,7 +16,7 @@
 #include "session/rights.h"
 #include "session/session.h"
 #include "settings/document_numbers.h"
-#include "tests/support/sample_company.h"
+#include "tests/support/on_sample_company.h"
 
 namespace jxc::test {
 

@@ -8,7 +8,7 @@
 #include "controls/scripted_view.h"
 #include "documents/frmDj02.h"
 #include "host/company_address.h"
-#include "tests/support/sample_company.h"
+#include "tests/support/on_sample_company.h"
 
 namespace jxc::test {
 

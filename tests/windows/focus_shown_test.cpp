@@ -2,7 +2,7 @@
 #include "documents/frmDj01.h"
 #include "documents/frmDj02.h"
 #include "session/components.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 #include "settings/frmRs_RptSet.h"
 #include "tests/windows/window_fixture.h"
 

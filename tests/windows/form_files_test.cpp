@@ -4,8 +4,8 @@
 
 #include "documents/frmDj01.h"
 #include "documents/frmDj02.h"
+#include "forms/record_editor.h"
 #include "host/company_address.h"
-#include "host/editors/editor_screen.h"
 #include "host/screens.h"
 #include "tests/windows/window_fixture.h"
 #include "view/binding.h"
@@ -153,7 +153,7 @@ TEST_F(Keys, MeanOneThingInTheOtherScreens) {
             continue;
         person.Next([&] {
             ExpectNone(name);
-            if (dynamic_cast<EditorScreen*>(&screen)) {
+            if (dynamic_cast<RecordEditor*>(&screen)) {
                 person.Click("cmdChange");
                 ExpectNone(name);
             }

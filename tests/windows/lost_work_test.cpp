@@ -1,7 +1,7 @@
 // A person who types at speed and looks away: nothing goes, and nothing incomplete is saved, without a word.
 #include "documents/frmDj02.h"
 #include "session/components.h"
-#include "session/screens.h"
+#include "session/screen_entries.h"
 #include "tests/windows/window_fixture.h"
 
 namespace jxc::test {

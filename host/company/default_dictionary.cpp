@@ -1,4 +1,4 @@
-#include "host/company/column_dictionary.h"
+#include "host/company/default_dictionary.h"
 
 #include "host/company/table_writer.h"
 #include "settings/column_dictionary.h"

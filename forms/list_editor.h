@@ -4,7 +4,7 @@
 #include <span>
 
 #include "controls/grid.h"
-#include "host/editors/editor_screen.h"
+#include "forms/record_editor.h"
 
 namespace jxc {
 
@@ -14,7 +14,7 @@ struct Use {
     const char* name;
 };
 
-struct ListEditor : EditorScreen {
+struct ListEditor : RecordEditor {
     // `key`: the table's key field. Columns of Grid1 are set by the editor, the last one hidden for the key.
     ListEditor(std::string name, std::string title, const char* table, const char* key);
 

@@ -1,4 +1,4 @@
-#include "tests/support/sample_company.h"
+#include "tests/support/on_sample_company.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "host/editors/list_editor.h"
+#include "forms/list_editor.h"
 
 #include "base/text.h"
 #include "controls/grid_routines.h"
@@ -92,7 +92,7 @@ MayRefuse RefuseUsedKey(const ListEditor& s) {
 } // namespace
 
 ListEditor::ListEditor(std::string name, std::string title, const char* table, const char* key)
-    : EditorScreen(std::move(name), std::move(title)), table(table), keyField(key) {
+    : RecordEditor(std::move(name), std::move(title)), table(table), keyField(key) {
     Grid1.readOnly = true;
     Grid1.onSelect = [this](int row) { ChooseRow(*this, row); };
     Grid1.onDoubleClick = [this](int) { BeginMode(*this, EditorMode::Change); };
@@ -178,7 +178,7 @@ void ListEditor::ShapeByMode() {
 }
 
 void ListEditor::Clear() {
-    EditorScreen::Clear();
+    RecordEditor::Clear();
     if (mark)
         mark->value = false;
 }

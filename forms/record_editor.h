@@ -1,4 +1,4 @@
-// What the host's own small editors share: text boxes that hold fields, the modes, and one transaction a
+// What editors of one record share: text boxes that hold fields, the modes, and one transaction a
 // save. Browsing shows a record with its boxes disabled; adding, changing and deleting end by saving or
 // cancelling. A finished add stays in add mode, a finished change or delete goes back to browsing.
 #pragma once
@@ -27,8 +27,8 @@ struct EditorField {
     bool unique = false; // no other row holds the same text
 };
 
-struct EditorScreen : Screen {
-    EditorScreen(std::string name, std::string title);
+struct RecordEditor : Screen {
+    RecordEditor(std::string name, std::string title);
     void Open() override;
     std::string UnsavedWork() const override;
     void SaveWork() override;
@@ -66,17 +66,17 @@ struct EditorScreen : Screen {
 };
 
 // What a person can type and choose on the screen, as it stands now: to be compared.
-std::string TypedWork(const EditorScreen& s);
+std::string TypedWork(const RecordEditor& s);
 
-void BeginMode(EditorScreen& s, EditorMode mode);
-void LeaveMode(EditorScreen& s);
+void BeginMode(RecordEditor& s, EditorMode mode);
+void LeaveMode(RecordEditor& s);
 // Checks and stores in one transaction; a refusal is told after it, with nothing changed.
-void SaveRecord(EditorScreen& s);
+void SaveRecord(RecordEditor& s);
 
 // The boxes from the row, empty without one; and the row's fields from the boxes, trimmed.
-void ShowFields(EditorScreen& s, const Recordset& row);
-void WriteFields(const EditorScreen& s, Recordset& row);
+void ShowFields(RecordEditor& s, const Recordset& row);
+void WriteFields(const RecordEditor& s, Recordset& row);
 // A required field without a text.
-MayRefuse RefuseEmptyField(const EditorScreen& s);
+MayRefuse RefuseEmptyField(const RecordEditor& s);
 
 } // namespace jxc

@@ -1,4 +1,4 @@
-#include "host/editors/editor_screen.h"
+#include "forms/record_editor.h"
 
 #include "base/text.h"
 #include "controls/gestures.h"
@@ -12,11 +12,11 @@ namespace jxc {
 
 namespace {
 
-bool IsTyping(const EditorScreen& s) {
+bool IsTyping(const RecordEditor& s) {
     return s.mode == EditorMode::Add || s.mode == EditorMode::Change;
 }
 
-void SetMode(EditorScreen& s, EditorMode mode) {
+void SetMode(RecordEditor& s, EditorMode mode) {
     s.mode = mode;
     const bool browsing = mode == EditorMode::Browse;
     const bool typing = IsTyping(s);
@@ -30,7 +30,7 @@ void SetMode(EditorScreen& s, EditorMode mode) {
 
 } // namespace
 
-EditorScreen::EditorScreen(std::string name, std::string title) : Screen(std::move(name)) {
+RecordEditor::RecordEditor(std::string name, std::string title) : Screen(std::move(name)) {
     this->title = std::move(title);
     cmdChange.onClick = [this] { BeginMode(*this, EditorMode::Change); };
     cmdSave.onClick = [this] { SaveRecord(*this); };
@@ -39,20 +39,20 @@ EditorScreen::EditorScreen(std::string name, std::string title) : Screen(std::mo
     cmdCancel.dropsWork = true;
 }
 
-void EditorScreen::Open() {
+void RecordEditor::Open() {
     LeaveMode(*this);
 }
 
-std::string EditorScreen::UnsavedWork() const {
+std::string RecordEditor::UnsavedWork() const {
     return IsTyping(*this) && TypedWork(*this) != asBegun ? "资料尚未保存，放弃所输入的内容？" : "";
 }
 
-void EditorScreen::SaveWork() {
+void RecordEditor::SaveWork() {
     if (LeaveFocus(*this)) // what stands in the field in hand counts
         SaveRecord(*this);
 }
 
-EditorField& EditorScreen::Hold(TextBox& box, const char* field, const char* caption, int maxBytes,
+EditorField& RecordEditor::Hold(TextBox& box, const char* field, const char* caption, int maxBytes,
                                 bool numeric) {
     box.caption = caption;
     FilterKeys(box, maxBytes, numeric);
@@ -60,12 +60,12 @@ EditorField& EditorScreen::Hold(TextBox& box, const char* field, const char* cap
     return fields.emplace_back(EditorField{&box, field});
 }
 
-void EditorScreen::Clear() {
+void RecordEditor::Clear() {
     for (const EditorField& field : fields)
         field.box->text.clear();
 }
 
-std::string TypedWork(const EditorScreen& s) {
+std::string TypedWork(const RecordEditor& s) {
     std::string work;
     const auto add = [&](const std::string& text) { work.append(text).push_back('\x1f'); };
     for (const Control* control : s.Controls()) {
@@ -80,7 +80,7 @@ std::string TypedWork(const EditorScreen& s) {
     return work;
 }
 
-void BeginMode(EditorScreen& s, EditorMode mode) {
+void BeginMode(RecordEditor& s, EditorMode mode) {
     if (mode != EditorMode::Add && !s.HasRecord())
         return;
     SetMode(s, mode);
@@ -90,13 +90,13 @@ void BeginMode(EditorScreen& s, EditorMode mode) {
     s.MoveFocus(mode == EditorMode::Delete ? static_cast<Control*>(&s.cmdSave) : s.fields.front().box);
 }
 
-void LeaveMode(EditorScreen& s) {
+void LeaveMode(RecordEditor& s) {
     SetMode(s, EditorMode::Browse);
     s.Load();
     s.MoveFocus(&s.Home());
 }
 
-void SaveRecord(EditorScreen& s) {
+void SaveRecord(RecordEditor& s) {
     if (!s.Confirmed())
         return;
     MayRefuse refusal;
@@ -121,17 +121,17 @@ void SaveRecord(EditorScreen& s) {
         BeginMode(s, EditorMode::Add);
 }
 
-void ShowFields(EditorScreen& s, const Recordset& row) {
+void ShowFields(RecordEditor& s, const Recordset& row) {
     for (const EditorField& field : s.fields)
         field.box->text = row.AtEnd() ? "" : row[field.field].AsText();
 }
 
-void WriteFields(const EditorScreen& s, Recordset& row) {
+void WriteFields(const RecordEditor& s, Recordset& row) {
     for (const EditorField& field : s.fields)
         row.Set(field.field, Trim(field.box->text));
 }
 
-MayRefuse RefuseEmptyField(const EditorScreen& s) {
+MayRefuse RefuseEmptyField(const RecordEditor& s) {
     for (const EditorField& field : s.fields)
         if (field.required && Trim(field.box->text).empty())
             return Refusal{"[" + field.box->caption + "]" + GetResStr(34) + "！", field.box};

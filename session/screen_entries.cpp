@@ -1,4 +1,4 @@
-#include "session/screens.h"
+#include "session/screen_entries.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "documents/bounds.h"
+#include "documents/figure_bounds.h"
 
 #include "base/text.h"
 #include "documents/document_entry.h"
