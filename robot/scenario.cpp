@@ -209,14 +209,15 @@ bool IsShownNumber(std::string text) {
 } // namespace
 
 Scenario::Scenario(const std::string& name, const std::string& text, Query query, Execute execute,
-                   Teller tell)
+                   Teller tell, const ScenarioVerbs& verbs)
     : name_(name), query_(std::move(query)), execute_(std::move(execute)), tell_(std::move(tell)) {
     std::istringstream in(text);
     std::string line;
     for (int number = 1; std::getline(in, line); ++number) {
         const std::string trimmed = Trim(line);
         if (!trimmed.empty() && trimmed[0] != '#')
-            lines_.push_back({number, trimmed});
+            for (std::string& stands : verbs.LinesOf(trimmed))
+                lines_.push_back({number, std::move(stands)});
     }
 }
 

@@ -23,7 +23,7 @@
 //     let name select ... | keep name txtNo   keeps a figure of the database or a control's value; ${name} stands
 //                                        for it
 //
-// "#" starts a comment line. Double quotes hold a word with blanks together.
+// Verbs of one's own stand for several lines: see robot/scenario_verbs.h. "#" starts a comment line. Double quotes hold a word with blanks together.
 #pragma once
 
 #include <deque>
@@ -34,6 +34,7 @@
 
 #include "database/connection.h"
 #include "robot/robot.h"
+#include "robot/scenario_verbs.h"
 
 namespace jxc {
 
@@ -44,8 +45,9 @@ class Scenario : public RequestSource {
     using Teller = std::function<void(const std::string& line)>;
 
     // `query` answers the statements of rows and let, `execute` runs those of do, `tell` takes what say and
-    // table write.
-    Scenario(const std::string& name, const std::string& text, Query query, Execute execute, Teller tell);
+    // table write, `verbs` are more words of the language.
+    Scenario(const std::string& name, const std::string& text, Query query, Execute execute, Teller tell,
+             const ScenarioVerbs& verbs = {});
 
     // What did not come as expected, a line each, as "name:line: ...".
     const std::vector<std::string>& Failures() const { return failures_; }

@@ -45,7 +45,8 @@ TEST_P(Scenarios, ComeOutAsWritten) {
         GetParam().file.filename().string(), FileText(GetParam().file),
         [&](const std::string& text) { return QueryCompany(company.Address(), ScenarioStatement(text)); },
         [&](const std::string& sql) { ExecuteOnCompany(company.Address(), sql); },
-        [&](const std::string& line) { told += line + "\n"; });
+        [&](const std::string& line) { told += line + "\n"; },
+        ScenarioVerbs(FileText(std::filesystem::path(JXC_SCENARIOS) / "verbs.txt")));
     for (const std::string& failure : PlayScenario(control, scenario))
         ADD_FAILURE() << failure;
     const OpenCompany open(company.Address());
