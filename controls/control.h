@@ -63,6 +63,7 @@ struct Frame : Control {
 // A command button or a menu item.
 struct Command : Control {
     std::function<void()> onClick;
+    std::string shortcut; // "F9", "Ctrl+P": the key that presses it from anywhere on its screen, "" for none
     bool dropsWork = false; // what was typed and not saved is gone after it: a person is asked first
 
   protected:
@@ -70,8 +71,10 @@ struct Command : Control {
 };
 
 struct Button : Command {
-    Button(Screen& screen, std::string name, std::string caption = "")
-        : Command(screen, std::move(name), ControlKind::Button, std::move(caption)) {}
+    Button(Screen& screen, std::string name, std::string caption = "", std::string shortcut = "")
+        : Command(screen, std::move(name), ControlKind::Button, std::move(caption)) {
+        this->shortcut = std::move(shortcut);
+    }
 };
 
 struct MenuItem : Command {

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/arrangement.h"
 #include "controls/control.h"
 
 namespace jxc {
@@ -30,6 +31,9 @@ struct Screen {
 
     // Loads what the screen shows when it opens. It may show messages, and may Close() the screen again.
     virtual void Open() = 0;
+
+    // How a window without a form file of its own lays the screen out; empty where it has one.
+    virtual Arrangement Arrange() { return {}; }
 
     // What is asked of a person before typed work would be lost; "" when there is none.
     virtual std::string UnsavedWork() const { return ""; }

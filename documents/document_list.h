@@ -28,29 +28,16 @@ void OfferLists(frmDj01& s);
 
 // -- list_query.cpp
 ListQuery BuildQuery(const frmDj01& s);
-// The dates that the filter lets through, one day without a last; nothing without the filter.
-struct DayRange {
-    Date first;
-    std::optional<Date> last;
-};
-std::optional<DayRange> FilteredDays(const frmDj01& s);
+// The conditions of the filters, in the statement's order.
+std::vector<Filter> ListFilters(frmDj01& s);
 
 // -- list_grids.cpp
 // Fills the grid that the query is for and empties the other. Without rows, unless `empties`, everything stays as it
 // is; the number of rows.
 size_t FillGrids(frmDj01& s, const ListQuery& query, bool empties);
-// How the rows of a grid were sorted and which was selected, to be found again when they are filled anew.
-struct SortAndSelection {
-    std::string sortedField; // "" when the rows are in the query's order
-    bool ascending = true;
-    int row = 0;
-    std::int64_t document = 0;
-};
-SortAndSelection KeepSortAndSelection(frmDj01& s, bool lines);
-void RefillList(frmDj01& s, const SortAndSelection& kept);
+void RefillList(frmDj01& s, const KeptPlace& kept);
 // The rows as they are now, in the order and with the document selected that they had.
 void RefreshList(frmDj01& s);
-Grid& GridOf(frmDj01& s, bool lines);
 // The grid in front; null on the filter tab.
 Grid* FrontGrid(frmDj01& s);
 

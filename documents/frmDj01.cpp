@@ -5,8 +5,6 @@
 #include "controls/view.h"
 #include "documents/document_list.h"
 #include "documents/list_columns.h"
-#include "forms/edit_filter.h"
-#include "session/lookups/lists.h"
 #include "session/period.h"
 
 namespace jxc {
@@ -14,7 +12,6 @@ namespace jxc {
 namespace {
 
 const std::string kAllTypes = "仓库明细查询";
-constexpr int kTextBytes = 50;
 
 int ListTab(const frmDj01& s) {
     return s.chkDj.value ? kDocumentTab : kLineTab;
@@ -94,15 +91,7 @@ void WireFilters(frmDj01& s) {
         };
     s.chkInvType.onChange = [&s] { ApplyTickedType(s); };
     s.cboInvType.onChoose = [&s] { ApplyTickedType(s); };
-    for (Control* control : s.Controls())
-        if (auto* box = dynamic_cast<TextBox*>(control)) {
-            FilterKeys(*box, kTextBytes);
-            box->onLeave = [box] { return CheckNoQuote(box->text); };
-        }
-    for (ListBox* list : {&s.cboInvJbr, &s.cboCk[0]})
-        list->onLeave = [list] {
-            return ComboIndexByText(*list, list->text) >= 0 || CheckNoQuote(list->text);
-        };
+    s.filters = Filters(ListFilters(s));
 }
 
 void WireGrids(frmDj01& s) {
@@ -136,7 +125,7 @@ void WireCommands(frmDj01& s) {
         stock.SetProperty("myState", 0);
         ShowModal(stock);
     };
-    s.cmdColSet.onClick = [&s] { ChooseColumns(s); };
+    s.cmdColSet.onClick = [&s] { ChooseListColumns(s); };
     s.cmdQuit.onClick = [&s] { s.Close(); };
 }
 

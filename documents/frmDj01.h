@@ -11,8 +11,10 @@
 #include <string>
 #include <vector>
 
-#include "controls/grid.h"
 #include "controls/screen.h"
+#include "forms/columns.h"
+#include "forms/fields.h"
+#include "forms/filters.h"
 
 namespace jxc {
 
@@ -24,17 +26,6 @@ struct ConversionItem : MenuItem {
         : MenuItem(screen, std::move(name), std::move(caption)), source(source), target(target) {}
     const int source;
     const int target;
-};
-
-// What a column of the list makes of its field.
-enum class Show { Text, Day, Status, Product, Quantity, Price, Amount, Hidden };
-
-struct ListColumn {
-    std::string caption;
-    std::string field;
-    double width;
-    Show show = Show::Text;
-    bool unselected = false; // the company does not want to see it
 };
 
 // What a query asks: its statement, the stem of the book it reads, and whether it gives lines or documents.
@@ -72,49 +63,49 @@ struct frmDj01 : Screen {
     // One name for all three: the first box that is ticked counts.
     CheckBox chkJbr[3]{
         {*this, "chkJbr(0)", "登录人"}, {*this, "chkJbr(1)", "经办人"}, {*this, "chkJbr(2)", "审核人"}};
-    ListBox cboInvJbr{*this, "cboInvJbr", true};
+    ListField cboInvJbr{*this, "cboInvJbr", true};
     CheckBox chkHb{*this, "chkHb", "货币"};
     ListBox cboHb{*this, "cboHb"};
     CheckBox chkDate{*this, "chkDate", "日期"};
-    DateBox dtpDate[2]{{*this, "dtpDate(0)"}, {*this, "dtpDate(1)"}};
+    DateRange dtpDate{*this, "dtpDate"};
     CheckBox chkDh{*this, "chkDh", "单号"};
-    TextBox txtDh{*this, "txtDh"};
+    PatternField txtDh{*this, "txtDh"};
     CheckBox chkDd{*this, "chkDd", "订单号"};
-    TextBox txtDd{*this, "txtDd"};
+    PatternField txtDd{*this, "txtDd"};
     CheckBox chkKh{*this, "chkKh", "客户"};
-    TextBox txtKh{*this, "txtKh"};
+    PatternField txtKh{*this, "txtKh"};
     CheckBox chkZy{*this, "chkZy", "摘要"};
-    TextBox txtZy{*this, "txtZy"};
+    PatternField txtZy{*this, "txtZy"};
     CheckBox chkCk[2]{{*this, "chkCk(0)", "仓库1"}, {*this, "chkCk(1)", "仓库2"}};
-    ListBox cboCk[2]{{*this, "cboCk(0)", true}, {*this, "cboCk(1)"}}; // the first takes a pattern too
+    ListField cboCk[2]{{*this, "cboCk(0)", true}, {*this, "cboCk(1)"}}; // the first takes a pattern too
     // Code, name or specification, category, origin, location.
     CheckBox chkCp[5]{{*this, "chkCp(0)", "产品编码"},
                       {*this, "chkCp(1)", "品名规格"},
                       {*this, "chkCp(2)"},
                       {*this, "chkCp(3)"},
                       {*this, "chkCp(4)", "限用仓位"}};
-    TextBox txtCp[5]{{*this, "txtCp(0)"},
-                     {*this, "txtCp(1)"},
-                     {*this, "txtCp(2)"},
-                     {*this, "txtCp(3)"},
-                     {*this, "txtCp(4)"}};
+    PatternField txtCp[5]{{*this, "txtCp(0)"},
+                          {*this, "txtCp(1)"},
+                          {*this, "txtCp(2)"},
+                          {*this, "txtCp(3)"},
+                          {*this, "txtCp(4)"}};
     // The two memos of a line, called as the company calls them.
     CheckBox chkBz[2]{{*this, "chkBz(0)"}, {*this, "chkBz(1)"}};
-    TextBox txtBz[2]{{*this, "txtBz(0)"}, {*this, "txtBz(1)"}};
+    PatternField txtBz[2]{{*this, "txtBz(0)"}, {*this, "txtBz(1)"}};
     CheckBox chkPrice[2]{{*this, "chkPrice(0)", "单价"}, {*this, "chkPrice(1)", "金额"}};
     ListBox cboPrice[2]{{*this, "cboPrice(0)"}, {*this, "cboPrice(1)"}}; // operators
-    TextBox txtPrice[2]{{*this, "txtPrice(0)"}, {*this, "txtPrice(1)"}};
+    PatternField txtPrice[2]{{*this, "txtPrice(0)"}, {*this, "txtPrice(1)"}};
 
-    Button cmdList{*this, "cmdList", "查询(&Q)"};
+    Button cmdList{*this, "cmdList", "查询(&Q)", "F5"};
     Button cmdSeekCancel{*this, "cmdSeekCancel", "返回(&R)"};
     Button cmdSelect{*this, "cmdSelect", "选定(&S)"};
     // By the Action of frmDj02 that each stands for.
-    Button CmdAction[5]{{*this, "CmdAction(0)", "打开(&N)"},
-                        {*this, "CmdAction(1)", "新增(&A)"},
-                        {*this, "CmdAction(2)", "修改(&C)"},
+    Button CmdAction[5]{{*this, "CmdAction(0)", "打开(&N)", "F2"},
+                        {*this, "CmdAction(1)", "新增(&A)", "F6"},
+                        {*this, "CmdAction(2)", "修改(&C)", "F7"},
                         {*this, "CmdAction(3)", "删除(&D)"},
-                        {*this, "CmdAction(4)", "审核(&E)"}};
-    Button cmdPrint{*this, "cmdPrint", "打印(&P)"};
+                        {*this, "CmdAction(4)", "审核(&E)", "F9"}};
+    Button cmdPrint{*this, "cmdPrint", "打印(&P)", "Ctrl+P"};
     Button cmdCpKc{*this, "cmdCpKc", "库存查询"};
     Button cmdColSet{*this, "cmdColSet", "选项设置"};
     Button cmdQuit{*this, "cmdQuit", "退出(&X)"};
@@ -130,14 +121,16 @@ struct frmDj01 : Screen {
     std::string DjCode;
     std::uint8_t DjJz = 0;
 
-    // The columns of Grid1 and Grid2 in their order.
-    std::vector<ListColumn> columns[2];
+    Columns documents{Grid1};
+    Columns lines{Grid2};
+    Filters filters;
     // The query whose rows are shown; without a statement before the first.
     ListQuery shown;
     // The document in hand and its approver.
     std::int32_t invID = 0;
     std::string approver;
 
+    Columns& ListOf(bool ofLines) { return ofLines ? lines : documents; }
     ListMode Mode() const {
         return rawType > 99 ? ListMode::Picker : rawType == 99 ? ListMode::AllTypes : ListMode::OneType;
     }

@@ -77,8 +77,8 @@ struct frmDj02 : Screen {
 
     // The lines.
     Grid Grid2{*this, "Grid2"};
-    Button cmdAddRow{*this, "cmdAddRow", "增行(&I)"};
-    Button cmdDeleteRow{*this, "cmdDeleteRow", "删行(&D)"};
+    Button cmdAddRow{*this, "cmdAddRow", "增行(&I)", "F6"};
+    Button cmdDeleteRow{*this, "cmdDeleteRow", "删行(&D)", "F7"};
     Button cmdCp{*this, "cmdCp", "产品(&R)"};
     Button cmdCk{*this, "cmdCk", "仓库(&H)"};
     Button cmdZy{*this, "cmdZy", "摘要(&Y)"};
@@ -94,10 +94,10 @@ struct frmDj02 : Screen {
     TextBox txtMemo{*this, "txtMemo"}; // printed, not stored
     Frame shpSHR{*this, "shpSHR"};
     Label lblSHR{*this, "lblSHR"}; // the approver
-    Button cmdPrevious{*this, "cmdPrevious", "上一张(&P)"};
-    Button cmdNext{*this, "cmdNext", "下一张(&N)"};
-    Button cmdNew{*this, "cmdNew", "新单(&W)"};
-    Button cmdSave{*this, "cmdSave", "存盘(&S)"};
+    Button cmdPrevious{*this, "cmdPrevious", "上一张(&P)", "F3"};
+    Button cmdNext{*this, "cmdNext", "下一张(&N)", "F4"};
+    Button cmdNew{*this, "cmdNew", "新单(&W)", "F8"};
+    Button cmdSave{*this, "cmdSave", "存盘(&S)", "F9"};
     Button cmdQuit{*this, "cmdQuit", "退出(&Q)"};
 
     // Set by the opener.

@@ -14,10 +14,7 @@ std::string ListKey(bool lines);
 
 // The columns of both grids, with the company's decimals, captions and order; they have no rows then.
 void SetUpListGrids(frmDj01& s, const Parameters& parameters);
-// The place of a field's column in the grid of documents or of lines, from 1; 0 when it has none.
-int ListColumnOf(const frmDj01& s, bool lines, const std::string& field);
-// Lets the user choose the columns of the list in front. Columns that the dictionary does not have yet are
-// written to it.
-void ChooseColumns(frmDj01& s);
+// Lets the user choose the columns of the list in front.
+void ChooseListColumns(frmDj01& s);
 
 } // namespace jxc

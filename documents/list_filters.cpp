@@ -129,8 +129,8 @@ void ResetFilters(frmDj01& s, const Parameters& parameters) {
     ClearBoxes(s);
     NameFilters(s, parameters);
     FillFilterLists(s, parameters);
-    s.dtpDate[0].date = parameters.periodStart;
-    s.dtpDate[1].date = parameters.periodEnd;
+    s.dtpDate.first.date = parameters.periodStart;
+    s.dtpDate.last.date = parameters.periodEnd;
     TickModesType(s);
     ApplyTickedType(s);
 }

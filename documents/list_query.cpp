@@ -12,19 +12,6 @@ namespace jxc {
 
 namespace {
 
-std::string Like(const CheckBox& box, const char* test, const std::string& text) {
-    return box.value ? test + InQuotes(LikePattern(text)) : "";
-}
-
-std::string Equals(const CheckBox& box, const char* test, const std::string& text) {
-    return box.value ? test + InQuotes(text) : "";
-}
-
-std::string Compares(const CheckBox& box, const char* test, const ListBox& comparison,
-                     const TextBox& number) {
-    return box.value ? test + comparison.text + " " + NumberText(Val(number.text)) : "";
-}
-
 std::string ApprovalTest(const frmDj01& s) {
     return s.optSelect[0].value ? " a.fInvSHR=''" : s.optSelect[1].value ? " a.fInvSHR<>''" : "1=1";
 }
@@ -34,60 +21,25 @@ std::string TypeTest(const frmDj01& s) {
     const auto type = TickedType(s);
     if (!type)
         return "";
-    return (*type >= 0 && *type <= 10 ? " And abs(a.fInvType)=" : " And a.fInvType=") + std::to_string(*type);
+    return (*type >= 0 && *type <= 10 ? "abs(a.fInvType)=" : "a.fInvType=") + std::to_string(*type);
 }
 
+std::string DirectionTest(const frmDj01& s) {
+    return "b.fInvInOut=" + std::to_string(s.cboCrType.Index() + 1);
+}
+
+// One name for all three: the first box that is ticked counts.
 std::string PersonTest(const frmDj01& s) {
-    const std::string& name = s.cboInvJbr.text;
-    if (s.chkJbr[0].value)
-        return Like(s.chkJbr[0], " And a.fInvDLR Like ", name);
-    if (s.chkJbr[1].value)
-        return Like(s.chkJbr[1], " And a.fInvJBR Like ", name);
-    return Like(s.chkJbr[2], " And a.fInvSHR Like ", name);
-}
-
-std::string DateTest(const frmDj01& s) {
-    const auto days = FilteredDays(s);
-    if (!days)
-        return "";
-    if (!days->last)
-        return " And " + DayTest("a.fInvDate", " = ", days->first, DayForm::Iso);
-    return " And " + DayTest("a.fInvDate", " Between ", days->first, DayForm::Iso) + " And " +
-           DayLiteral(*days->last, DayForm::Iso);
+    const char* const fields[] = {"a.fInvDLR", "a.fInvJBR", "a.fInvSHR"};
+    for (size_t i = 0; i < 3; ++i)
+        if (s.chkJbr[i].value)
+            return fields[i] + (" Like " + InQuotes(LikePattern(s.cboInvJbr.text)));
+    return "";
 }
 
 // Without a type the header's warehouse may be either of two: the lines tell where goods moved.
 std::string WarehouseTest(const frmDj01& s) {
-    const char* const test = TickedType(s) ? " And a.fCkName like " : " And b.fCkName like ";
-    return Like(s.chkCk[0], test, s.cboCk[0].text) + Equals(s.chkCk[1], " And a.fCkName2=", s.cboCk[1].text);
-}
-
-std::string ProductTest(const frmDj01& s) {
-    std::string test = Like(s.chkCp[0], " And d.fCpCode Like ", s.txtCp[0].text);
-    if (s.chkCp[1].value)
-        test += Like(s.chkCp[1], " And (d.fCpName Like ", s.txtCp[1].text) +
-                Like(s.chkCp[1], " Or d.fCpGG Like ", s.txtCp[1].text) + ")";
-    test += Equals(s.chkCp[2], " And d.fCpZy=", s.txtCp[2].text);
-    test += Equals(s.chkCp[3], " And d.fCpCd=", s.txtCp[3].text);
-    return test + Equals(s.chkCp[4], " And d.fCpCw=", s.txtCp[4].text);
-}
-
-std::string Condition(const frmDj01& s) {
-    std::string where = ApprovalTest(s) + TypeTest(s);
-    if (s.chkCrType.value)
-        where += " And b.fInvInOut=" + std::to_string(s.cboCrType.Index() + 1);
-    where += PersonTest(s);
-    where += Equals(s.chkHb, " And a.fInvHb=", s.cboHb.text);
-    where += DateTest(s);
-    where += Like(s.chkDh, " And a.fInvNo like ", s.txtDh.text);
-    where += Like(s.chkDd, " And a.fHtNo like ", s.txtDd.text);
-    where += Like(s.chkKh, " And c.CompName Like ", s.txtKh.text);
-    where += Like(s.chkZy, " And a.fInvMemo Like ", s.txtZy.text);
-    where += WarehouseTest(s) + ProductTest(s);
-    where += Like(s.chkBz[0], " And b.fInvOther1 Like ", s.txtBz[0].text);
-    where += Like(s.chkBz[1], " And b.fInvOther2 Like ", s.txtBz[1].text);
-    where += Compares(s.chkPrice[0], " And b.fInvDJ ", s.cboPrice[0], s.txtPrice[0]);
-    return where + Compares(s.chkPrice[1], " And a.fInvJE ", s.cboPrice[1], s.txtPrice[1]);
+    return TickedType(s) ? "a.fCkName like {like}" : "b.fCkName like {like}";
 }
 
 std::string DocumentsFrom(const std::string& stem) {
@@ -106,11 +58,27 @@ std::string LinesFrom(const std::string& stem) {
 
 } // namespace
 
-std::optional<DayRange> FilteredDays(const frmDj01& s) {
-    const auto &first = s.dtpDate[0].date, &last = s.dtpDate[1].date;
-    if (!s.chkDate.value || (!first && !last))
-        return std::nullopt;
-    return first ? DayRange{*first, last} : DayRange{*last, std::nullopt};
+std::vector<Filter> ListFilters(frmDj01& s) {
+    return {Filter([&s] { return TypeTest(s); }),
+            {s.chkCrType, s.cboCrType, [&s] { return DirectionTest(s); }},
+            Filter([&s] { return PersonTest(s); }),
+            {s.chkHb, s.cboHb, "a.fInvHb={text}"},
+            {s.chkDate, s.dtpDate, "a.fInvDate"},
+            {s.chkDh, s.txtDh, "a.fInvNo like {like}"},
+            {s.chkDd, s.txtDd, "a.fHtNo like {like}"},
+            {s.chkKh, s.txtKh, "c.CompName Like {like}"},
+            {s.chkZy, s.txtZy, "a.fInvMemo Like {like}"},
+            {s.chkCk[0], s.cboCk[0], [&s] { return WarehouseTest(s); }},
+            {s.chkCk[1], s.cboCk[1], "a.fCkName2={text}"},
+            {s.chkCp[0], s.txtCp[0], "d.fCpCode Like {like}"},
+            {s.chkCp[1], s.txtCp[1], "(d.fCpName Like {like} Or d.fCpGG Like {like})"},
+            {s.chkCp[2], s.txtCp[2], "d.fCpZy={text}"},
+            {s.chkCp[3], s.txtCp[3], "d.fCpCd={text}"},
+            {s.chkCp[4], s.txtCp[4], "d.fCpCw={text}"},
+            {s.chkBz[0], s.txtBz[0], "b.fInvOther1 Like {like}"},
+            {s.chkBz[1], s.txtBz[1], "b.fInvOther2 Like {like}"},
+            {s.chkPrice[0], s.cboPrice[0], s.txtPrice[0], "b.fInvDJ "},
+            {s.chkPrice[1], s.cboPrice[1], s.txtPrice[1], "a.fInvJE "}};
 }
 
 ListQuery BuildQuery(const frmDj01& s) {
@@ -118,13 +86,12 @@ ListQuery BuildQuery(const frmDj01& s) {
     query.stem = BookStem(TickedType(s).value_or(kTypeWithoutTick), s.chkJz.value);
     query.lines = !s.chkDj.value;
     if (s.chkDate.value) {
-        query.from = s.dtpDate[0].date;
-        query.to = s.dtpDate[1].date;
+        query.from = s.dtpDate.first.date;
+        query.to = s.dtpDate.last.date;
     }
-    if (s.chkCk[0].value)
-        query.warehouse = s.cboCk[0].text;
-    query.sql = (query.lines ? LinesFrom(query.stem) : DocumentsFrom(query.stem)) + " Where " + Condition(s) +
-                " Order By a.fInvDate,a.fInvNo";
+    query.warehouse = TickedText(s.chkCk[0], s.cboCk[0]);
+    query.sql = (query.lines ? LinesFrom(query.stem) : DocumentsFrom(query.stem)) + " Where " +
+                ApprovalTest(s) + s.filters.Condition() + " Order By a.fInvDate,a.fInvNo";
     return query;
 }
 

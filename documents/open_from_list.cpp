@@ -3,7 +3,6 @@
 #include "base/text.h"
 #include "controls/view.h"
 #include "documents/document_list.h"
-#include "documents/list_columns.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -53,7 +52,7 @@ bool TakeSelectedDocument(frmDj01& s) {
     if (!grid)
         return false;
     s.invID = static_cast<std::int32_t>(grid->Cell(grid->selectedRow, grid->ColumnCount()).AsLong());
-    s.approver = grid->Text(grid->selectedRow, ListColumnOf(s, grid == &s.Grid2, "fInvSHR"));
+    s.approver = grid->Text(grid->selectedRow, s.ListOf(grid == &s.Grid2).Place("fInvSHR"));
     return s.invID >= 1;
 }
 
@@ -110,7 +109,7 @@ void RunAction(frmDj01& s, DocAction action) {
 void PickDocument(frmDj01& s) {
     if (GridWithSelection(s) != &s.Grid1)
         return;
-    s.DjCode = s.Grid1.Text(s.Grid1.selectedRow, ListColumnOf(s, false, "fInvNo"));
+    s.DjCode = s.Grid1.Text(s.Grid1.selectedRow, s.documents.Place("fInvNo"));
     s.DjJz = s.chkJz.value ? 1 : 0;
     s.Close();
 }

@@ -25,8 +25,6 @@ void ShowRecord(ListEditor& s) {
     if (row.AtEnd())
         return s.Clear();
     ShowFields(s, row);
-    if (s.mark)
-        s.mark->value = row[s.markField].AsLong() == 1;
     s.ShowRest(row);
 }
 
@@ -36,15 +34,14 @@ void ChooseRow(ListEditor& s, int row) {
     ShowRecord(s);
 }
 
+std::string ListStatement(const ListEditor& s) {
+    return "select " + s.list.FieldList() + " from " + s.table.name + s.ListCondition() + " Order By " +
+           s.table.order;
+}
+
 void FillList(ListEditor& s) {
-    Grid& grid = s.Grid1;
-    grid.Clear();
-    ClearSortMark(grid);
-    for (Recordset row(Conn(), s.ListStatement()); !row.AtEnd(); row.MoveNext()) {
-        grid.SetRowCount(grid.RowCount() + 1);
-        for (int column = 1; column <= grid.ColumnCount(); ++column)
-            grid.FillCell(grid.RowCount(), column, s.ShownCell(column, row[static_cast<size_t>(column - 1)]));
-    }
+    Recordset rows(Conn(), ListStatement(s));
+    s.list.Fill(rows);
 }
 
 int RowOfKey(const Grid& grid, const Value& key) {
@@ -55,10 +52,11 @@ int RowOfKey(const Grid& grid, const Value& key) {
 }
 
 MayRefuse RefuseTwins(const ListEditor& s) {
-    for (const EditorField& field : s.fields) {
-        const std::string text = Trim(field.box->text);
-        if (field.unique && CountOf(OtherRows(s) + " And " + field.field + "=" + InQuotes(text)) != "0")
-            return Refusal{"[" + field.box->caption + "] " + text + " 已有存在！", field.box};
+    for (const RecordField* field : s.fields) {
+        const std::string text = field->ToStore().AsText();
+        if (field->rules.unique &&
+            CountOf(OtherRows(s) + " And " + field->field + "=" + InQuotes(text)) != "0")
+            return Refusal{"[" + field->control.caption + "] " + text + " 已有存在！", &field->control};
     }
     return std::nullopt;
 }
@@ -67,7 +65,7 @@ MayRefuse RefuseTwins(const ListEditor& s) {
 MayRefuse RefuseLossOfMark(const ListEditor& s) {
     if (!s.mark || s.mode == EditorMode::Add)
         return std::nullopt;
-    const bool held = RowInHand(s, Access::Read)[s.markField].AsLong() == 1;
+    const bool held = RowInHand(s, Access::Read)[s.mark->field].AsLong() == 1;
     const bool kept = s.mode == EditorMode::Change && s.mark->value;
     if (!held || kept || (s.mode == EditorMode::Delete && CountOf(OtherRows(s)) == "0"))
         return std::nullopt;
@@ -79,9 +77,9 @@ MayRefuse RefuseUsedKey(const ListEditor& s) {
     const bool deletes = s.mode == EditorMode::Delete;
     const bool renames =
         s.mode == EditorMode::Change && !EqualsNoCase(s.key.AsText(), s.KeyToStore().AsText());
-    if (!(deletes && !s.MayDeleteUsed()) && !renames)
+    if (!(deletes && !s.table.mayDeleteUsed) && !renames)
         return std::nullopt;
-    const std::string name = WhereUsed(s.Uses(), s.UsedKey());
+    const std::string name = WhereUsed(s.table.uses, s.UsedKey());
     if (name.empty())
         return std::nullopt;
     if (deletes)
@@ -91,9 +89,8 @@ MayRefuse RefuseUsedKey(const ListEditor& s) {
 
 } // namespace
 
-ListEditor::ListEditor(std::string name, std::string title, const char* table, const char* key)
-    : RecordEditor(std::move(name), std::move(title)), table(table), keyField(key) {
-    Grid1.readOnly = true;
+ListEditor::ListEditor(std::string name, std::string title, EditedTable table)
+    : RecordEditor(std::move(name), std::move(title)), table(std::move(table)) {
     Grid1.onSelect = [this](int row) { ChooseRow(*this, row); };
     Grid1.onDoubleClick = [this](int) { BeginMode(*this, EditorMode::Change); };
     Grid1.onHeading = [this](int column) {
@@ -106,6 +103,23 @@ ListEditor::ListEditor(std::string name, std::string title, const char* table, c
     };
     cmdAdd.onClick = [this] { BeginMode(*this, EditorMode::Add); };
     cmdDelete.onClick = [this] { BeginMode(*this, EditorMode::Delete); };
+}
+
+void ListEditor::Open() {
+    list.SetUp();
+    RecordEditor::Open();
+}
+
+void ListEditor::SetColumns(std::vector<Column> columns) {
+    columns.push_back({.caption = table.key, .field = table.key, .figure = Figure::Key});
+    list.SetUp(std::move(columns));
+}
+
+Arrangement ListEditor::Arrange() {
+    Arrangement plain = RecordEditor::Arrange();
+    plain.grid = &Grid1;
+    plain.commands = {&cmdAdd, &cmdChange, &cmdDelete};
+    return plain;
 }
 
 void ListEditor::Load() {
@@ -145,46 +159,37 @@ MayRefuse ListEditor::Refuse() {
          {RefuseEmptyField(*this), RefuseTwins(*this), RefuseUsedKey(*this), RefuseLossOfMark(*this)})
         if (check)
             return check;
-    return RefuseContent();
+    return FirstRefusal(guards);
 }
 
 void ListEditor::Store() {
     newKey = mode == EditorMode::Delete ? Value() : KeyToStore();
     if (mode == EditorMode::Delete) {
         StoreElsewhere();
-        Conn().Execute("Delete From " + std::string(table) + " Where " + keyField + "=" + Literal(key));
+        Conn().Execute("Delete From " + table.name + " Where " + table.key + "=" + Literal(key));
         return;
     }
-    const bool marked = mark && (mark->value || CountOf(table) == "0");
+    const bool marked = mark && (mark->value || CountOf(table.name) == "0");
     if (marked)
-        Conn().Execute("Update " + std::string(table) + " Set " + markField + "=0 Where " + markField + "=1");
+        Conn().Execute("Update " + table.name + " Set " + mark->field + "=0 Where " + mark->field + "=1");
     Recordset row = RowInHand(*this, Access::Write);
     if (mode == EditorMode::Add)
         row.AddNew();
     WriteFields(*this, row);
-    row.Set(keyField, newKey);
+    row.Set(table.key, newKey);
     if (mark)
-        row.Set(markField, marked ? 1 : 0);
+        row.Set(mark->field, marked ? 1 : 0);
     WriteRest(row);
     row.Update();
     StoreElsewhere();
 }
 
 void ListEditor::ShapeByMode() {
-    const bool browsing = mode == EditorMode::Browse;
-    Grid1.enabled = cmdAdd.enabled = cmdDelete.enabled = browsing;
-    if (mark)
-        mark->enabled = mode == EditorMode::Add || mode == EditorMode::Change;
+    Grid1.enabled = cmdAdd.enabled = cmdDelete.enabled = mode == EditorMode::Browse;
 }
 
-void ListEditor::Clear() {
-    RecordEditor::Clear();
-    if (mark)
-        mark->value = false;
-}
-
-Value ListEditor::KeyToStore() const {
-    return Trim(fields.front().box->text);
+std::string ListEditor::RecordName() const {
+    return fields.front()->control.Shown().AsText();
 }
 
 std::string ListEditor::UsedKey() const {
@@ -193,16 +198,15 @@ std::string ListEditor::UsedKey() const {
 
 Recordset RowInHand(const ListEditor& s, Access access) {
     const std::string which = s.key.IsNull() ? " is null" : "=" + Literal(s.key);
-    return Recordset(Conn(), "select * from " + std::string(s.table) + " where " + s.keyField + which,
-                     access);
+    return Recordset(Conn(), "select * from " + s.table.name + " where " + s.table.key + which, access);
 }
 
 std::string OtherRows(const ListEditor& s) {
     const bool all = s.mode == EditorMode::Add || s.key.IsNull();
-    return s.table + std::string(" Where ") + (all ? "1=1" : s.keyField + ("<>" + Literal(s.key)));
+    return s.table.name + " Where " + (all ? "1=1" : s.table.key + "<>" + Literal(s.key));
 }
 
-std::string WhereUsed(std::span<const Use> uses, const std::string& literal) {
+std::string WhereUsed(const std::vector<Use>& uses, const std::string& literal) {
     for (const Use& use : uses)
         if (CountOf(use.place + literal) != "0")
             return use.name;

@@ -12,16 +12,11 @@ namespace jxc {
 
 namespace {
 
-bool IsTyping(const RecordEditor& s) {
-    return s.mode == EditorMode::Add || s.mode == EditorMode::Change;
-}
-
 void SetMode(RecordEditor& s, EditorMode mode) {
     s.mode = mode;
     const bool browsing = mode == EditorMode::Browse;
-    const bool typing = IsTyping(s);
-    for (const EditorField& field : s.fields)
-        field.box->enabled = typing;
+    for (const RecordField* field : s.fields)
+        field->control.enabled = s.IsTyping();
     s.cmdChange.enabled = s.cmdQuit.enabled = browsing;
     s.cmdSave.enabled = s.cmdCancel.enabled = !browsing;
     s.cmdSave.caption = mode == EditorMode::Delete ? "确认删除(&S)" : "保存(&S)";
@@ -44,7 +39,7 @@ void RecordEditor::Open() {
 }
 
 std::string RecordEditor::UnsavedWork() const {
-    return IsTyping(*this) && TypedWork(*this) != asBegun ? "资料尚未保存，放弃所输入的内容？" : "";
+    return IsTyping() && TypedWork(*this) != asBegun ? "资料尚未保存，放弃所输入的内容？" : "";
 }
 
 void RecordEditor::SaveWork() {
@@ -52,17 +47,27 @@ void RecordEditor::SaveWork() {
         SaveRecord(*this);
 }
 
-EditorField& RecordEditor::Hold(TextBox& box, const char* field, const char* caption, int maxBytes,
-                                bool numeric) {
-    box.caption = caption;
-    FilterKeys(box, maxBytes, numeric);
-    box.onLeave = [&box] { return CheckNoQuote(box.text); };
-    return fields.emplace_back(EditorField{&box, field});
+Arrangement RecordEditor::Arrange() {
+    Arrangement plain;
+    const auto inARow = static_cast<size_t>(fieldsInARow);
+    for (size_t at = 0; at < fields.size(); ++at) {
+        if (at % inARow == 0)
+            plain.fields.emplace_back();
+        plain.fields.back().push_back(&fields[at]->control);
+    }
+    plain.commands = {&cmdChange};
+    plain.closingCommands = {&cmdSave, &cmdCancel, &cmdQuit};
+    return plain;
+}
+
+MayRefuse RecordEditor::Refuse() {
+    MayRefuse refusal = RefuseEmptyField(*this);
+    return refusal ? refusal : FirstRefusal(guards);
 }
 
 void RecordEditor::Clear() {
-    for (const EditorField& field : fields)
-        field.box->text.clear();
+    for (RecordField* field : fields)
+        field->Clear();
 }
 
 std::string TypedWork(const RecordEditor& s) {
@@ -87,7 +92,7 @@ void BeginMode(RecordEditor& s, EditorMode mode) {
     if (mode == EditorMode::Add)
         s.Clear();
     s.asBegun = TypedWork(s);
-    s.MoveFocus(mode == EditorMode::Delete ? static_cast<Control*>(&s.cmdSave) : s.fields.front().box);
+    s.MoveFocus(mode == EditorMode::Delete ? &s.cmdSave : &s.fields.front()->control);
 }
 
 void LeaveMode(RecordEditor& s) {
@@ -122,19 +127,22 @@ void SaveRecord(RecordEditor& s) {
 }
 
 void ShowFields(RecordEditor& s, const Recordset& row) {
-    for (const EditorField& field : s.fields)
-        field.box->text = row.AtEnd() ? "" : row[field.field].AsText();
+    for (RecordField* field : s.fields)
+        if (row.AtEnd())
+            field->Clear();
+        else
+            field->Show(row[field->field]);
 }
 
 void WriteFields(const RecordEditor& s, Recordset& row) {
-    for (const EditorField& field : s.fields)
-        row.Set(field.field, Trim(field.box->text));
+    for (const RecordField* field : s.fields)
+        row.Set(field->field, field->ToStore());
 }
 
 MayRefuse RefuseEmptyField(const RecordEditor& s) {
-    for (const EditorField& field : s.fields)
-        if (field.required && Trim(field.box->text).empty())
-            return Refusal{"[" + field.box->caption + "]" + GetResStr(34) + "！", field.box};
+    for (const RecordField* field : s.fields)
+        if (field->rules.required && field->ToStore().AsText().empty())
+            return Refusal{"[" + field->control.caption + "]" + GetResStr(34) + "！", &field->control};
     return std::nullopt;
 }
 

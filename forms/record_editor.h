@@ -1,50 +1,39 @@
-// What editors of one record share: text boxes that hold fields, the modes, and one transaction a
-// save. Browsing shows a record with its boxes disabled; adding, changing and deleting end by saving or
-// cancelling. A finished add stays in add mode, a finished change or delete goes back to browsing.
+// What editors of one record share: controls that hold its fields, the modes, and one transaction a save. Browsing shows
+// a record with its controls disabled; adding, changing and deleting end by saving or cancelling. A finished add stays in
+// add mode, a finished change or delete goes back to browsing.
 #pragma once
 
-#include <optional>
 #include <vector>
 
 #include "controls/screen.h"
 #include "database/recordset.h"
+#include "forms/guard.h"
+#include "forms/record_fields.h"
 
 namespace jxc {
 
 enum class EditorMode { Browse = 0, Add = 1, Change = 2, Delete = 3 };
 
-// Why a record is not saved, and where the focus goes then.
-struct Refusal {
-    std::string text;
-    Control* focus = nullptr;
-};
-using MayRefuse = std::optional<Refusal>;
-
-struct EditorField {
-    TextBox* box; // its caption is what messages call it
-    const char* field;
-    bool required = false;
-    bool unique = false; // no other row holds the same text
-};
-
 struct RecordEditor : Screen {
     RecordEditor(std::string name, std::string title);
     void Open() override;
+    Arrangement Arrange() override;
     std::string UnsavedWork() const override;
     void SaveWork() override;
 
-    Button cmdChange{*this, "cmdChange", "修改(&C)"};
-    Button cmdSave{*this, "cmdSave", "保存(&S)"};
+    Button cmdChange{*this, "cmdChange", "修改(&C)", "F4"};
+    Button cmdSave{*this, "cmdSave", "保存(&S)", "F9"};
     Button cmdCancel{*this, "cmdCancel", "取消(&U)"};
     Button cmdQuit{*this, "cmdQuit", "退出(&X)"};
 
     EditorMode mode = EditorMode::Browse;
-    std::vector<EditorField> fields;
+    std::vector<RecordField*> fields; // in the order of the screen
+    int fieldsInARow = 1;
+    std::vector<Guard>
+        guards;          // of a record added or changed, behind those that follow from the fields' rules
     std::string asBegun; // TypedWork when adding or changing began
 
-    // Has the box hold the field: its caption, its limit in bytes, no quotes.
-    EditorField& Hold(TextBox& box, const char* field, const char* caption, int maxBytes,
-                      bool numeric = false);
+    bool IsTyping() const { return mode == EditorMode::Add || mode == EditorMode::Change; }
 
     // Reads what browsing shows, the record in hand included.
     virtual void Load() = 0;
@@ -53,16 +42,16 @@ struct RecordEditor : Screen {
     // Asks before a save; false leaves the mode as it is.
     virtual bool Confirmed() { return true; }
     // Both run inside the transaction of a save.
-    virtual MayRefuse Refuse() = 0;
+    virtual MayRefuse Refuse();
     virtual void Store() = 0;
     // After a save that has succeeded.
     virtual void Stored() {}
     // Puts the controls beside the fields into the state of the mode.
-    virtual void ShapeByMode() = 0;
+    virtual void ShapeByMode() {}
     // Empties the controls for a new record.
     virtual void Clear();
     // Where the focus goes in browse mode.
-    virtual Control& Home() = 0;
+    virtual Control& Home() { return cmdChange; }
 };
 
 // What a person can type and choose on the screen, as it stands now: to be compared.
@@ -73,10 +62,10 @@ void LeaveMode(RecordEditor& s);
 // Checks and stores in one transaction; a refusal is told after it, with nothing changed.
 void SaveRecord(RecordEditor& s);
 
-// The boxes from the row, empty without one; and the row's fields from the boxes, trimmed.
+// The fields from the row, empty without one; and the row's from the fields.
 void ShowFields(RecordEditor& s, const Recordset& row);
 void WriteFields(const RecordEditor& s, Recordset& row);
 // A required field without a text.
-MayRefuse RefuseEmptyField(const RecordEditor& s);
+[[nodiscard]] MayRefuse RefuseEmptyField(const RecordEditor& s);
 
 } // namespace jxc

@@ -16,45 +16,37 @@ namespace jxc {
 
 namespace {
 
-constexpr int kCodeBytes = 20;
-constexpr int kNameBytes = 50;
-
 std::string EntriesOf(const frmBrief& s) {
     return " from briefDetail where briefType=" + InQuotes(s.code);
 }
 
-// The rows of a statement whose columns are the grid's.
-void FillRows(Grid& grid, const std::string& sql) {
-    for (Recordset row(Conn(), sql); !row.AtEnd(); row.MoveNext()) {
-        grid.SetRowCount(grid.RowCount() + 1);
-        for (int column = 1; column <= grid.ColumnCount(); ++column)
-            grid.FillCell(grid.RowCount(), column, row[static_cast<size_t>(column - 1)]);
-    }
+// The grid with these columns of the rows that `tail` names.
+void Fill(frmBrief& s, const std::string& title, std::vector<Column> columns, const std::string& tail) {
+    s.title = title;
+    s.list.SetUp(std::move(columns));
+    Recordset rows(Conn(), "select " + s.list.FieldList() + tail);
+    s.list.Fill(rows);
 }
 
 void FillLists(frmBrief& s) {
-    s.title = "代码表";
-    s.Grid1.SetColumns(
-        {{.caption = "编号", .width = 12, .locked = true}, {.caption = "名称", .width = 24, .locked = true}});
-    FillRows(s.Grid1, "select BriefType,BriefTypeName from Brief Order By BriefType");
+    Fill(s, "代码表", {{"编号", "BriefType", 12}, {"名称", "BriefTypeName", 24}},
+         " from Brief Order By BriefType");
 }
 
 void FillEntries(frmBrief& s) {
     const std::string name = DbScalar("select BriefTypeName from Brief where BriefType=" + InQuotes(s.code));
-    s.title = "代码表：" + (name.empty() ? s.code : name);
-    s.Grid1.SetColumns({{.caption = "编号", .width = 12, .maxBytes = kCodeBytes},
-                        {.caption = "名称", .width = 24, .maxBytes = kNameBytes}});
-    FillRows(s.Grid1, "select BriefCode,BriefName" + EntriesOf(s) + " Order By BriefCode");
+    Fill(s, "代码表：" + (name.empty() ? s.code : name),
+         {{.caption = "编号", .field = "BriefCode", .width = 12, .maxBytes = 20, .typed = true},
+          {.caption = "名称", .field = "BriefName", .width = 24, .maxBytes = 50, .typed = true}},
+         EntriesOf(s) + " Order By BriefCode");
 }
 
 void FillColumns(frmBrief& s) {
-    s.title = "栏目设置";
-    s.Grid1.SetColumns({{.caption = "显示", .type = CellType::Check},
-                        {.caption = "名称", .width = 24, .locked = true},
-                        {.caption = "FieldName", .hidden = true}});
-    FillRows(s.Grid1, "select FieldSelected,FieldName_" + std::to_string(session.Language) +
-                          ",FieldName from rptListDetail where ftable=" + InQuotes(s.table) +
-                          " Order By fieldID");
+    Fill(s, "栏目设置",
+         {{.caption = "显示", .field = "FieldSelected", .figure = Figure::Tick, .typed = true},
+          {"名称", "FieldName_" + std::to_string(session.Language), 24},
+          {"FieldName", "FieldName", 0, Figure::Key}},
+         " from rptListDetail where ftable=" + InQuotes(s.table) + " Order By fieldID");
 }
 
 bool IsBlank(const Grid& grid, int row) {
@@ -208,6 +200,14 @@ void frmBrief::Open() {
         FillLists(*this);
     asOpened = TypedWork(*this);
     MoveFocus(&Grid1);
+}
+
+Arrangement frmBrief::Arrange() {
+    return {.grid = &Grid1,
+            .commands = {&cmdAdd, &cmdDelete, &cmdUp, &cmdDown, &cmdRename},
+            .closingCommands = {&cmdOk, &cmdCancel},
+            .width = 520,
+            .height = 460};
 }
 
 std::string frmBrief::UnsavedWork() const {

@@ -3,8 +3,8 @@
 // and order.
 #pragma once
 
-#include "controls/grid.h"
 #include "controls/screen.h"
+#include "forms/columns.h"
 #include "session/components.h"
 
 namespace jxc {
@@ -14,6 +14,7 @@ struct frmBrief : Screen {
     void Open() override;
     std::string UnsavedWork() const override;
     void SaveWork() override;
+    Arrangement Arrange() override;
 
     Grid Grid1{*this, "Grid1"};
     Button cmdAdd{*this, "cmdAdd", "增加(&A)"};
@@ -31,6 +32,7 @@ struct frmBrief : Screen {
     // Property, left behind: the text chosen, "" for none.
     std::string chosen;
 
+    Columns list{Grid1};
     std::string asOpened; // what the rows were, to be compared
 
     bool Is(BriefKind wanted) const { return kind == static_cast<std::int16_t>(wanted); }

@@ -1,19 +1,16 @@
 #include "settings/frmRs_RptSet.h"
 
 #include "database/recordset.h"
-#include "forms/edit_filter.h"
+#include "forms/column_dictionary.h"
 #include "session/dialect.h"
 #include "session/screen_entries.h"
 #include "session/session.h"
-#include "settings/column_dictionary.h"
 #include "settings/frmBrief.h"
 
 namespace jxc {
 
 namespace {
 
-constexpr int kCaptionBytes = 30;
-constexpr int kCodeListBytes = 20;
 const std::string kListOfLists = "99999999";
 
 std::string CaptionField() {
@@ -62,10 +59,6 @@ frmRs_RptSet::frmRs_RptSet() : Screen("frmRs_RptSet") {
     AddTextProperty("Field", Field);
     AddTextProperty("ModelName", ModelName);
     AddNumberProperty("ItemEnable", ItemEnable);
-    FilterKeys(txtName, kCaptionBytes);
-    FilterKeys(txtItemNo, kCodeListBytes);
-    for (TextBox* box : {&txtName, &txtItemNo})
-        box->onLeave = [box] { return CheckNoQuote(box->text); };
     Command3.onClick = [this] { FindCodeList(*this); };
     CmdOk.onClick = [this] { Confirm(*this); };
     CmdCancel.onClick = [this] {
@@ -78,6 +71,13 @@ void frmRs_RptSet::Open() {
     title = "项目设置";
     ShowField(*this);
     MoveFocus(&txtName);
+}
+
+Arrangement frmRs_RptSet::Arrange() {
+    return {.fields = {{&txtName}, {&txtItemNo, &Command3}},
+            .closingCommands = {&CmdOk, &CmdCancel},
+            .width = 420,
+            .height = 140};
 }
 
 void RegisterSettingsScreens() {

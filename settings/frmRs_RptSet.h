@@ -2,15 +2,17 @@
 #pragma once
 
 #include "controls/screen.h"
+#include "forms/fields.h"
 
 namespace jxc {
 
 struct frmRs_RptSet : Screen {
     frmRs_RptSet();
     void Open() override;
+    Arrangement Arrange() override;
 
-    TextBox txtName{*this, "txtName"};
-    TextBox txtItemNo{*this, "txtItemNo"}; // number of the code list, "" for none
+    TextField txtName{*this, "txtName", "名称", 30};
+    TextField txtItemNo{*this, "txtItemNo", "项目内容", 20}; // number of the code list, "" for none
     Button Command3{*this, "Command3", "查找项目内容"};
     Button CmdOk{*this, "CmdOk", "确定"};
     Button CmdCancel{*this, "CmdCancel", "取消"};

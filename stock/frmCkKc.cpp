@@ -5,32 +5,15 @@
 #include "base/text.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"
-#include "forms/edit_filter.h"
 #include "session/lookups/database_routines.h"
-#include "session/lookups/lists.h"
 #include "session/period.h"
 #include "session/printing/print_grid.h"
 #include "session/screen_entries.h"
 #include "session/session.h"
-#include "stock/stock_query.h"
 
 namespace jxc {
 
 namespace {
-
-constexpr int kTextBytes = 50;
-
-const char* TitleOf(StockQuery question) {
-    switch (question) {
-    case StockQuery::Alarm:
-        return "库存报警";
-    case StockQuery::Cost:
-        return "成本核算统计";
-    case StockQuery::Stock:
-        break;
-    }
-    return "库存统计";
-}
 
 // Every opening starts with the options as they are described, whatever the last one left.
 void ResetOptions(frmCkKc& s) {
@@ -39,32 +22,24 @@ void ResetOptions(frmCkKc& s) {
     s.chkDetail.value = true;
     s.txtCpCode.text.clear();
     s.txtCpName.text.clear();
-    for (OptionButton* option : {&s.optPrice0, &s.optPrice1, &s.optPrice2})
-        option->value = false;
-    s.optPrice3.value = true;
-}
-
-void ShapeByQuestion(frmCkKc& s) {
-    const bool alarm = s.Question() == StockQuery::Alarm;
-    const bool cost = s.Question() == StockQuery::Cost;
-    s.title = TitleOf(s.Question());
-    s.chkPrice.value = cost;
-    s.chkPrice.visible = false;
-    for (Control* control :
-         std::initializer_list<Control*>{&s.lblPrice, &s.optPrice0, &s.optPrice1, &s.optPrice2, &s.optPrice3})
-        control->visible = cost;
-    s.cmdRefresh.visible = !alarm;
-    s.chkKcBj.visible = s.chkKcBj.value = alarm;
-    s.chkDetail.visible = alarm;
-}
-
-void OfferDate(frmCkKc& s) {
+    s.optPrice[3].Choose();
+    s.cboCk.Offer();
     s.DTPicker1.date = session.PeriodEnd ? std::min(Today(), *session.PeriodEnd) : Today();
 }
 
-void OfferWarehouses(frmCkKc& s) {
-    FillCombo("Select fCkName,0 as aaa from tJXC_Ck Order By fCkCode", s.cboCk);
-    s.cboCk.SetIndex(s.cboCk.items.size() == 1 ? 0 : -1);
+void ShapeByQuestion(frmCkKc& s) {
+    const char* const titles[] = {"库存统计", "库存报警", "成本核算统计"};
+    const bool alarm = s.Question() == StockQuery::Alarm;
+    const bool cost = s.Question() == StockQuery::Cost;
+    s.title = titles[s.myState];
+    s.chkPrice.value = cost;
+    s.chkPrice.visible = false;
+    s.lblPrice.visible = cost;
+    for (OptionButton& option : s.optPrice)
+        option.visible = cost;
+    s.cmdRefresh.visible = !alarm;
+    s.chkKcBj.visible = s.chkKcBj.value = alarm;
+    s.chkDetail.visible = alarm;
 }
 
 // Without products there is nothing to ask.
@@ -77,35 +52,19 @@ void QueryIfThereAreProducts(frmCkKc& s) {
         Warn(s.title, "注意：系统尚未有任何产品，请先进行 [产品设置] ！");
 }
 
-void Print(frmCkKc& s) {
-    auto& fields = session.CompanyFieldList;
-    const std::vector<std::string> company = fields;
-    const bool all = !s.chkCk.value || s.cboCk.text.empty();
-    fields.push_back(s.chkCk.caption);
-    fields.push_back(all ? "所有仓库" : s.cboCk.text);
-    if (s.chkPrice.value) {
-        const OptionButton* const options[] = {&s.optPrice0, &s.optPrice1, &s.optPrice2, &s.optPrice3};
-        fields.push_back("单价取值");
-        fields.push_back(options[s.ChosenPrice()]->caption);
-    }
-    try {
-        PrintGrid(s.Grid1, s.title, s.title, "");
-    } catch (...) {
-        fields = company;
-        throw;
-    }
-    fields = company;
+void Print(const frmCkKc& s) {
+    const std::string warehouse = TickedText(s.chkCk, s.cboCk);
+    FieldList fields{s.chkCk.caption, warehouse.empty() ? "所有仓库" : warehouse};
+    if (s.chkPrice.value)
+        fields.insert(fields.end(), {"单价取值", s.ChosenPrice().caption});
+    PrintGrid(s.Grid1, s.title, s.title, "", fields);
 }
 
 } // namespace
 
-frmCkKc::frmCkKc() : Screen("frmCkKc") {
+frmCkKc::frmCkKc() : Screen("frmCkKc"), list(Grid1, StockColumns(*this)), filters(StockFilters(*this)) {
     AddNumberProperty("myState", myState);
-    FilterKeys(txtCpCode, kTextBytes);
-    FilterKeys(txtCpName, kTextBytes);
-    for (TextBox* box : {&txtCpCode, &txtCpName})
-        box->onLeave = [box] { return CheckNoQuote(box->text); };
-    chkDetail.onChange = [this] { HideStockColumns(*this); };
+    chkDetail.onChange = [this] { list.ShowWanted(); };
     Grid1.onHeading = [this](int column) {
         GridSort(Grid1, column);
         ColorRows(*this);
@@ -124,16 +83,27 @@ void frmCkKc::Open() {
     LoadPeriodSettings();
     ResetOptions(*this);
     ShapeByQuestion(*this);
-    OfferDate(*this);
-    OfferWarehouses(*this);
-    SetUpStockGrid(*this);
-    HideStockColumns(*this);
+    list.SetUp();
     MoveFocus(&cmdQuery);
     QueryIfThereAreProducts(*this);
 }
 
-int frmCkKc::ChosenPrice() const {
-    return optPrice0.value ? 0 : optPrice1.value ? 1 : optPrice2.value ? 2 : 3;
+Arrangement frmCkKc::Arrange() {
+    return {
+        .above = {{&chkCk, &cboCk, &chkCpCode, &txtCpCode, &chkCpName, &txtCpName, &chkKcBj, &chkNeg,
+                   &chkDetail},
+                  {&chkDate, &DTPicker1, &lblPrice, &optPrice[0], &optPrice[1], &optPrice[2], &optPrice[3]}},
+        .grid = &Grid1,
+        .commands = {&cmdQuery, &cmdRefresh, &cmdPrint},
+        .closingCommands = {&cmdQuit},
+        .width = 1100,
+        .height = 640};
+}
+
+const OptionButton& frmCkKc::ChosenPrice() const {
+    const auto chosen =
+        std::ranges::find_if(optPrice, [](const OptionButton& option) { return option.value; });
+    return chosen == std::end(optPrice) ? optPrice[3] : *chosen;
 }
 
 void RegisterStockScreens() {

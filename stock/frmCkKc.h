@@ -2,8 +2,10 @@
 // cost. It reads the running counters, never the documents.
 #pragma once
 
-#include "controls/grid.h"
 #include "controls/screen.h"
+#include "forms/columns.h"
+#include "forms/fields.h"
+#include "forms/filters.h"
 
 namespace jxc {
 
@@ -13,38 +15,50 @@ enum class StockQuery { Stock = 0, Alarm = 1, Cost = 2 };
 struct frmCkKc : Screen {
     frmCkKc();
     void Open() override;
+    Arrangement Arrange() override;
 
     CheckBox chkCk{*this, "chkCk", "限定仓库"};
-    ListBox cboCk{*this, "cboCk"};
+    AllWarehousesField cboCk{*this, "cboCk"};
     CheckBox chkCpCode{*this, "chkCpCode", "产品编码"};
-    TextBox txtCpCode{*this, "txtCpCode"};
+    PatternField txtCpCode{*this, "txtCpCode"};
     CheckBox chkCpName{*this, "chkCpName", "品名/规格"};
-    TextBox txtCpName{*this, "txtCpName"};
+    PatternField txtCpName{*this, "txtCpName"};
     CheckBox chkKcBj{*this, "chkKcBj", "超限查询"};
     CheckBox chkNeg{*this, "chkNeg", "负库存查询"};
     CheckBox chkDetail{*this, "chkDetail", "详情列示", true};
-    CheckBox chkPrice{*this, "chkPrice", "[单价与金额]", true};
+    CheckBox chkPrice{*this, "chkPrice", "[单价与金额]", true}; // follows the question, never shown
     Label lblPrice{*this, "lblPrice", "调库单/盘点单的单价取值："};
-    OptionButton optPrice0{*this, "optPrice(0)", "optPrice", "成本价"};
-    OptionButton optPrice1{*this, "optPrice(1)", "optPrice", "批发价"};
-    OptionButton optPrice2{*this, "optPrice(2)", "optPrice", "代销价"};
-    OptionButton optPrice3{*this, "optPrice(3)", "optPrice", "零售价", true};
+    // The price that values transfers and stocktakes.
+    OptionButton optPrice[4]{{*this, "optPrice(0)", "optPrice", "成本价"},
+                             {*this, "optPrice(1)", "optPrice", "批发价"},
+                             {*this, "optPrice(2)", "optPrice", "代销价"},
+                             {*this, "optPrice(3)", "optPrice", "零售价", true}};
     CheckBox chkDate{*this, "chkDate", "截止日期"};
     DateBox DTPicker1{*this, "DTPicker1"};
 
     Grid Grid1{*this, "Grid1"};
 
-    Button cmdQuery{*this, "cmdQuery", "查询(&Q)"};
+    Button cmdQuery{*this, "cmdQuery", "查询(&Q)", "F5"};
     Button cmdRefresh{*this, "cmdRefresh", "库存成本刷新(&R)"};
-    Button cmdPrint{*this, "cmdPrint", "打印(&P)"};
+    Button cmdPrint{*this, "cmdPrint", "打印(&P)", "Ctrl+P"};
     Button cmdQuit{*this, "cmdQuit", "退出(&C)"};
 
     int myState = 0; // set by the opener
 
+    Columns list;
+    Filters filters;
+
     StockQuery Question() const { return static_cast<StockQuery>(myState); }
-    // The option chosen, 0 to 3: the price that values transfers and stocktakes.
-    int ChosenPrice() const;
+    const OptionButton& ChosenPrice() const;
 };
+
+// -- stock_query.cpp
+std::vector<Column> StockColumns(const frmCkKc& s);
+std::vector<Filter> StockFilters(frmCkKc& s);
+// Runs the query and fills the grid; says so when nothing matched.
+void QueryStock(frmCkKc& s);
+// The alarm's row colours from stock and limits.
+void ColorRows(frmCkKc& s);
 
 void RegisterStockScreens();
 

@@ -6,12 +6,26 @@
 #include "controls/gestures.h"
 #include "session/session.h"
 #include "view/binding.h"
+#include "view/plain_form.h"
 #include "view/qt_text.h"
 #include "view/qt_view.h"
 
 namespace jxc {
 
-QString FormOf(const std::string& screen) {
+std::unique_ptr<QWidget> FormOf(Screen& screen) {
+    if (const Arrangement plain = screen.Arrange(); !plain.IsEmpty())
+        return PlainForm(plain);
+    QFile file(FormFileOf(screen.name));
+    if (!file.open(QIODevice::ReadOnly))
+        throw ScreenError("窗口 " + screen.name + " 没有界面文件。");
+    QUiLoader loader;
+    std::unique_ptr<QWidget> form(loader.load(&file));
+    if (!form)
+        throw ScreenError("窗口 " + screen.name + " 的界面文件有误：" + S(loader.errorString()));
+    return form;
+}
+
+QString FormFileOf(const std::string& screen) {
     return ":/ui/" + Q(screen) + ".ui";
 }
 
@@ -33,13 +47,7 @@ ScreenWindow::~ScreenWindow() {
 }
 
 void ScreenWindow::LoadForm() {
-    QFile file(FormOf(screen_.name));
-    if (!file.open(QIODevice::ReadOnly))
-        throw ScreenError("窗口 " + screen_.name + " 没有界面文件。");
-    QUiLoader loader;
-    form_ = loader.load(&file, this);
-    if (!form_)
-        throw ScreenError("窗口 " + screen_.name + " 的界面文件有误：" + S(loader.errorString()));
+    form_ = FormOf(screen_).release();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(form_);
@@ -61,18 +69,18 @@ void ScreenWindow::BindControls() {
     }
 }
 
-// Buttons name a function key in the property "fkey"; the line at the foot tells those that can be pressed.
+// The line at the foot tells the keys of the commands that can be pressed.
 void ScreenWindow::AddFunctionKeys() {
-    for (auto* button : form_->findChildren<QAbstractButton*>()) {
-        const QString key = button->property("fkey").toString();
-        if (key.isEmpty())
+    for (Control* control : screen_.Controls()) {
+        auto* command = dynamic_cast<Command*>(control);
+        auto* button = command ? form_->findChild<QAbstractButton*>(Q(command->name)) : nullptr;
+        if (!button || command->shortcut.empty())
             continue;
-        withKeys_.push_back(button);
-        auto* shortcut = new QShortcut(QKeySequence(key), this);
-        connect(shortcut, &QShortcut::activated, button, [this, button] { PressByKey(*button); });
+        withKeys_.emplace_back(button, Q(command->shortcut));
+        connect(new QShortcut(QKeySequence(Q(command->shortcut)), this), &QShortcut::activated, button,
+                [this, button] { PressByKey(*button); });
     }
     keys_ = new QLabel;
-    keys_->setForegroundRole(QPalette::PlaceholderText);
     keys_->setContentsMargins(9, 0, 9, 6);
     QPalette colors = keys_->palette();
     colors.setColor(QPalette::WindowText, QColor(176, 0, 32)); // what is told there wants to be seen
@@ -113,9 +121,9 @@ void ScreenWindow::TurnTab(int step) {
 
 void ScreenWindow::ShowFunctionKeys() {
     QStringList told;
-    for (const QAbstractButton* button : withKeys_)
+    for (const auto& [button, key] : withKeys_)
         if (button->isVisibleTo(this) && button->isEnabled())
-            told << button->property("fkey").toString() + " " + WithoutMnemonic(S(button->text()));
+            told << key + " " + WithoutMnemonic(S(button->text()));
     if (form_->findChild<QTabWidget*>())
         told << "Ctrl+Tab 换页";
     keys_->setText(told_.isEmpty() ? told.join("    ") : told_);

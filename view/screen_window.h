@@ -1,4 +1,4 @@
-// The window of one open screen: its .ui file, with each widget bound to the control of the same name. The
+// The window of one open screen: its form, with each widget bound to the control of the same name. The
 // models are the truth: every gesture goes to them, and afterwards all widgets show what they say.
 //
 // Static texts are labels whose names begin with "label"; one that names a field (its buddy) is shown and
@@ -24,7 +24,7 @@ class QtView;
 
 class ScreenWindow : public QDialog {
   public:
-    // A ScreenError when the screen has no .ui file, or the file does not fit it.
+    // A ScreenError when the screen has no form, or the form does not fit it.
     ScreenWindow(QtView& view, Screen& screen, QWidget* parent);
     ~ScreenWindow() override;
 
@@ -74,14 +74,17 @@ class ScreenWindow : public QDialog {
     QWidget* form_ = nullptr;
     std::vector<std::unique_ptr<Binding>> bindings_;
     std::map<const Control*, Binding*> byControl_;
-    std::vector<QAbstractButton*> withKeys_;
+    std::vector<std::pair<QAbstractButton*, QString>> withKeys_;
     QLabel* keys_ = nullptr; // the line at the foot
     QString told_;           // stands there instead of the keys
     bool justTold_ = false;  // by the key or click at work
     int depth_ = 0;          // of gestures in each other
 };
 
+// The widgets of a screen by the names of its controls: laid out plainly where the screen says how, else from its .ui
+// file. A ScreenError when it has neither, or the file is broken.
+std::unique_ptr<QWidget> FormOf(Screen& screen);
 // The .ui file of a screen as a resource path.
-QString FormOf(const std::string& screen);
+QString FormFileOf(const std::string& screen);
 
 } // namespace jxc

@@ -1,7 +1,7 @@
 #include "host/company/default_dictionary.h"
 
+#include "forms/column_dictionary.h"
 #include "host/company/table_writer.h"
-#include "settings/column_dictionary.h"
 
 namespace jxc {
 

@@ -8,13 +8,12 @@ namespace jxc {
 struct frmHostAccounts : ListEditor {
     frmHostAccounts();
 
-    TextBox txtCompCode{*this, "txtCompCode"}; // digits: warehouses and entries hold its number
-    TextBox txtCompname{*this, "txtCompname"};
+    // Digits: warehouses and entries hold its number.
+    TextRecordField txtCompCode{
+        *this, "txtCompCode", "compCode", "编号", 9, {.required = true, .unique = true}};
+    TextRecordField txtCompname{*this, "txtCompname", "compname", "名称", 40, {.required = true}};
 
-    std::string ListStatement() const override;
-    std::span<const Use> Uses() const override;
     std::string UsedKey() const override;
-    MayRefuse RefuseContent() override;
 };
 
 } // namespace jxc

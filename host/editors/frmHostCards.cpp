@@ -10,12 +10,7 @@ namespace jxc {
 
 namespace {
 
-// By fType0.
-const std::vector<std::string> kKinds{"不限", "供应商", "销售商", "代销商"};
-constexpr int kKindColumn = 3;
-constexpr int kSeekBytes = 50;
-
-constexpr Use kUses[] = {
+const std::vector<Use> kUses{
     {"tJXC_CkDj01 Where fKhID=", "仓库单据"},
     {"tJXC_CkHt01 Where fKhID=", "合同订单"},
     {"tJXC_CkJh01 Where fKhID=", "计划单"},
@@ -31,35 +26,22 @@ constexpr Use kUses[] = {
 
 } // namespace
 
-frmHostCards::frmHostCards() : ListEditor("frmHostCards", "客户资料", "cards", "fID") {
-    EditorField& code = Hold(txtCompCode, "CompCode", "编号", 20);
-    code.required = code.unique = true;
-    Hold(txtCompName, "CompName", "名称", 80).required = true; // lists of customers show 80 characters
-    Hold(txtName, "name", "联系人", 20);
-    Hold(txtTelphone, "telphone", "电话", 30);
-    Hold(txtHomephone, "homephone", "家庭电话", 30);
-    Hold(txtHandphone, "handphone", "手机", 30);
-    Hold(txtFax, "fax", "传真", 30);
-    Hold(txtE_mail, "E_mail", "电邮", 50);
-    Hold(txtHttp, "http", "网址", 80);
-    Hold(txtPostcode, "postcode", "邮编", 10);
-    Hold(txtCompAdd, "CompAdd", "地址", 50); // as long as a document's address
-    cboType0.caption = "客户类型";
-    cboType0.items = kKinds;
-    txtSeek.caption = "查找";
-    FilterKeys(txtSeek, kSeekBytes);
-    txtSeek.onLeave = [this] { return CheckNoQuote(txtSeek.text); };
+frmHostCards::frmHostCards()
+    : ListEditor("frmHostCards", "客户资料", {"cards", "fID", "CompCode,fID", kUses}) {
+    const auto kind = [this](const Recordset& row) {
+        const auto at = static_cast<size_t>(row["fType0"].AsLong());
+        return at < cboType0.items.size() ? Value(cboType0.items[at]) : row["fType0"];
+    };
+    SetColumns({{"编号", "CompCode", 12},
+                {"名称", "CompName", 32},
+                {"客户类型", "fType0", 10, Figure::Text, kind},
+                {"电话", "telphone", 16},
+                {"联系人", "name", 12}});
     txtSeek.onKey = [this](const std::string& pressed) {
         if (pressed == "Enter" && CheckNoQuote(txtSeek.text))
             Load();
     };
     cmdSeek.onClick = [this] { Load(); };
-    Grid1.SetColumns({{.caption = "编号", .width = 12},
-                      {.caption = "名称", .width = 32},
-                      {.caption = "客户类型", .width = 10},
-                      {.caption = "电话", .width = 16},
-                      {.caption = "联系人", .width = 12},
-                      {.caption = "fID", .hidden = true}});
 }
 
 void frmHostCards::Open() {
@@ -67,48 +49,28 @@ void frmHostCards::Open() {
     ListEditor::Open();
 }
 
-std::string frmHostCards::ListStatement() const {
-    std::string where;
-    if (!Trim(txtSeek.text).empty()) {
-        const std::string pattern = InQuotes(LikePattern(txtSeek.text));
-        where =
-            " Where CompCode like " + pattern + " or CompName like " + pattern + " or name like " + pattern;
-    }
-    return "select CompCode,CompName,fType0,telphone,name,fID from cards" + where + " Order By CompCode,fID";
+Arrangement frmHostCards::Arrange() {
+    Arrangement plain = ListEditor::Arrange();
+    plain.above = {{&txtSeek, &cmdSeek}};
+    plain.width = 1000;
+    plain.height = 600;
+    return plain;
 }
 
-Value frmHostCards::ShownCell(int column, const Value& cell) const {
-    if (column != kKindColumn)
-        return cell;
-    const auto kind = static_cast<size_t>(cell.AsLong());
-    return kind < kKinds.size() ? Value(kKinds[kind]) : cell;
+std::string frmHostCards::ListCondition() const {
+    if (Trim(txtSeek.text).empty())
+        return "";
+    const std::string pattern = InQuotes(LikePattern(txtSeek.text));
+    return " Where CompCode like " + pattern + " or CompName like " + pattern + " or name like " + pattern;
 }
 
 Value frmHostCards::KeyToStore() const {
     return mode == EditorMode::Add ? Value(DbMax("cards", "fID") + 1) : key;
 }
 
-std::span<const Use> frmHostCards::Uses() const {
-    return kUses;
-}
-
 void frmHostCards::ShapeByMode() {
     ListEditor::ShapeByMode();
     txtSeek.enabled = cmdSeek.enabled = mode == EditorMode::Browse;
-    cboType0.enabled = mode == EditorMode::Add || mode == EditorMode::Change;
-}
-
-void frmHostCards::Clear() {
-    ListEditor::Clear();
-    cboType0.SetIndex(0);
-}
-
-void frmHostCards::ShowRest(const Recordset& row) {
-    cboType0.SetIndex(static_cast<int>(row["fType0"].AsLong()));
-}
-
-void frmHostCards::WriteRest(Recordset& row) {
-    row.Set("fType0", std::max(cboType0.Index(), 0));
 }
 
 // Products carry the name of their supplier; delivery addresses go with their card.

@@ -8,32 +8,32 @@ namespace jxc {
 struct frmHostCards : ListEditor {
     frmHostCards();
     void Open() override;
+    Arrangement Arrange() override;
 
-    TextBox txtSeek{*this, "txtSeek"}; // limits the list to codes, names and contacts that hold the text
+    TextField txtSeek{*this, "txtSeek", "查找",
+                      50}; // limits the list to codes, names and contacts that hold the text
     Button cmdSeek{*this, "cmdSeek", "查找(&F)"};
 
-    TextBox txtCompCode{*this, "txtCompCode"};
-    TextBox txtCompName{*this, "txtCompName"};
-    TextBox txtName{*this, "txtName"};
-    ListBox cboType0{*this, "cboType0"};
-    TextBox txtTelphone{*this, "txtTelphone"};
-    TextBox txtHomephone{*this, "txtHomephone"};
-    TextBox txtHandphone{*this, "txtHandphone"};
-    TextBox txtFax{*this, "txtFax"};
-    TextBox txtE_mail{*this, "txtE_mail"};
-    TextBox txtHttp{*this, "txtHttp"};
-    TextBox txtPostcode{*this, "txtPostcode"};
-    TextBox txtCompAdd{*this, "txtCompAdd"};
+    TextRecordField txtCompCode{
+        *this, "txtCompCode", "CompCode", "编号", 20, {.required = true, .unique = true}};
+    // Lists of customers show 80 characters.
+    TextRecordField txtCompName{*this, "txtCompName", "CompName", "名称", 80, {.required = true}};
+    ChoiceRecordField cboType0{
+        *this, "cboType0", "fType0", "客户类型", {"不限", "供应商", "销售商", "代销商"}};
+    TextRecordField txtName{*this, "txtName", "name", "联系人", 20};
+    TextRecordField txtTelphone{*this, "txtTelphone", "telphone", "电话", 30};
+    TextRecordField txtHomephone{*this, "txtHomephone", "homephone", "住宅电话", 30};
+    TextRecordField txtHandphone{*this, "txtHandphone", "handphone", "手机", 30};
+    TextRecordField txtFax{*this, "txtFax", "fax", "传真", 30};
+    TextRecordField txtE_mail{*this, "txtE_mail", "E_mail", "电子邮件", 50};
+    TextRecordField txtHttp{*this, "txtHttp", "http", "网址", 80};
+    TextRecordField txtPostcode{*this, "txtPostcode", "postcode", "邮编", 10};
+    TextRecordField txtCompAdd{*this, "txtCompAdd", "CompAdd", "地址", 50}; // as long as a document's address
 
-    std::string ListStatement() const override;
-    Value ShownCell(int column, const Value& cell) const override;
+    std::string ListCondition() const override;
     std::string RecordName() const override { return txtCompName.text; }
     Value KeyToStore() const override;
-    std::span<const Use> Uses() const override;
     void ShapeByMode() override;
-    void Clear() override;
-    void ShowRest(const Recordset& row) override;
-    void WriteRest(Recordset& row) override;
     void StoreElsewhere() override;
 };
 

@@ -21,36 +21,30 @@ Recordset RowToWrite(const char* statement) {
 } // namespace
 
 frmHostCompany::frmHostCompany() : RecordEditor("frmHostCompany", "公司资料") {
-    Hold(txtFullName, "FullName", "公司全称", 80);
-    Hold(txtCompName, "CompName", "公司简称", 40).required = true;
-    Hold(txtProvince, "Province", "省份", 20);
-    Hold(txtCityname, "cityname", "城市", 20);
-    Hold(txtCompadd, "compadd", "地址", 80);
-    Hold(txtPostcode, "postcode", "邮编", 10);
-    Hold(txtTelphone, "Telphone", "电话", 30);
-    Hold(txtFax, "fax", "传真", 30);
-    Hold(txtHttp, "http", "网址", 80);
-    Hold(txtE_Mail, "E_Mail", "电邮", 50);
-    Hold(txtCompTax, "CompTax", "税号", 40);
-    Hold(txtCompAcnt, "CompAcnt", "帐号", 60);
+    fieldsInARow = 2;
     dtpCompDate.caption = "启用日期";
+    const auto periodEnd = [] {
+        LoadPeriodSettings();
+        return session.PeriodEnd;
+    };
+    guards = {{[this] { return !dtpCompDate.date; }, "[启用日期]不能为空值！", &dtpCompDate},
+              {[this, periodEnd] { return periodEnd() && *dtpCompDate.date > *periodEnd(); },
+               "[启用日期]不能晚于本期（至 {}）！", &dtpCompDate,
+               [periodEnd] { return IsoText(*periodEnd()); }}};
+}
+
+Arrangement frmHostCompany::Arrange() {
+    Arrangement plain = RecordEditor::Arrange();
+    plain.fields.push_back({&dtpCompDate});
+    plain.width = 760;
+    plain.height = 360;
+    return plain;
 }
 
 void frmHostCompany::Load() {
     ShowFields(*this, Recordset(Conn(), kHeader));
     const Recordset start(Conn(), kStart);
     dtpCompDate.date = start.AtEnd() ? std::nullopt : ParseDate(start["CompDate"].AsText());
-}
-
-MayRefuse frmHostCompany::Refuse() {
-    if (MayRefuse empty = RefuseEmptyField(*this))
-        return empty;
-    if (!dtpCompDate.date)
-        return Refusal{"[启用日期]不能为空值！", &dtpCompDate};
-    LoadPeriodSettings();
-    if (session.PeriodEnd && *dtpCompDate.date > *session.PeriodEnd)
-        return Refusal{"[启用日期]不能晚于本期（至 " + IsoText(*session.PeriodEnd) + "）！", &dtpCompDate};
-    return std::nullopt;
 }
 
 void frmHostCompany::Store() {

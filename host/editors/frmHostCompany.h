@@ -7,27 +7,26 @@ namespace jxc {
 
 struct frmHostCompany : RecordEditor {
     frmHostCompany();
+    Arrangement Arrange() override;
 
-    TextBox txtFullName{*this, "txtFullName"};
-    TextBox txtCompName{*this, "txtCompName"};
-    TextBox txtProvince{*this, "txtProvince"};
-    TextBox txtCityname{*this, "txtCityname"};
-    TextBox txtCompadd{*this, "txtCompadd"};
-    TextBox txtPostcode{*this, "txtPostcode"};
-    TextBox txtTelphone{*this, "txtTelphone"};
-    TextBox txtFax{*this, "txtFax"};
-    TextBox txtHttp{*this, "txtHttp"};
-    TextBox txtE_Mail{*this, "txtE_Mail"};
-    TextBox txtCompTax{*this, "txtCompTax"};
-    TextBox txtCompAcnt{*this, "txtCompAcnt"};
+    TextRecordField txtFullName{*this, "txtFullName", "FullName", "公司全称", 80};
+    TextRecordField txtCompName{*this, "txtCompName", "CompName", "公司简称", 40, {.required = true}};
+    TextRecordField txtProvince{*this, "txtProvince", "Province", "省", 20};
+    TextRecordField txtCityname{*this, "txtCityname", "cityname", "市", 20};
+    TextRecordField txtCompadd{*this, "txtCompadd", "compadd", "地址", 80};
+    TextRecordField txtPostcode{*this, "txtPostcode", "postcode", "邮编", 10};
+    TextRecordField txtTelphone{*this, "txtTelphone", "Telphone", "电话", 30};
+    TextRecordField txtFax{*this, "txtFax", "fax", "传真", 30};
+    TextRecordField txtHttp{*this, "txtHttp", "http", "网址", 80};
+    TextRecordField txtE_Mail{*this, "txtE_Mail", "E_Mail", "电子邮件", 50};
+    TextRecordField txtCompTax{*this, "txtCompTax", "CompTax", "税号", 40};
+    TextRecordField txtCompAcnt{*this, "txtCompAcnt", "CompAcnt", "帐号", 60};
     DateBox dtpCompDate{*this, "dtpCompDate"};
 
     void Load() override;
     bool HasRecord() override { return true; } // saving adds the row that is missing
-    MayRefuse Refuse() override;
     void Store() override;
     void ShapeByMode() override;
-    Control& Home() override { return cmdChange; }
 };
 
 } // namespace jxc

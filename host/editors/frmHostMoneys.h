@@ -8,13 +8,12 @@ namespace jxc {
 struct frmHostMoneys : ListEditor {
     frmHostMoneys();
 
-    TextBox txtMoneyCode{*this, "txtMoneyCode"};
-    TextBox txtMoneyRate{*this, "txtMoneyRate"}; // what one unit is worth in home currency
-    CheckBox chkMoneyType{*this, "chkMoneyType", "本位币"};
-
-    std::string ListStatement() const override;
-    std::span<const Use> Uses() const override;
-    MayRefuse RefuseContent() override;
+    TextRecordField txtMoneyCode{
+        *this, "txtMoneyCode", "MoneyCode", "货币", 10, {.required = true, .unique = true}};
+    // What one unit is worth in home currency.
+    TextRecordField txtMoneyRate{
+        *this, "txtMoneyRate", "MoneyRate", "汇率", 12, {.required = true, .numeric = true}};
+    TickRecordField chkMoneyType{*this, "chkMoneyType", "MoneyType", "本位币"};
 };
 
 } // namespace jxc

@@ -10,7 +10,7 @@ namespace {
 
 enum Column { Name = 1, Tick, Position };
 
-constexpr Use kUses[] = {
+const std::vector<Use> kUses{
     {"tJXC_CkDj01 Where fInvDLR=", "仓库单据"},       {"tJXC_CkDj01 Where fInvSHR=", "仓库单据"},
     {"tJXC_CkHt01 Where fInvDLR=", "合同订单"},       {"tJXC_CkHt01 Where fInvSHR=", "合同订单"},
     {"tJXC_CkJh01 Where fInvDLR=", "计划单"},         {"tJXC_CkJh01 Where fInvSHR=", "计划单"},
@@ -80,14 +80,16 @@ std::string RightsFromGrid(const frmHostUsers& s) {
 
 } // namespace
 
-frmHostUsers::frmHostUsers() : ListEditor("frmHostUsers", "用户与权限", "tHostUser", "fUserName") {
-    EditorField& name = Hold(txtUserName, "fUserName", "用户", 20);
-    name.required = name.unique = true;
+// Documents keep the name of who has left.
+frmHostUsers::frmHostUsers()
+    : ListEditor("frmHostUsers", "用户与权限",
+                 {.name = "tHostUser",
+                  .key = "fUserName",
+                  .order = "fUserName",
+                  .uses = kUses,
+                  .mayDeleteUsed = true}) {
     mark = &chkSupervisor;
-    markField = "fSupervisor";
-    Grid1.SetColumns({{.caption = "用户", .width = 20},
-                      {.caption = "负责人", .type = CellType::Check},
-                      {.caption = "fUserName", .hidden = true}});
+    SetColumns({{"用户", "fUserName", 20}, {"负责人", "fSupervisor", 8, Figure::Tick}});
 }
 
 void frmHostUsers::Open() {
@@ -97,12 +99,12 @@ void frmHostUsers::Open() {
     ListEditor::Open();
 }
 
-std::string frmHostUsers::ListStatement() const {
-    return "select fUserName,fSupervisor,fUserName from tHostUser Order By fUserName";
-}
-
-std::span<const Use> frmHostUsers::Uses() const {
-    return kUses;
+Arrangement frmHostUsers::Arrange() {
+    Arrangement plain = ListEditor::Arrange();
+    plain.fields.push_back({&Grid2});
+    plain.width = 820;
+    plain.height = 520;
+    return plain;
 }
 
 void frmHostUsers::ShapeByMode() {

@@ -9,14 +9,13 @@ namespace jxc {
 struct frmHostUsers : ListEditor {
     frmHostUsers();
     void Open() override;
+    Arrangement Arrange() override;
 
-    TextBox txtUserName{*this, "txtUserName"};
-    CheckBox chkSupervisor{*this, "chkSupervisor", "负责人"};
+    TextRecordField txtUserName{
+        *this, "txtUserName", "fUserName", "用户", 20, {.required = true, .unique = true}};
+    TickRecordField chkSupervisor{*this, "chkSupervisor", "fSupervisor", "负责人"};
     Grid Grid2{*this, "Grid2"}; // a ticked row for each right
 
-    std::string ListStatement() const override;
-    std::span<const Use> Uses() const override;
-    bool MayDeleteUsed() const override { return true; } // documents keep the name of who has left
     void ShapeByMode() override;
     void Clear() override;
     void ShowRest(const Recordset& row) override;

@@ -149,8 +149,8 @@ TEST_P(DocumentList, PrintsUnderItsFilters) {
         Click(s, s.cmdList);
         Click(s, s.cmdPrint);
         EXPECT_EQ(told, headed("2026-11-01", "2026-11-30", "进货、批发出货"));
-        s.dtpDate[0].date = Today();
-        s.dtpDate[1].date.reset();
+        s.dtpDate.first.date = Today();
+        s.dtpDate.last.date.reset();
         s.chkCk[0].value = false;
         Click(s, s.cmdList);
         Click(s, s.cmdPrint);

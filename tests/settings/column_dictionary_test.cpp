@@ -1,6 +1,6 @@
 // The column dictionary: captions in both languages, the columns of a list with their widths and forms, the
 // screen that renames a field, and the editors of code lists and columns, on both engines.
-#include "settings/column_dictionary.h"
+#include "forms/column_dictionary.h"
 
 #include "controls/gestures.h"
 #include "session/session.h"

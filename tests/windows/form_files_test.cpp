@@ -1,5 +1,5 @@
-// The .ui files fit their screens: a widget of the right kind for every control, no widget without one, and
-// keys that mean one thing.
+// The forms fit their screens: a widget of the right kind for every control, no widget without one, and keys that mean
+// one thing.
 #include <QUiLoader>
 
 #include "documents/frmDj01.h"
@@ -9,6 +9,7 @@
 #include "host/screens.h"
 #include "tests/windows/window_fixture.h"
 #include "view/binding.h"
+#include "view/screen_window.h"
 
 namespace jxc::test {
 
@@ -17,17 +18,11 @@ namespace {
 // Settings that a screen keeps without showing them.
 const std::set<std::string> kNeverShown{"frmCkKc.chkPrice"};
 
-std::vector<std::string> Forms() {
+std::vector<std::string> FormFiles() {
     std::vector<std::string> names;
     for (const QString& file : QDir(":/ui").entryList({"*.ui"}))
         names.push_back(S(QFileInfo(file).completeBaseName()));
     return names;
-}
-
-std::unique_ptr<QWidget> LoadForm(const std::string& screen) {
-    QFile file(FormOf(screen));
-    QUiLoader loader;
-    return std::unique_ptr<QWidget>(file.open(QIODevice::ReadOnly) ? loader.load(&file) : nullptr);
 }
 
 // Names that stand for no control: static texts, layout, the pages of tabs.
@@ -36,14 +31,19 @@ bool IsFurniture(const QString& name) {
     return furniture.match(name).hasMatch();
 }
 
-class FormFiles : public testing::TestWithParam<std::string> {
+std::vector<std::string> AllScreens() {
+    RegisterAllScreens();
+    return ScreenNames();
+}
+
+class Forms : public testing::TestWithParam<std::string> {
   protected:
     void SetUp() override {
         ResetScreens();
-        form = LoadForm(GetParam());
-        ASSERT_TRUE(form);
         screen = FindScreen(GetParam());
         ASSERT_TRUE(screen);
+        form = FormOf(*screen);
+        ASSERT_TRUE(form);
     }
     bool HasRowMenu() const {
         return std::any_of(screen->Controls().begin(), screen->Controls().end(), [](const Control* control) {
@@ -54,10 +54,10 @@ class FormFiles : public testing::TestWithParam<std::string> {
     Screen* screen = nullptr;
     std::unique_ptr<QWidget> form;
 };
-INSTANTIATE_TEST_SUITE_P(All, FormFiles, testing::ValuesIn(Forms()),
+INSTANTIATE_TEST_SUITE_P(All, Forms, testing::ValuesIn(AllScreens()),
                          [](const auto& form) { return form.param; });
 
-TEST_P(FormFiles, HoldAWidgetForEveryControl) {
+TEST_P(Forms, HoldAWidgetForEveryControl) {
     for (const Control* control : screen->Controls()) {
         const bool inMenu = control->kind == ControlKind::Menu && HasRowMenu();
         const auto* widget = form->findChild<QWidget*>(Q(control->name));
@@ -68,8 +68,27 @@ TEST_P(FormFiles, HoldAWidgetForEveryControl) {
     }
 }
 
-TEST_P(FormFiles, NameControlsAndWidgetsThatAreThere) {
-    QFile file(FormOf(GetParam()));
+TEST_P(Forms, NoneHasASecondWidgetOrNoControl) {
+    std::set<QString> names;
+    for (const QWidget* widget : form->findChildren<QWidget*>(Qt::FindChildrenRecursively)) {
+        const QString name = widget->objectName();
+        if (!name.isEmpty() && screen->Find(S(name))) {
+            EXPECT_TRUE(names.insert(name).second) << S(name);
+        }
+    }
+}
+
+class FormFile : public testing::TestWithParam<std::string> {};
+INSTANTIATE_TEST_SUITE_P(All, FormFile, testing::ValuesIn(FormFiles()),
+                         [](const auto& form) { return form.param; });
+
+// A screen that a plain window can show needs no file, and one with a file is not laid out twice.
+TEST_P(FormFile, NamesControlsAndWidgetsThatAreThere) {
+    Screen* screen = FindScreen(GetParam());
+    ASSERT_TRUE(screen);
+    EXPECT_TRUE(screen->Arrange().IsEmpty());
+    const std::unique_ptr<QWidget> form = FormOf(*screen);
+    QFile file(FormFileOf(GetParam()));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     QXmlStreamReader xml(&file);
     while (!xml.atEnd()) {
@@ -87,10 +106,6 @@ TEST_P(FormFiles, NameControlsAndWidgetsThatAreThere) {
     EXPECT_FALSE(xml.hasError());
 }
 
-TEST(Forms, AreThoseOfTheScreens) {
-    EXPECT_EQ(Forms(), ScreenNames());
-}
-
 // Letters and function keys that two things in the window in front would answer.
 Texts Clashes() {
     QMap<QString, QStringList> users;
@@ -101,13 +116,17 @@ Texts Clashes() {
     const auto letter = [](const QString& caption) { return QKeySequence::mnemonic(caption).toString(); };
     for (const auto* button : Person::Front().findChildren<QAbstractButton*>()) {
         add(button, button->text(), letter(button->text()));
-        add(button, button->text(), button->property("fkey").toString());
     }
     for (const auto* label : Person::Front().findChildren<QLabel*>())
         if (label->buddy())
             add(label, label->text(), letter(label->text()));
     for (const auto* group : Person::Front().findChildren<QGroupBox*>())
         add(group, group->title(), letter(group->title()));
+    auto& window = dynamic_cast<ScreenWindow&>(Person::Front());
+    for (const Control* control : window.Shown().Controls())
+        if (const auto* command = dynamic_cast<const Command*>(control))
+            if (const auto* button = Person::Front().findChild<QWidget*>(Q(command->name)))
+                add(button, Q(command->caption), Q(command->shortcut));
     Texts clashes;
     for (auto user = users.cbegin(); user != users.cend(); ++user)
         if (user->size() > 1)

@@ -5,7 +5,9 @@
 
 #include <string>
 
-#include "controls/grid.h"
+#include <vector>
+
+#include "forms/columns.h"
 #include "session/components.h"
 
 namespace jxc {
@@ -26,6 +28,13 @@ inline const std::string kNoCaption = "\t";
 std::string SetupGridColumns(const std::string& table, Grid& grid, int firstColumn);
 // Keeps the widths of the columns that SetupGridColumns made, for all users, and says so.
 void SaveGridColumnWidths(const std::string& table, const Grid& grid, int firstColumn);
+
+// A screen's columns as the company wants them: first those that its dictionary has, in its order and under its
+// captions, then the others; keys stay last.
+std::vector<Column> CompanysColumns(const std::string& table, std::vector<Column> shipped);
+// Lets the user choose among the columns, which are written to the dictionary as far as they are missing there. False
+// when nothing was chosen. Opens a transaction of its own.
+[[nodiscard]] bool ChooseColumns(const std::string& table, const std::vector<Column>& shipped);
 
 // Opens the code list editor in use; see CodeListEditor for the arguments and the text that comes back.
 std::string OpenBriefPicker(const std::string& table, const std::string& code, BriefKind kind);

@@ -1,4 +1,7 @@
-#include "settings/column_dictionary.h"
+#include "forms/column_dictionary.h"
+
+#include <algorithm>
+#include <set>
 
 #include "base/text.h"
 #include "controls/view.h"
@@ -33,6 +36,43 @@ GridColumn ColumnOf(const Recordset& row) {
                        : alignment == kDictionaryCenter ? Alignment::Center
                                                         : Alignment::Left;
     return column;
+}
+
+std::string RowsOf(const std::string& table) {
+    return "select * from rptListDetail where ftable=" + InQuotes(table) + " Order By fieldID,FieldName";
+}
+
+void AddColumn(Recordset& dictionary, const std::string& table, std::int64_t place, const Column& column) {
+    dictionary.AddNew();
+    dictionary.Set("ftable", table);
+    dictionary.Set("fieldID", place);
+    dictionary.Set("FieldName", column.field);
+    dictionary.Set("FieldName_0", column.caption);
+    dictionary.Set("FieldName_1", column.caption);
+    dictionary.Set("FieldGridWidth", column.width);
+    dictionary.Set("FieldDataType", column.IsNumber() ? kDictionaryNumber : kDictionaryText);
+    dictionary.Set("FieldDataDeci", DecimalsOf(column));
+    dictionary.Set("FieldHAlign", column.IsNumber() ? kDictionaryRight : kDictionaryLeft);
+    dictionary.Set("FieldSelected", 1);
+    dictionary.Set("FieldBriefType", "");
+    dictionary.Set("FEnabled", 1);
+    dictionary.Update();
+}
+
+// Columns that the dictionary does not have yet go behind those that it has.
+void CompleteDictionary(const std::string& table, const std::vector<Column>& shipped) {
+    Transaction transaction(Conn());
+    Recordset dictionary(Conn(), RowsOf(table), Access::Write);
+    std::set<std::string> known;
+    std::int64_t place = 0;
+    for (; !dictionary.AtEnd(); dictionary.MoveNext()) {
+        known.insert(LowerCase(dictionary["FieldName"].AsText()));
+        place = std::max(place, dictionary["fieldID"].AsLong());
+    }
+    for (const Column& column : shipped)
+        if (column.IsUsed() && !known.contains(LowerCase(column.field)))
+            AddColumn(dictionary, table, ++place, column);
+    transaction.Commit();
 }
 
 } // namespace
@@ -76,6 +116,29 @@ void SaveGridColumnWidths(const std::string& table, const Grid& grid, int firstC
     }
     transaction.Commit();
     Inform(grid.screen.title, "栏目样式保存完毕！");
+}
+
+std::vector<Column> CompanysColumns(const std::string& table, std::vector<Column> shipped) {
+    std::vector<Column> ordered;
+    for (Recordset row(Conn(), RowsOf(table)); !row.AtEnd(); row.MoveNext()) {
+        const auto found = std::ranges::find_if(shipped, [&](const Column& column) {
+            return column.figure != Figure::Key && EqualsNoCase(column.field, row["FieldName"].AsText());
+        });
+        if (found == shipped.end())
+            continue;
+        if (const std::string caption = row[CaptionField()].AsText(); !caption.empty() && !found->ownCaption)
+            found->caption = caption;
+        found->selected = row["FieldSelected"].AsLong() != 0;
+        ordered.push_back(std::move(*found));
+        shipped.erase(found);
+    }
+    std::ranges::move(shipped, std::back_inserter(ordered));
+    return ordered;
+}
+
+bool ChooseColumns(const std::string& table, const std::vector<Column>& shipped) {
+    CompleteDictionary(table, shipped);
+    return !OpenBriefPicker(table, "", BriefKind::SelectColumns).empty();
 }
 
 std::string OpenBriefPicker(const std::string& table, const std::string& code, BriefKind kind) {

@@ -1,0 +1,35 @@
+#include "forms/fields.h"
+
+#include "forms/edit_filter.h"
+#include "session/dialect.h"
+#include "session/lookups/lists.h"
+
+namespace jxc {
+
+TextField::TextField(Screen& screen, std::string name, std::string caption, int maxBytes, bool numeric)
+    : TextBox(screen, std::move(name)) {
+    this->caption = std::move(caption);
+    FilterKeys(*this, maxBytes, numeric);
+    onLeave = [this] { return CheckNoQuote(text); };
+}
+
+ListField::ListField(Screen& screen, std::string name, bool editable)
+    : ListBox(screen, std::move(name), editable) {
+    onLeave = [this] { return ComboIndexByText(*this, text) >= 0 || CheckNoQuote(text); };
+}
+
+void AllWarehousesField::Offer() {
+    FillCombo("Select fCkName,0 as aaa from tJXC_Ck Order By fCkCode", *this);
+    SetIndex(items.size() == 1 ? 0 : -1);
+}
+
+std::string DateRange::Test(const std::string& column) const {
+    const std::optional<Date> from = first.date ? first.date : last.date;
+    if (!from)
+        return "";
+    if (!first.date || !last.date)
+        return DayTest(column, " = ", *from, DayForm::Iso);
+    return DayTest(column, " Between ", *from, DayForm::Iso) + " And " + DayLiteral(*last.date, DayForm::Iso);
+}
+
+} // namespace jxc

@@ -1,0 +1,43 @@
+// Fields that many screens have, each a member one line long with its rules: what may be typed, where its list comes
+// from.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "controls/control.h"
+
+namespace jxc {
+
+// A text of at most so many bytes of the code page, without quotes; with `numeric` it must stay one number.
+struct TextField : TextBox {
+    TextField(Screen& screen, std::string name, std::string caption, int maxBytes, bool numeric = false);
+};
+
+// What a query's filter looks for: a part of a text, or a pattern.
+struct PatternField : TextField {
+    PatternField(Screen& screen, std::string name) : TextField(screen, std::move(name), "", 50) {}
+};
+
+// A list of a query; an editable one takes a text without quotes too, an item or a pattern.
+struct ListField : ListBox {
+    ListField(Screen& screen, std::string name, bool editable = false);
+};
+
+// All warehouses, also those no longer in use; a single one is chosen.
+struct AllWarehousesField : ListBox {
+    using ListBox::ListBox;
+    void Offer();
+};
+
+// Two days, either of which may be left out. `name`(0) is the first, `name`(1) the last.
+struct DateRange {
+    DateRange(Screen& screen, const std::string& name)
+        : first(screen, name + "(0)"), last(screen, name + "(1)") {}
+    DateBox first, last;
+
+    // The condition on a date column, both days included; with one day given it is that day. "" without any.
+    std::string Test(const std::string& column) const;
+};
+
+} // namespace jxc
