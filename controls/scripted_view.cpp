@@ -4,7 +4,7 @@ namespace jxc {
 
 void ScriptedView::RunModal(Screen& screen) {
     screens.push_back(screen.name);
-    if (const auto routine = routines_.find(screen.name); routine != routines_.end())
+    if (const auto routine = routines_.find(screen.name); routine != routines_.end() && routine->second)
         routine->second(screen);
 }
 

@@ -71,10 +71,9 @@ void ScreenWindow::BindControls() {
 
 // The line at the foot tells the keys of the commands that can be pressed.
 void ScreenWindow::AddFunctionKeys() {
-    for (Control* control : screen_.Controls()) {
-        auto* command = dynamic_cast<Command*>(control);
-        auto* button = command ? form_->findChild<QAbstractButton*>(Q(command->name)) : nullptr;
-        if (!button || command->shortcut.empty())
+    for (auto* button : form_->findChildren<QAbstractButton*>()) {
+        const auto* command = dynamic_cast<Command*>(screen_.Find(S(button->objectName())));
+        if (!command || command->shortcut.empty())
             continue;
         withKeys_.emplace_back(button, Q(command->shortcut));
         connect(new QShortcut(QKeySequence(Q(command->shortcut)), this), &QShortcut::activated, button,

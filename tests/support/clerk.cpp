@@ -105,6 +105,7 @@ Clerk::Clerk() {
 void Clerk::Show(frmDj02& screen, const std::function<void(frmDj02&)>& act) {
     view.OnScreen("frmDj02", [&](Screen&) { act(screen); });
     ShowModal(screen);
+    view.OnScreen("frmDj02", nullptr);
 }
 
 void Clerk::Enter(const DocumentInput& input, const std::function<void(frmDj02&)>& act) {
