@@ -36,8 +36,7 @@ EntryRoad::EntryRoad(const std::string& company, const Trade& trade)
     control.UserName(trade.user);
     control.ZgName(trade.user);
     control.myPower("9999999999");
-    OpenConnection(session.SQLData, *connection_, session.UserPath, session.Password, session.UserID,
-                   session.Default);
+    OpenOfSession(*connection_);
     connection_->SetObserver([this](std::string_view) {
         if (saving_)
             ++statements_;

@@ -114,4 +114,15 @@ BoxButton AskSaveOrDiscard(const std::string& title, const std::string& text) {
     return CurrentView().ShowBox(box);
 }
 
+bool MayDropWork(Screen& screen) {
+    const std::string question = screen.UnsavedWork();
+    if (question.empty())
+        return true;
+    const BoxButton answer = AskSaveOrDiscard(screen.title, question);
+    if (answer != BoxButton::Save)
+        return answer == BoxButton::Discard;
+    return Attempt(screen.title, [&] { screen.SaveWork(); }) && screen.IsOpen() &&
+           screen.UnsavedWork().empty();
+}
+
 } // namespace jxc

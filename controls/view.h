@@ -93,5 +93,8 @@ bool AskOkCancel(const std::string& title, const std::string& text); // true for
 bool AskYesNo(const std::string& title, const std::string& text);    // true for Yes
 // What becomes of typed work: Save, Discard or Cancel, and Enter means Cancel.
 BoxButton AskSaveOrDiscard(const std::string& title, const std::string& text);
+// Before a person leaves the screen: asks what becomes of work that is not saved, and saves it if that is wanted. False
+// when the person stays: rather goes on, or the work could not be saved.
+[[nodiscard]] bool MayDropWork(Screen& screen);
 
 } // namespace jxc

@@ -26,8 +26,7 @@ OpenCompany::OpenCompany(const std::string& company, OpenFor purpose) {
     if (purpose == OpenFor::Looking)
         OpenToRead(session.SQLData, *session.Conn, session.UserPath);
     else
-        OpenConnection(session.SQLData, *session.Conn, session.UserPath, session.Password, session.UserID,
-                       session.Default);
+        OpenOfSession(*session.Conn);
 }
 
 OpenCompany::~OpenCompany() {

@@ -116,14 +116,14 @@ int Play(const std::string& company) {
     control.UserName("王芳");
     control.ZgName("王芳");
     control.myPower("9999999999");
-    const auto query = [&](const std::string& sql) {
+    const auto query = [](const std::string& sql) {
         Connection connection;
-        OpenConnection(DialectOf(company), connection, company, "", "", "");
+        OpenOfSession(connection);
         return connection.Query(sql);
     };
-    const auto execute = [&](const std::string& sql) {
+    const auto execute = [](const std::string& sql) {
         Connection connection;
-        OpenConnection(DialectOf(company), connection, company, "", "", "");
+        OpenOfSession(connection);
         connection.Execute(sql);
     };
     Scenario scenario("tour", kTour, query, execute,

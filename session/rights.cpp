@@ -16,8 +16,7 @@ void OpenIfClosed() {
     if (!session.Conn)
         session.Conn = std::make_unique<Connection>();
     if (!session.Conn->IsOpen())
-        OpenConnection(session.SQLData, *session.Conn, session.UserPath, session.Password, session.UserID,
-                       session.Default);
+        OpenOfSession(*session.Conn);
 }
 
 } // namespace

@@ -258,14 +258,9 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool ScreenWindow::MayDropWork() {
-    const std::string question = screen_.UnsavedWork();
-    if (question.empty())
-        return true;
-    const BoxButton answer = AskSaveOrDiscard(screen_.title, question);
-    if (answer != BoxButton::Save)
-        return answer == BoxButton::Discard;
-    Do([&] { screen_.SaveWork(); });
-    return screen_.IsOpen() && screen_.UnsavedWork().empty();
+    bool may = false;
+    Do([&] { may = jxc::MayDropWork(screen_); });
+    return may;
 }
 
 void ScreenWindow::Leave() {

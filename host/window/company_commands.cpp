@@ -10,6 +10,7 @@
 #include "host/window/company_users.h"
 #include "host/window/main_window.h"
 #include "host/window/recent_companies.h"
+#include "session/company/company_fields.h"
 #include "session/period.h"
 #include "session/session.h"
 #include "view/qt_text.h"
@@ -24,9 +25,7 @@ QString ShownName(const std::string& company) {
 
 std::string CompanyName() {
     const Recordset header(Conn(), "select * from myCompany");
-    if (header.AtEnd())
-        return "";
-    return header["FullName"].AsText().empty() ? header["CompName"].AsText() : header["FullName"].AsText();
+    return header.AtEnd() ? "" : CompanyName(header);
 }
 
 // The screens offered follow from the rights of the user who is to sign in; the one before comes back.

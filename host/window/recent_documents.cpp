@@ -33,8 +33,7 @@ void RecentDocuments::Show(int type) {
     setRowCount(0);
     const std::string stem = BookStem(type, false);
     Connection connection;
-    OpenConnection(session.SQLData, connection, session.UserPath, session.Password, session.UserID,
-                   session.Default);
+    OpenOfSession(connection);
     Recordset found(
         connection,
         "Select Top 15 a.fInvDate,a.fInvNo,c.CompName,a.fInvJE,a.fInvDLR,a.fInvSHR,a.fInvID From " + stem +

@@ -6,6 +6,11 @@
 
 namespace jxc {
 
+std::string CompanyName(const Recordset& header) {
+    const std::string full = header["FullName"].AsText();
+    return full.empty() ? header["CompName"].AsText() : full;
+}
+
 void CompanyFields() {
     const Recordset row(Conn(), "select * from myCompany");
     if (row.AtEnd())
@@ -15,7 +20,7 @@ void CompanyFields() {
         session.CompanyFieldList.push_back(value);
     };
     const auto field = [&](const char* name) { return row[name].AsText(); };
-    add(GetResStr(159) + GetResStr(160), field("FullName").empty() ? field("CompName") : field("FullName"));
+    add(GetResStr(159) + GetResStr(160), CompanyName(row));
     add(GetResStr(162), field("compadd"));
     add(GetResStr(161), field("Province") + field("cityname") + field("compadd"));
     add(GetResStr(163), field("Telphone"));

@@ -51,8 +51,7 @@ void VisitCompany(const std::function<void()>& show) {
     try {
         if (!session.Conn)
             session.Conn = std::make_unique<Connection>();
-        OpenConnection(session.SQLData, *session.Conn, session.UserPath, session.Password, session.UserID,
-                       session.Default);
+        OpenOfSession(*session.Conn);
         session.Conn->SetWaitObserver([](int seconds) { return CurrentView().KeepWaiting(seconds); });
         session.CompanyFieldList.clear();
         CompanyFields();

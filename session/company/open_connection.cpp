@@ -9,6 +9,7 @@
 #include "database/server_address.h"
 #include "database/sqlite_engine.h"
 #include "session/company/company_version.h"
+#include "session/session.h"
 
 namespace jxc {
 
@@ -63,6 +64,11 @@ void OpenEngine(int dialect, Connection& connection, const ServerAddress& addres
 }
 
 } // namespace
+
+void OpenOfSession(Connection& connection) {
+    OpenConnection(session.SQLData, connection, session.UserPath, session.Password, session.UserID,
+                   session.Default);
+}
 
 int OpenConnection(int dialect, Connection& connection, const std::string& path, const std::string& password,
                    const std::string& user, const std::string& defaultName) {

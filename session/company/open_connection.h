@@ -19,6 +19,9 @@ namespace jxc {
 int OpenConnection(int dialect, Connection& connection, const std::string& path, const std::string& password,
                    const std::string& user, const std::string& defaultName);
 
+// Opens it on the company of the session's properties.
+void OpenOfSession(Connection& connection);
+
 // The same to look only: nothing is raised or written, and the file may be read-only. `path` as the command
 // line names a company.
 void OpenToRead(int dialect, Connection& connection, const std::string& path);
