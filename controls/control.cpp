@@ -43,8 +43,9 @@ std::string_view KindName(ControlKind kind) {
     return "";
 }
 
-Control::Control(Screen& screen, std::string name, ControlKind kind, std::string caption)
-    : screen(screen), name(std::move(name)), kind(kind), caption(std::move(caption)) {
+Control::Control(Place place, std::string name, ControlKind kind, std::string caption)
+    : screen(place.screen), name(std::move(name)), kind(kind), caption(std::move(caption)),
+      frame(place.frame) {
     screen.Register(*this);
 }
 

@@ -22,8 +22,19 @@ enum class ControlKind { Text, Label, Button, Check, Option, List, Date, Grid, T
 // "text", "label", "button" ...: the kind as scripts read it.
 std::string_view KindName(ControlKind kind);
 
+struct Control;
+struct Frame;
+
+// Where a control stands: on its screen, or in one of the screen's frames, which hides and disables it with itself.
+struct Place {
+    Place(Screen& screen) : screen(screen) {}
+    Place(Frame& frame);
+    Screen& screen;
+    Control* frame = nullptr;
+};
+
 struct Control {
-    Control(Screen& screen, std::string name, ControlKind kind, std::string caption = "");
+    Control(Place place, std::string name, ControlKind kind, std::string caption = "");
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -41,7 +52,7 @@ struct Control {
     std::string tag;
     bool visible = true;
     bool enabled = true;
-    Control* frame = nullptr; // the frame or panel that holds it
+    Control* const frame; // the frame or panel that holds it, null for none
 
     std::function<void()> onEnter;
     std::function<bool()> onLeave;                 // false keeps the focus here
@@ -49,16 +60,18 @@ struct Control {
 };
 
 struct Label : Control {
-    Label(Screen& screen, std::string name, std::string caption = "")
-        : Control(screen, std::move(name), ControlKind::Label, std::move(caption)) {}
+    Label(Place place, std::string name, std::string caption = "")
+        : Control(place, std::move(name), ControlKind::Label, std::move(caption)) {}
     Value Shown() const override { return caption; }
     int color = 0;
 };
 
 struct Frame : Control {
-    Frame(Screen& screen, std::string name, std::string caption = "")
-        : Control(screen, std::move(name), ControlKind::Frame, std::move(caption)) {}
+    Frame(Place place, std::string name, std::string caption = "")
+        : Control(place, std::move(name), ControlKind::Frame, std::move(caption)) {}
 };
+
+inline Place::Place(Frame& frame) : screen(frame.screen), frame(&frame) {}
 
 // A command button or a menu item.
 struct Command : Control {
@@ -71,15 +84,15 @@ struct Command : Control {
 };
 
 struct Button : Command {
-    Button(Screen& screen, std::string name, std::string caption = "", std::string shortcut = "")
-        : Command(screen, std::move(name), ControlKind::Button, std::move(caption)) {
+    Button(Place place, std::string name, std::string caption = "", std::string shortcut = "")
+        : Command(place, std::move(name), ControlKind::Button, std::move(caption)) {
         this->shortcut = std::move(shortcut);
     }
 };
 
 struct MenuItem : Command {
-    MenuItem(Screen& screen, std::string name, std::string caption = "")
-        : Command(screen, std::move(name), ControlKind::Menu, std::move(caption)) {}
+    MenuItem(Place place, std::string name, std::string caption = "")
+        : Command(place, std::move(name), ControlKind::Menu, std::move(caption)) {}
 };
 
 // A check box or one option of a group. Assigning `value` fires nothing; Change does, as a click would.
@@ -93,17 +106,17 @@ struct Toggle : Control {
 };
 
 struct CheckBox : Toggle {
-    CheckBox(Screen& screen, std::string name, std::string caption = "", bool ticked = false)
-        : Toggle(screen, std::move(name), ControlKind::Check, std::move(caption)) {
+    CheckBox(Place place, std::string name, std::string caption = "", bool ticked = false)
+        : Toggle(place, std::move(name), ControlKind::Check, std::move(caption)) {
         value = ticked;
     }
     void Change(bool ticked);
 };
 
 struct OptionButton : Toggle {
-    OptionButton(Screen& screen, std::string name, std::string group, std::string caption = "",
+    OptionButton(Place place, std::string name, std::string group, std::string caption = "",
                  bool chosen = false)
-        : Toggle(screen, std::move(name), ControlKind::Option, std::move(caption)), group(std::move(group)) {
+        : Toggle(place, std::move(name), ControlKind::Option, std::move(caption)), group(std::move(group)) {
         value = chosen;
     }
     // Chooses this option and clears the others of its group.
@@ -133,8 +146,8 @@ struct EditBox : Control {
 };
 
 struct TextBox : EditBox {
-    TextBox(Screen& screen, std::string name, std::string text = "")
-        : EditBox(screen, std::move(name), ControlKind::Text) {
+    TextBox(Place place, std::string name, std::string text = "")
+        : EditBox(place, std::move(name), ControlKind::Text) {
         this->text = std::move(text);
     }
     int maxBytes = 0; // the field's limit in bytes, 0 for none
@@ -142,8 +155,8 @@ struct TextBox : EditBox {
 
 // A drop-down list; an editable one also takes free text.
 struct ListBox : EditBox {
-    ListBox(Screen& screen, std::string name, bool editable = false)
-        : EditBox(screen, std::move(name), ControlKind::List), editable(editable) {}
+    ListBox(Place place, std::string name, bool editable = false)
+        : EditBox(place, std::move(name), ControlKind::List), editable(editable) {}
     const bool editable;
     std::vector<std::string> items;
     std::function<void()> onChoose;
@@ -167,15 +180,15 @@ struct ListBox : EditBox {
 };
 
 struct DateBox : Control {
-    DateBox(Screen& screen, std::string name) : Control(screen, std::move(name), ControlKind::Date) {}
+    DateBox(Place place, std::string name) : Control(place, std::move(name), ControlKind::Date) {}
     std::optional<Date> date;
     std::function<void()> onChange;
     Value Shown() const override { return date ? Value(IsoText(*date)) : Value(); }
 };
 
 struct Tabs : Control {
-    Tabs(Screen& screen, std::string name, std::vector<std::string> captions)
-        : Control(screen, std::move(name), ControlKind::Tabs), captions(std::move(captions)) {}
+    Tabs(Place place, std::string name, std::vector<std::string> captions)
+        : Control(place, std::move(name), ControlKind::Tabs), captions(std::move(captions)) {}
     std::vector<std::string> captions;
     std::set<int> disabledTabs; // shown, but not to be chosen
     int index = 0;

@@ -40,7 +40,7 @@ struct GridColumn {
 };
 
 struct Grid : Control {
-    Grid(Screen& screen, std::string name) : Control(screen, std::move(name), ControlKind::Grid) {}
+    Grid(Place place, std::string name) : Control(place, std::move(name), ControlKind::Grid) {}
 
     // Columns. Setting them empties the grid and drops formulas.
     void SetColumns(std::vector<GridColumn> columns);

@@ -15,7 +15,7 @@ struct TreeNode {
 };
 
 struct Tree : Control {
-    Tree(Screen& screen, std::string name) : Control(screen, std::move(name), ControlKind::Tree) {}
+    Tree(Place place, std::string name) : Control(place, std::move(name), ControlKind::Tree) {}
 
     // Nodes in display order: a node stands behind its parent.
     std::vector<TreeNode> nodes;

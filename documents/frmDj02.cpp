@@ -7,7 +7,6 @@
 #include "documents/frmDj01.h"
 #include "forms/edit_filter.h"
 #include "session/lookups/find_by_text.h"
-#include "session/lookups/lists.h"
 #include "settings/document_numbers.h"
 
 namespace jxc {
@@ -15,16 +14,6 @@ namespace jxc {
 namespace {
 
 void WireHead(frmDj02& s) {
-    for (Control* control : std::initializer_list<Control*>{
-             &s.cboInvType, &s.dtpInvDate, &s.txtNo, &s.txtHtNo, &s.cboCkName, &s.cboCkName2, &s.txtKhSeek,
-             &s.cboKhList, &s.cboKhAdd, &s.mnuKhAddDelete, &s.cboInvHb, &s.txtInvHbDl, &s.txtTaxRate,
-             &s.txtZkl, &s.cboInvMemo, &s.cboInvJbr, &s.chkFlag, &s.chkTh})
-        control->frame = &s.fraHead;
-    for (Control* control :
-         std::initializer_list<Control*>{&s.txtName, &s.txtPostcode, &s.txtTelphone, &s.txtHandphone,
-                                         &s.txtFax, &s.txtE_mail, &s.txtHttp})
-        control->frame = &s.fraKh2;
-
     FilterKeys(s.txtNo, kNumberBytes);
     FilterKeys(s.txtHtNo, kNumberBytes);
     FilterKeys(s.txtInvHbDl, 12, true);
@@ -36,8 +25,6 @@ void WireHead(frmDj02& s) {
             return CheckNoQuote(box->text);
         };
     s.txtKhSeek.onLeave = [&s] { return CheckNoQuote(s.txtKhSeek.text); };
-    for (ListBox* box : {&s.cboInvMemo, &s.cboInvJbr})
-        box->onLeave = [box] { return ComboIndexByText(*box, box->text) >= 0 || CheckNoQuote(box->text); };
 
     s.cboInvType.onChoose = [&s] { ChooseType(s); };
     s.dtpInvDate.onLeave = [&s] { return LeaveDate(s); };
@@ -68,10 +55,6 @@ void WireHead(frmDj02& s) {
 }
 
 void WireCardLinks(frmDj02& s) {
-    for (Control* control : std::initializer_list<Control*>{
-             &s.txtName, &s.txtPostcode, &s.txtTelphone, &s.txtHandphone, &s.txtFax, &s.txtE_mail, &s.txtHttp,
-             &s.mnuTelphone, &s.mnuHandphone, &s.mnuFax, &s.cmdMail, &s.cmdWeb})
-        control->frame = &s.fraKh2;
     s.mnuTelphone.onClick = [&s] { Dial(s.txtTelphone); };
     s.mnuHandphone.onClick = [&s] { Dial(s.txtHandphone); };
     s.mnuFax.onClick = [&s] { Dial(s.txtFax); };
@@ -80,8 +63,6 @@ void WireCardLinks(frmDj02& s) {
 }
 
 void WireKitPanel(frmDj02& s) {
-    for (TextBox* box : {&s.txtCpCode, &s.txtCpName, &s.txtCpUnit, &s.txtInvSL})
-        box->frame = &s.picCpZj;
     s.txtCpUnit.locked = true;
     FilterKeys(s.txtInvSL, 10, true);
     for (const bool byCode : {true, false}) {

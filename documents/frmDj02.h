@@ -11,6 +11,7 @@
 #include "controls/screen.h"
 #include "documents/document_model.h"
 #include "documents/stored_document.h"
+#include "forms/fields.h"
 
 namespace jxc {
 
@@ -22,58 +23,58 @@ struct frmDj02 : Screen {
 
     // The upper panel: the document's header.
     Frame fraHead{*this, "fraHead"};
-    ListBox cboInvType{*this, "cboInvType"}; // number in 3 characters, name behind
-    DateBox dtpInvDate{*this, "dtpInvDate"};
-    TextBox txtNo{*this, "txtNo"}; // its tag keeps the number as loaded
+    ListBox cboInvType{fraHead, "cboInvType"}; // number in 3 characters, name behind
+    DateBox dtpInvDate{fraHead, "dtpInvDate"};
+    TextBox txtNo{fraHead, "txtNo"}; // its tag keeps the number as loaded
     Label lblHtNo{*this, "lblHtNo", "订单号"};
-    TextBox txtHtNo{*this, "txtHtNo"};
+    TextBox txtHtNo{fraHead, "txtHtNo"};
     Label lblCkName{*this, "lblCkName", "仓库"};
-    ListBox cboCkName{*this, "cboCkName"};
+    ListBox cboCkName{fraHead, "cboCkName"};
     Label lblCkName2{*this, "lblCkName2", "入库"};
-    ListBox cboCkName2{*this, "cboCkName2"};
+    ListBox cboCkName2{fraHead, "cboCkName2"};
     Label lblKh{*this, "lblKh", "客户"};
-    TextBox txtKhSeek{*this, "txtKhSeek"}; // its tag keeps a card that the list cannot show
-    ListBox cboKhList{*this, "cboKhList"}; // name in 80 characters, card number behind
+    TextBox txtKhSeek{fraHead, "txtKhSeek"}; // its tag keeps a card that the list cannot show
+    ListBox cboKhList{fraHead, "cboKhList"}; // name in 80 characters, card number behind
     Label lblKhAdd{*this, "lblKhAdd", "送货地址"};
-    ListBox cboKhAdd{*this, "cboKhAdd", true}; // its tag keeps the address as it came from the card
-    MenuItem mnuKhAddDelete{*this, "mnuKhAddDelete", "删除该地址"};
+    ListBox cboKhAdd{fraHead, "cboKhAdd", true}; // its tag keeps the address as it came from the card
+    MenuItem mnuKhAddDelete{fraHead, "mnuKhAddDelete", "删除该地址"};
     Label lblInvHb{*this, "lblInvHb", "货币"};
-    ListBox cboInvHb{*this, "cboInvHb"};
-    TextBox txtInvHbDl{*this, "txtInvHbDl", "1.0000"}; // its tag keeps the rate that was taken last
+    ListBox cboInvHb{fraHead, "cboInvHb"};
+    TextBox txtInvHbDl{fraHead, "txtInvHbDl", "1.0000"}; // its tag keeps the rate that was taken last
     Label lblTaxRate{*this, "lblTaxRate", "税率"};
-    TextBox txtTaxRate{*this, "txtTaxRate", "0"};
+    TextBox txtTaxRate{fraHead, "txtTaxRate", "0"};
     Label lblZkl{*this, "lblZkl", "单价=参考价ｘ折扣"};
-    TextBox txtZkl{*this, "txtZkl"};
-    ListBox cboInvMemo{*this, "cboInvMemo", true};
-    ListBox cboInvJbr{*this, "cboInvJbr", true};
-    CheckBox chkFlag{*this, "chkFlag", "中止！"};
-    CheckBox chkTh{*this, "chkTh", "退货"};
+    TextBox txtZkl{fraHead, "txtZkl"};
+    ListField cboInvMemo{fraHead, "cboInvMemo", true};
+    ListField cboInvJbr{fraHead, "cboInvJbr", true};
+    CheckBox chkFlag{fraHead, "chkFlag", "中止！"};
+    CheckBox chkTh{fraHead, "chkTh", "退货"};
     Label lblTh{*this, "lblTh", "退货"};
     Frame shpTh{*this, "shpTh"};
 
     // The customer's card.
     Button cmdLoadKh2{*this, "cmdLoadKh2", "客户资料(&K)"};
     Frame fraKh2{*this, "fraKh2", "客户资料"};
-    TextBox txtName{*this, "txtName"};
-    TextBox txtPostcode{*this, "txtPostcode"};
-    TextBox txtTelphone{*this, "txtTelphone"};
-    TextBox txtHandphone{*this, "txtHandphone"};
-    TextBox txtFax{*this, "txtFax"};
-    TextBox txtE_mail{*this, "txtE_mail"};
-    TextBox txtHttp{*this, "txtHttp"};
+    TextBox txtName{fraKh2, "txtName"};
+    TextBox txtPostcode{fraKh2, "txtPostcode"};
+    TextBox txtTelphone{fraKh2, "txtTelphone"};
+    TextBox txtHandphone{fraKh2, "txtHandphone"};
+    TextBox txtFax{fraKh2, "txtFax"};
+    TextBox txtE_mail{fraKh2, "txtE_mail"};
+    TextBox txtHttp{fraKh2, "txtHttp"};
 
-    MenuItem mnuTelphone{*this, "mnuTelphone", "拨打电话"};
-    MenuItem mnuHandphone{*this, "mnuHandphone", "拨打手机"};
-    MenuItem mnuFax{*this, "mnuFax", "拨打传真"};
-    Button cmdMail{*this, "cmdMail", "发邮件(&M)"};
-    Button cmdWeb{*this, "cmdWeb", "网页(&B)"};
+    MenuItem mnuTelphone{fraKh2, "mnuTelphone", "拨打电话"};
+    MenuItem mnuHandphone{fraKh2, "mnuHandphone", "拨打手机"};
+    MenuItem mnuFax{fraKh2, "mnuFax", "拨打传真"};
+    Button cmdMail{fraKh2, "cmdMail", "发邮件(&M)"};
+    Button cmdWeb{fraKh2, "cmdWeb", "网页(&B)"};
 
     // Assembly and dismantling: the finished product and how many of it.
     Frame picCpZj{*this, "picCpZj", "成品"};
-    TextBox txtCpCode{*this, "txtCpCode"};
-    TextBox txtCpName{*this, "txtCpName"};
-    TextBox txtCpUnit{*this, "txtCpUnit"};
-    TextBox txtInvSL{*this, "txtInvSL", "1"}; // its tag keeps the quantity that the lines stand for
+    TextBox txtCpCode{picCpZj, "txtCpCode"};
+    TextBox txtCpName{picCpZj, "txtCpName"};
+    TextBox txtCpUnit{picCpZj, "txtCpUnit"};
+    TextBox txtInvSL{picCpZj, "txtInvSL", "1"}; // its tag keeps the quantity that the lines stand for
 
     // The lines.
     Grid Grid2{*this, "Grid2"};

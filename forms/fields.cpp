@@ -6,15 +6,15 @@
 
 namespace jxc {
 
-TextField::TextField(Screen& screen, std::string name, std::string caption, int maxBytes, bool numeric)
-    : TextBox(screen, std::move(name)) {
+TextField::TextField(Place place, std::string name, std::string caption, int maxBytes, bool numeric)
+    : TextBox(place, std::move(name)) {
     this->caption = std::move(caption);
     FilterKeys(*this, maxBytes, numeric);
     onLeave = [this] { return CheckNoQuote(text); };
 }
 
-ListField::ListField(Screen& screen, std::string name, bool editable)
-    : ListBox(screen, std::move(name), editable) {
+ListField::ListField(Place place, std::string name, bool editable)
+    : ListBox(place, std::move(name), editable) {
     onLeave = [this] { return ComboIndexByText(*this, text) >= 0 || CheckNoQuote(text); };
 }
 

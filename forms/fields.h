@@ -11,17 +11,17 @@ namespace jxc {
 
 // A text of at most so many bytes of the code page, without quotes; with `numeric` it must stay one number.
 struct TextField : TextBox {
-    TextField(Screen& screen, std::string name, std::string caption, int maxBytes, bool numeric = false);
+    TextField(Place place, std::string name, std::string caption, int maxBytes, bool numeric = false);
 };
 
 // What a query's filter looks for: a part of a text, or a pattern.
 struct PatternField : TextField {
-    PatternField(Screen& screen, std::string name) : TextField(screen, std::move(name), "", 50) {}
+    PatternField(Place place, std::string name) : TextField(place, std::move(name), "", 50) {}
 };
 
 // A list of a query; an editable one takes a text without quotes too, an item or a pattern.
 struct ListField : ListBox {
-    ListField(Screen& screen, std::string name, bool editable = false);
+    ListField(Place place, std::string name, bool editable = false);
 };
 
 // All warehouses, also those no longer in use; a single one is chosen.
@@ -32,8 +32,7 @@ struct AllWarehousesField : ListBox {
 
 // Two days, either of which may be left out. `name`(0) is the first, `name`(1) the last.
 struct DateRange {
-    DateRange(Screen& screen, const std::string& name)
-        : first(screen, name + "(0)"), last(screen, name + "(1)") {}
+    DateRange(Place place, const std::string& name) : first(place, name + "(0)"), last(place, name + "(1)") {}
     DateBox first, last;
 
     // The condition on a date column, both days included; with one day given it is that day. "" without any.

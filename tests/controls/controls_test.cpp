@@ -73,7 +73,7 @@ struct Desk : Screen {
     TextBox amount{*this, "amount"};
     Grid grid{*this, "grid"};
     Frame panel{*this, "panel"};
-    Button save{*this, "save"};
+    Button save{panel, "save"};
 };
 
 // Works on the desk while it is open.
@@ -246,7 +246,6 @@ TEST(Gestures, MeetTheRulesAPersonMeets) {
     const ViewInUse inUse(view);
     Desk desk;
     AtDesk(view, desk, [&] {
-        desk.save.frame = &desk.panel;
         desk.panel.visible = false;
         EXPECT_THROW(Click(desk, desk.save), GestureRefused);
         desk.panel.visible = true;
