@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "database/connection.h"
+#include "documents/document_data.h"
 #include "documents/frmDj02.h"
 
 namespace jxc {
@@ -35,8 +36,6 @@ std::string TypedWork(const frmDj02& s);
 // -- load_document.cpp: a stored document into the screen
 // Shows "该[单号]已不存在!" when it is gone, "系统数据错误，操作已经取消！" on any error; false then.
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key);
-// The statement of its lines on one side (fInv1), with their products: 0, or 1 for a kit's finished product.
-std::string LinesStatement(const std::string& stem, std::int32_t key, int fInv1);
 // The document before or after the one shown; no hit disables that direction.
 void StepToDocument(frmDj02& s, bool next);
 
@@ -116,6 +115,14 @@ void SaveColumnWidths(frmDj02& s); // writes tJXC_rptListDetail
 
 // -- save_document.cpp: the save command of every Action
 void SaveDocument(frmDj02& s);
+// -- approve_on_screen.cpp: the save command of Approve and Reverse
+// Approves the document, or with `reversal` takes the approval back. With `prompted` it asks first and tells the end.
+// A refusal or failure is told.
+void RunApproval(frmDj02& s, const DocumentData& document, bool reversal, bool prompted);
+void ReverseApproval(frmDj02& s, const DocumentData& document);
+// -- data_of_screen.cpp
+// The document as it stands on the screen, read once for a command: texts become numbers here and nowhere else.
+DocumentData DataOf(const frmDj02& s);
 // -- print_document.cpp
 void PrintDocument(frmDj02& s);
 

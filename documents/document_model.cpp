@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "base/text.h"
+#include "documents/document_data.h"
 #include "documents/figure_bounds.h"
 
 namespace jxc {
@@ -12,16 +13,16 @@ namespace {
 constexpr Color kRed = 255;
 constexpr int kMemoBytes = 50;
 
-GridColumn Number(const char* caption, int decimals, double width = 10) {
-    return {.caption = caption,
+GridColumn Number(std::string caption, int decimals, double width = 10) {
+    return {.caption = std::move(caption),
             .type = CellType::Number,
             .decimals = decimals,
             .width = width,
             .alignment = Alignment::Right};
 }
 
-GridColumn Number(const char* caption, int decimals, double width, double bound) {
-    GridColumn column = Number(caption, decimals, width);
+GridColumn Bounded(const TypeRow& type, int place, int decimals, double bound, double width = 10) {
+    GridColumn column = Number(FigureCaption(type, place), decimals, width);
     column.below = bound;
     return column;
 }
@@ -33,14 +34,14 @@ std::vector<GridColumn> LineColumns(const TypeRow& type, const Parameters& param
         {.caption = "品名规格", .width = 28},
         {.caption = "单位", .width = 6},
         Number(stocktake ? "帐面数" : "库存数", parameters.quantityDecimals),
-        Number("实盘数", parameters.quantityDecimals, 10, below::kQuantity),
-        Number(stocktake ? "盈亏数" : "数量", parameters.quantityDecimals, 10, below::kQuantity),
+        Bounded(type, line::kCounted, parameters.quantityDecimals, below::kQuantity),
+        Bounded(type, line::kQuantity, parameters.quantityDecimals, below::kQuantity),
         Number("参考价", parameters.priceDecimals),
         Number("折扣率", 4),
-        Number("单价", parameters.priceDecimals, 10, below::kPrice),
-        Number("金额", 2, 12, below::kAmount),
-        Number("税率", 4, 8, below::kTaxRate),
-        Number("税额", 2, 10, below::kAmount),
+        Bounded(type, line::kPrice, parameters.priceDecimals, below::kPrice),
+        Bounded(type, line::kAmount, kAmountDecimals, below::kAmount, 12),
+        Bounded(type, line::kTaxRate, kTaxRateDecimals, below::kTaxRate, 8),
+        Bounded(type, line::kTax, kAmountDecimals, below::kAmount),
         {.caption = parameters.memo1, .width = 14, .maxBytes = kMemoBytes},
         {.caption = parameters.memo2, .width = 14, .maxBytes = kMemoBytes},
         Number("结余数", parameters.quantityDecimals),
@@ -85,11 +86,6 @@ void SetFormulas(Grid& grid, const TypeRow& type, const Parameters& parameters, 
 
 } // namespace
 
-std::string ActionWord(DocAction action) {
-    static const char* const words[] = {"查询", "新增", "修改", "删除", "审核", "反审核"};
-    return words[static_cast<int>(action)];
-}
-
 void SetUpLineGrid(Grid& grid, const TypeRow& type, const Parameters& parameters, DocAction action) {
     grid.SetColumns(LineColumns(type, parameters));
     HideColumns(grid, type, parameters, action);
@@ -105,15 +101,28 @@ void SetUpLineGrid(Grid& grid, const TypeRow& type, const Parameters& parameters
     grid.readOnly = !IsEditing(action);
 }
 
-double ShownNumber(const Grid& grid, int row, int column) {
-    return RoundDecimal(grid.Number(row, column), grid.Column(column).decimals);
+std::string FigureCaption(const TypeRow& type, int column) {
+    switch (column) {
+    case line::kCounted:
+        return "实盘数";
+    case line::kQuantity:
+        return type.IsStocktake() ? "盈亏数" : "数量";
+    case line::kPrice:
+        return "单价";
+    case line::kAmount:
+        return "金额";
+    case line::kTaxRate:
+        return "税率";
+    default:
+        return "税额";
+    }
 }
 
 double DocumentTotal(const Grid& grid) {
     double total = 0;
     for (int row = 1; row <= grid.RowCount(); ++row)
-        total += ShownNumber(grid, row, line::kAmount);
-    return RoundDecimal(total, 2);
+        total += RoundDecimal(grid.Number(row, line::kAmount), kAmountDecimals);
+    return RoundDecimal(total, kAmountDecimals);
 }
 
 double ReferenceTotal(const Grid& grid) {

@@ -8,18 +8,11 @@
 #include <vector>
 
 #include "controls/grid.h"
+#include "documents/document_state.h"
 #include "settings/parameters.h"
 #include "settings/type_row.h"
 
 namespace jxc {
-
-// What the entry screen was opened for.
-enum class DocAction { Query = 0, New = 1, Change = 2, Delete = 3, Approve = 4, Reverse = 5 };
-// "查询", "新增" ...: heads the screen and its messages behind the type's name.
-std::string ActionWord(DocAction action);
-inline bool IsEditing(DocAction action) {
-    return action == DocAction::New || action == DocAction::Change;
-}
 
 // The columns of the entry grid, by place. A formula's letter is the place in the alphabet.
 namespace line {
@@ -44,9 +37,9 @@ constexpr int kProduct = 16;  // P: fCpID
 // The grid of a document of the type, with captions, decimals, locks and formulas; it has no rows then.
 void SetUpLineGrid(Grid& grid, const TypeRow& type, const Parameters& parameters, DocAction action);
 
-// The number of a cell as it is shown, with its column's decimals: what is stored of prices, amounts and
-// taxes.
-double ShownNumber(const Grid& grid, int row, int column);
+// The caption of a column of figures that people enter or that follow from those.
+std::string FigureCaption(const TypeRow& type, int column);
+
 // The sum of the line amounts, as shown.
 double DocumentTotal(const Grid& grid);
 // The sum of quantity times reference price.

@@ -82,7 +82,7 @@ void ChooseCurrency(frmDj02& s) {
 }
 
 void ShowRate(frmDj02& s, double rate) {
-    s.txtInvHbDl.text = s.txtInvHbDl.tag = FormatFixed(rate, 4);
+    s.txtInvHbDl.text = s.txtInvHbDl.tag = FormatFixed(rate, kRateDecimals);
 }
 
 // The rate before comes back: a person who only wanted to choose another currency is not held here.
@@ -90,7 +90,7 @@ void LeaveRate(frmDj02& s) {
     const double rate = Val(s.txtInvHbDl.text);
     if (s.txtInvHbDl.text == s.txtInvHbDl.tag)
         return;
-    if (RoundDecimal(rate, 4) > 0 && !Reaches(rate, below::kRate))
+    if (RoundDecimal(rate, kRateDecimals) > 0 && !Reaches(rate, below::kRate))
         return ShowRate(s, rate);
     s.txtInvHbDl.text = s.txtInvHbDl.tag;
     Warn(s.title, rate > 0 ? BoundText("汇率", below::kRate) : "汇率必须大于 0！");
@@ -104,7 +104,7 @@ bool FormatPayment(frmDj02& s) {
         Warn(s.title, BoundText(s.lblSsSf.caption, below::kAmount));
         return false;
     }
-    s.txtSsSf.text = FormatFixed(payment, 2);
+    s.txtSsSf.text = FormatFixed(payment, kAmountDecimals);
     return true;
 }
 

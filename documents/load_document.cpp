@@ -53,7 +53,8 @@ void LoadHeader(frmDj02& s, int sourceType, const Recordset& header) {
     s.dtpInvDate.date = ParseDate(text("fInvDate"));
     ShowText(s, s.cboInvHb, text("fInvHb"));
     ShowRate(s, header["fInvHbDl"].AsDouble());
-    s.txtSum.text = FormatFixed(header["fInvJE"].AsDouble(), 2);
+    s.storedTotal = RoundDecimal(header["fInvJE"].AsDouble(), kAmountDecimals);
+    s.txtSum.text = FormatFixed(s.storedTotal, kAmountDecimals);
     ShowText(s, s.cboInvMemo, text("fInvMemo"));
     ShowText(s, s.cboInvJbr, text("fInvJbr"));
     ShowApprover(s, text("fInvSHR"));
@@ -119,10 +120,9 @@ void LoadLines(frmDj02& s, const std::string& stem, std::int32_t key) {
         CompleteLine(s, row, figures);
     grid.Recalculate();
     grid.selectedRow = grid.RowCount() > 0 ? 1 : 0;
-    const std::string total = s.txtSum.text;
     RefreshTotals(s);
     if (!IsEditing(s.InHand()))
-        s.txtSum.text = total;
+        s.txtSum.text = FormatFixed(s.storedTotal, kAmountDecimals);
 }
 
 // A new document from a source: today's, under a number of its own, not approved, not stopped.
@@ -143,12 +143,6 @@ void StartFromSource(frmDj02& s) {
 
 } // namespace
 
-std::string LinesStatement(const std::string& stem, std::int32_t key, int fInv1) {
-    return "Select a.*,b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit from " + stem + "02 a" +
-           " Left Join tJXC_Cp b On a.fCpID =b.fCpID " + " Where a.fInvID = " + std::to_string(key) +
-           " And fInv1 = " + std::to_string(fInv1) + " Order By a.fRowID";
-}
-
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
     const std::string stem = BookStem(sourceType, s.JzState == 1);
     s.txtSsSf.text = "0.00";
@@ -162,7 +156,7 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         const ReadAhead ahead(Conn(), together);
         StoredDocument stored = ReadStored(stem, key);
         if (!stored.Exists()) {
-            Warn(s.title, "该[单号]已不存在!");
+            Warn(s.title, RefusalIn(DocState::Gone, s.InHand()));
             return false;
         }
         s.cmdSave.enabled = false; // until what the screen shows is a document again
@@ -175,8 +169,7 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         if (s.type.IsKit() && s.InHand() != DocAction::New)
             LoadFinishedProduct(s, stem, key);
         s.oldInvID = key;
-        s.cmdSave.enabled = s.InHand() != DocAction::Query &&
-                            (s.InHand() != DocAction::Approve || header["fInvSHR"].AsText().empty());
+        s.cmdSave.enabled = CanBeSaved(StateByApprover(header["fInvSHR"].AsText()), s.InHand());
         if (s.InHand() == DocAction::New)
             StartFromSource(s);
         else

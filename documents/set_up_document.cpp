@@ -83,7 +83,7 @@ void AllowByAction(frmDj02& s) {
     s.cmdNew.visible = s.InHand() == DocAction::New;
     s.cmdPrevious.visible = s.cmdNext.visible = s.InHand() != DocAction::New;
     s.cmdPrevious.enabled = s.cmdNext.enabled = true;
-    s.cmdSave.enabled = s.InHand() != DocAction::Query;
+    s.cmdSave.enabled = CanBeSaved(DocState::NotChosen, s.InHand());
     s.cmdLoadKh2.enabled = !s.type.HasCustomer() || HasModuleRight("mnuCardAdd", 0);
 }
 
@@ -136,9 +136,7 @@ void SetUpDocument(frmDj02& s) {
         throw ScreenError("没有单据类型 " + std::to_string(s.invType) + "。");
     s.type = *type;
     s.parameters = ReadParameters();
-    const int series = s.InHand() == DocAction::Approve ? AccountSeries(s.type) : 0;
-    const auto account = series != 0 ? ReadTypeRow(series) : std::nullopt;
-    s.accountRule = account ? account->fSetAutoNo : "";
+    s.accountRule = s.InHand() == DocAction::Approve ? AccountRule(s.type) : "";
     LoadPeriodSettings();
     s.title = s.type.fSetName + "：" + ActionWord(s.InHand());
     FillLists(s);

@@ -81,15 +81,16 @@ void TakePrice(const std::string& table, const std::string& field, const std::st
 
 } // namespace
 
-std::string OverallLinesStatement(const frmDj02& s) {
-    return "select fCpID,fInvSL,fInvDJ,fInvHbDl From tJXC_CkDj02 Where fInvID=" + std::to_string(s.oldInvID);
+std::string OverallLinesStatement(const DocumentData& document) {
+    return "select fCpID,fInvSL,fInvDJ,fInvHbDl From tJXC_CkDj02 Where fInvID=" +
+           std::to_string(document.key);
 }
 
 // Identical lines count as one, over the stock of all of them.
-void PostOverallCost(const frmDj02& s, bool reversal) {
+void PostOverallCost(const DocumentData& document, bool reversal) {
     using Line = std::array<double, 3>; // quantity, price, exchange rate
     std::map<std::int64_t, std::map<Line, int>> lines;
-    Recordset row(Conn(), OverallLinesStatement(s));
+    Recordset row(Conn(), OverallLinesStatement(document));
     for (; !row.AtEnd(); row.MoveNext())
         ++lines[row["fCpID"].AsLong()]
                [{row["fInvSL"].AsDouble(), row["fInvDJ"].AsDouble(), row["fInvHbDl"].AsDouble()}];
@@ -109,9 +110,9 @@ void PostOverallCost(const frmDj02& s, bool reversal) {
         SetOverallPrices(products, std::move(prices));
 }
 
-void ReadCostPrice(const frmDj02& s) {
-    const std::string key = std::to_string(s.oldInvID);
-    if (s.parameters.costMethod == CostMethod::MovingAverage)
+void ReadCostPrice(const DocumentData& document) {
+    const std::string key = std::to_string(document.key);
+    if (document.costMethod == CostMethod::MovingAverage)
         TakePrice("tJXC_CkTj", "fKcDj", " And a.fCkName=b.fCkName", key, " And b.fKcDj>0");
     else
         TakePrice("tJXC_CkTj_tmp", "fKcDj", "", key, " And b.fKcDj>0");

@@ -232,32 +232,33 @@ bool MovesStock(const TypeRow& type) {
            type.fSetTjType < static_cast<int>(std::size(kCounters));
 }
 
-std::string LinesStatement(const frmDj02& s) {
-    return kLines + std::to_string(s.oldInvID) + " Order By a.fCpID,a.fCkName,a.fInv1,a.fRowID";
+std::string PostedLinesStatement(const DocumentData& document) {
+    return kLines + std::to_string(document.key) + " Order By a.fCpID,a.fCkName,a.fInv1,a.fRowID";
 }
 
 } // namespace
 
 // The lines were loaded as they are stored, or nothing is posted: their products are known.
-std::vector<Connection::Expected> StockStatements(const frmDj02& s) {
-    if (!MovesStock(s.type))
+std::vector<Connection::Expected> StockStatements(const DocumentData& document,
+                                                  const StoredDocument& asLoaded) {
+    if (!MovesStock(document.type))
         return {};
     std::map<std::string, std::set<std::int64_t>> products;
-    const std::vector<Value>& cells = s.asLoaded.lines;
+    const std::vector<Value>& cells = asLoaded.lines;
     for (size_t line = 0; line < cells.size(); line += StoredDocument::kLineCells)
         products[cells[line + StoredDocument::kWarehouse].AsText()].insert(
             cells[line + StoredDocument::kProduct].AsLong());
-    std::vector<Connection::Expected> statements{{LinesStatement(s)}};
+    std::vector<Connection::Expected> statements{{PostedLinesStatement(document)}};
     for (const auto& [warehouse, keys] : products)
         statements.push_back({WarehouseStock::StoredRows(warehouse, {keys.begin(), keys.end()}), true});
     return statements;
 }
 
-void PostStock(const frmDj02& s, bool reversal) {
-    if (!MovesStock(s.type))
+void PostStock(const DocumentData& document, bool reversal) {
+    if (!MovesStock(document.type))
         return;
-    const int statistics = s.type.fSetTjType;
-    Recordset lines(Conn(), LinesStatement(s));
+    const int statistics = document.type.fSetTjType;
+    Recordset lines(Conn(), PostedLinesStatement(document));
     DocumentStock stock(lines);
     for (; !lines.AtEnd(); lines.MoveNext())
         PostLine(lines, kCounters[statistics], reversal, stock);
