@@ -12,8 +12,9 @@ namespace jxc {
 namespace {
 
 bool Agreed(const DocumentData& document, const std::string& verb) {
-    const std::string effects =
-        std::abs(document.type.fSetNo) < 10 ? "系统将同时进行库存数刷新、往来帐处理等操作，" : "";
+    const std::string effects = std::abs(document.type.fSetNo) < DocType::FirstBeyondStock
+                                    ? "系统将同时进行库存数刷新、往来帐处理等操作，"
+                                    : "";
     return AskOkCancel("单据" + verb, document.number + "：单据" + verb + "，" + effects + "确定？");
 }
 

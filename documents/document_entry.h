@@ -71,8 +71,8 @@ void SetReturnSign(frmDj02& s);  // as chkTh says
 void TurnReturnMark(frmDj02& s); // by a person: without the mark nothing is returned
 // The rate field, or the discount field unless it is 0, into every row. False when it is out of bounds: a message
 // has told so, and the field keeps the focus.
-bool SpreadTaxRate(frmDj02& s);
-bool SpreadDiscount(frmDj02& s);
+[[nodiscard]] bool SpreadTaxRate(frmDj02& s);
+[[nodiscard]] bool SpreadDiscount(frmDj02& s);
 
 // -- paste_lines.cpp
 // Lines from a spreadsheet, in the order code, quantity, price, memo; a block as wide as the grid is its own, column by
@@ -85,19 +85,19 @@ std::vector<Connection::Expected> LineStatements(const frmDj02& s, const std::st
 
 // -- header_fields.cpp
 void MakeNumber(frmDj02& s); // the automatic number by date and rule; one too long for the field is told
-bool LeaveDate(frmDj02& s);  // not before the period; in Action 1 the number follows
+[[nodiscard]] bool LeaveDate(frmDj02& s); // not before the period; in Action 1 the number follows
 void ChooseWarehouse(frmDj02& s, bool second);
 void ChooseCurrency(frmDj02& s);
 std::string RateStatement(const std::string& currency); // with which it reads the rate
 void ShowRate(frmDj02& s, double rate);
-void LeaveRate(frmDj02& s);     // a rate that is none is told, and the one before comes back
-bool FormatPayment(frmDj02& s); // false when it is out of bounds: a message has told so
+void LeaveRate(frmDj02& s);                   // a rate that is none is told, and the one before comes back
+[[nodiscard]] bool FormatPayment(frmDj02& s); // false when it is out of bounds: a message has told so
 
 // -- kit_panel.cpp: the finished product of assembly and dismantling
 void SeekFinishedProduct(frmDj02& s, bool byCode); // by what was typed; not found empties the panel
 void LoadFinishedProduct(frmDj02& s, const std::string& stem, std::int32_t key);
 void ClearFinishedProduct(frmDj02& s);
-bool ChangeKitQuantity(frmDj02& s); // the parts follow; false when it is out of bounds
+[[nodiscard]] bool ChangeKitQuantity(frmDj02& s); // the parts follow; false when it is out of bounds
 double KitQuantity(const frmDj02& s);
 
 // -- card_links.cpp: what lies beside the document

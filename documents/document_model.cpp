@@ -55,7 +55,7 @@ void HideColumns(Grid& grid, const TypeRow& type, const Parameters& parameters, 
     const bool noTax = !type.fSetHbSl_ || parameters.taxWay == TaxWay::None;
     hide(line::kStock, !type.fSetKc_ && !type.IsStocktake());
     hide(line::kCounted, !type.IsStocktake());
-    hide(line::kReference, type.fSetDjType1 == -1);
+    hide(line::kReference, type.fSetDjType1 == kNoChoice);
     hide(line::kDiscount, true);
     hide(line::kTaxRate, noTax);
     hide(line::kTax, noTax);
@@ -72,7 +72,7 @@ void SetFormulas(Grid& grid, const TypeRow& type, const Parameters& parameters, 
         return;
     }
     grid.SetFormula(line::kAmount, "F#*I#");
-    if (type.fSetDjType2 == 5) {
+    if (type.fSetDjType2 == PriceKind::Discounted) {
         grid.SetFormula(line::kPrice, "G#*H#");
         grid.Column(line::kPrice).rounded = true; // the amount is that of the price that is seen and stored
     }
@@ -133,17 +133,18 @@ double ReferenceTotal(const Grid& grid) {
 }
 
 int DirectionOfFirstRow(const TypeRow& type) {
-    return type.IsKit() || type.fSetCrType1 > 0 ? type.fSetCrType1 : -1;
+    return type.IsKit() || type.fSetCrType1 > 0 ? type.fSetCrType1 : kNoChoice;
 }
 
 int DirectionOfSecondRow(const TypeRow& type) {
     if (!type.IsKit() && type.fSetCrType1 <= 0)
-        return -1;
-    return type.fSetCrType1 == 2 ? 1 : 2;
+        return kNoChoice;
+    return type.fSetCrType1 == Direction::Out ? Direction::In : Direction::Out;
 }
 
 std::string PriceField(int priceKind) {
-    return priceKind >= 1 && priceKind <= 4 ? "fCpPrice" + std::to_string(priceKind - 1) : "";
+    const bool isProducts = priceKind >= PriceKind::Cost && priceKind <= PriceKind::Retail;
+    return isProducts ? "fCpPrice" + std::to_string(priceKind - PriceKind::Cost) : "";
 }
 
 std::string NameAndSpec(const std::string& name, const std::string& spec) {
@@ -151,16 +152,21 @@ std::string NameAndSpec(const std::string& name, const std::string& spec) {
 }
 
 std::string CustomerCaption(const TypeRow& type) {
-    return type.fSetKhType == 1 ? "供应商" : type.fSetKhType == 2 ? "销售商" : "客户";
+    return type.fSetKhType == Partner::Supplier ? "供应商"
+           : type.fSetKhType == Partner::Dealer ? "销售商"
+                                                : "客户";
 }
 
 std::string AddressCaption(const TypeRow& type) {
-    const bool incoming = std::abs(type.fSetNo) == 1 || type.fSetNo == 23 || type.fSetNo == 21;
+    const bool incoming = std::abs(type.fSetNo) == DocType::Receipt ||
+                          type.fSetNo == DocType::PurchaseOrder || type.fSetNo == DocType::Enquiry;
     return incoming ? "发货地址" : "送货地址";
 }
 
 std::string PaymentCaption(const TypeRow& type) {
-    return type.fSetCrType1 == 2 ? "实收金额" : type.fSetCrType1 == 1 ? "实付金额" : "";
+    return type.fSetCrType1 == Direction::Out  ? "实收金额"
+           : type.fSetCrType1 == Direction::In ? "实付金额"
+                                               : "";
 }
 
 std::string FirstWarehouseCaption(const TypeRow& type) {
@@ -172,12 +178,12 @@ std::string SecondWarehouseCaption(const TypeRow& type) {
 
 int OrderTypeFor(int type) {
     switch (std::abs(type)) {
-    case 1:
-        return 23;
-    case 2:
-    case 6:
-    case 31:
-        return 24;
+    case DocType::Receipt:
+        return DocType::PurchaseOrder;
+    case DocType::Issue:
+    case DocType::Dispatch:
+    case DocType::Assembly:
+        return DocType::SalesOrder;
     default:
         return 0;
     }

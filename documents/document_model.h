@@ -45,12 +45,12 @@ double DocumentTotal(const Grid& grid);
 // The sum of quantity times reference price.
 double ReferenceTotal(const Grid& grid);
 
-// fInvInOut of a line's first and second row: 1 in, 2 out, -1 none. Of a kit document the first is a part's
+// fInvInOut of a line's first and second row: a Direction, or kNoChoice. Of a kit document the first is a part's
 // row, the second the finished product's.
 int DirectionOfFirstRow(const TypeRow& type);
 int DirectionOfSecondRow(const TypeRow& type);
 
-// "fCpPrice0" to "fCpPrice3" for price kinds 1 to 4, "" for others.
+// "fCpPrice0" to "fCpPrice3" of the price kinds that are a product's, "" of others.
 std::string PriceField(int priceKind);
 // A product as lines show it: specification and name.
 std::string NameAndSpec(const std::string& name, const std::string& spec);
@@ -62,7 +62,7 @@ std::string PaymentCaption(const TypeRow& type);  // "实收金额", "实付金�
 std::string FirstWarehouseCaption(const TypeRow& type);
 std::string SecondWarehouseCaption(const TypeRow& type);
 
-// The order type that documents of this type refer to: 23 purchase, 24 sales, 0 none.
+// The type of the orders that documents of this type refer to, 0 for none.
 int OrderTypeFor(int type);
 
 } // namespace jxc

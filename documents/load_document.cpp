@@ -19,10 +19,11 @@ namespace {
 std::string OrderNumber(const frmDj02& s, int sourceType, const Recordset& header) {
     if (s.InHand() != DocAction::New)
         return header["fHtNo"].AsText();
-    if (s.invType != 31 && OrderTypeFor(s.invType) == sourceType && sourceType != 0)
+    if (s.invType != DocType::Assembly && OrderTypeFor(s.invType) == sourceType && sourceType != 0)
         return header["fInvNo"].AsText();
     const bool returnOfSource =
-        (sourceType == 1 || sourceType == 2 || sourceType == 6) && s.invType == -sourceType;
+        (sourceType == DocType::Receipt || sourceType == DocType::Issue || sourceType == DocType::Dispatch) &&
+        s.invType == -sourceType;
     return returnOfSource ? header["fHtNo"].AsText() : "";
 }
 
@@ -104,7 +105,7 @@ void CompleteLine(frmDj02& s, int row, const LineFigures& figures) {
     ShowRowFigures(s, row, figures);
     if (s.type.IsStocktake())
         grid.FillCell(row, line::kStock, book);
-    if (IsEditing(s.InHand()) && s.type.fSetDjType2 == 5)
+    if (IsEditing(s.InHand()) && s.type.fSetDjType2 == PriceKind::Discounted)
         grid.FillCell(row, line::kDiscount, DiscountOf(s, price, grid.Number(row, line::kReference)));
 }
 

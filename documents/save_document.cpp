@@ -71,7 +71,7 @@ bool CustomerGiven(frmDj02& s) {
     if (!s.type.HasCustomer() || s.CustomerId() != 0)
         return true;
     const std::string caption = s.lblKh.caption;
-    if (s.invType == 20) {
+    if (s.invType == DocType::Plan) {
         Warn(s.title, "注意：您未有输入[" + caption + "]，系统将根据产品的[入库单]资料动态产生。继续？");
         return true;
     }
@@ -114,7 +114,9 @@ bool OrderFits(frmDj02& s) {
     const int orderType = static_cast<int>(Val(DbScalar(OrderTypeStatement(s))));
     if (orderType == OrderTypeFor(s.invType))
         return true;
-    return Refuse(s, s.title + "，不能对应 " + (orderType == 23 ? "采购" : "销售") + "订单 " + number + " ！",
+    return Refuse(s,
+                  s.title + "，不能对应 " + (orderType == DocType::PurchaseOrder ? "采购" : "销售") +
+                      "订单 " + number + " ！",
                   &s.txtHtNo);
 }
 

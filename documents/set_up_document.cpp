@@ -62,8 +62,8 @@ void ShapeByType(frmDj02& s) {
     Show(type.fSetHb_, {&s.lblInvHb, &s.cboInvHb, &s.txtInvHbDl});
     Show(type.fSetDjDd_, {&s.lblHtNo, &s.txtHtNo});
     Show(type.fSetHbSl_ && s.parameters.taxWay != TaxWay::None, {&s.lblTaxRate, &s.txtTaxRate});
-    Show(type.fSetDjType2 == 5, {&s.lblZkl, &s.txtZkl});
-    Show(type.fSetDjType1 != -1, {&s.lblSum2, &s.txtSum2});
+    Show(type.fSetDjType2 == PriceKind::Discounted, {&s.lblZkl, &s.txtZkl});
+    Show(type.fSetDjType1 != kNoChoice, {&s.lblSum2, &s.txtSum2});
     Show(type.fSetDjBack_, {&s.lblTh, &s.shpTh});
     Show(!type.IsStocktake(), {&s.chkTh});
     Show(OffersPayment(s, type), {&s.lblSsSf, &s.txtSsSf});
@@ -164,7 +164,7 @@ void RefillSummaries(frmDj02& s) {
 }
 
 void ResetDocument(frmDj02& s) {
-    s.dtpInvDate.date = s.invType == 0 ? s.parameters.periodStart : Today();
+    s.dtpInvDate.date = s.invType == DocType::Opening ? s.parameters.periodStart : Today();
     for (TextBox* box : {&s.txtNo, &s.txtHtNo, &s.txtKhSeek}) {
         box->text.clear();
         box->tag.clear();

@@ -46,19 +46,21 @@ std::string NextAccountNumber(const DocumentData& document, int series, std::opt
     return number;
 }
 
-void AddEntry(const DocumentData& document, int kind, int direction, std::int64_t company) {
+void AddEntry(const DocumentData& document, AccountKind kind, int side, std::int64_t company) {
     std::optional<Recordset> opened;
-    const std::string number = NextAccountNumber(document, kSeriesCustomerAccount + kind, opened);
+    const std::string number = NextAccountNumber(
+        document, kind == AccountKind::Customer ? kSeriesCustomerAccount : kSeriesMoneyAccount, opened);
     Recordset& entry = *opened;
+    const bool isCustomers = kind == AccountKind::Customer;
     entry.AddNew();
     entry.Set("fAcntNo", number);
     entry.Set("fDate", IsoText(document.date));
     entry.Set("fCompID", company);
-    entry.Set("fType1", kind);
-    entry.Set("fType2", direction);
+    entry.Set("fType1", static_cast<int>(kind));
+    entry.Set("fType2", side);
     entry.Set("fInit", 0);
-    entry.Set("fMoneyA", kind == 0 ? document.total : 0);
-    entry.Set("fMoneyB", kind == 0 ? document.payment : document.total);
+    entry.Set("fMoneyA", isCustomers ? document.total : 0);
+    entry.Set("fMoneyB", isCustomers ? document.payment : document.total);
     entry.Set("fBrief", kPlacedByApproval);
     entry.Set("fInvID", document.number);
     entry.Set("fOrderID", document.order);
@@ -79,9 +81,9 @@ void RemoveEntry(const DocumentData& document) {
 } // namespace
 
 int AccountSeries(const TypeRow& type) {
-    if (type.fSetWlType == 1 || type.fSetWlType == 2)
+    if (type.MovesAccount())
         return kSeriesCustomerAccount;
-    return type.fSetZjType == 3 || type.fSetZjType == 4 ? kSeriesMoneyAccount : 0;
+    return type.MovesCash() ? kSeriesMoneyAccount : 0;
 }
 
 std::string AccountRule(const TypeRow& type) {
@@ -90,12 +92,12 @@ std::string AccountRule(const TypeRow& type) {
     return row ? row->fSetAutoNo : "";
 }
 
-void PostAccountEntry(const DocumentData& document, int kind, int direction, std::int64_t company,
+void PostAccountEntry(const DocumentData& document, AccountKind kind, int side, std::int64_t company,
                       bool reversal) {
     if (reversal)
         RemoveEntry(document);
     else
-        AddEntry(document, kind, direction, company);
+        AddEntry(document, kind, side, company);
 }
 
 } // namespace jxc

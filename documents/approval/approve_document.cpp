@@ -36,13 +36,17 @@ std::int64_t MoneyAccount(const DocumentData& document) {
 void PostCustomerAccount(const DocumentData& document, bool reversal) {
     const std::int64_t customer = reversal || !document.type.HasCustomer() ? 0 : document.customer;
     if (reversal || customer > 0)
-        PostAccountEntry(document, 0, document.type.fSetWlType == 1 ? 1 : 2, customer, reversal);
+        PostAccountEntry(document, AccountKind::Customer,
+                         document.type.fSetWlType == Owed::Receivable ? EntrySide::In : EntrySide::Out,
+                         customer, reversal);
 }
 
 void PostMoneyAccount(const DocumentData& document, bool reversal) {
     const std::int64_t account = reversal ? 0 : MoneyAccount(document);
     if (reversal || account > 0)
-        PostAccountEntry(document, 1, document.type.fSetZjType == 3 ? 2 : 1, account, reversal);
+        PostAccountEntry(document, AccountKind::Money,
+                         document.type.fSetZjType == Cash::Paid ? EntrySide::Out : EntrySide::In, account,
+                         reversal);
 }
 
 void MarkApproved(const DocumentData& document, bool reversal) {
@@ -70,26 +74,26 @@ std::vector<Stage> StagesOf(const DocumentData& document, const StoredDocument& 
     const TypeRow& type = document.type;
     std::vector<Stage> stages;
     const bool refersToOrder = !document.order.empty();
-    if (refersToOrder && type.fSetNo != 31)
+    if (refersToOrder && type.fSetNo != DocType::Assembly)
         stages.push_back({"刷新原相关订单的结余数",
                           [&document, reversal] { PostOrderBalance(document, reversal); },
                           {{OrderStatement(document.order)}},
                           !reversal});
-    if (refersToOrder && type.fSetNo == 31 && !reversal)
+    if (refersToOrder && type.fSetNo == DocType::Assembly && !reversal)
         stages.push_back({"刷新销售订单的生产摘要", [&document] { MarkProduced(document); }, {}, false});
-    if (type.fSetCkType1 >= 0 && !document.warehouse.empty())
+    if (type.fSetCkType1 >= WarehouseKind::Any && !document.warehouse.empty())
         stages.push_back({"更新仓库的产品“库存成本表”",
                           [&document, reversal] { PostStock(document, reversal); },
                           StockStatements(document, asLoaded)});
-    if (type.fSetTjType == 0 || type.fSetTjType == 1)
+    if (type.ReceivesStock())
         stages.push_back({"更新“整体成本价”",
                           [&document, &warning, reversal] {
                               PostOverallCost(document, reversal);
-                              if (document.type.fSetNo == 1)
+                              if (document.type.fSetNo == DocType::Receipt)
                                   warning = RefreshSupplierByDocument(document.number, reversal);
                           },
                           {{OverallLinesStatement(document)}}});
-    if (type.fSetTjType == 2 && !reversal)
+    if (type.fSetTjType == Statistics::Issue && !reversal)
         stages.push_back({"读取“动态成本价”", [&document] { ReadCostPrice(document); }});
     if (const int series = AccountSeries(type); series == kSeriesCustomerAccount)
         stages.push_back({"应收应付款自动挂入“客户往来帐户”",

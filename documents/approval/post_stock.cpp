@@ -56,11 +56,11 @@ struct Counters {
     Field cost;
 };
 constexpr Counters kCounters[] = {
-    {kQcSl, kQcJe, kFieldCount},       // 0 opening
-    {kRkSl, kRkJe, kFieldCount},       // 1 receipt
-    {kCkSl, kCkJe, kCkCb},             // 2 issue: outgoing quantities count positive
-    {kDkSl, kFieldCount, kFieldCount}, // 3 transfer
-    {kPdSl, kFieldCount, kFieldCount}, // 4 stocktake
+    {kQcSl, kQcJe, kFieldCount},       // Statistics::Opening
+    {kRkSl, kRkJe, kFieldCount},       // Receipt
+    {kCkSl, kCkJe, kCkCb},             // Issue: outgoing quantities count positive
+    {kDkSl, kFieldCount, kFieldCount}, // Transfer
+    {kPdSl, kFieldCount, kFieldCount}, // Stocktake
 };
 
 // A document's line with the cost price of its product, by the places in the statement that reads it.
@@ -197,7 +197,7 @@ void PostLine(const Recordset& line, const Counters& counters, bool reversal, Do
     double quantity = line[kQuantity].AsDouble();
     if (reversal)
         quantity = -quantity;
-    if (line[kDirection].AsLong() != 1)
+    if (line[kDirection].AsLong() != Direction::In)
         quantity = -quantity;
     if (counters.quantity == kCkSl)
         quantity = -quantity;
@@ -228,7 +228,7 @@ void RequireDerivedInBounds(const Recordset& line, DocumentStock& stock) {
 }
 
 bool MovesStock(const TypeRow& type) {
-    return type.fSetTjType >= 0 && type.fSetCrType1 != -1 &&
+    return type.fSetTjType >= Statistics::Opening && type.fSetCrType1 != kNoChoice &&
            type.fSetTjType < static_cast<int>(std::size(kCounters));
 }
 

@@ -36,8 +36,15 @@ int AccountSeries(const TypeRow& type);
 std::string AccountRule(const TypeRow& type);
 // The text (fBrief) by which an entry is known as an approval's; others are the host's own.
 inline constexpr const char* kPlacedByApproval = "自动挂入";
-// One entry of the host's ledger: a customer's (kind 0) or a money account's (kind 1), or its removal.
-void PostAccountEntry(const DocumentData& document, int kind, int direction, std::int64_t company,
+// Whose an entry is (fType1).
+enum class AccountKind { Customer = 0, Money = 1 };
+// What it says of the money (fType2): it comes in or is owed to the house, or it goes out or is owed by it.
+namespace EntrySide {
+constexpr int In = 1;
+constexpr int Out = 2;
+} // namespace EntrySide
+// One entry of the host's ledger, or its removal.
+void PostAccountEntry(const DocumentData& document, AccountKind kind, int side, std::int64_t company,
                       bool reversal);
 
 } // namespace jxc
