@@ -131,35 +131,45 @@ void WriteLines(const DocumentData& document) {
         WriteOrdinaryLines(document, true);
 }
 
-// Over the stored row of that key, or as a new row with the document's.
-void WriteHeader(const DocumentData& document, std::int32_t storedKey) {
-    Recordset row(Conn(), StoredHeaderStatement(StemOf(document), storedKey), Access::Write);
-    if (row.AtEnd()) {
-        row.AddNew();
-        row.Set("fInvID", std::int64_t{document.key});
-    }
+// What a header says of its document, by field; its key apart. It is not approved then.
+std::vector<std::pair<std::string, Value>> HeaderFields(const DocumentData& document) {
     const TypeRow& type = document.type;
-    row.Set("fHtNo", document.order);
-    row.Set("fInvType", type.fSetNo);
-    row.Set("fInvNo", document.number);
-    row.Set("fInvDate", IsoText(document.date));
-    row.Set("fInvHb", document.currency);
-    row.Set("fInvHbDl", document.rate);
-    row.Set("fInvJE", document.total);
-    row.Set("fInvMemo", document.memo);
-    row.Set("fInvDLR", session.UserName);
-    row.Set("fInvJbr", document.handler);
-    row.Set("fInvSHR", "");
-    row.Set("fKhID", type.HasCustomer() ? document.customer : 0);
-    row.Set("fKhAdd", type.HasCustomer() ? document.address : "");
-    row.Set("fCkName", type.HasFirstWarehouse() ? document.warehouse : "");
-    row.Set("fCkName2", type.HasSecondWarehouse() ? document.warehouse2 : "");
-    row.Set("fFlag", document.stopped ? 1 : 0);
-    row.Update();
+    return {{"fHtNo", document.order},
+            {"fInvType", type.fSetNo},
+            {"fInvNo", document.number},
+            {"fInvDate", IsoText(document.date)},
+            {"fInvHb", document.currency},
+            {"fInvHbDl", document.rate},
+            {"fInvJE", document.total},
+            {"fInvMemo", document.memo},
+            {"fInvDLR", session.UserName},
+            {"fInvJbr", document.handler},
+            {"fInvSHR", ""},
+            {"fKhID", type.HasCustomer() ? document.customer : 0},
+            {"fKhAdd", type.HasCustomer() ? document.address : ""},
+            {"fCkName", type.HasFirstWarehouse() ? document.warehouse : ""},
+            {"fCkName2", type.HasSecondWarehouse() ? document.warehouse2 : ""},
+            {"fFlag", document.stopped ? 1 : 0}};
 }
 
-// No row has this key: the statement with which a new header is opened can be sent before its key is known.
-constexpr std::int32_t kNoKey = 0;
+void InsertHeader(const DocumentData& document) {
+    const auto values = HeaderFields(document);
+    std::vector<std::string> names{"fInvID"};
+    for (const auto& [name, value] : values)
+        names.push_back(name);
+    RowInserter row(Conn(), StemOf(document) + "01", names);
+    row.Set(0, std::int64_t{document.key});
+    for (size_t i = 0; i < values.size(); ++i)
+        row.Set(i + 1, values[i].second);
+    row.Insert();
+}
+
+void UpdateHeader(const DocumentData& document) {
+    Recordset row(Conn(), StoredHeaderStatement(StemOf(document), document.key), Access::Write);
+    for (auto& [name, value] : HeaderFields(document))
+        row.Set(name, value);
+    row.Update();
+}
 
 std::string FigureRefused(const DocumentData& document) {
     const auto refusal = FigureOutOfBounds(document);
@@ -180,8 +190,7 @@ std::vector<Connection::Expected> NewDocumentReads(const DocumentData& document)
     const std::string stem = StemOf(document);
     return {{ParametersStatement()},
             {NumberStatement(stem, document.number)},
-            {MaxStatement(stem + "01", "fInvID")},
-            {StoredHeaderStatement(stem, kNoKey), true}};
+            {MaxStatement(stem + "01", "fInvID")}};
 }
 
 // Key and number are taken inside the transaction, where no other user can come between.
@@ -196,7 +205,7 @@ std::string WriteNewDocument(DocumentData& document) {
     if (!refusal.empty())
         return refusal;
     document.key = DbMax(stem + "01", "fInvID") + 1;
-    WriteHeader(document, kNoKey);
+    InsertHeader(document);
     WriteLines(document);
     return "";
 }
@@ -211,7 +220,7 @@ std::string WriteChangedDocument(const DocumentData& document, const StoredDocum
         refusal = NumberRefusal(stem, document.number, true);
     if (!refusal.empty())
         return refusal;
-    WriteHeader(document, document.key);
+    UpdateHeader(document);
     Conn().Execute("Delete From " + stem + "02 Where fInvID=" + std::to_string(document.key));
     WriteLines(document);
     return "";
