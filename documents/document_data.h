@@ -58,7 +58,7 @@ struct DocumentData {
     double kitQuantity = 1;
 
     std::vector<DocumentLine> lines;
-    // Of a document being written TotalOf its lines, of a stored one what its header says.
+    // What the header says, which an approval posts; TotalOf the lines when it is written.
     double total = 0;
 
     CostMethod costMethod = CostMethod::WeightedAverage; // by which an approval finds the cost of issues

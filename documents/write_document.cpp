@@ -111,11 +111,12 @@ void WriteParts(const DocumentData& document) {
 
 // The finished product on the second; its price is what the parts of one piece come to.
 void WriteFinishedProduct(const DocumentData& document) {
+    const double total = TotalOf(document.lines);
     Lines lines(document, 1);
     lines.SetFigures(1, {.product = document.finishedProduct,
                          .quantity = document.kitQuantity,
-                         .price = document.total / document.kitQuantity,
-                         .amount = document.total,
+                         .price = total / document.kitQuantity,
+                         .amount = total,
                          .memo1 = "产品套件"});
     lines.Insert();
 }
@@ -140,7 +141,7 @@ std::vector<std::pair<std::string, Value>> HeaderFields(const DocumentData& docu
             {"fInvDate", IsoText(document.date)},
             {"fInvHb", document.currency},
             {"fInvHbDl", document.rate},
-            {"fInvJE", document.total},
+            {"fInvJE", TotalOf(document.lines)},
             {"fInvMemo", document.memo},
             {"fInvDLR", session.UserName},
             {"fInvJbr", document.handler},
@@ -205,6 +206,7 @@ std::string WriteNewDocument(DocumentData& document) {
     if (!refusal.empty())
         return refusal;
     document.key = DbMax(stem + "01", "fInvID") + 1;
+    document.total = TotalOf(document.lines);
     InsertHeader(document);
     WriteLines(document);
     return "";

@@ -10,9 +10,9 @@
 
 namespace jxc {
 
-// Writes a new document under the book's next key, which it puts into `document`. Refused are figures out
-// of bounds, a date before the period and a number that is taken. It is not approved then. That number, warehouses,
-// customer and lines are given as the type wants them is for the caller to see to.
+// Writes a new document under the book's next key, which it puts into `document` with the total of the lines. Refused are
+// figures out of bounds, a date before the period and a number that is taken. It is not approved then. That number,
+// warehouses, customer and lines are given as the type wants them is for the caller to see to.
 [[nodiscard]] std::string WriteNewDocument(DocumentData& document);
 // What that reads, to be read ahead.
 std::vector<Connection::Expected> NewDocumentReads(const DocumentData& document);

@@ -36,7 +36,6 @@ DocumentData DocumentOf(int type, const std::string& number, std::vector<Documen
     document.date = MakeDate(2026, 11, 5);
     document.currency = "人民币";
     document.lines = std::move(lines);
-    document.total = TotalOf(document.lines);
     return document;
 }
 
