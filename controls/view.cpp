@@ -72,7 +72,7 @@ std::string CauseOf(const std::exception& error) {
     try {
         std::rethrow_if_nested(error);
     } catch (const std::exception& cause) {
-        return cause.what();
+        return CauseOf(cause);
     }
     return error.what();
 }

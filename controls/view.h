@@ -81,7 +81,7 @@ std::string ClipboardLine();
 void Warn(const std::string& title, const std::string& text);
 // The message of work that failed; its cause goes to the log and is shown on demand.
 void WarnOfFailure(const std::string& title, const std::string& text, const std::string& cause);
-// What is nested in an error, or else its own text.
+// The text of the innermost error nested in an error, or else its own.
 std::string CauseOf(const std::exception& error);
 // An error that no routine expected: a fault of the program, told as such. Errors of people and of the world are
 // runtime errors with a text for people, which is told as it is; what is nested in one is its cause.

@@ -206,9 +206,9 @@ Rows Connection::QueryRows(std::string_view sql, std::string& table) {
 }
 
 Rows Connection::Read(std::string_view sql, CachedStatement& statement, bool toEdit) {
-    const auto known = expected_[toEdit].find(std::string(sql));
-    if (known != expected_[toEdit].end())
-        return known->second;
+    if (const auto& expected = expected_[toEdit]; !expected.empty())
+        if (const auto known = expected.find(std::string(sql)); known != expected.end())
+            return known->second;
     return engine_->Query(*statement.handle, Bound(statement));
 }
 

@@ -77,7 +77,9 @@ class SqliteStatement : public EngineStatement {
         }
         cellsBefore_ = std::min<size_t>(rows.cells.size(), 1 << 17);
         // Behind the first step: a statement that had to be prepared again may have other columns.
-        for (int i = 0; i < sqlite3_column_count(statement_); ++i)
+        const int columns = sqlite3_column_count(statement_);
+        rows.names.reserve(static_cast<size_t>(columns));
+        for (int i = 0; i < columns; ++i)
             rows.names.emplace_back(sqlite3_column_name(statement_, i));
         return rows;
     }

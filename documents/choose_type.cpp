@@ -19,14 +19,15 @@ namespace {
 // offer, and which prices the lines took.
 auto ShapeOf(const frmDj02& s, const TypeRow& type) {
     const auto warehouse = [](int kind, const std::string& caption) {
-        return std::pair(kind, kind == -1 ? "" : caption);
+        return std::pair(kind, kind == kNoChoice ? "" : caption);
     };
     const std::string customer = type.HasCustomer() ? CustomerCaption(type) + AddressCaption(type) : "";
-    return std::tuple(type.IsKit(), type.IsStocktake(), type.fSetNo == 0, BookStem(type.fSetNo, false),
-                      warehouse(type.fSetCkType1, FirstWarehouseCaption(type)),
+    return std::tuple(type.IsKit(), type.IsStocktake(), type.fSetNo == DocType::Opening,
+                      BookStem(type.fSetNo, false), warehouse(type.fSetCkType1, FirstWarehouseCaption(type)),
                       warehouse(type.fSetCkType2, SecondWarehouseCaption(type)), type.fSetKhType, customer,
                       std::pair(type.fSetDjType1, type.fSetDjType2), type.fSetHb_, type.fSetHbSl_,
-                      type.fSetKc_ || type.IsStocktake(), type.fSetDjDd_ ? OrderTypeFor(type.fSetNo) : -1,
+                      type.fSetKc_ || type.IsStocktake(),
+                      type.fSetDjDd_ ? OrderTypeFor(type.fSetNo) : kNoChoice,
                       OffersPayment(s, type) ? PaymentCaption(type) : "");
 }
 

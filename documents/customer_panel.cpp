@@ -15,7 +15,10 @@ namespace {
 
 // The kind as messages name it; card kinds are those of the type row's fSetKhType.
 std::string KindText(std::int64_t kind) {
-    return kind == 1 ? "“供应商”" : kind == 2 ? "“销售商”" : kind == 3 ? "“代销商”" : "";
+    return kind == Partner::Supplier    ? "“供应商”"
+           : kind == Partner::Dealer    ? "“销售商”"
+           : kind == Partner::Consignee ? "“代销商”"
+                                        : "";
 }
 
 std::string AddressesStatement(std::int64_t id) {
@@ -37,11 +40,11 @@ void FillAddresses(frmDj02& s, std::int64_t id) {
     s.cboKhAdd.text = shown;
 }
 
-// The card's fields; false when there is no such card.
-bool FillCardFields(frmDj02& s, const Recordset& card) {
+// The card's fields, nothing in them when there is no such card.
+void FillCardFields(frmDj02& s, const Recordset& card) {
     ClearCardFields(s);
     if (card.AtEnd())
-        return false;
+        return;
     s.cboKhAdd.text = s.cboKhAdd.tag = card["CompAdd"].AsText();
     s.txtName.text = card["name"].AsText();
     s.txtPostcode.text = card["postcode"].AsText();
@@ -50,7 +53,6 @@ bool FillCardFields(frmDj02& s, const Recordset& card) {
     s.txtFax.text = card["fax"].AsText();
     s.txtE_mail.text = card["E_mail"].AsText();
     s.txtHttp.text = card["http"].AsText();
-    return true;
 }
 
 Recordset CardOf(std::int64_t id) {
@@ -101,7 +103,7 @@ void RefreshCustomer(frmDj02& s) {
     if (card.AtEnd())
         return;
     const std::int64_t kind = card["fType0"].AsLong();
-    if (kind != 0 && kind != s.type.fSetKhType) {
+    if (kind != Partner::Any && kind != s.type.fSetKhType) {
         Warn(s.title,
              "提示：客户类型不符。\n\n[" + card["compname"].AsText() + "] 是 " + KindText(kind) + "！");
         ClearCardFields(s);

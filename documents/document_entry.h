@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "database/connection.h"
+#include "documents/document_data.h"
 #include "documents/frmDj02.h"
 
 namespace jxc {
@@ -35,8 +36,6 @@ std::string TypedWork(const frmDj02& s);
 // -- load_document.cpp: a stored document into the screen
 // Shows "该[单号]已不存在!" when it is gone, "系统数据错误，操作已经取消！" on any error; false then.
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key);
-// The statement of its lines on one side (fInv1), with their products: 0, or 1 for a kit's finished product.
-std::string LinesStatement(const std::string& stem, std::int32_t key, int fInv1);
 // The document before or after the one shown; no hit disables that direction.
 void StepToDocument(frmDj02& s, bool next);
 
@@ -72,8 +71,8 @@ void SetReturnSign(frmDj02& s);  // as chkTh says
 void TurnReturnMark(frmDj02& s); // by a person: without the mark nothing is returned
 // The rate field, or the discount field unless it is 0, into every row. False when it is out of bounds: a message
 // has told so, and the field keeps the focus.
-bool SpreadTaxRate(frmDj02& s);
-bool SpreadDiscount(frmDj02& s);
+[[nodiscard]] bool SpreadTaxRate(frmDj02& s);
+[[nodiscard]] bool SpreadDiscount(frmDj02& s);
 
 // -- paste_lines.cpp
 // Lines from a spreadsheet, in the order code, quantity, price, memo; a block as wide as the grid is its own, column by
@@ -86,19 +85,19 @@ std::vector<Connection::Expected> LineStatements(const frmDj02& s, const std::st
 
 // -- header_fields.cpp
 void MakeNumber(frmDj02& s); // the automatic number by date and rule; one too long for the field is told
-bool LeaveDate(frmDj02& s);  // not before the period; in Action 1 the number follows
+[[nodiscard]] bool LeaveDate(frmDj02& s); // not before the period; in Action 1 the number follows
 void ChooseWarehouse(frmDj02& s, bool second);
 void ChooseCurrency(frmDj02& s);
 std::string RateStatement(const std::string& currency); // with which it reads the rate
 void ShowRate(frmDj02& s, double rate);
-void LeaveRate(frmDj02& s);     // a rate that is none is told, and the one before comes back
-bool FormatPayment(frmDj02& s); // false when it is out of bounds: a message has told so
+void LeaveRate(frmDj02& s);                   // a rate that is none is told, and the one before comes back
+[[nodiscard]] bool FormatPayment(frmDj02& s); // false when it is out of bounds: a message has told so
 
 // -- kit_panel.cpp: the finished product of assembly and dismantling
 void SeekFinishedProduct(frmDj02& s, bool byCode); // by what was typed; not found empties the panel
 void LoadFinishedProduct(frmDj02& s, const std::string& stem, std::int32_t key);
 void ClearFinishedProduct(frmDj02& s);
-bool ChangeKitQuantity(frmDj02& s); // the parts follow; false when it is out of bounds
+[[nodiscard]] bool ChangeKitQuantity(frmDj02& s); // the parts follow; false when it is out of bounds
 double KitQuantity(const frmDj02& s);
 
 // -- card_links.cpp: what lies beside the document
@@ -116,6 +115,14 @@ void SaveColumnWidths(frmDj02& s); // writes tJXC_rptListDetail
 
 // -- save_document.cpp: the save command of every Action
 void SaveDocument(frmDj02& s);
+// -- approve_on_screen.cpp: the save command of Approve and Reverse
+// Approves the document, or with `reversal` takes the approval back. With `prompted` it asks first and tells the end.
+// A refusal or failure is told.
+void RunApproval(frmDj02& s, const DocumentData& document, bool reversal, bool prompted);
+void ReverseApproval(frmDj02& s, const DocumentData& document);
+// -- data_of_screen.cpp
+// The document as it stands on the screen, read once for a command: texts become numbers here and nowhere else.
+DocumentData DataOf(const frmDj02& s);
 // -- print_document.cpp
 void PrintDocument(frmDj02& s);
 

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "base/text.h"
+#include "documents/document_data.h"
 #include "documents/figure_bounds.h"
 
 namespace jxc {
@@ -12,16 +13,16 @@ namespace {
 constexpr Color kRed = 255;
 constexpr int kMemoBytes = 50;
 
-GridColumn Number(const char* caption, int decimals, double width = 10) {
-    return {.caption = caption,
+GridColumn Number(std::string caption, int decimals, double width = 10) {
+    return {.caption = std::move(caption),
             .type = CellType::Number,
             .decimals = decimals,
             .width = width,
             .alignment = Alignment::Right};
 }
 
-GridColumn Number(const char* caption, int decimals, double width, double bound) {
-    GridColumn column = Number(caption, decimals, width);
+GridColumn Bounded(const TypeRow& type, int place, int decimals, double bound, double width = 10) {
+    GridColumn column = Number(FigureCaption(type, place), decimals, width);
     column.below = bound;
     return column;
 }
@@ -33,14 +34,14 @@ std::vector<GridColumn> LineColumns(const TypeRow& type, const Parameters& param
         {.caption = "品名规格", .width = 28},
         {.caption = "单位", .width = 6},
         Number(stocktake ? "帐面数" : "库存数", parameters.quantityDecimals),
-        Number("实盘数", parameters.quantityDecimals, 10, below::kQuantity),
-        Number(stocktake ? "盈亏数" : "数量", parameters.quantityDecimals, 10, below::kQuantity),
+        Bounded(type, line::kCounted, parameters.quantityDecimals, below::kQuantity),
+        Bounded(type, line::kQuantity, parameters.quantityDecimals, below::kQuantity),
         Number("参考价", parameters.priceDecimals),
         Number("折扣率", 4),
-        Number("单价", parameters.priceDecimals, 10, below::kPrice),
-        Number("金额", 2, 12, below::kAmount),
-        Number("税率", 4, 8, below::kTaxRate),
-        Number("税额", 2, 10, below::kAmount),
+        Bounded(type, line::kPrice, parameters.priceDecimals, below::kPrice),
+        Bounded(type, line::kAmount, kAmountDecimals, below::kAmount, 12),
+        Bounded(type, line::kTaxRate, kTaxRateDecimals, below::kTaxRate, 8),
+        Bounded(type, line::kTax, kAmountDecimals, below::kAmount),
         {.caption = parameters.memo1, .width = 14, .maxBytes = kMemoBytes},
         {.caption = parameters.memo2, .width = 14, .maxBytes = kMemoBytes},
         Number("结余数", parameters.quantityDecimals),
@@ -54,7 +55,7 @@ void HideColumns(Grid& grid, const TypeRow& type, const Parameters& parameters, 
     const bool noTax = !type.fSetHbSl_ || parameters.taxWay == TaxWay::None;
     hide(line::kStock, !type.fSetKc_ && !type.IsStocktake());
     hide(line::kCounted, !type.IsStocktake());
-    hide(line::kReference, type.fSetDjType1 == -1);
+    hide(line::kReference, type.fSetDjType1 == kNoChoice);
     hide(line::kDiscount, true);
     hide(line::kTaxRate, noTax);
     hide(line::kTax, noTax);
@@ -71,7 +72,7 @@ void SetFormulas(Grid& grid, const TypeRow& type, const Parameters& parameters, 
         return;
     }
     grid.SetFormula(line::kAmount, "F#*I#");
-    if (type.fSetDjType2 == 5) {
+    if (type.fSetDjType2 == PriceKind::Discounted) {
         grid.SetFormula(line::kPrice, "G#*H#");
         grid.Column(line::kPrice).rounded = true; // the amount is that of the price that is seen and stored
     }
@@ -84,11 +85,6 @@ void SetFormulas(Grid& grid, const TypeRow& type, const Parameters& parameters, 
 }
 
 } // namespace
-
-std::string ActionWord(DocAction action) {
-    static const char* const words[] = {"查询", "新增", "修改", "删除", "审核", "反审核"};
-    return words[static_cast<int>(action)];
-}
 
 void SetUpLineGrid(Grid& grid, const TypeRow& type, const Parameters& parameters, DocAction action) {
     grid.SetColumns(LineColumns(type, parameters));
@@ -105,15 +101,28 @@ void SetUpLineGrid(Grid& grid, const TypeRow& type, const Parameters& parameters
     grid.readOnly = !IsEditing(action);
 }
 
-double ShownNumber(const Grid& grid, int row, int column) {
-    return RoundDecimal(grid.Number(row, column), grid.Column(column).decimals);
+std::string FigureCaption(const TypeRow& type, int column) {
+    switch (column) {
+    case line::kCounted:
+        return "实盘数";
+    case line::kQuantity:
+        return type.IsStocktake() ? "盈亏数" : "数量";
+    case line::kPrice:
+        return "单价";
+    case line::kAmount:
+        return "金额";
+    case line::kTaxRate:
+        return "税率";
+    default:
+        return "税额";
+    }
 }
 
 double DocumentTotal(const Grid& grid) {
     double total = 0;
     for (int row = 1; row <= grid.RowCount(); ++row)
-        total += ShownNumber(grid, row, line::kAmount);
-    return RoundDecimal(total, 2);
+        total += RoundDecimal(grid.Number(row, line::kAmount), kAmountDecimals);
+    return RoundDecimal(total, kAmountDecimals);
 }
 
 double ReferenceTotal(const Grid& grid) {
@@ -124,17 +133,18 @@ double ReferenceTotal(const Grid& grid) {
 }
 
 int DirectionOfFirstRow(const TypeRow& type) {
-    return type.IsKit() || type.fSetCrType1 > 0 ? type.fSetCrType1 : -1;
+    return type.IsKit() || type.fSetCrType1 > 0 ? type.fSetCrType1 : kNoChoice;
 }
 
 int DirectionOfSecondRow(const TypeRow& type) {
     if (!type.IsKit() && type.fSetCrType1 <= 0)
-        return -1;
-    return type.fSetCrType1 == 2 ? 1 : 2;
+        return kNoChoice;
+    return type.fSetCrType1 == Direction::Out ? Direction::In : Direction::Out;
 }
 
 std::string PriceField(int priceKind) {
-    return priceKind >= 1 && priceKind <= 4 ? "fCpPrice" + std::to_string(priceKind - 1) : "";
+    const bool isProducts = priceKind >= PriceKind::Cost && priceKind <= PriceKind::Retail;
+    return isProducts ? "fCpPrice" + std::to_string(priceKind - PriceKind::Cost) : "";
 }
 
 std::string NameAndSpec(const std::string& name, const std::string& spec) {
@@ -142,16 +152,21 @@ std::string NameAndSpec(const std::string& name, const std::string& spec) {
 }
 
 std::string CustomerCaption(const TypeRow& type) {
-    return type.fSetKhType == 1 ? "供应商" : type.fSetKhType == 2 ? "销售商" : "客户";
+    return type.fSetKhType == Partner::Supplier ? "供应商"
+           : type.fSetKhType == Partner::Dealer ? "销售商"
+                                                : "客户";
 }
 
 std::string AddressCaption(const TypeRow& type) {
-    const bool incoming = std::abs(type.fSetNo) == 1 || type.fSetNo == 23 || type.fSetNo == 21;
+    const bool incoming = std::abs(type.fSetNo) == DocType::Receipt ||
+                          type.fSetNo == DocType::PurchaseOrder || type.fSetNo == DocType::Enquiry;
     return incoming ? "发货地址" : "送货地址";
 }
 
 std::string PaymentCaption(const TypeRow& type) {
-    return type.fSetCrType1 == 2 ? "实收金额" : type.fSetCrType1 == 1 ? "实付金额" : "";
+    return type.fSetCrType1 == Direction::Out  ? "实收金额"
+           : type.fSetCrType1 == Direction::In ? "实付金额"
+                                               : "";
 }
 
 std::string FirstWarehouseCaption(const TypeRow& type) {
@@ -163,12 +178,12 @@ std::string SecondWarehouseCaption(const TypeRow& type) {
 
 int OrderTypeFor(int type) {
     switch (std::abs(type)) {
-    case 1:
-        return 23;
-    case 2:
-    case 6:
-    case 31:
-        return 24;
+    case DocType::Receipt:
+        return DocType::PurchaseOrder;
+    case DocType::Issue:
+    case DocType::Dispatch:
+    case DocType::Assembly:
+        return DocType::SalesOrder;
     default:
         return 0;
     }

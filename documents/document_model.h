@@ -8,18 +8,11 @@
 #include <vector>
 
 #include "controls/grid.h"
+#include "documents/document_state.h"
 #include "settings/parameters.h"
 #include "settings/type_row.h"
 
 namespace jxc {
-
-// What the entry screen was opened for.
-enum class DocAction { Query = 0, New = 1, Change = 2, Delete = 3, Approve = 4, Reverse = 5 };
-// "查询", "新增" ...: heads the screen and its messages behind the type's name.
-std::string ActionWord(DocAction action);
-inline bool IsEditing(DocAction action) {
-    return action == DocAction::New || action == DocAction::Change;
-}
 
 // The columns of the entry grid, by place. A formula's letter is the place in the alphabet.
 namespace line {
@@ -44,20 +37,20 @@ constexpr int kProduct = 16;  // P: fCpID
 // The grid of a document of the type, with captions, decimals, locks and formulas; it has no rows then.
 void SetUpLineGrid(Grid& grid, const TypeRow& type, const Parameters& parameters, DocAction action);
 
-// The number of a cell as it is shown, with its column's decimals: what is stored of prices, amounts and
-// taxes.
-double ShownNumber(const Grid& grid, int row, int column);
+// The caption of a column of figures that people enter or that follow from those.
+std::string FigureCaption(const TypeRow& type, int column);
+
 // The sum of the line amounts, as shown.
 double DocumentTotal(const Grid& grid);
 // The sum of quantity times reference price.
 double ReferenceTotal(const Grid& grid);
 
-// fInvInOut of a line's first and second row: 1 in, 2 out, -1 none. Of a kit document the first is a part's
+// fInvInOut of a line's first and second row: a Direction, or kNoChoice. Of a kit document the first is a part's
 // row, the second the finished product's.
 int DirectionOfFirstRow(const TypeRow& type);
 int DirectionOfSecondRow(const TypeRow& type);
 
-// "fCpPrice0" to "fCpPrice3" for price kinds 1 to 4, "" for others.
+// "fCpPrice0" to "fCpPrice3" of the price kinds that are a product's, "" of others.
 std::string PriceField(int priceKind);
 // A product as lines show it: specification and name.
 std::string NameAndSpec(const std::string& name, const std::string& spec);
@@ -69,7 +62,7 @@ std::string PaymentCaption(const TypeRow& type);  // "实收金额", "实付金�
 std::string FirstWarehouseCaption(const TypeRow& type);
 std::string SecondWarehouseCaption(const TypeRow& type);
 
-// The order type that documents of this type refer to: 23 purchase, 24 sales, 0 none.
+// The type of the orders that documents of this type refer to, 0 for none.
 int OrderTypeFor(int type);
 
 } // namespace jxc

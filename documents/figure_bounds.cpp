@@ -1,43 +1,62 @@
 #include "documents/figure_bounds.h"
 
-#include "base/text.h"
-#include "documents/document_entry.h"
+#include <algorithm>
+
+#include "documents/document_model.h"
 
 namespace jxc {
 
 namespace {
 
-std::optional<FigureRefusal> LineOutOfBounds(frmDj02& s, double rate) {
-    Grid& grid = s.Grid2;
-    for (int row = 1; row <= grid.RowCount(); ++row) {
-        int column = grid.ColumnOutOfBounds(row);
-        if (column == 0 && Reaches(grid.Number(row, line::kAmount) * rate, below::kAmount))
-            column = line::kAmount;
-        if (column > 0)
-            return FigureRefusal{"第 " + std::to_string(row) + " 行" +
-                                     BoundText(grid.Column(column).caption, grid.Column(column).below),
-                                 &grid, row, column};
+struct LineBound {
+    int column;
+    double DocumentLine::*figure;
+    double below;
+};
+constexpr LineBound kLineBounds[] = {
+    {line::kCounted, &DocumentLine::counted, below::kQuantity},
+    {line::kQuantity, &DocumentLine::quantity, below::kQuantity},
+    {line::kPrice, &DocumentLine::price, below::kPrice},
+    {line::kAmount, &DocumentLine::amount, below::kAmount},
+    {line::kTaxRate, &DocumentLine::taxRate, below::kTaxRate},
+    {line::kTax, &DocumentLine::tax, below::kAmount},
+};
+
+const LineBound* BoundReached(const DocumentLine& figures, double rate) {
+    for (const LineBound& bound : kLineBounds)
+        if (Reaches(figures.*bound.figure, bound.below))
+            return &bound;
+    const auto amount = std::find_if(std::begin(kLineBounds), std::end(kLineBounds),
+                                     [](const LineBound& bound) { return bound.column == line::kAmount; });
+    return Reaches(figures.amount * rate, below::kAmount) ? amount : nullptr;
+}
+
+std::optional<FigureRefusal> LineOutOfBounds(const DocumentData& document) {
+    int at = 0;
+    for (const DocumentLine& figures : document.lines) {
+        ++at;
+        if (const LineBound* bound = BoundReached(figures, document.rate))
+            return FigureRefusal{"第 " + std::to_string(at) + " 行" +
+                                     BoundText(FigureCaption(document.type, bound->column), bound->below),
+                                 FigureRefusal::Figure::OfLine, at, bound->column};
     }
     return std::nullopt;
 }
 
 } // namespace
 
-std::optional<FigureRefusal> FigureOutOfBounds(frmDj02& s) {
-    const double rate = Val(s.txtInvHbDl.text);
-    if (s.type.fSetHb_ && s.cboInvHb.Chosen().empty() && !s.cboInvHb.items.empty())
-        return FigureRefusal{"请选择货币！", &s.cboInvHb};
-    if (!(rate > 0))
-        return FigureRefusal{"货币[" + s.cboInvHb.Chosen() + "]的汇率必须大于 0，请输入汇率！",
-                             &s.txtInvHbDl};
-    if (Reaches(rate, below::kRate))
-        return FigureRefusal{BoundText("汇率", below::kRate), &s.txtInvHbDl};
-    if (s.type.IsKit() && Reaches(KitQuantity(s), below::kQuantity))
-        return FigureRefusal{BoundText("套数", below::kQuantity), &s.txtInvSL};
-    if (auto refusal = LineOutOfBounds(s, rate))
+std::optional<FigureRefusal> FigureOutOfBounds(const DocumentData& document) {
+    using Figure = FigureRefusal::Figure;
+    if (!(document.rate > 0))
+        return FigureRefusal{"货币[" + document.currency + "]的汇率必须大于 0，请输入汇率！", Figure::Rate};
+    if (Reaches(document.rate, below::kRate))
+        return FigureRefusal{BoundText("汇率", below::kRate), Figure::Rate};
+    if (document.type.IsKit() && Reaches(document.kitQuantity, below::kQuantity))
+        return FigureRefusal{BoundText("套数", below::kQuantity), Figure::KitQuantity};
+    if (auto refusal = LineOutOfBounds(document))
         return refusal;
-    if (Reaches(DocumentTotal(s.Grid2) * std::max(rate, 1.0), below::kAmount))
-        return FigureRefusal{BoundText(s.lblSum.caption, below::kAmount), &s.Grid2};
+    if (Reaches(TotalOf(document.lines) * std::max(document.rate, 1.0), below::kAmount))
+        return FigureRefusal{BoundText("金额合计", below::kAmount), Figure::Total};
     return std::nullopt;
 }
 

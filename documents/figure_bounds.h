@@ -10,7 +10,7 @@
 #include <string>
 
 #include "controls/bounds.h"
-#include "documents/frmDj02.h"
+#include "documents/document_data.h"
 
 namespace jxc {
 
@@ -28,15 +28,16 @@ constexpr double kAmountSum = 1e11;
 constexpr double kUnitCost = 1e10;
 } // namespace below
 
-// Why the document's figures cannot be saved, and where: a control, of the grid also row and column.
+// Why a document's figures cannot be stored, and which it is: of a line also its place from 1 and its column of the entry
+// grid.
 struct FigureRefusal {
+    enum class Figure { Rate, KitQuantity, OfLine, Total };
     std::string text;
-    Control* field;
-    int row = 0;
+    Figure figure;
+    int line = 0;
     int column = 0;
 };
-// The first figure of the document in hand that cannot be saved, a missing currency or rate among them; nothing
-// when all can.
-std::optional<FigureRefusal> FigureOutOfBounds(frmDj02& s);
+// The first figure of the document that cannot be stored; nothing when all can.
+[[nodiscard]] std::optional<FigureRefusal> FigureOutOfBounds(const DocumentData& document);
 
 } // namespace jxc

@@ -4,6 +4,7 @@
 #include "controls/grid_routines.h"
 #include "controls/view.h"
 #include "documents/document_list.h"
+#include "documents/document_state.h"
 #include "documents/list_columns.h"
 #include "session/period.h"
 
@@ -48,11 +49,11 @@ void GoToTab(frmDj01& s, int tab) {
 
 // Closed documents are read only: those that are shown, whatever has been ticked for the next query.
 void AllowActions(frmDj01& s) {
-    const bool closed = ShowsClosedBook(s);
+    const DocState state = ShowsClosedBook(s) ? DocState::Closed : DocState::Open;
     if (s.Mode() == ListMode::OneType)
         for (const DocAction action :
              {DocAction::New, DocAction::Change, DocAction::Delete, DocAction::Approve})
-            s.CmdAction[static_cast<int>(action)].enabled = !closed;
+            s.CmdAction[static_cast<int>(action)].enabled = IsOfferedByList(state, action);
     s.mnuShCheck.enabled = s.mnuShUncheck.enabled = s.CmdAction[static_cast<int>(DocAction::Approve)].enabled;
 }
 

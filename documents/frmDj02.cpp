@@ -132,7 +132,7 @@ void frmDj02::Open() {
     }
     if (oldInvID <= 0) {
         ResetDocument(*this); // nothing in hand: the save command asks for a document
-        cmdSave.enabled = InHand() != DocAction::Query;
+        cmdSave.enabled = CanBeSaved(DocState::NotChosen, InHand());
         return;
     }
     if (!LoadDocument(*this, fromSource ? OldType : invType, oldInvID))

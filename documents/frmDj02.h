@@ -114,6 +114,7 @@ struct frmDj02 : Screen {
     std::string accountRule; // by which an approval will number its account entry, "" for none
     // The stored document as it was loaded; approval, change and deletion go on only while it is still so.
     StoredDocument asLoaded;
+    double storedTotal = 0;           // of the stored document, as its header has it
     std::string asBegun;              // TypedWork() of the document as it was loaded or begun
     std::string madeNumber;           // the automatic number that the date or the type gave last
     std::int32_t finishedProduct = 0; // fCpID of a kit document's product

@@ -25,7 +25,8 @@ void FollowConsignee(frmDj02& s, const std::string& warehouse) {
 }
 
 void WarnOfSecondOpening(const frmDj02& s, const std::string& warehouse) {
-    if (DbCount("tJXC_CkDj01", "fInvType=0 And fCkName=" + InQuotes(warehouse)) > 0)
+    if (DbCount("tJXC_CkDj01",
+                "fInvType=" + std::to_string(DocType::Opening) + " And fCkName=" + InQuotes(warehouse)) > 0)
         Warn(
             s.title,
             "注意：每个仓库最好设置一张[期初单]！\n\n该仓库的[期初单]已有存在，建议您选择原[期初单]的修改。");
@@ -64,9 +65,9 @@ void ChooseWarehouse(frmDj02& s, bool second) {
     const std::string warehouse = (second ? s.cboCkName2 : s.cboCkName).Chosen();
     const int kind = second ? s.type.fSetCkType2 : s.type.fSetCkType1;
     if (s.InHand() == DocAction::New && !warehouse.empty()) {
-        if (s.invType == 0)
+        if (s.invType == DocType::Opening)
             WarnOfSecondOpening(s, warehouse);
-        if (kind == 3 && s.type.fSetKhType == 3)
+        if (kind == WarehouseKind::Consignment && s.type.fSetKhType == Partner::Consignee)
             FollowConsignee(s, warehouse);
     }
     RefreshGridStock(s);
@@ -82,7 +83,7 @@ void ChooseCurrency(frmDj02& s) {
 }
 
 void ShowRate(frmDj02& s, double rate) {
-    s.txtInvHbDl.text = s.txtInvHbDl.tag = FormatFixed(rate, 4);
+    s.txtInvHbDl.text = s.txtInvHbDl.tag = FormatFixed(rate, kRateDecimals);
 }
 
 // The rate before comes back: a person who only wanted to choose another currency is not held here.
@@ -90,7 +91,7 @@ void LeaveRate(frmDj02& s) {
     const double rate = Val(s.txtInvHbDl.text);
     if (s.txtInvHbDl.text == s.txtInvHbDl.tag)
         return;
-    if (RoundDecimal(rate, 4) > 0 && !Reaches(rate, below::kRate))
+    if (RoundDecimal(rate, kRateDecimals) > 0 && !Reaches(rate, below::kRate))
         return ShowRate(s, rate);
     s.txtInvHbDl.text = s.txtInvHbDl.tag;
     Warn(s.title, rate > 0 ? BoundText("汇率", below::kRate) : "汇率必须大于 0！");
@@ -104,7 +105,7 @@ bool FormatPayment(frmDj02& s) {
         Warn(s.title, BoundText(s.lblSsSf.caption, below::kAmount));
         return false;
     }
-    s.txtSsSf.text = FormatFixed(payment, 2);
+    s.txtSsSf.text = FormatFixed(payment, kAmountDecimals);
     return true;
 }
 

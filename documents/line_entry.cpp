@@ -45,12 +45,12 @@ void FillProduct(frmDj02& s, int row, const ProductSought& found, std::int32_t i
     grid.SetCell(row, line::kName, NameAndSpec(found.name, found.spec));
     grid.SetCell(row, line::kUnit, found.unit);
     grid.SetCell(row, line::kStock, found.stock);
-    if (s.type.fSetDjType1 >= 1 && s.type.fSetDjType1 <= 4)
-        grid.SetCell(row, line::kReference,
-                     PriceAsShown(grid, line::kReference, found.price[s.type.fSetDjType1 - 1]));
-    if (s.type.fSetDjType2 >= 1 && s.type.fSetDjType2 <= 4)
-        grid.SetCell(row, line::kPrice,
-                     PriceAsShown(grid, line::kPrice, found.price[s.type.fSetDjType2 - 1]));
+    const auto show = [&](int column, int kind) {
+        if (!PriceField(kind).empty())
+            grid.SetCell(row, column, PriceAsShown(grid, column, found.price[kind - PriceKind::Cost]));
+    };
+    show(line::kReference, s.type.fSetDjType1);
+    show(line::kPrice, s.type.fSetDjType2);
     grid.SetCell(row, line::kProduct, std::int64_t{id});
 }
 
@@ -121,7 +121,7 @@ void LeaveProductCell(frmDj02& s, int row, int column) {
     if (const int other = GridHasValue(grid, row, sought.code); other > 0)
         return ShowOtherRow(s, row, other);
     FillProduct(s, row, sought, id);
-    if (s.type.fSetDjType2 == 5 && grid.Number(row, line::kDiscount) == 0)
+    if (s.type.fSetDjType2 == PriceKind::Discounted && grid.Number(row, line::kDiscount) == 0)
         CurrentView().Signal("折扣为 0，单价因此为 0：请输入折扣。");
 }
 
@@ -267,7 +267,7 @@ void ShowRowFigures(frmDj02& s, int row, const LineFigures& figures) {
     };
     grid.SetCell(row, line::kStock, of(figures.stock));
     const double reference = of(figures.reference); // none where the type shows none
-    const bool atDiscount = IsEditing(s.InHand()) && s.type.fSetDjType2 == 5;
+    const bool atDiscount = IsEditing(s.InHand()) && s.type.fSetDjType2 == PriceKind::Discounted;
     if (reference == 0 && atDiscount && grid.Number(row, line::kPrice) != 0)
         KeepPrice(grid, row);
     else if (!PriceField(s.type.fSetDjType1).empty())
@@ -285,7 +285,7 @@ void RefreshGridStock(frmDj02& s) {
 
 void RefreshTotals(frmDj02& s) {
     s.txtSum.text = FormatFixed(DocumentTotal(s.Grid2), 2);
-    s.txtSum2.text = FormatFixed(s.type.fSetDjType1 == -1 ? 0 : ReferenceTotal(s.Grid2), 2);
+    s.txtSum2.text = FormatFixed(s.type.fSetDjType1 == kNoChoice ? 0 : ReferenceTotal(s.Grid2), 2);
 }
 
 void SetReturnSign(frmDj02& s) {

@@ -19,10 +19,11 @@ namespace {
 std::string OrderNumber(const frmDj02& s, int sourceType, const Recordset& header) {
     if (s.InHand() != DocAction::New)
         return header["fHtNo"].AsText();
-    if (s.invType != 31 && OrderTypeFor(s.invType) == sourceType && sourceType != 0)
+    if (s.invType != DocType::Assembly && OrderTypeFor(s.invType) == sourceType && sourceType != 0)
         return header["fInvNo"].AsText();
     const bool returnOfSource =
-        (sourceType == 1 || sourceType == 2 || sourceType == 6) && s.invType == -sourceType;
+        (sourceType == DocType::Receipt || sourceType == DocType::Issue || sourceType == DocType::Dispatch) &&
+        s.invType == -sourceType;
     return returnOfSource ? header["fHtNo"].AsText() : "";
 }
 
@@ -53,7 +54,8 @@ void LoadHeader(frmDj02& s, int sourceType, const Recordset& header) {
     s.dtpInvDate.date = ParseDate(text("fInvDate"));
     ShowText(s, s.cboInvHb, text("fInvHb"));
     ShowRate(s, header["fInvHbDl"].AsDouble());
-    s.txtSum.text = FormatFixed(header["fInvJE"].AsDouble(), 2);
+    s.storedTotal = RoundDecimal(header["fInvJE"].AsDouble(), kAmountDecimals);
+    s.txtSum.text = FormatFixed(s.storedTotal, kAmountDecimals);
     ShowText(s, s.cboInvMemo, text("fInvMemo"));
     ShowText(s, s.cboInvJbr, text("fInvJbr"));
     ShowApprover(s, text("fInvSHR"));
@@ -103,7 +105,7 @@ void CompleteLine(frmDj02& s, int row, const LineFigures& figures) {
     ShowRowFigures(s, row, figures);
     if (s.type.IsStocktake())
         grid.FillCell(row, line::kStock, book);
-    if (IsEditing(s.InHand()) && s.type.fSetDjType2 == 5)
+    if (IsEditing(s.InHand()) && s.type.fSetDjType2 == PriceKind::Discounted)
         grid.FillCell(row, line::kDiscount, DiscountOf(s, price, grid.Number(row, line::kReference)));
 }
 
@@ -119,10 +121,9 @@ void LoadLines(frmDj02& s, const std::string& stem, std::int32_t key) {
         CompleteLine(s, row, figures);
     grid.Recalculate();
     grid.selectedRow = grid.RowCount() > 0 ? 1 : 0;
-    const std::string total = s.txtSum.text;
     RefreshTotals(s);
     if (!IsEditing(s.InHand()))
-        s.txtSum.text = total;
+        s.txtSum.text = FormatFixed(s.storedTotal, kAmountDecimals);
 }
 
 // A new document from a source: today's, under a number of its own, not approved, not stopped.
@@ -143,12 +144,6 @@ void StartFromSource(frmDj02& s) {
 
 } // namespace
 
-std::string LinesStatement(const std::string& stem, std::int32_t key, int fInv1) {
-    return "Select a.*,b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit from " + stem + "02 a" +
-           " Left Join tJXC_Cp b On a.fCpID =b.fCpID " + " Where a.fInvID = " + std::to_string(key) +
-           " And fInv1 = " + std::to_string(fInv1) + " Order By a.fRowID";
-}
-
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
     const std::string stem = BookStem(sourceType, s.JzState == 1);
     s.txtSsSf.text = "0.00";
@@ -162,7 +157,7 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         const ReadAhead ahead(Conn(), together);
         StoredDocument stored = ReadStored(stem, key);
         if (!stored.Exists()) {
-            Warn(s.title, "该[单号]已不存在!");
+            Warn(s.title, RefusalIn(DocState::Gone, s.InHand()));
             return false;
         }
         s.cmdSave.enabled = false; // until what the screen shows is a document again
@@ -175,8 +170,7 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
         if (s.type.IsKit() && s.InHand() != DocAction::New)
             LoadFinishedProduct(s, stem, key);
         s.oldInvID = key;
-        s.cmdSave.enabled = s.InHand() != DocAction::Query &&
-                            (s.InHand() != DocAction::Approve || header["fInvSHR"].AsText().empty());
+        s.cmdSave.enabled = CanBeSaved(StateByApprover(header["fInvSHR"].AsText()), s.InHand());
         if (s.InHand() == DocAction::New)
             StartFromSource(s);
         else

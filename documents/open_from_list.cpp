@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "controls/view.h"
 #include "documents/document_list.h"
-#include "session/session.h"
+#include "documents/document_state.h"
 
 namespace jxc {
 
@@ -56,20 +56,6 @@ bool TakeSelectedDocument(frmDj01& s) {
     return s.invID >= 1;
 }
 
-// Why the document in hand is not for the action; "" when it is.
-std::string Refusal(const frmDj01& s, DocAction action) {
-    const bool approved = !s.approver.empty();
-    if (action == DocAction::Change || action == DocAction::Delete || action == DocAction::Approve)
-        return approved ? "该单据已经审核！" : "";
-    if (action != DocAction::Reverse)
-        return "";
-    if (!approved)
-        return "该单据尚未审核！";
-    if (session.UserName != session.ZgName && session.UserName != s.approver)
-        return "反审核：必须是“系统管理员”或者是该单据原“审核人”，才能够操作！";
-    return "";
-}
-
 } // namespace
 
 bool ShowsClosedBook(const frmDj01& s) {
@@ -80,7 +66,7 @@ void OpenDocument(frmDj01& s, DocAction action, int type, int fromType, int rowF
     if (action != DocAction::New || rowFlag == kFromRow) {
         if (!TakeSelectedDocument(s))
             return;
-        if (const std::string refusal = Refusal(s, action); !refusal.empty())
+        if (const std::string refusal = RefusalIn(StateByApprover(s.approver), action); !refusal.empty())
             return Warn(s.title, refusal);
     }
     const ScreenToShow entry("frmDj02"); // a picker stands over the document being entered

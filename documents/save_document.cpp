@@ -6,7 +6,8 @@
 #include "controls/grid_routines.h"
 #include "controls/view.h"
 #include "database/recordset.h"
-#include "documents/approval/run_approval.h"
+#include "documents/approval/approve_document.h"
+#include "documents/document_checks.h"
 #include "documents/document_entry.h"
 #include "documents/figure_bounds.h"
 #include "documents/write_document.h"
@@ -22,9 +23,6 @@ namespace {
 constexpr int kMemoBytes = 20;
 constexpr int kAddressBytes = 50;
 
-const std::string kNumberTaken = "该[单号]已有存在!";
-const std::string kNumberTakenByOther = "：该[单号]已另有存在!";
-
 // Shows why saving stops and puts the focus on the field.
 bool Refuse(frmDj02& s, const std::string& text, Control* field = nullptr) {
     Warn(s.title, text);
@@ -33,23 +31,24 @@ bool Refuse(frmDj02& s, const std::string& text, Control* field = nullptr) {
     return false;
 }
 
+// A reversal is asked for its document's state behind the other checks.
 bool DocumentInHand(frmDj02& s) {
-    if (s.oldInvID != 0) {
-        const bool approved = !s.lblSHR.caption.empty() && s.InHand() != DocAction::Reverse;
-        return !approved || Refuse(s, "该单据已经审核！");
-    }
-    const char* const verbs[] = {"", "", "修改", "删除", "审核", ""};
-    const std::string verb = verbs[s.Action];
-    if (verb.empty())
+    if (s.InHand() == DocAction::Reverse)
         return true;
-    Warn(s.title, "请选择" + verb + "单据！");
-    s.Close();
+    const DocState state = s.oldInvID == 0 ? DocState::NotChosen : StateByApprover(s.lblSHR.caption);
+    const std::string refusal = RefusalIn(state, s.InHand());
+    if (refusal.empty())
+        return true;
+    Warn(s.title, refusal);
+    if (state == DocState::NotChosen)
+        s.Close();
     return false;
 }
 
 bool DateAndNumberGiven(frmDj02& s) {
-    if (!s.dtpInvDate.date || *s.dtpInvDate.date < s.parameters.periodStart)
-        return Refuse(s, DateRefusal(s.parameters.periodStart), &s.dtpInvDate);
+    const Date start = s.parameters.periodStart;
+    if (!s.dtpInvDate.date || *s.dtpInvDate.date < start)
+        return Refuse(s, RefusalIn(DocState::BeforePeriod, s.InHand(), start), &s.dtpInvDate);
     s.txtNo.text = TrimAnyBlanks(s.txtNo.text);
     if (s.Number().empty())
         return Refuse(s, "请输入单号！", &s.txtNo);
@@ -72,7 +71,7 @@ bool CustomerGiven(frmDj02& s) {
     if (!s.type.HasCustomer() || s.CustomerId() != 0)
         return true;
     const std::string caption = s.lblKh.caption;
-    if (s.invType == 20) {
+    if (s.invType == DocType::Plan) {
         Warn(s.title, "注意：您未有输入[" + caption + "]，系统将根据产品的[入库单]资料动态产生。继续？");
         return true;
     }
@@ -81,10 +80,6 @@ bool CustomerGiven(frmDj02& s) {
         return true;
     }
     return Refuse(s, "请输入" + caption + "！", &s.txtKhSeek);
-}
-
-std::string WithNumber(const frmDj02& s) {
-    return "fInvNo = " + InQuotes(s.Number());
 }
 
 std::string WithOrder(const frmDj02& s) {
@@ -99,7 +94,7 @@ std::string OrderTypeStatement(const frmDj02& s) {
 std::vector<Connection::Expected> AskedFirst(const frmDj02& s, const std::string& stem) {
     std::vector<Connection::Expected> asked;
     if (s.InHand() == DocAction::New)
-        asked.push_back({CountStatement(stem + "01", WithNumber(s))});
+        asked.push_back({NumberStatement(stem, s.Number())});
     if (s.InHand() != DocAction::Delete && s.InHand() != DocAction::Reverse && !s.txtHtNo.text.empty()) {
         asked.push_back({CountStatement("tJXC_CkHt01", WithOrder(s))});
         asked.push_back({OrderTypeStatement(s)});
@@ -119,7 +114,9 @@ bool OrderFits(frmDj02& s) {
     const int orderType = static_cast<int>(Val(DbScalar(OrderTypeStatement(s))));
     if (orderType == OrderTypeFor(s.invType))
         return true;
-    return Refuse(s, s.title + "，不能对应 " + (orderType == 23 ? "采购" : "销售") + "订单 " + number + " ！",
+    return Refuse(s,
+                  s.title + "，不能对应 " + (orderType == DocType::PurchaseOrder ? "采购" : "销售") +
+                      "订单 " + number + " ！",
                   &s.txtHtNo);
 }
 
@@ -132,17 +129,8 @@ void CutLongTexts(frmDj02& s) {
     s.cboKhAdd.text = TruncateToBytes(s.cboKhAdd.text, kAddressBytes);
 }
 
-// Why the number cannot be used in the book: `taken` when it is there, or that the check could not be made.
-// "" when free.
-std::string NumberRefusal(const frmDj02& s, const std::string& stem, const std::string& taken) {
-    const int count = DbCount(stem + "01", WithNumber(s));
-    if (count < 0)
-        return "无法检查该[单号]是否已有存在，操作已经取消！";
-    return count > 0 ? taken : "";
-}
-
-bool NumberIsFree(frmDj02& s, const std::string& stem, const std::string& taken) {
-    const std::string refusal = NumberRefusal(s, stem, taken);
+bool NumberIsFree(frmDj02& s, const std::string& stem) {
+    const std::string refusal = NumberRefusal(stem, s.Number(), s.InHand() == DocAction::Change);
     return refusal.empty() || Refuse(s, refusal, &s.txtNo);
 }
 
@@ -155,7 +143,7 @@ bool MayGoOn(frmDj02& s, const std::string& stem) {
     if (s.type.IsKit() && KitQuantity(s) == 0)
         return Refuse(s, "请输入产品套数！", &s.txtInvSL);
     const bool renumbered = s.InHand() == DocAction::Change && !EqualsNoCase(s.Number(), s.txtNo.tag);
-    return !renumbered || NumberIsFree(s, stem, s.Number() + kNumberTakenByOther);
+    return !renumbered || NumberIsFree(s, stem);
 }
 
 // A row of a stocktake that nobody has counted would be a count of 0.
@@ -200,16 +188,37 @@ bool LinesGiven(frmDj02& s) {
     return Refuse(s, "请输入单据内容清单！", &s.Grid2);
 }
 
+bool CurrencyGiven(frmDj02& s) {
+    if (!s.type.fSetHb_ || !s.cboInvHb.Chosen().empty() || s.cboInvHb.items.empty())
+        return true;
+    return Refuse(s, "请选择货币！", &s.cboInvHb);
+}
+
+Control* FieldOf(frmDj02& s, const FigureRefusal& refusal) {
+    switch (refusal.figure) {
+    case FigureRefusal::Figure::Rate:
+        return &s.txtInvHbDl;
+    case FigureRefusal::Figure::KitQuantity:
+        return &s.txtInvSL;
+    default:
+        return &s.Grid2;
+    }
+}
+
 // A deletion takes whatever stands.
-bool FiguresWithinBounds(frmDj02& s) {
-    const auto refusal = s.InHand() == DocAction::Delete ? std::nullopt : FigureOutOfBounds(s);
+bool FiguresWithinBounds(frmDj02& s, const DocumentData& document) {
+    if (s.InHand() == DocAction::Delete)
+        return true;
+    if (!CurrencyGiven(s))
+        return false;
+    const auto refusal = FigureOutOfBounds(document);
     if (!refusal)
         return true;
-    if (refusal->row > 0) {
-        s.Grid2.selectedRow = refusal->row;
+    if (refusal->line > 0) {
+        s.Grid2.selectedRow = refusal->line;
         s.Grid2.selectedColumn = refusal->column;
     }
-    return Refuse(s, refusal->text, refusal->field);
+    return Refuse(s, refusal->text, FieldOf(s, *refusal));
 }
 
 // Runs the writing of a document in one transaction. `write` gives the reason why the document cannot be
@@ -223,7 +232,7 @@ bool InTransaction(frmDj02& s, const std::function<std::string()>& write) {
         if (refusal.empty())
             transaction.Commit();
     } catch (const CommitUnknown& error) {
-        WarnOfFailure(s.title, CommitUnknownText(s, "存盘"), CauseOf(error));
+        WarnOfFailure(s.title, CommitUnknownText(s.Number(), "存盘"), CauseOf(error));
         return false;
     } catch (const DatabaseError& error) {
         WarnOfFailure(s.title, "系统存盘错误，操作已经取消！", CauseOf(error));
@@ -232,26 +241,18 @@ bool InTransaction(frmDj02& s, const std::function<std::string()>& write) {
     return refusal.empty() || Refuse(s, refusal);
 }
 
-// Key and number are taken inside the transaction, where no other user can come between. `ahead` holds on to
-// the rate with which the next document begins.
-std::string WriteNew(frmDj02& s, const std::string& stem, std::optional<ReadAhead>& ahead) {
+// `ahead` holds on to the rate with which the next document begins.
+std::string WriteNew(frmDj02& s, DocumentData& document, std::optional<ReadAhead>& ahead) {
     const std::vector<std::string>& currencies = s.cboInvHb.items;
-    ahead.emplace(Conn(), std::vector<Connection::Expected>{
-                              {ParametersStatement()},
-                              {CountStatement(stem + "01", WithNumber(s))},
-                              {MaxStatement(stem + "01", "fInvID")},
-                              {HeaderStatement(s, stem), true},
-                              {RateStatement(currencies.empty() ? "" : currencies.front())}});
-    std::string refusal = DatedBeforePeriod(s);
-    if (refusal.empty())
-        refusal = NumberRefusal(s, stem, kNumberTaken);
+    std::vector<Connection::Expected> reads = NewDocumentReads(document);
+    reads.push_back({RateStatement(currencies.empty() ? "" : currencies.front())});
+    ahead.emplace(Conn(), reads);
+    std::string refusal = WriteNewDocument(document);
     if (!refusal.empty())
         return refusal;
-    s.oldInvID = DbMax(stem + "01", "fInvID") + 1;
-    WriteHeader(s, stem);
-    WriteLines(s, stem);
+    s.oldInvID = document.key;
     if (s.parameters.approveOnSave)
-        s.asLoaded = ReadStored(stem, s.oldInvID); // approved only as it was written
+        s.asLoaded = ReadStored(StemOf(document), document.key); // approved only as it was written
     return "";
 }
 
@@ -268,20 +269,20 @@ bool FinishedProductGiven(frmDj02& s) {
     return !s.type.IsKit() || s.finishedProduct != 0 || Refuse(s, "请输入组装产品及其数量。", &s.txtCpCode);
 }
 
-bool SaveNew(frmDj02& s, const std::string& stem) {
-    if (!NumberIsFree(s, stem, kNumberTaken))
+bool SaveNew(frmDj02& s, DocumentData& document) {
+    if (!NumberIsFree(s, StemOf(document)))
         return false;
     if (!FinishedProductGiven(s))
         return false;
     if (!AskOkCancel(s.title, s.title + "：" + s.Number() + "，确定？"))
         return false;
     std::optional<ReadAhead> ahead;
-    if (!InTransaction(s, [&] { return WriteNew(s, stem, ahead); })) {
+    if (!InTransaction(s, [&] { return WriteNew(s, document, ahead); })) {
         s.oldInvID = 0;
         return false;
     }
     if (s.parameters.approveOnSave)
-        RunApproval(s, false, false);
+        RunApproval(s, document, false, false);
     if (s.parameters.printOnSave || AskYesNo(s.title, "单据新增完毕。打印本张单据？"))
         PrintSaved(s);
     s.oldInvID = 0;
@@ -289,31 +290,13 @@ bool SaveNew(frmDj02& s, const std::string& stem) {
     return true;
 }
 
-// Why the stored document may not be changed or deleted any more, "" when it may.
-std::string MayStillBeWritten(const frmDj02& s, const std::string& stem) {
-    const ReadAhead ahead(Conn(), CheckStatements(s, stem));
-    const std::string refusal = ChangedMeanwhile(s, stem);
-    return refusal.empty() ? DatedBeforePeriod(s) : refusal;
-}
-
-bool SaveChange(frmDj02& s, const std::string& stem) {
+bool SaveChange(frmDj02& s, const DocumentData& document) {
     const std::string number = s.txtNo.tag;
     if (!FinishedProductGiven(s))
         return false;
     if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
         return false;
-    const auto write = [&] {
-        std::string refusal = MayStillBeWritten(s, stem);
-        if (refusal.empty() && !EqualsNoCase(s.Number(), number))
-            refusal = NumberRefusal(s, stem, s.Number() + kNumberTakenByOther);
-        if (!refusal.empty())
-            return refusal;
-        WriteHeader(s, stem);
-        Conn().Execute("Delete From " + stem + "02 Where fInvID=" + std::to_string(s.oldInvID));
-        WriteLines(s, stem);
-        return std::string();
-    };
-    if (!InTransaction(s, write))
+    if (!InTransaction(s, [&] { return WriteChangedDocument(document, s.asLoaded, number); }))
         return false;
     Inform(s.title, number + "：单据修改完毕！");
     s.cmdSave.enabled = false;
@@ -323,17 +306,11 @@ bool SaveChange(frmDj02& s, const std::string& stem) {
     return true;
 }
 
-bool DeleteStored(frmDj02& s, const std::string& stem) {
+bool DeleteStored(frmDj02& s, const DocumentData& document) {
     const std::string number = s.Number();
     if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
         return false;
-    const auto write = [&] {
-        std::string refusal = MayStillBeWritten(s, stem);
-        if (refusal.empty() && !DeleteDocumentRows(stem, "fInvID=" + std::to_string(s.oldInvID)))
-            throw DatabaseError("删除单据失败。");
-        return refusal;
-    };
-    if (!InTransaction(s, write))
+    if (!InTransaction(s, [&] { return DeleteDocument(document, s.asLoaded); }))
         return false;
     Inform(s.title, number + "：单据删除完毕！");
     s.cmdSave.enabled = false;
@@ -342,14 +319,14 @@ bool DeleteStored(frmDj02& s, const std::string& stem) {
 }
 
 // False when the document is not written: refused, given up or failed, as the person was told.
-bool Write(frmDj02& s, const std::string& stem) {
+bool Write(frmDj02& s, DocumentData& document) {
     switch (s.InHand()) {
     case DocAction::New:
-        return SaveNew(s, stem);
+        return SaveNew(s, document);
     case DocAction::Change:
-        return SaveChange(s, stem);
+        return SaveChange(s, document);
     case DocAction::Delete:
-        return DeleteStored(s, stem);
+        return DeleteStored(s, document);
     default:
         return false;
     }
@@ -362,19 +339,19 @@ void SaveDocument(frmDj02& s) {
     const ReadAhead ahead(Conn(), AskedFirst(s, stem));
     if (!MayGoOn(s, stem))
         return;
-    if (s.InHand() == DocAction::Approve) {
-        RunApproval(s, false, true);
-        return;
-    }
-    if (s.InHand() == DocAction::Reverse) {
-        ReverseApproval(s);
-        return;
-    }
+    if (s.InHand() == DocAction::Approve)
+        return RunApproval(s, DataOf(s), false, true);
+    if (s.InHand() == DocAction::Reverse)
+        return ReverseApproval(s, DataOf(s));
     const bool waited = IsEditing(s.InHand()) && EndsBlank(s.Grid2);
-    const bool lines = LinesGiven(s);
-    if (lines && !FiguresWithinBounds(s))
-        return; // the cursor is at the figure
-    if (!(lines && Write(s, stem)) && waited)
+    bool written = false;
+    if (LinesGiven(s)) {
+        DocumentData document = DataOf(s);
+        if (!FiguresWithinBounds(s, document))
+            return; // the cursor is at the figure
+        written = Write(s, document);
+    }
+    if (!written && waited)
         GoBelowTheLines(s); // as it was: the next line is not typed over the last one
 }
 

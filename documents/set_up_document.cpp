@@ -62,8 +62,8 @@ void ShapeByType(frmDj02& s) {
     Show(type.fSetHb_, {&s.lblInvHb, &s.cboInvHb, &s.txtInvHbDl});
     Show(type.fSetDjDd_, {&s.lblHtNo, &s.txtHtNo});
     Show(type.fSetHbSl_ && s.parameters.taxWay != TaxWay::None, {&s.lblTaxRate, &s.txtTaxRate});
-    Show(type.fSetDjType2 == 5, {&s.lblZkl, &s.txtZkl});
-    Show(type.fSetDjType1 != -1, {&s.lblSum2, &s.txtSum2});
+    Show(type.fSetDjType2 == PriceKind::Discounted, {&s.lblZkl, &s.txtZkl});
+    Show(type.fSetDjType1 != kNoChoice, {&s.lblSum2, &s.txtSum2});
     Show(type.fSetDjBack_, {&s.lblTh, &s.shpTh});
     Show(!type.IsStocktake(), {&s.chkTh});
     Show(OffersPayment(s, type), {&s.lblSsSf, &s.txtSsSf});
@@ -83,7 +83,7 @@ void AllowByAction(frmDj02& s) {
     s.cmdNew.visible = s.InHand() == DocAction::New;
     s.cmdPrevious.visible = s.cmdNext.visible = s.InHand() != DocAction::New;
     s.cmdPrevious.enabled = s.cmdNext.enabled = true;
-    s.cmdSave.enabled = s.InHand() != DocAction::Query;
+    s.cmdSave.enabled = CanBeSaved(DocState::NotChosen, s.InHand());
     s.cmdLoadKh2.enabled = !s.type.HasCustomer() || HasModuleRight("mnuCardAdd", 0);
 }
 
@@ -136,9 +136,7 @@ void SetUpDocument(frmDj02& s) {
         throw ScreenError("没有单据类型 " + std::to_string(s.invType) + "。");
     s.type = *type;
     s.parameters = ReadParameters();
-    const int series = s.InHand() == DocAction::Approve ? AccountSeries(s.type) : 0;
-    const auto account = series != 0 ? ReadTypeRow(series) : std::nullopt;
-    s.accountRule = account ? account->fSetAutoNo : "";
+    s.accountRule = s.InHand() == DocAction::Approve ? AccountRule(s.type) : "";
     LoadPeriodSettings();
     s.title = s.type.fSetName + "：" + ActionWord(s.InHand());
     FillLists(s);
@@ -166,7 +164,7 @@ void RefillSummaries(frmDj02& s) {
 }
 
 void ResetDocument(frmDj02& s) {
-    s.dtpInvDate.date = s.invType == 0 ? s.parameters.periodStart : Today();
+    s.dtpInvDate.date = s.invType == DocType::Opening ? s.parameters.periodStart : Today();
     for (TextBox* box : {&s.txtNo, &s.txtHtNo, &s.txtKhSeek}) {
         box->text.clear();
         box->tag.clear();

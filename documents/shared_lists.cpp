@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "session/lookups/find_by_text.h"
 #include "session/lookups/lists.h"
+#include "settings/type_codes.h"
 
 namespace jxc {
 
@@ -13,7 +14,8 @@ constexpr int kNumberWidth = 3;
 } // namespace
 
 std::string TypesStatement() {
-    return "Select fSetNo, fSetName from tJXC_InvSet Where fSetNo<50 And fSetNoUse_<>1 Order By fRowID";
+    return "Select fSetNo, fSetName from tJXC_InvSet Where fSetNo<" +
+           std::to_string(DocType::FirstBeyondDocuments) + " And fSetNoUse_<>1 Order By fRowID";
 }
 
 std::string CurrenciesStatement() {
@@ -35,7 +37,7 @@ int TypeOf(const std::string& item) {
 }
 
 void FillWarehouses(ListBox& list, int kind) {
-    if (kind == -1)
+    if (kind == kNoChoice)
         return list.Clear();
     FillCombo(WarehouseFilter(kind, "Select fCkName,0 as aaa from tJXC_Ck") + " Order By fCkCode", list);
 }

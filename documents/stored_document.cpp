@@ -15,6 +15,12 @@ std::string StoredLinesStatement(const std::string& stem, std::int32_t key) {
            stem + "02 Where fInvID=" + std::to_string(key) + " Order By fInv1,fRowID";
 }
 
+std::string LinesStatement(const std::string& stem, std::int32_t key, int fInv1) {
+    return "Select a.*,b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit from " + stem + "02 a" +
+           " Left Join tJXC_Cp b On a.fCpID =b.fCpID " + " Where a.fInvID = " + std::to_string(key) +
+           " And fInv1 = " + std::to_string(fInv1) + " Order By a.fRowID";
+}
+
 StoredDocument ReadStored(const std::string& stem, std::int32_t key) {
     StoredDocument stored;
     stored.header = Conn().Query(StoredHeaderStatement(stem, key)).cells;

@@ -24,6 +24,8 @@ struct StoredDocument {
 // The two statements with which a document is read, to be read ahead.
 std::string StoredHeaderStatement(const std::string& stem, std::int32_t key);
 std::string StoredLinesStatement(const std::string& stem, std::int32_t key);
+// The statement of the lines on one side (fInv1), with their products: 0, or 1 for a kit's finished product.
+std::string LinesStatement(const std::string& stem, std::int32_t key, int fInv1);
 // Reads the document of key `key` in the book that `stem` names. One that is gone does not Exist.
 StoredDocument ReadStored(const std::string& stem, std::int32_t key);
 

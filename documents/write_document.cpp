@@ -3,20 +3,16 @@
 #include "base/text.h"
 #include "database/recordset.h"
 #include "database/row_inserter.h"
-#include "documents/document_entry.h"
+#include "documents/document_checks.h"
+#include "documents/document_model.h"
+#include "documents/figure_bounds.h"
+#include "session/lookups/book.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {
 
 namespace {
-
-// The fields that header and lines share, so that reports need no join.
-void SetHeaderCopies(const frmDj02& s, Recordset& row) {
-    row.Set("fInvNo", s.Number());
-    row.Set("fInvDate", IsoText(*s.dtpInvDate.date));
-    row.Set("fInvHb", s.cboInvHb.Chosen());
-    row.Set("fInvHbDl", Val(s.txtInvHbDl.text));
-}
 
 // The fields of a line, by their place in kLineFields.
 enum LineField {
@@ -46,132 +42,197 @@ const std::vector<std::string> kLineFields = {"fInv1",  "fRowID",      "fInvID",
                                               "fCpID",  "fInvSL",      "fInvSL2", "fInvDJ",     "fInvDJ2",
                                               "fInvJE", "fInvTaxRate", "fInvTax", "fInvOther1", "fInvOther2"};
 
-// Writes the lines of a document on one of its two sides: inv1 0 on the first warehouse, 1 on the second.
+// Writes the lines of a document on one of its two sides: inv1 0 on the first warehouse, 1 on the second. The fields that
+// they share with the header stand in each, so that reports need no join.
 class Lines {
   public:
-    Lines(const frmDj02& s, const std::string& stem, int inv1)
-        : s_(s), rows_(Conn(), stem + "02", kLineFields) {
+    Lines(const DocumentData& document, int inv1) : rows_(Conn(), StemOf(document) + "02", kLineFields) {
+        const TypeRow& type = document.type;
         const bool second = inv1 == 1;
         rows_.Set(kInv1, inv1);
-        rows_.Set(kInvID, std::int64_t{s.oldInvID});
-        rows_.Set(kInvInOut, second ? DirectionOfSecondRow(s.type) : DirectionOfFirstRow(s.type));
-        rows_.Set(kCkName, second                       ? s.cboCkName2.Chosen()
-                           : s.type.HasFirstWarehouse() ? s.cboCkName.Chosen()
-                                                        : "");
-        rows_.Set(kInvNo, s.Number());
-        rows_.Set(kInvDate, IsoText(*s.dtpInvDate.date));
-        rows_.Set(kInvHb, s.cboInvHb.Chosen());
-        rows_.Set(kInvHbDl, Val(s.txtInvHbDl.text));
+        rows_.Set(kInvID, std::int64_t{document.key});
+        rows_.Set(kInvInOut, second ? DirectionOfSecondRow(type) : DirectionOfFirstRow(type));
+        rows_.Set(kCkName, second ? document.warehouse2 : type.HasFirstWarehouse() ? document.warehouse : "");
+        rows_.Set(kInvNo, document.number);
+        rows_.Set(kInvDate, IsoText(document.date));
+        rows_.Set(kInvHb, document.currency);
+        rows_.Set(kInvHbDl, document.rate);
         rows_.Set(kInvDJ2, 0);
     }
 
-    // Quantity, price and product are the cells' values; amounts and taxes what the cells show. A price has more
-    // decimals than its column shows only where it was stored before the company chose fewer, and stays so.
-    void SetFigures(int at) {
-        const Grid& grid = s_.Grid2;
+    void SetFigures(int at, const DocumentLine& line) {
         rows_.Set(kRowID, at);
-        rows_.Set(kCpID, grid.Cell(at, line::kProduct).AsLong());
-        rows_.Set(kInvSL, grid.Number(at, line::kQuantity));
-        rows_.Set(kInvDJ, grid.Number(at, line::kPrice));
-        rows_.Set(kInvJE, ShownNumber(grid, at, line::kAmount));
-        rows_.Set(kInvTaxRate, ShownNumber(grid, at, line::kTaxRate));
-        rows_.Set(kInvTax, ShownNumber(grid, at, line::kTax));
-        rows_.Set(kInvOther1, grid.Text(at, line::kMemo1));
-        rows_.Set(kInvOther2, grid.Text(at, line::kMemo2));
+        rows_.Set(kCpID, line.product);
+        rows_.Set(kInvSL, line.quantity);
+        rows_.Set(kInvDJ, line.price);
+        rows_.Set(kInvJE, StoredAmount(line));
+        rows_.Set(kInvTaxRate, StoredTaxRate(line));
+        rows_.Set(kInvTax, StoredTax(line));
+        rows_.Set(kInvOther1, line.memo1);
+        rows_.Set(kInvOther2, line.memo2);
     }
 
     void Set(LineField field, Value value) { rows_.Set(field, std::move(value)); }
     void Insert() { rows_.Insert(); }
 
   private:
-    const frmDj02& s_;
     RowInserter rows_;
 };
 
-// Where fInvSL2 of a line comes from, 0 for nowhere: a stocktake keeps the book quantity, a new order's
-// balance is its full quantity, a changed order's the balance that the user sees.
-int SecondQuantityColumn(const frmDj02& s, bool second) {
-    if (s.type.fSetJy_ && !second)
-        return s.InHand() == DocAction::New ? line::kQuantity : line::kBalance;
-    return s.type.IsStocktake() ? line::kStock : 0;
+// Where fInvSL2 of a line comes from; null for nowhere: a stocktake keeps the book quantity, an order its balance.
+double DocumentLine::*SecondQuantity(const TypeRow& type, bool second) {
+    if (type.fSetJy_ && !second)
+        return &DocumentLine::balance;
+    return type.IsStocktake() ? &DocumentLine::bookQuantity : nullptr;
 }
 
-void WriteOrdinaryLines(const frmDj02& s, const std::string& stem, bool second) {
-    Lines lines(s, stem, second ? 1 : 0);
-    lines.Set(kKhID, s.type.HasCustomer() ? s.CustomerId() : 0);
-    const int secondQuantity = SecondQuantityColumn(s, second);
-    for (int at = 1; at <= s.Grid2.RowCount(); ++at) {
-        lines.SetFigures(at);
-        if (secondQuantity != 0)
-            lines.Set(kInvSL2, s.Grid2.Number(at, secondQuantity));
+void WriteOrdinaryLines(const DocumentData& document, bool second) {
+    Lines lines(document, second ? 1 : 0);
+    lines.Set(kKhID, document.type.HasCustomer() ? document.customer : 0);
+    const auto secondQuantity = SecondQuantity(document.type, second);
+    int at = 0;
+    for (const DocumentLine& line : document.lines) {
+        lines.SetFigures(++at, line);
+        if (secondQuantity)
+            lines.Set(kInvSL2, line.*secondQuantity);
         lines.Insert();
     }
 }
 
 // The parts on the first warehouse.
-void WriteParts(const frmDj02& s, const std::string& stem) {
-    Lines lines(s, stem, 0);
-    for (int at = 1; at <= s.Grid2.RowCount(); ++at) {
-        lines.SetFigures(at);
+void WriteParts(const DocumentData& document) {
+    Lines lines(document, 0);
+    int at = 0;
+    for (const DocumentLine& line : document.lines) {
+        lines.SetFigures(++at, line);
         lines.Insert();
     }
 }
 
 // The finished product on the second; its price is what the parts of one piece come to.
-void WriteFinishedProduct(const frmDj02& s, const std::string& stem) {
-    const double total = Val(s.txtSum.text);
-    Lines lines(s, stem, 1);
-    lines.Set(kRowID, 1);
-    lines.Set(kCpID, std::int64_t{s.finishedProduct});
-    lines.Set(kInvSL, KitQuantity(s));
-    lines.Set(kInvDJ, total / KitQuantity(s));
-    lines.Set(kInvJE, total);
-    lines.Set(kInvTaxRate, 0);
-    lines.Set(kInvTax, 0);
-    lines.Set(kInvOther1, "产品套件");
-    lines.Set(kInvOther2, "");
+void WriteFinishedProduct(const DocumentData& document) {
+    const double total = TotalOf(document.lines);
+    Lines lines(document, 1);
+    lines.SetFigures(1, {.product = document.finishedProduct,
+                         .quantity = document.kitQuantity,
+                         .price = total / document.kitQuantity,
+                         .amount = total,
+                         .memo1 = "产品套件"});
     lines.Insert();
+}
+
+void WriteLines(const DocumentData& document) {
+    if (document.type.IsKit()) {
+        WriteParts(document);
+        WriteFinishedProduct(document);
+        return;
+    }
+    WriteOrdinaryLines(document, false);
+    if (document.type.HasSecondWarehouse())
+        WriteOrdinaryLines(document, true);
+}
+
+// What a header says of its document, by field; its key apart. It is not approved then.
+std::vector<std::pair<std::string, Value>> HeaderFields(const DocumentData& document) {
+    const TypeRow& type = document.type;
+    return {{"fHtNo", document.order},
+            {"fInvType", type.fSetNo},
+            {"fInvNo", document.number},
+            {"fInvDate", IsoText(document.date)},
+            {"fInvHb", document.currency},
+            {"fInvHbDl", document.rate},
+            {"fInvJE", TotalOf(document.lines)},
+            {"fInvMemo", document.memo},
+            {"fInvDLR", session.UserName},
+            {"fInvJbr", document.handler},
+            {"fInvSHR", ""},
+            {"fKhID", type.HasCustomer() ? document.customer : 0},
+            {"fKhAdd", type.HasCustomer() ? document.address : ""},
+            {"fCkName", type.HasFirstWarehouse() ? document.warehouse : ""},
+            {"fCkName2", type.HasSecondWarehouse() ? document.warehouse2 : ""},
+            {"fFlag", document.stopped ? 1 : 0}};
+}
+
+void InsertHeader(const DocumentData& document) {
+    const auto values = HeaderFields(document);
+    std::vector<std::string> names{"fInvID"};
+    for (const auto& [name, value] : values)
+        names.push_back(name);
+    RowInserter row(Conn(), StemOf(document) + "01", names);
+    row.Set(0, std::int64_t{document.key});
+    for (size_t i = 0; i < values.size(); ++i)
+        row.Set(i + 1, values[i].second);
+    row.Insert();
+}
+
+void UpdateHeader(const DocumentData& document) {
+    Recordset row(Conn(), StoredHeaderStatement(StemOf(document), document.key), Access::Write);
+    for (auto& [name, value] : HeaderFields(document))
+        row.Set(name, value);
+    row.Update();
+}
+
+std::string FigureRefused(const DocumentData& document) {
+    const auto refusal = FigureOutOfBounds(document);
+    return refusal ? refusal->text : "";
+}
+
+// Why the stored document may not be changed or deleted any more.
+std::string MayStillBeWritten(const DocumentData& document, const StoredDocument& asLoaded,
+                              DocAction action) {
+    const ReadAhead ahead(Conn(), CheckStatements(document));
+    const std::string refusal = ChangedMeanwhile(document, asLoaded, action);
+    return refusal.empty() ? DatedBeforePeriod(document, action) : refusal;
 }
 
 } // namespace
 
-// Of a new document there is no row: none has the key 0, and the statement can be sent before its key is
-// known.
-std::string HeaderStatement(const frmDj02& s, const std::string& stem) {
-    return StoredHeaderStatement(stem, s.InHand() == DocAction::New ? 0 : s.oldInvID);
+std::vector<Connection::Expected> NewDocumentReads(const DocumentData& document) {
+    const std::string stem = StemOf(document);
+    return {{ParametersStatement()},
+            {NumberStatement(stem, document.number)},
+            {MaxStatement(stem + "01", "fInvID")}};
 }
 
-void WriteHeader(const frmDj02& s, const std::string& stem) {
-    Recordset row(Conn(), HeaderStatement(s, stem), Access::Write);
-    if (row.AtEnd()) {
-        row.AddNew();
-        row.Set("fInvID", std::int64_t{s.oldInvID});
-    }
-    row.Set("fHtNo", s.txtHtNo.text);
-    row.Set("fInvType", s.invType);
-    SetHeaderCopies(s, row);
-    row.Set("fInvJE", Val(s.txtSum.text));
-    row.Set("fInvMemo", s.cboInvMemo.text);
-    row.Set("fInvDLR", session.UserName);
-    row.Set("fInvJbr", s.cboInvJbr.text);
-    row.Set("fInvSHR", "");
-    row.Set("fKhID", s.type.HasCustomer() ? s.CustomerId() : 0);
-    row.Set("fKhAdd", s.type.HasCustomer() ? s.cboKhAdd.text : "");
-    row.Set("fCkName", s.type.HasFirstWarehouse() ? s.cboCkName.Chosen() : "");
-    row.Set("fCkName2", s.type.HasSecondWarehouse() ? s.cboCkName2.Chosen() : "");
-    row.Set("fFlag", s.chkFlag.value ? 1 : 0);
-    row.Update();
+// Key and number are taken inside the transaction, where no other user can come between.
+std::string WriteNewDocument(DocumentData& document) {
+    const ReadAhead ahead(Conn(), NewDocumentReads(document));
+    const std::string stem = StemOf(document);
+    std::string refusal = FigureRefused(document);
+    if (refusal.empty())
+        refusal = DatedBeforePeriod(document, DocAction::New);
+    if (refusal.empty())
+        refusal = NumberRefusal(stem, document.number, false);
+    if (!refusal.empty())
+        return refusal;
+    document.key = DbMax(stem + "01", "fInvID") + 1;
+    document.total = TotalOf(document.lines);
+    InsertHeader(document);
+    WriteLines(document);
+    return "";
 }
 
-void WriteLines(const frmDj02& s, const std::string& stem) {
-    if (s.type.IsKit()) {
-        WriteParts(s, stem);
-        WriteFinishedProduct(s, stem);
-        return;
-    }
-    WriteOrdinaryLines(s, stem, false);
-    if (s.type.HasSecondWarehouse())
-        WriteOrdinaryLines(s, stem, true);
+std::string WriteChangedDocument(const DocumentData& document, const StoredDocument& asLoaded,
+                                 const std::string& numberBefore) {
+    const std::string stem = StemOf(document);
+    std::string refusal = FigureRefused(document);
+    if (refusal.empty())
+        refusal = MayStillBeWritten(document, asLoaded, DocAction::Change);
+    if (refusal.empty() && !EqualsNoCase(document.number, numberBefore))
+        refusal = NumberRefusal(stem, document.number, true);
+    if (!refusal.empty())
+        return refusal;
+    UpdateHeader(document);
+    Conn().Execute("Delete From " + stem + "02 Where fInvID=" + std::to_string(document.key));
+    WriteLines(document);
+    return "";
+}
+
+std::string DeleteDocument(const DocumentData& document, const StoredDocument& asLoaded) {
+    std::string refusal = MayStillBeWritten(document, asLoaded, DocAction::Delete);
+    if (refusal.empty() && !DeleteDocumentRows(StemOf(document), "fInvID=" + std::to_string(document.key)))
+        throw DatabaseError("删除单据失败。");
+    return refusal;
 }
 
 } // namespace jxc

@@ -1,18 +1,29 @@
-// Header and lines of the document in hand into its book. The caller holds the transaction; errors are
-// thrown.
+// Header and lines of a document into its open book, and out of it. All run in the caller's transaction, which a failure
+// (a DatabaseError) or a refusal leaves to be rolled back. A refusal is a text for people, "" when the work was done.
 #pragma once
 
 #include <string>
+#include <vector>
 
-#include "documents/frmDj02.h"
+#include "database/connection.h"
+#include "documents/document_data.h"
 
 namespace jxc {
 
-// Writes the header row of key s.oldInvID: over the stored one, or as a new row. It is not approved then.
-std::string HeaderStatement(const frmDj02& s, const std::string& stem);
-void WriteHeader(const frmDj02& s, const std::string& stem);
-// Adds the line rows: one per grid row, again for a second warehouse, or the finished product's row of a kit
-// document.
-void WriteLines(const frmDj02& s, const std::string& stem);
+// Writes a new document under the book's next key, which it puts into `document` with the total of the lines. Refused are
+// figures out of bounds, a date before the period and a number that is taken. It is not approved then. That number,
+// warehouses, customer and lines are given as the type wants them is for the caller to see to.
+[[nodiscard]] std::string WriteNewDocument(DocumentData& document);
+// What that reads, to be read ahead.
+std::vector<Connection::Expected> NewDocumentReads(const DocumentData& document);
+
+// Writes a stored document anew, header and lines. Refused like a new one, and when it is not any more what
+// `asLoaded` witnesses or is approved; `numberBefore` is the one that it had.
+[[nodiscard]] std::string WriteChangedDocument(const DocumentData& document, const StoredDocument& asLoaded,
+                                               const std::string& numberBefore);
+
+// Deletes a stored document. Refused when it is not any more what `asLoaded` witnesses, is approved or is dated before the
+// period.
+[[nodiscard]] std::string DeleteDocument(const DocumentData& document, const StoredDocument& asLoaded);
 
 } // namespace jxc

@@ -11,7 +11,7 @@ std::string TypeRowStatement(int type) {
 
 TypeRow TypeRowOf(const Recordset& row) {
     const auto choice = [&](const char* field) {
-        return row[field].IsNull() ? -1 : static_cast<int>(row[field].AsLong());
+        return row[field].IsNull() ? kNoChoice : static_cast<int>(row[field].AsLong());
     };
     const auto flag = [&](const char* field) { return row[field].AsLong() == 1; };
     TypeRow read;

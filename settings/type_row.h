@@ -5,43 +5,50 @@
 #include <string>
 
 #include "database/recordset.h"
+#include "settings/type_codes.h"
 
 namespace jxc {
 
-// The choices of list columns; -1 is "none" in each.
+// The choices of list columns are the numbers of type_codes.h.
 struct TypeRow {
-    int fSetNo = 0;
+    int fSetNo = 0; // DocType, or a return's negative, or a type of the company's own
     std::string fSetName;
-    int fSetTjType = -1; // 0 opening, 1 receipt, 2 issue, 3 transfer, 4 stocktake
-    int fSetKhType = -1; // 0 any customer, 1 supplier, 2 dealer, 3 consignee
-    int fSetWlType = -1; // 1 receivable, 2 payable
-    int fSetZjType = -1; // 3 paid, 4 received
+    int fSetTjType = kNoChoice; // Statistics
+    int fSetKhType = kNoChoice; // Partner
+    int fSetWlType = kNoChoice; // Owed
+    int fSetZjType = kNoChoice; // Cash
     bool fSetDjBack_ = false;
     bool fSetDjDd_ = false;
     std::string fSetAutoNo;
     std::string fSetCkName1;
-    int fSetCkType1 =
-        -1; // 0 any warehouse, 1 head office, 2 retail, 3 consignment, 4 production, 5 not consignment
-    int fSetCrType1 = -1; // 1 in, 2 out
+    int fSetCkType1 = kNoChoice; // WarehouseKind
+    int fSetCrType1 = kNoChoice; // Direction
     std::string fSetCkName2;
-    int fSetCkType2 = -1;
-    int fSetDjType1 = -1; // reference price: 1 to 4 are fCpPrice0 to fCpPrice3
-    int fSetDjType2 = -1; // unit price: the same, 5 reference price times discount
+    int fSetCkType2 = kNoChoice; // WarehouseKind
+    int fSetDjType1 = kNoChoice; // reference price: PriceKind
+    int fSetDjType2 = kNoChoice; // unit price: PriceKind
     bool fSetHb_ = false;
     bool fSetHbSl_ = false;
     bool fSetKc_ = false;
     bool fSetJy_ = false;
 
-    bool HasFirstWarehouse() const { return fSetCkType1 != -1; }
-    bool HasSecondWarehouse() const { return fSetCkType2 != -1; }
-    bool HasCustomer() const { return fSetKhType != -1; }
-    bool IsStocktake() const { return fSetNo == 4; }
+    bool HasFirstWarehouse() const { return fSetCkType1 != kNoChoice; }
+    bool HasSecondWarehouse() const { return fSetCkType2 != kNoChoice; }
+    bool HasCustomer() const { return fSetKhType != kNoChoice; }
+    bool IsStocktake() const { return fSetNo == DocType::Stocktake; }
     // Assembly and dismantling: the lines are the parts, one further row is the finished product.
-    bool IsKit() const { return fSetNo == 31 || fSetNo == 32; }
+    bool IsKit() const { return fSetNo == DocType::Assembly || fSetNo == DocType::Dismantling; }
+    // What its approval posts, beside stock: the customer's account or the money account; and whether the goods that it
+    // brings in move the whole price.
+    bool MovesAccount() const { return fSetWlType == Owed::Receivable || fSetWlType == Owed::Payable; }
+    bool MovesCash() const { return fSetZjType == Cash::Paid || fSetZjType == Cash::Received; }
+    bool ReceivesStock() const {
+        return fSetTjType == Statistics::Opening || fSetTjType == Statistics::Receipt;
+    }
 };
 
-// The row at which a recordset of all the table's columns stands. An empty list column counts as -1, an empty flag as
-// off.
+// The row at which a recordset of all the table's columns stands. An empty list column counts as kNoChoice, an empty
+// flag as off.
 TypeRow TypeRowOf(const Recordset& row);
 // The type's row; nothing when there is none in use.
 std::optional<TypeRow> ReadTypeRow(int type);

@@ -3,7 +3,6 @@
 
 #include <optional>
 
-#include "base/text.h"
 #include "database/recordset.h"
 #include "documents/approval/stages.h"
 #include "session/dialect.h"
@@ -34,10 +33,10 @@ std::string EntryStatement(const std::string& number) {
 
 // A free number of the series. One that is already taken, because the counter has wrapped, gives way to the
 // next. `entry` is opened on it.
-std::string NextAccountNumber(const frmDj02& s, int series, std::optional<Recordset>& entry) {
+std::string NextAccountNumber(const DocumentData& document, int series, std::optional<Recordset>& entry) {
     const auto rule = ReadTypeRow(series);
     std::string pattern = rule ? rule->fSetAutoNo : "";
-    const std::string first = NextDocumentNo(*s.dtpInvDate.date, pattern, series);
+    const std::string first = NextDocumentNo(document.date, pattern, series);
     std::string number = first;
     while (!entry.emplace(Conn(), EntryStatement(number), Access::Write).AtEnd()) {
         number = Incremented(number);
@@ -47,50 +46,58 @@ std::string NextAccountNumber(const frmDj02& s, int series, std::optional<Record
     return number;
 }
 
-void AddEntry(const frmDj02& s, int kind, int direction, std::int64_t company) {
+void AddEntry(const DocumentData& document, AccountKind kind, int side, std::int64_t company) {
     std::optional<Recordset> opened;
-    const std::string number = NextAccountNumber(s, kSeriesCustomerAccount + kind, opened);
+    const std::string number = NextAccountNumber(
+        document, kind == AccountKind::Customer ? kSeriesCustomerAccount : kSeriesMoneyAccount, opened);
     Recordset& entry = *opened;
-    const double total = Val(s.txtSum.text);
+    const bool isCustomers = kind == AccountKind::Customer;
     entry.AddNew();
     entry.Set("fAcntNo", number);
-    entry.Set("fDate", IsoText(*s.dtpInvDate.date));
+    entry.Set("fDate", IsoText(document.date));
     entry.Set("fCompID", company);
-    entry.Set("fType1", kind);
-    entry.Set("fType2", direction);
+    entry.Set("fType1", static_cast<int>(kind));
+    entry.Set("fType2", side);
     entry.Set("fInit", 0);
-    entry.Set("fMoneyA", kind == 0 ? total : 0);
-    entry.Set("fMoneyB", kind == 0 ? Val(s.txtSsSf.text) : total);
+    entry.Set("fMoneyA", isCustomers ? document.total : 0);
+    entry.Set("fMoneyB", isCustomers ? document.payment : document.total);
     entry.Set("fBrief", kPlacedByApproval);
-    entry.Set("fInvID", s.Number());
-    entry.Set("fOrderID", s.txtHtNo.text);
+    entry.Set("fInvID", document.number);
+    entry.Set("fOrderID", document.order);
     entry.Set("fUser", session.UserName);
-    entry.Set("fDoneman", s.cboInvJbr.text);
+    entry.Set("fDoneman", document.handler);
     entry.Set("fChecker", "");
     entry.Set("fID2", "0");
-    entry.Set("fMoneyCode", s.cboInvHb.Chosen());
-    entry.Set("fMoneyRate", Val(s.txtInvHbDl.text));
+    entry.Set("fMoneyCode", document.currency);
+    entry.Set("fMoneyRate", document.rate);
     entry.Update();
 }
 
-void RemoveEntry(const frmDj02& s) {
-    Conn().Execute("Delete From tAccountDetail Where fInvID=" + InQuotes(s.Number()) + " And " +
-                   DayTest("fDate", "=", *s.dtpInvDate.date));
+void RemoveEntry(const DocumentData& document) {
+    Conn().Execute("Delete From tAccountDetail Where fInvID=" + InQuotes(document.number) + " And " +
+                   DayTest("fDate", "=", document.date));
 }
 
 } // namespace
 
 int AccountSeries(const TypeRow& type) {
-    if (type.fSetWlType == 1 || type.fSetWlType == 2)
+    if (type.MovesAccount())
         return kSeriesCustomerAccount;
-    return type.fSetZjType == 3 || type.fSetZjType == 4 ? kSeriesMoneyAccount : 0;
+    return type.MovesCash() ? kSeriesMoneyAccount : 0;
 }
 
-void PostAccountEntry(const frmDj02& s, int kind, int direction, std::int64_t company, bool reversal) {
+std::string AccountRule(const TypeRow& type) {
+    const int series = AccountSeries(type);
+    const auto row = series != 0 ? ReadTypeRow(series) : std::nullopt;
+    return row ? row->fSetAutoNo : "";
+}
+
+void PostAccountEntry(const DocumentData& document, AccountKind kind, int side, std::int64_t company,
+                      bool reversal) {
     if (reversal)
-        RemoveEntry(s);
+        RemoveEntry(document);
     else
-        AddEntry(s, kind, direction, company);
+        AddEntry(document, kind, side, company);
 }
 
 } // namespace jxc

@@ -1,7 +1,8 @@
 // Two cost prices are kept whatever the cost method: the warehouse's (PostStock) and the product's over all
 // warehouses, which each receipt moves. The method decides which of them an issue's lines take.
 
-#include <array>
+#include <algorithm>
+#include <compare>
 #include <map>
 #include <vector>
 
@@ -15,13 +16,6 @@
 namespace jxc {
 
 namespace {
-
-std::vector<std::int64_t> KeysOf(const auto& byProduct) {
-    std::vector<std::int64_t> keys;
-    for (const auto& [product, value] : byProduct)
-        keys.push_back(product);
-    return keys;
-}
 
 // Stock and value of products over all warehouses but those of consignment and production. A product that is
 // in no other has none.
@@ -81,37 +75,72 @@ void TakePrice(const std::string& table, const std::string& field, const std::st
 
 } // namespace
 
-std::string OverallLinesStatement(const frmDj02& s) {
-    return "select fCpID,fInvSL,fInvDJ,fInvHbDl From tJXC_CkDj02 Where fInvID=" + std::to_string(s.oldInvID);
+std::string OverallLinesStatement(const DocumentData& document) {
+    return "select fCpID,fInvSL,fInvDJ,fInvHbDl From tJXC_CkDj02 Where fInvID=" +
+           std::to_string(document.key);
 }
 
-// Identical lines count as one, over the stock of all of them.
-void PostOverallCost(const frmDj02& s, bool reversal) {
-    using Line = std::array<double, 3>; // quantity, price, exchange rate
-    std::map<std::int64_t, std::map<Line, int>> lines;
-    Recordset row(Conn(), OverallLinesStatement(s));
+namespace {
+
+struct ReceivedLine {
+    std::int64_t product;
+    double quantity, price, rate;
+    auto operator<=>(const ReceivedLine&) const = default;
+};
+
+// In their order, so that a product's lines stand together and identical ones side by side.
+std::vector<ReceivedLine> LinesReceived(const DocumentData& document) {
+    std::vector<ReceivedLine> lines;
+    Recordset row(Conn(), OverallLinesStatement(document));
+    lines.reserve(row.RecordCount());
     for (; !row.AtEnd(); row.MoveNext())
-        ++lines[row["fCpID"].AsLong()]
-               [{row["fInvSL"].AsDouble(), row["fInvDJ"].AsDouble(), row["fInvHbDl"].AsDouble()}];
-    const std::vector<std::int64_t> products = KeysOf(lines);
+        lines.push_back({row["fCpID"].AsLong(), row["fInvSL"].AsDouble(), row["fInvDJ"].AsDouble(),
+                         row["fInvHbDl"].AsDouble()});
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
+
+std::vector<std::int64_t> ProductsOf(const std::vector<ReceivedLine>& lines) {
+    std::vector<std::int64_t> products;
+    for (const ReceivedLine& line : lines)
+        if (products.empty() || products.back() != line.product)
+            products.push_back(line.product);
+    return products;
+}
+
+// The price over the stock that the line, which stands `count` times in the document, has already entered.
+double OverallPrice(const ReceivedLine& line, int count, const OverallStock& stored, bool reversal) {
+    const double price = line.price * line.rate;
+    const double quantity = reversal ? -line.quantity : line.quantity;
+    const double stock = AddDecimal(stored.quantity * count, quantity);
+    const double value = AddDecimal(price * quantity, stored.value * count);
+    return stock == 0 ? 0 : value / stock;
+}
+
+} // namespace
+
+// Identical lines count as one, over the stock of all of them.
+void PostOverallCost(const DocumentData& document, bool reversal) {
+    const std::vector<ReceivedLine> lines = LinesReceived(document);
+    const std::vector<std::int64_t> products = ProductsOf(lines);
     const ReadAhead ahead(Conn(),
                           {{OverallStockStatement(products)}, {OverallPricesStatement(products), true}});
+    const std::map<std::int64_t, OverallStock> stocks = ReadOverallStock(products);
     std::map<std::int64_t, double> prices; // of a product on several lines the last counts
-    for (const auto& [product, stored] : ReadOverallStock(products))
-        for (const auto& [line, count] : lines[product]) {
-            const double price = line[1] * line[2];
-            const double quantity = reversal ? -line[0] : line[0];
-            const double stock = AddDecimal(stored.quantity * count, quantity);
-            const double value = AddDecimal(price * quantity, stored.value * count);
-            prices[product] = stock == 0 ? 0 : value / stock;
-        }
+    for (auto line = lines.begin(); line != lines.end();) {
+        const auto next = std::upper_bound(line, lines.end(), *line);
+        if (const auto stored = stocks.find(line->product); stored != stocks.end())
+            prices[line->product] =
+                OverallPrice(*line, static_cast<int>(next - line), stored->second, reversal);
+        line = next;
+    }
     if (!prices.empty())
         SetOverallPrices(products, std::move(prices));
 }
 
-void ReadCostPrice(const frmDj02& s) {
-    const std::string key = std::to_string(s.oldInvID);
-    if (s.parameters.costMethod == CostMethod::MovingAverage)
+void ReadCostPrice(const DocumentData& document) {
+    const std::string key = std::to_string(document.key);
+    if (document.costMethod == CostMethod::MovingAverage)
         TakePrice("tJXC_CkTj", "fKcDj", " And a.fCkName=b.fCkName", key, " And b.fKcDj>0");
     else
         TakePrice("tJXC_CkTj_tmp", "fKcDj", "", key, " And b.fKcDj>0");

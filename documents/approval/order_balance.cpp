@@ -22,25 +22,25 @@ std::int64_t OrderKey(const std::string& orderNumber) {
 
 } // namespace
 
-void PostOrderBalance(const frmDj02& s, bool reversal) {
-    const std::int64_t order = OrderKey(s.txtHtNo.text);
+void PostOrderBalance(const DocumentData& document, bool reversal) {
+    const std::int64_t order = OrderKey(document.order);
     if (order == 0)
-        throw DatabaseError("订单号 " + s.txtHtNo.text + " 不存在 ！");
+        throw DatabaseError("订单号 " + document.order + " 不存在 ！");
     const std::string key = std::to_string(order);
-    for (int row = 1; row <= s.Grid2.RowCount(); ++row) {
-        const double quantity = s.Grid2.Number(row, line::kQuantity);
-        const std::string amount = reversal ? "(" + NumberText(-quantity) + ")" : NumberText(quantity);
+    for (const DocumentLine& line : document.lines) {
+        const std::string amount =
+            reversal ? "(" + NumberText(-line.quantity) + ")" : NumberText(line.quantity);
         Conn().Execute("Update tJXC_CkHt02 Set fInvSL2=fInvSL2-" + amount + " Where fInvID=" + key +
-                       " And fInvSL2>0 And fCpID=" + s.Grid2.Text(row, line::kProduct));
+                       " And fInvSL2>0 And fCpID=" + std::to_string(line.product));
     }
     Conn().Execute("Update tJXC_CkHt02 Set fInvSL2=0 Where fInvID=" + key +
                    " And fInvSL2<0.000000001"); // what is left of binary fractions is nothing
 }
 
-void MarkProduced(const frmDj02& s) {
-    const std::int64_t order = OrderKey(s.txtHtNo.text);
+void MarkProduced(const DocumentData& document) {
+    const std::int64_t order = OrderKey(document.order);
     const auto product = static_cast<std::int64_t>(
-        Val(DbScalar("Select fCpID From tJXC_Cp Where fCpCode=" + InQuotes(s.txtCpCode.text))));
+        Val(DbScalar("Select fCpID From tJXC_Cp Where fCpCode=" + InQuotes(document.finishedProductCode))));
     if (order > 0 && product > 0)
         Conn().Execute("Update tJXC_CkHt02 Set fInvOther1='生产完毕' Where fInvID=" + std::to_string(order) +
                        " And fCpID=" + std::to_string(product));

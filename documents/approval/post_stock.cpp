@@ -56,11 +56,11 @@ struct Counters {
     Field cost;
 };
 constexpr Counters kCounters[] = {
-    {kQcSl, kQcJe, kFieldCount},       // 0 opening
-    {kRkSl, kRkJe, kFieldCount},       // 1 receipt
-    {kCkSl, kCkJe, kCkCb},             // 2 issue: outgoing quantities count positive
-    {kDkSl, kFieldCount, kFieldCount}, // 3 transfer
-    {kPdSl, kFieldCount, kFieldCount}, // 4 stocktake
+    {kQcSl, kQcJe, kFieldCount},       // Statistics::Opening
+    {kRkSl, kRkJe, kFieldCount},       // Receipt
+    {kCkSl, kCkJe, kCkCb},             // Issue: outgoing quantities count positive
+    {kDkSl, kFieldCount, kFieldCount}, // Transfer
+    {kPdSl, kFieldCount, kFieldCount}, // Stocktake
 };
 
 // A document's line with the cost price of its product, by the places in the statement that reads it.
@@ -197,7 +197,7 @@ void PostLine(const Recordset& line, const Counters& counters, bool reversal, Do
     double quantity = line[kQuantity].AsDouble();
     if (reversal)
         quantity = -quantity;
-    if (line[kDirection].AsLong() != 1)
+    if (line[kDirection].AsLong() != Direction::In)
         quantity = -quantity;
     if (counters.quantity == kCkSl)
         quantity = -quantity;
@@ -228,36 +228,37 @@ void RequireDerivedInBounds(const Recordset& line, DocumentStock& stock) {
 }
 
 bool MovesStock(const TypeRow& type) {
-    return type.fSetTjType >= 0 && type.fSetCrType1 != -1 &&
+    return type.fSetTjType >= Statistics::Opening && type.fSetCrType1 != kNoChoice &&
            type.fSetTjType < static_cast<int>(std::size(kCounters));
 }
 
-std::string LinesStatement(const frmDj02& s) {
-    return kLines + std::to_string(s.oldInvID) + " Order By a.fCpID,a.fCkName,a.fInv1,a.fRowID";
+std::string PostedLinesStatement(const DocumentData& document) {
+    return kLines + std::to_string(document.key) + " Order By a.fCpID,a.fCkName,a.fInv1,a.fRowID";
 }
 
 } // namespace
 
 // The lines were loaded as they are stored, or nothing is posted: their products are known.
-std::vector<Connection::Expected> StockStatements(const frmDj02& s) {
-    if (!MovesStock(s.type))
+std::vector<Connection::Expected> StockStatements(const DocumentData& document,
+                                                  const StoredDocument& asLoaded) {
+    if (!MovesStock(document.type))
         return {};
     std::map<std::string, std::set<std::int64_t>> products;
-    const std::vector<Value>& cells = s.asLoaded.lines;
+    const std::vector<Value>& cells = asLoaded.lines;
     for (size_t line = 0; line < cells.size(); line += StoredDocument::kLineCells)
         products[cells[line + StoredDocument::kWarehouse].AsText()].insert(
             cells[line + StoredDocument::kProduct].AsLong());
-    std::vector<Connection::Expected> statements{{LinesStatement(s)}};
+    std::vector<Connection::Expected> statements{{PostedLinesStatement(document)}};
     for (const auto& [warehouse, keys] : products)
         statements.push_back({WarehouseStock::StoredRows(warehouse, {keys.begin(), keys.end()}), true});
     return statements;
 }
 
-void PostStock(const frmDj02& s, bool reversal) {
-    if (!MovesStock(s.type))
+void PostStock(const DocumentData& document, bool reversal) {
+    if (!MovesStock(document.type))
         return;
-    const int statistics = s.type.fSetTjType;
-    Recordset lines(Conn(), LinesStatement(s));
+    const int statistics = document.type.fSetTjType;
+    Recordset lines(Conn(), PostedLinesStatement(document));
     DocumentStock stock(lines);
     for (; !lines.AtEnd(); lines.MoveNext())
         PostLine(lines, kCounters[statistics], reversal, stock);

@@ -13,10 +13,10 @@ namespace {
 TypeRow ShippedRow(const DocumentTypeRow& shipped) {
     TypeRow row;
     row.fSetNo = shipped.fSetNo;
-    row.fSetTjType = shipped.fSetTjType.value_or(-1);
+    row.fSetTjType = shipped.fSetTjType.value_or(kNoChoice);
     row.fSetKhType = shipped.fSetKhType;
     row.fSetWlType = shipped.fSetWlType;
-    row.fSetZjType = shipped.fSetZjType.value_or(-1);
+    row.fSetZjType = shipped.fSetZjType.value_or(kNoChoice);
     row.fSetCkType1 = shipped.fSetCkType1;
     row.fSetCrType1 = shipped.fSetCrType1;
     row.fSetCkType2 = shipped.fSetCkType2;
@@ -66,7 +66,7 @@ std::set<int> ValuesOf(const CheckedTypes& types, int type, int TypeRow::*column
 
 std::string TypesOfIssuesOnly(const CheckedTypes& types) {
     return InList(TypesWhere(types, [&](int type, const TypeRow&) {
-        return ValuesOf(types, type, &TypeRow::fSetTjType) == std::set<int>{2};
+        return ValuesOf(types, type, &TypeRow::fSetTjType) == std::set<int>{Statistics::Issue};
     }));
 }
 

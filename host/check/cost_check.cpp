@@ -90,7 +90,7 @@ void CheckWholeMovingPrices(const std::string& received, Findings& findings) {
 // Only issues carry a cost, and it is one of the prices at which the product is known.
 void CheckLineCosts(const CheckedTypes& types, const std::string& received, Findings& findings) {
     const auto issues = [&](int type, const TypeRow&) {
-        return ValuesOf(types, type, &TypeRow::fSetTjType).contains(2);
+        return ValuesOf(types, type, &TypeRow::fSetTjType).contains(Statistics::Issue);
     };
     const std::string others =
         InList(TypesWhere(types, [&](int type, const TypeRow& row) { return !issues(type, row); }));
@@ -177,8 +177,8 @@ void CheckAbsurdCosts(const CheckedTypes& types, const std::string& received, Fi
 
 void CheckCosts(const CheckedCompany& company, Findings& findings) {
     const CheckedTypes& types = company.types;
-    const std::string received = InList(TypesWhere(
-        types, [](int, const TypeRow& row) { return row.fSetTjType == 0 || row.fSetTjType == 1; }));
+    const std::string received =
+        InList(TypesWhere(types, [](int, const TypeRow& row) { return row.ReceivesStock(); }));
     for (const Rule& rule : kPriceRules)
         Run(rule, findings);
     CheckMissingPrices(received, findings);

@@ -56,11 +56,13 @@ void CheckSides(const Book& book, const CheckedTypes& types, Findings& findings)
         const auto at = [&](size_t column) { return static_cast<int>(rows.At(row, column).AsLong()); };
         std::set<std::pair<int, int>> lawful;
         for (const int kind : ValuesOf(types, at(0), &TypeRow::fSetWlType))
-            if (kind == 1 || kind == 2)
-                lawful.insert({0, kind});
+            if (kind == Owed::Receivable || kind == Owed::Payable)
+                lawful.insert({static_cast<int>(AccountKind::Customer),
+                               kind == Owed::Receivable ? EntrySide::In : EntrySide::Out});
         for (const int kind : ValuesOf(types, at(0), &TypeRow::fSetZjType))
-            if (kind == 3 || kind == 4)
-                lawful.insert({1, kind == 3 ? 2 : 1});
+            if (kind == Cash::Paid || kind == Cash::Received)
+                lawful.insert({static_cast<int>(AccountKind::Money),
+                               kind == Cash::Received ? EntrySide::In : EntrySide::Out});
         if (!lawful.contains({at(1), at(2)}))
             findings.Add("帐户单（单据 " + rows.At(row, 4).AsText() + " 等 " + rows.At(row, 3).AsText() +
                          " 张）：帐类或收付方向与单据类型不符；请反审核后重新审核。");
@@ -101,13 +103,13 @@ void CheckMissing(const CheckedTypes& types, const std::vector<int>& of, const s
 void CheckPresence(const Book& book, const CheckedTypes& types, Findings& findings) {
     const std::map<int, std::int64_t> first = FirstWithEntry(book, findings);
     const auto ofBook = [&](int type) { return BookStem(type, false) == book.stem; };
-    const auto posts = [](const TypeRow& row) { return row.fSetWlType == 1 || row.fSetWlType == 2; };
-    const auto toCustomers = TypesWhere(
-        types, [&](int type, const TypeRow& row) { return ofBook(type) && posts(row) && row.HasCustomer(); });
+    const auto toCustomers = TypesWhere(types, [&](int type, const TypeRow& row) {
+        return ofBook(type) && row.MovesAccount() && row.HasCustomer();
+    });
     CheckMissing(types, toCustomers, book.Headers() + " a", "a.fKhID>0", first, findings);
     // A warehouse may have got its account after the approval; a retail shop has had one from its beginning.
     const auto toMoneyAccounts = TypesWhere(types, [&](int type, const TypeRow& row) {
-        return ofBook(type) && !posts(row) && (row.fSetZjType == 3 || row.fSetZjType == 4);
+        return ofBook(type) && !row.MovesAccount() && row.MovesCash();
     });
     CheckMissing(types, toMoneyAccounts,
                  "(" + book.Headers() + " a Inner Join tJXC_Ck w On w.fCkName=a.fCkName)",

@@ -149,9 +149,8 @@ void CheckOrders(const CheckedCompany& company, Findings& findings) {
 }
 
 void CheckSupplierHistory(const CheckedCompany& company, Findings& findings) {
-    const auto receipt = company.types.find(1);
-    if (receipt == company.types.end() ||
-        (receipt->second.row.fSetTjType != 0 && receipt->second.row.fSetTjType != 1))
+    const auto receipt = company.types.find(DocType::Receipt);
+    if (receipt == company.types.end() || !receipt->second.row.ReceivesStock())
         return; // receipts that post no stock leave no history
     if (company.periodStart)
         CheckHistory(IsoText(*company.periodStart), findings);

@@ -44,8 +44,8 @@ void CheckFinishedProduct(const Book& book, Findings& findings) {
 
 // A type's row may have been changed since: either direction of it is lawful then.
 bool IsLawful(const CheckedTypes& types, int type, bool second, int direction) {
-    if (type == 32)
-        return direction == 1 || direction == 2;
+    if (type == DocType::Dismantling)
+        return direction == Direction::In || direction == Direction::Out;
     TypeRow row;
     row.fSetNo = type;
     for (const int kind : ValuesOf(types, type, &TypeRow::fSetCrType1)) {

@@ -7,8 +7,8 @@ namespace jxc {
 namespace {
 
 bool PostsStock(const CheckedType& type) {
-    return type.row.fSetTjType >= 0 && type.row.fSetTjType < kQuantities && type.row.fSetCrType1 != -1 &&
-           type.row.fSetCkType1 >= 0;
+    return type.row.fSetTjType >= Statistics::Opening && type.row.fSetTjType < kQuantities &&
+           type.row.fSetCrType1 != kNoChoice && type.row.fSetCkType1 >= WarehouseKind::Any;
 }
 
 // `day` is one more column to count by, or a text that is alike for all.
@@ -29,7 +29,8 @@ std::map<std::string, Recount> Count(const CheckedTypes& types, const std::strin
         if (type == types.end() || !PostsStock(type->second))
             continue;
         const int statistics = type->second.row.fSetTjType;
-        const double sign = (at(3).AsLong() == 1 ? 1.0 : -1.0) * (statistics == 2 ? -1 : 1);
+        const double sign =
+            (at(3).AsLong() == Direction::In ? 1.0 : -1.0) * (statistics == Statistics::Issue ? -1 : 1);
         Counted& here =
             counted[day.empty() ? "" : at(8).AsText()][{LowerCase(at(1).AsText()), at(2).AsLong()}];
         here.warehouse = at(1).AsText();

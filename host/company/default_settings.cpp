@@ -3,6 +3,7 @@
 #include "base/date.h"
 #include "host/company/table_writer.h"
 #include "settings/document_types.h"
+#include "settings/type_codes.h"
 
 namespace jxc {
 
@@ -24,10 +25,10 @@ constexpr Module kModules[] = {
 // leaves. The row that the settings screen offers has it the other way round.
 DocumentTypeRow Dismantling(DocumentTypeRow type) {
     type.fSetCkName1 = "散件入库";
-    type.fSetCkType1 = 4;
-    type.fSetCrType1 = 1;
+    type.fSetCkType1 = WarehouseKind::Production;
+    type.fSetCrType1 = Direction::In;
     type.fSetCkName2 = "成品出库";
-    type.fSetCkType2 = 1;
+    type.fSetCkType2 = WarehouseKind::HeadOffice;
     return type;
 }
 
@@ -35,7 +36,7 @@ void FillDocumentTypes(Connection& connection) {
     Recordset rows(connection, "select * from tJXC_InvSet", Access::Write);
     int fRowID = 0;
     for (const DocumentTypeRow& shipped : DefaultDocumentTypes()) {
-        const DocumentTypeRow type = shipped.fSetNo == 32 ? Dismantling(shipped) : shipped;
+        const DocumentTypeRow type = shipped.fSetNo == DocType::Dismantling ? Dismantling(shipped) : shipped;
         const std::vector<Value> cells = RecordCells(type, ++fRowID);
         rows.AddNew();
         for (size_t column = 0; column < cells.size(); ++column)

@@ -12,6 +12,7 @@
 #include "session/lookups/book.h"
 #include "session/session.h"
 #include "settings/document_types.h"
+#include "settings/type_codes.h"
 
 namespace jxc {
 
@@ -141,7 +142,7 @@ void WriteEntry(std::ostream& out, const Document& document) {
 
 void WriteApproval(std::ostream& out, const Document& document) {
     const std::string name = NameOfType(document.type);
-    const bool moves = std::abs(document.type) < 10;
+    const bool moves = std::abs(document.type) < DocType::FirstBeyondStock;
     const std::string book = BookStem(document.type, false) + "01";
     out << "let key select fInvID from " << book << " where fInvNo='${number}'\n"
         << "refresh 13 Action=4 invType=" << document.type << " oldInvID=${key}\nclick cmdSave\n"
