@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "controls/gestures.h"
 #include "host/company_address.h"
+#include "robot/clerk.h"
 #include "session/company/open_connection.h"
 #include "session/session.h"
 
@@ -51,18 +52,13 @@ void EntryRoad::Require(bool met, const std::string& expectation) const {
 }
 
 void EntryRoad::Enter(frmDj02& s, const Receipt& receipt) {
-    ChooseItem(s, s.cboCkName, ItemWithText(s.cboCkName, trade_.warehouse));
-    EnterDate(s, s.dtpInvDate, receipt.date);
-    EnterText(s, s.txtKhSeek, trade_.supplierCode);
-    PressKey(s, s.txtKhSeek, "Enter");
-    int row = 0;
-    for (const ReceiptLine& line : receipt.lines) {
-        ++row;
-        TypeCell(s, s.Grid2, row, line::kCode, line.product.code);
-        TypeCell(s, s.Grid2, row, line::kQuantity, std::to_string(line.quantity));
-        TypeCell(s, s.Grid2, row, line::kPrice, FormatFixed(line.Price(), 2));
-    }
-    EnterText(s, s.txtNo, receipt.number);
+    DocumentInput input{.date = IsoText(receipt.date),
+                        .warehouse = trade_.warehouse,
+                        .customer = trade_.supplierCode,
+                        .number = receipt.number};
+    for (const ReceiptLine& line : receipt.lines)
+        input.lines.push_back({line.product.code, static_cast<double>(line.quantity), line.Price()});
+    EnterDocument(s, input);
     Require(view_.boxes.empty(), "a message while entering");
     Require(s.Number() == receipt.number && s.txtSum.text == FormatFixed(receipt.Total(), 2),
             "another number or total than " + receipt.number + " has");

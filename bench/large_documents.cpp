@@ -21,6 +21,7 @@
 #include "host/company/create_company.h"
 #include "host/company_address.h"
 #include "host/screens.h"
+#include "robot/clerk.h"
 #include "session/session.h"
 #include "tests/support/test_server.h"
 
@@ -111,20 +112,14 @@ class SystemRoad {
         ShowModal(s);
     }
     static void FillHead(frmDj02& s, LargeDocument& document) {
-        LeaveFocus(s);
-        EnterText(s, s.txtNo, document.number);
-        ChooseItem(s, s.cboCkName, ItemWithText(s.cboCkName, document.warehouse));
-        if (!document.warehouse2.empty())
-            ChooseItem(s, s.cboCkName2, ItemWithText(s.cboCkName2, document.warehouse2));
-        if (s.type.HasCustomer()) {
-            EnterText(s, s.txtKhSeek, document.type == 1 ? "G001" : "X001");
-            PressKey(s, s.txtKhSeek, "Enter");
-            document.customer = s.CustomerId();
-        }
-        if (s.type.IsKit()) {
-            EnterText(s, s.txtCpCode, ProductCode(0));
-            PressKey(s, s.txtCpCode, "Enter");
-        }
+        DocumentInput head{
+            .warehouse = document.warehouse, .warehouse2 = document.warehouse2, .number = document.number};
+        if (s.type.HasCustomer())
+            head.customer = document.type == DocType::Receipt ? "G001" : "X001";
+        if (s.type.IsKit())
+            head.product = ProductCode(0);
+        EnterDocument(s, head);
+        document.customer = s.CustomerId();
     }
     // Straight into the grid: typing is not what is measured.
     static void FillLines(frmDj02& s, const LargeDocument& document) {

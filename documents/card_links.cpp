@@ -57,7 +57,7 @@ void OpenSummaries(frmDj02& s) {
     if (ModuleRight("mnuJxcSysZy", 0) == 0)
         return;
     ComponentsInUse().codeLists->Edit("", kSummaries, BriefKind::EditEntries);
-    RefillSummaries(s);
+    s.cboInvMemo.Offer();
 }
 
 } // namespace jxc

@@ -7,7 +7,6 @@
 #include "base/text.h"
 #include "controls/view.h"
 #include "documents/document_entry.h"
-#include "documents/shared_lists.h"
 #include "session/lookups/book.h"
 #include "session/lookups/lists.h"
 
@@ -49,7 +48,7 @@ void TurnSigns(frmDj02& s, bool wasReturn) {
 } // namespace
 
 void ChooseType(frmDj02& s) {
-    const int chosen = TypeOf(s.cboInvType.Chosen());
+    const int chosen = s.cboInvType.Type();
     if (s.cboInvType.Index() < 0 || chosen == s.invType)
         return;
     const auto type = ReadTypeRow(chosen);

@@ -5,7 +5,6 @@
 #include "database/recordset.h"
 #include "documents/document_entry.h"
 #include "session/dialect.h"
-#include "session/lookups/find_by_text.h"
 #include "session/lookups/lists.h"
 #include "session/session.h"
 
@@ -60,7 +59,7 @@ Recordset CardOf(std::int64_t id) {
 }
 
 bool ConfirmAddress(const frmDj02& s, const char* verb, const std::string& address) {
-    return AskOkCancel(s.title, CustomerNameOf(s.cboKhList.Chosen()) + "：" + verb + "该" + s.lblKh.caption +
+    return AskOkCancel(s.title, s.cboKhList.CompanyName() + "：" + verb + "该" + s.lblKh.caption +
                                     s.lblKhAdd.caption + "\n\n" + address + " ？");
 }
 
@@ -83,7 +82,7 @@ void ClearCardFields(frmDj02& s) {
 void SeekCustomer(frmDj02& s) {
     if (Trim(s.txtKhSeek.text).empty() || !IsEditing(s.InHand()))
         return;
-    if (FindCustomerCard(s.cboKhList, s.txtKhSeek.text) == 0) {
+    if (s.cboKhList.Seek(s.txtKhSeek.text) == 0) {
         Warn(s.title, "未有符合条件的" + s.lblKh.caption + "资料！");
         ClearCardFields(s);
         FillAddresses(s, 0);
@@ -126,8 +125,7 @@ void ShowCustomer(frmDj02& s, std::int64_t id) {
         s.txtKhSeek.text = "(" + std::to_string(id) + ") - Error";
         return;
     }
-    s.cboKhList.items.push_back(CustomerRow(row["compname"].AsText(), id));
-    s.cboKhList.SetIndex(0);
+    s.cboKhList.Show(row["compname"].AsText(), id);
     FillCardFields(s, CardOf(id));
     FillAddresses(s, id);
 }

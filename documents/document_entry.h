@@ -19,9 +19,8 @@ bool OffersPayment(const frmDj02& s, const TypeRow& type);
 void SetUpDocument(frmDj02& s);
 // Empties everything for the next new document and goes to the date.
 void ResetDocument(frmDj02& s);
-// Warehouses and summaries anew, the choice kept.
+// Warehouses anew, the choice kept.
 void RefillWarehouses(frmDj02& s);
-void RefillSummaries(frmDj02& s);
 
 // -- choose_type.cpp
 // Another type for the new document: its row is read, the screen stays as it is; title, sign and automatic number

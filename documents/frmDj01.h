@@ -13,8 +13,8 @@
 
 #include "controls/screen.h"
 #include "forms/columns.h"
-#include "forms/fields.h"
 #include "forms/filters.h"
+#include "forms/lookup_fields.h"
 
 namespace jxc {
 
@@ -57,15 +57,15 @@ struct frmDj01 : Screen {
                               {*this, "optSelect(1)", "optSelect", "[已审]"},
                               {*this, "optSelect(2)", "optSelect", "所有单据", true}};
     CheckBox chkInvType{*this, "chkInvType", "单据类型"};
-    ListBox cboInvType{*this, "cboInvType"}; // number in 3 characters, name behind
+    DocumentTypeField cboInvType{*this, "cboInvType"}; // number in 3 characters, name behind
     CheckBox chkCrType{*this, "chkCrType", "出入方式"};
     ListBox cboCrType{*this, "cboCrType"};
     // One name for all three: the first box that is ticked counts.
     CheckBox chkJbr[3]{
         {*this, "chkJbr(0)", "登录人"}, {*this, "chkJbr(1)", "经办人"}, {*this, "chkJbr(2)", "审核人"}};
-    ListField cboInvJbr{*this, "cboInvJbr", true};
+    HandlerField cboInvJbr{*this, "cboInvJbr"};
     CheckBox chkHb{*this, "chkHb", "货币"};
-    ListBox cboHb{*this, "cboHb"};
+    CurrencyField cboHb{*this, "cboHb"};
     CheckBox chkDate{*this, "chkDate", "日期"};
     DateRange dtpDate{*this, "dtpDate"};
     CheckBox chkDh{*this, "chkDh", "单号"};
@@ -77,7 +77,7 @@ struct frmDj01 : Screen {
     CheckBox chkZy{*this, "chkZy", "摘要"};
     PatternField txtZy{*this, "txtZy"};
     CheckBox chkCk[2]{{*this, "chkCk(0)", "仓库1"}, {*this, "chkCk(1)", "仓库2"}};
-    ListField cboCk[2]{{*this, "cboCk(0)", true}, {*this, "cboCk(1)"}}; // the first takes a pattern too
+    WarehouseField cboCk[2]{{*this, "cboCk(0)", true}, {*this, "cboCk(1)"}}; // the first takes a pattern too
     // Code, name or specification, category, origin, location.
     CheckBox chkCp[5]{{*this, "chkCp(0)", "产品编码"},
                       {*this, "chkCp(1)", "品名规格"},

@@ -6,7 +6,6 @@
 #include "documents/document_entry.h"
 #include "documents/frmDj01.h"
 #include "forms/edit_filter.h"
-#include "session/lookups/find_by_text.h"
 #include "settings/document_numbers.h"
 
 namespace jxc {
@@ -35,7 +34,6 @@ void WireHead(frmDj02& s) {
         if (key == "Enter" && CheckNoQuote(s.txtKhSeek.text))
             SeekCustomer(s);
     };
-    s.cboKhList.visibleText = CustomerNameOf;
     s.cboKhList.onChoose = [&s] { RefreshCustomer(s); };
     s.cboKhAdd.onLeave = [&s] {
         if (s.cboKhAdd.text != s.cboKhAdd.tag && !CheckNoQuote(s.cboKhAdd.text))
@@ -153,7 +151,7 @@ void frmDj02::SaveWork() {
 }
 
 std::int64_t frmDj02::CustomerId() const {
-    return CustomerIdOf(cboKhList.Chosen());
+    return cboKhList.Id();
 }
 
 } // namespace jxc

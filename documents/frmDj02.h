@@ -11,7 +11,7 @@
 #include "controls/screen.h"
 #include "documents/document_model.h"
 #include "documents/stored_document.h"
-#include "forms/fields.h"
+#include "forms/lookup_fields.h"
 
 namespace jxc {
 
@@ -23,30 +23,30 @@ struct frmDj02 : Screen {
 
     // The upper panel: the document's header.
     Frame fraHead{*this, "fraHead"};
-    ListBox cboInvType{fraHead, "cboInvType"}; // number in 3 characters, name behind
+    DocumentTypeField cboInvType{fraHead, "cboInvType"}; // number in 3 characters, name behind
     DateBox dtpInvDate{fraHead, "dtpInvDate"};
     TextBox txtNo{fraHead, "txtNo"}; // its tag keeps the number as loaded
     Label lblHtNo{*this, "lblHtNo", "订单号"};
     TextBox txtHtNo{fraHead, "txtHtNo"};
     Label lblCkName{*this, "lblCkName", "仓库"};
-    ListBox cboCkName{fraHead, "cboCkName"};
+    WarehouseField cboCkName{fraHead, "cboCkName"};
     Label lblCkName2{*this, "lblCkName2", "入库"};
-    ListBox cboCkName2{fraHead, "cboCkName2"};
+    WarehouseField cboCkName2{fraHead, "cboCkName2"};
     Label lblKh{*this, "lblKh", "客户"};
-    TextBox txtKhSeek{fraHead, "txtKhSeek"}; // its tag keeps a card that the list cannot show
-    ListBox cboKhList{fraHead, "cboKhList"}; // name in 80 characters, card number behind
+    TextBox txtKhSeek{fraHead, "txtKhSeek"};   // its tag keeps a card that the list cannot show
+    CardField cboKhList{fraHead, "cboKhList"}; // name in 80 characters, card number behind
     Label lblKhAdd{*this, "lblKhAdd", "送货地址"};
     ListBox cboKhAdd{fraHead, "cboKhAdd", true}; // its tag keeps the address as it came from the card
     MenuItem mnuKhAddDelete{fraHead, "mnuKhAddDelete", "删除该地址"};
     Label lblInvHb{*this, "lblInvHb", "货币"};
-    ListBox cboInvHb{fraHead, "cboInvHb"};
+    CurrencyField cboInvHb{fraHead, "cboInvHb"};
     TextBox txtInvHbDl{fraHead, "txtInvHbDl", "1.0000"}; // its tag keeps the rate that was taken last
     Label lblTaxRate{*this, "lblTaxRate", "税率"};
     TextBox txtTaxRate{fraHead, "txtTaxRate", "0"};
     Label lblZkl{*this, "lblZkl", "单价=参考价ｘ折扣"};
     TextBox txtZkl{fraHead, "txtZkl"};
-    ListField cboInvMemo{fraHead, "cboInvMemo", true};
-    ListField cboInvJbr{fraHead, "cboInvJbr", true};
+    CodeListField cboInvMemo{fraHead, "cboInvMemo", "2010"};
+    HandlerField cboInvJbr{fraHead, "cboInvJbr"};
     CheckBox chkFlag{fraHead, "chkFlag", "中止！"};
     CheckBox chkTh{fraHead, "chkTh", "退货"};
     Label lblTh{*this, "lblTh", "退货"};

@@ -2,7 +2,6 @@
 
 #include "base/text.h"
 #include "documents/document_list.h"
-#include "documents/shared_lists.h"
 #include "session/lookups/database_routines.h"
 #include "session/lookups/lists.h"
 #include "session/session.h"
@@ -42,9 +41,9 @@ void NameFilters(frmDj01& s, const Parameters& parameters) {
 }
 
 void FillFilterLists(frmDj01& s, const Parameters& parameters) {
-    FillCurrencies(s.cboHb);
+    s.cboHb.Offer();
     s.cboHb.SetIndex(s.cboHb.items.empty() ? -1 : 0);
-    FillHandlers(s.cboInvJbr, parameters.handlersFromSalespeople);
+    s.cboInvJbr.Offer(parameters.handlersFromSalespeople);
     s.cboCrType.items = {"入库", "出库"};
     s.cboCrType.SetIndex(0);
     for (ListBox& list : s.cboPrice) {
@@ -54,7 +53,7 @@ void FillFilterLists(frmDj01& s, const Parameters& parameters) {
 }
 
 void TickModesType(frmDj01& s) {
-    FillTypes(s.cboInvType, s.InvType());
+    s.cboInvType.Offer(s.InvType());
     if (s.Mode() != ListMode::AllTypes && s.cboInvType.Index() < 0)
         throw ScreenError("没有单据类型 " + std::to_string(s.InvType()) + "。");
     s.chkInvType.value = s.cboInvType.Index() >= 0;
@@ -70,8 +69,8 @@ void Offer(bool offered, CheckBox& box, EditBox& text) {
 }
 
 void OfferWarehouse(frmDj01& s, int at, int kind, const std::string& caption) {
-    ListBox& list = s.cboCk[at];
-    FillWarehouses(list, kind);
+    WarehouseField& list = s.cboCk[at];
+    list.Offer(kind);
     Offer(kind != -1, s.chkCk[at], list);
     if (kind == -1)
         return;
@@ -103,7 +102,7 @@ void ApplyType(frmDj01& s, int number) {
 std::optional<int> TickedType(const frmDj01& s) {
     if (!s.chkInvType.value || s.cboInvType.Index() < 0)
         return std::nullopt;
-    return TypeOf(s.cboInvType.Chosen());
+    return s.cboInvType.Type();
 }
 
 void ApplyTickedType(frmDj01& s) {

@@ -6,7 +6,6 @@
 #include "controls/grid_routines.h"
 #include "documents/approval/stages.h"
 #include "documents/document_entry.h"
-#include "documents/shared_lists.h"
 #include "session/lookups/book.h"
 #include "session/lookups/lists.h"
 #include "session/period.h"
@@ -17,8 +16,6 @@
 namespace jxc {
 
 namespace {
-
-const std::string kSummaries = "2010"; // the code list of document summaries
 
 // The choice before a list was filled anew; a stored document keeps it also when the list no longer offers
 // it.
@@ -32,13 +29,13 @@ void KeepText(const frmDj02& s, ListBox& list, const std::string& text) {
 }
 
 void FillLists(frmDj02& s) {
-    FillTypes(s.cboInvType, s.invType);
-    FillWarehouses(s.cboCkName, s.type.fSetCkType1);
-    FillWarehouses(s.cboCkName2, s.type.fSetCkType2);
+    s.cboInvType.Offer(s.invType);
+    s.cboCkName.Offer(s.type.fSetCkType1);
+    s.cboCkName2.Offer(s.type.fSetCkType2);
     s.cboInvMemo.text.clear();
-    RefillSummaries(s);
-    FillCurrencies(s.cboInvHb);
-    FillHandlers(s.cboInvJbr, s.parameters.handlersFromSalespeople);
+    s.cboInvMemo.Offer();
+    s.cboInvHb.Offer();
+    s.cboInvJbr.Offer(s.parameters.handlersFromSalespeople);
 }
 
 void Show(bool shown, std::initializer_list<Control*> controls) {
@@ -123,11 +120,11 @@ void SetUpDocument(frmDj02& s) {
     const ReadAhead settings(Conn(), {{TypeRowStatement(s.invType)},
                                       {ParametersStatement()},
                                       {PeriodStatement()},
-                                      {TypesStatement()},
-                                      {BriefStatement(kSummaries)},
-                                      {CurrenciesStatement()},
-                                      {HandlersStatement(false)},
-                                      {HandlersStatement(true)},
+                                      {DocumentTypeField::Statement()},
+                                      {BriefStatement(s.cboInvMemo.codeList)},
+                                      {CurrencyField::Statement()},
+                                      {HandlerField::Statement(false)},
+                                      {HandlerField::Statement(true)},
                                       {ColumnWidthsStatement()},
                                       {TypeRowStatement(kSeriesCustomerAccount)},
                                       {TypeRowStatement(kSeriesMoneyAccount)}});
@@ -150,17 +147,10 @@ void SetUpDocument(frmDj02& s) {
 void RefillWarehouses(frmDj02& s) {
     const std::string first = s.cboCkName.text;
     const std::string second = s.cboCkName2.text;
-    FillWarehouses(s.cboCkName, s.type.fSetCkType1);
-    FillWarehouses(s.cboCkName2, s.type.fSetCkType2);
+    s.cboCkName.Offer(s.type.fSetCkType1);
+    s.cboCkName2.Offer(s.type.fSetCkType2);
     KeepText(s, s.cboCkName, first);
     KeepText(s, s.cboCkName2, second);
-}
-
-void RefillSummaries(frmDj02& s) {
-    const std::string text = s.cboInvMemo.text;
-    s.cboInvMemo.Clear();
-    FillBriefCombo(s.cboInvMemo, kSummaries, false);
-    KeepText(s, s.cboInvMemo, text);
 }
 
 void ResetDocument(frmDj02& s) {

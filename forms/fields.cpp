@@ -18,11 +18,6 @@ ListField::ListField(Place place, std::string name, bool editable)
     onLeave = [this] { return ComboIndexByText(*this, text) >= 0 || CheckNoQuote(text); };
 }
 
-void AllWarehousesField::Offer() {
-    FillCombo("Select fCkName,0 as aaa from tJXC_Ck Order By fCkCode", *this);
-    SetIndex(items.size() == 1 ? 0 : -1);
-}
-
 std::string DateRange::Test(const std::string& column) const {
     const std::optional<Date> from = first.date ? first.date : last.date;
     if (!from)

@@ -24,12 +24,6 @@ struct ListField : ListBox {
     ListField(Place place, std::string name, bool editable = false);
 };
 
-// All warehouses, also those no longer in use; a single one is chosen.
-struct AllWarehousesField : ListBox {
-    using ListBox::ListBox;
-    void Offer();
-};
-
 // Two days, either of which may be left out. `name`(0) is the first, `name`(1) the last.
 struct DateRange {
     DateRange(Place place, const std::string& name) : first(place, name + "(0)"), last(place, name + "(1)") {}

@@ -4,8 +4,8 @@
 
 #include "controls/screen.h"
 #include "forms/columns.h"
-#include "forms/fields.h"
 #include "forms/filters.h"
+#include "forms/lookup_fields.h"
 
 namespace jxc {
 

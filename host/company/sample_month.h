@@ -2,12 +2,10 @@
 // pictures and a first look show.
 #pragma once
 
-#include "session/lzjxc.h"
-
 namespace jxc {
 
-// `control` names the company, which must hold the sample's cards and no documents, and the user who approves.
+// The session names the company, which must hold the sample's cards and no documents, and the user who approves.
 // Throws std::runtime_error with the first thing that did not go as expected. Takes a few seconds at most.
-void PlaySampleMonth(lzJxc& control);
+void PlaySampleMonth();
 
 } // namespace jxc

@@ -24,7 +24,7 @@ void MakeSampleCompany(const std::string& file) {
             control.ZgName(rights.ZgName);
             control.myPower(rights.myPower);
         }
-        PlaySampleMonth(control);
+        PlaySampleMonth();
     } catch (const std::exception&) {
         for (const char* ending : {"", "-wal", "-shm"}) {
             std::error_code ignored;

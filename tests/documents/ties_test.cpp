@@ -51,7 +51,7 @@ TEST_P(Ties, TheLaterCardProductAndDocumentIsTaken) {
     }
     auto& s = dynamic_cast<frmDj02&>(ScreenNamed("frmDj02"));
     EXPECT_EQ(FindCustomerCard(s.cboKhList, "dup"), 3);
-    EXPECT_EQ(CustomerIdOf(s.cboKhList.Chosen()), 903);
+    EXPECT_EQ(s.cboKhList.Id(), 903);
     ProductSought sought;
     sought.code = "dup";
     EXPECT_EQ(FindProduct(sought), 903);

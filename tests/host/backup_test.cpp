@@ -43,7 +43,7 @@ TEST_F(BackupTest, CopiesWhatIsCommittedAndComesBackWhole) {
     control.UserName("马文涛");
     control.ZgName("马文涛");
     control.myPower("99999999");
-    PlaySampleMonth(control);
+    PlaySampleMonth();
     const std::int64_t documents = Documents(File("a.db"));
     EXPECT_EQ(documents, 14); // of the month's documents those that move goods
 

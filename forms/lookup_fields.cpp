@@ -1,0 +1,85 @@
+#include "forms/lookup_fields.h"
+
+#include "base/text.h"
+#include "session/lookups/find_by_text.h"
+#include "session/lookups/lists.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kTypeNumberWidth = 3;
+constexpr int kNoKind = -1;
+
+} // namespace
+
+void AllWarehousesField::Offer() {
+    FillCombo("Select fCkName,0 as aaa from tJXC_Ck Order By fCkCode", *this);
+    SetIndex(items.size() == 1 ? 0 : -1);
+}
+
+void WarehouseField::Offer(int kind) {
+    if (kind == kNoKind)
+        return Clear();
+    FillCombo(WarehouseFilter(kind, "Select fCkName,0 as aaa from tJXC_Ck") + " Order By fCkCode", *this);
+}
+
+void CurrencyField::Offer() {
+    FillCombo(Statement(), *this);
+}
+
+std::string CurrencyField::Statement() {
+    return "Select MoneyCode,0 as aa from Moneys Order By MoneyType desc,MoneyCode";
+}
+
+void HandlerField::Offer(bool fromSalespeople) {
+    FillCombo(Statement(fromSalespeople), *this);
+}
+
+std::string HandlerField::Statement(bool fromSalespeople) {
+    return "Select fName,0 as aa from " + std::string(fromSalespeople ? "tJXC_Yj_Jbr" : "tRsBasic") +
+           " Order By fCode";
+}
+
+void CodeListField::Offer() {
+    const std::string typed = text;
+    Clear();
+    FillBriefCombo(*this, codeList, false);
+    SetText(typed);
+}
+
+CardField::CardField(Place place, std::string name) : ListBox(place, std::move(name)) {
+    visibleText = CustomerNameOf;
+}
+
+int CardField::Seek(const std::string& typed) {
+    return FindCustomerCard(*this, typed);
+}
+
+void CardField::Show(const std::string& companyName, std::int64_t id) {
+    items = {CustomerRow(companyName, id)};
+    SetIndex(0);
+}
+
+std::int64_t CardField::Id() const {
+    return CustomerIdOf(Chosen());
+}
+
+std::string CardField::CompanyName() const {
+    return CustomerNameOf(Chosen());
+}
+
+void DocumentTypeField::Offer(int chosen) {
+    FillCombo(Statement(), *this, kTypeNumberWidth, true);
+    SetIndex(ComboIndexByLeftValue(*this, chosen, kTypeNumberWidth));
+}
+
+int DocumentTypeField::Type() const {
+    return static_cast<int>(Val(MidText(Chosen(), 1, kTypeNumberWidth)));
+}
+
+std::string DocumentTypeField::Statement() {
+    return "Select fSetNo, fSetName from tJXC_InvSet Where fSetNo<50 And fSetNoUse_<>1 Order By fRowID";
+}
+
+} // namespace jxc

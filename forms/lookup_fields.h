@@ -1,0 +1,67 @@
+// Fields whose list comes from the company's data, each a member one line long: it knows its statement, fills itself and
+// tells what was chosen. The statements can be read ahead together.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "forms/fields.h"
+
+namespace jxc {
+
+// All warehouses, also those no longer in use; a single one is chosen.
+struct AllWarehousesField : ListField {
+    using ListField::ListField;
+    void Offer();
+};
+
+// The active warehouses of a kind (a type's fSetCkType1 or fSetCkType2), none for -1.
+struct WarehouseField : ListField {
+    using ListField::ListField;
+    void Offer(int kind);
+};
+
+// The currencies, the company's own first.
+struct CurrencyField : ListField {
+    using ListField::ListField;
+    void Offer();
+    static std::string Statement();
+};
+
+// Who handles a document: all staff, or the salespeople. Takes other names too.
+struct HandlerField : ListField {
+    HandlerField(Place place, std::string name) : ListField(place, std::move(name), true) {}
+    void Offer(bool fromSalespeople);
+    static std::string Statement(bool fromSalespeople);
+};
+
+// The names of a code list. Takes other texts too; what stands in it stays.
+struct CodeListField : ListField {
+    CodeListField(Place place, std::string name, std::string codeList)
+        : ListField(place, std::move(name), true), codeList(std::move(codeList)) {}
+    void Offer();
+    const std::string codeList;
+};
+
+// Cards of customers and suppliers that a search has found, shown by name.
+struct CardField : ListBox {
+    CardField(Place place, std::string name);
+    // The cards that the text finds, the first one chosen; their number. See FindCustomerCard.
+    int Seek(const std::string& typed);
+    // One card alone, chosen.
+    void Show(const std::string& companyName, std::int64_t id);
+    // Number and name of the card chosen; 0 and "" for none.
+    std::int64_t Id() const;
+    std::string CompanyName() const;
+};
+
+// The document types in use, number in 3 characters, name behind.
+struct DocumentTypeField : ListBox {
+    using ListBox::ListBox;
+    // Chooses the type of that number, none without it.
+    void Offer(int chosen);
+    int Type() const; // of the type chosen
+    static std::string Statement();
+};
+
+} // namespace jxc
