@@ -15,7 +15,7 @@
 #include "host/company/create_company.h"
 #include "host/company/sample_month.h"
 #include "host/company_address.h"
-#include "host/screens.h"
+#include "host/embedding.h"
 #include "session/session.h"
 #include "tests/support/files.h"
 

@@ -5,7 +5,7 @@
 #include "controls/gestures.h"
 #include "controls/scripted_view.h"
 #include "host/company_address.h"
-#include "host/screens.h"
+#include "host/embedding.h"
 #include "session/company/company_fields.h"
 #include "session/components.h"
 #include "session/lookups/database_routines.h"

@@ -7,7 +7,7 @@
 
 #include "base/text.h"
 #include "controls/gestures.h"
-#include "host/screens.h"
+#include "host/embedding.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
