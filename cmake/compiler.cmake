@@ -19,10 +19,11 @@ if(JXC_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-find_program(CCACHE ccache)
-if(CCACHE)
+find_program(JXC_CCACHE ccache)
+if(JXC_CCACHE)
+  # What one build directory has compiled serves the others, and another checkout: the paths are taken as relative ones.
   set(CMAKE_CXX_COMPILER_LAUNCHER
       ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
-      ${CCACHE})
+      CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${JXC_CCACHE})
   add_compile_options(-fpch-preprocess) # without it ccache cannot tell which precompiled header was used
 endif()
