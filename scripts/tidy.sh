@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Checks every source with clang-tidy after the rules in .clang-tidy: scripts/tidy.sh
-# Sources of one folder are read together, which saves most of the time: the headers are read once for all of them.
+# Sources of one folder that are compiled alike are read together, which saves most of the time: the headers are read once
+# for all of them.
 # A group that passed is not looked at again until a source, a header, the flags or the rules have changed.
 set -euo pipefail
 # shellcheck source=scripts/common.sh
@@ -65,11 +66,11 @@ mapfile -t files < <(sed -n 's/^ *"file": "\(.*\)",\?$/\1/p' "$commands" | grep 
 say "checking ${#files[@]} sources with clang-tidy"
 declare -A members
 for file in "${files[@]}"; do
-    folder="$(dirname "$file")"
-    members["$folder"]+=" $file"
+    alike="$(dirname "$file") $(flags_of "$file")"
+    members["$alike"]+=" $file"
 done
 # Twelve to a group, so that there is work for every core.
-for folder in "${!members[@]}"; do
-    xargs -n 12 <<<"${members[$folder]}"
+for alike in "${!members[@]}"; do
+    xargs -n 12 <<<"${members[$alike]}"
 done | sort >"$groups/list"
 xargs -P "$(nproc)" -L 1 bash -c 'set -o pipefail; check_group "$@"' check <"$groups/list"

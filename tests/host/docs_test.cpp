@@ -165,6 +165,19 @@ TEST(Docs, TellEveryNumberedMessage) {
     EXPECT_EQ(told, known);
 }
 
+// Every source and test that a page sends its reader to is there.
+TEST(Docs, NameNoFileThatIsGone) {
+    const std::regex file("`([a-z_]+/[A-Za-z0-9_/.]*\\.(h|cpp|cmake|txt|sh|md))`");
+    int named = 0;
+    for (const char* page : {"README.md", "README.zh-CN.md", "CONTRIBUTING.md", "docs/decisions.md",
+                             "docs/messages.md", "docs/robot.md", "docs/scenario-language.md"}) {
+        const std::string text = FileText(JXC_ROOT "/" + std::string(page));
+        for (std::sregex_iterator at(text.begin(), text.end(), file), end; at != end; ++at, ++named)
+            EXPECT_TRUE(std::filesystem::exists(JXC_ROOT "/" + (*at)[1].str())) << page << ": " << (*at)[1];
+    }
+    EXPECT_GT(named, 50);
+}
+
 // All sources, with the parts of texts that stand on several lines put together.
 std::string Sources() {
     std::string sources;
