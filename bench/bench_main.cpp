@@ -31,7 +31,7 @@ int NumberFrom(const char* variable, int otherwise, int least, int most) {
 void RunRounds(benchmark::State& state, const Options& options, EngineKind kind, std::string& table) {
     try {
         ReceiptRounds rounds(options, kind);
-        for (auto _ : state)
+        for ([[maybe_unused]] auto _ : state)
             state.SetIterationTime(rounds.WriteRound());
         state.SetItemsProcessed(state.iterations() * options.documents);
         for (const Book* book : {&rounds.Empty(), &rounds.Full()})

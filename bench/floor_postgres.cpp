@@ -1,20 +1,14 @@
-#include <libpq-fe.h>
-
 #include <charconv>
 #include <cstdlib>
 #include <stdexcept>
 
 #include "bench/floor.h"
 #include "bench/floor_procedure.h"
+#include "database/postgres_line.h"
 
 namespace jxc::bench {
 
 namespace {
-
-struct ResultDeleter {
-    void operator()(PGresult* result) const { PQclear(result); }
-};
-using Result = std::unique_ptr<PGresult, ResultDeleter>;
 
 class PostgresRow {
   public:
@@ -55,8 +49,8 @@ const char* const kCommit = "commit";
 
 class PostgresApi {
   public:
-    explicit PostgresApi(const std::string& uri) : connection_(PQconnectdb(uri.c_str())) {
-        if (PQstatus(connection_) != CONNECTION_OK)
+    explicit PostgresApi(const std::string& uri) : line_(PQconnectdb(uri.c_str())) {
+        if (PQstatus(line_.get()) != CONNECTION_OK)
             Fail();
         for (size_t step = 0; step < std::size(kStepTexts); ++step) {
             names_.push_back("step" + std::to_string(step));
@@ -66,9 +60,6 @@ class PostgresApi {
         Prepare(kLock, "select pg_advisory_xact_lock(7400631)");
         Prepare(kCommit, "commit");
     }
-    ~PostgresApi() { PQfinish(connection_); }
-    PostgresApi(const PostgresApi&) = delete;
-    PostgresApi& operator=(const PostgresApi&) = delete;
 
     void Begin() {
         Send(kBegin, 0, nullptr);
@@ -77,7 +68,7 @@ class PostgresApi {
     void Commit() { Send(kCommit, 0, nullptr); }
 
     template <typename... Values>
-    Result Run(Step step, const Values&... values) {
+    PostgresResult Run(Step step, const Values&... values) {
         // One more than needed: an array cannot be empty.
         const Parameter parameters[] = {Parameter(values)..., Parameter(std::int64_t{0})};
         const char* texts[std::size(parameters)];
@@ -88,34 +79,34 @@ class PostgresApi {
 
     template <typename OnRow, typename... Values>
     void Read(Step step, const OnRow& onRow, const Values&... values) {
-        const Result result = Run(step, values...);
+        const PostgresResult result = Run(step, values...);
         const int rows = PQntuples(result.get());
         for (int row = 0; row < rows; ++row)
             onRow(PostgresRow(result.get(), row));
     }
 
     size_t StatementCount() const { return count_; }
-    int ServerVersion() const { return PQserverVersion(connection_); }
+    int ServerVersion() const { return PQserverVersion(line_.get()); }
 
   private:
-    [[noreturn]] void Fail() const { throw std::runtime_error(PQerrorMessage(connection_)); }
+    [[noreturn]] void Fail() const { throw std::runtime_error(PQerrorMessage(line_.get())); }
 
-    Result Checked(PGresult* result) const {
+    PostgresResult Checked(PGresult* result) const {
         const ExecStatusType status = PQresultStatus(result);
-        Result checked(result);
+        PostgresResult checked(result);
         if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK)
             Fail();
         return checked;
     }
     void Prepare(const char* name, const char* text) {
-        Checked(PQprepare(connection_, name, text, 0, nullptr));
+        Checked(PQprepare(line_.get(), name, text, 0, nullptr));
     }
-    Result Send(const char* name, int count, const char* const* texts) {
+    PostgresResult Send(const char* name, int count, const char* const* texts) {
         ++count_;
-        return Checked(PQexecPrepared(connection_, name, count, texts, nullptr, nullptr, 0));
+        return Checked(PQexecPrepared(line_.get(), name, count, texts, nullptr, nullptr, 0));
     }
 
-    PGconn* connection_;
+    PostgresLine line_;
     std::vector<std::string> names_;
     size_t count_ = 0;
 };

@@ -1,9 +1,8 @@
-#include <sqlite3.h>
-
 #include <stdexcept>
 
 #include "bench/floor.h"
 #include "bench/floor_procedure.h"
+#include "database/sqlite_handles.h"
 
 namespace jxc::bench {
 
@@ -31,28 +30,19 @@ constexpr const char* kSettings = "pragma synchronous = full;"
 
 class SqliteApi {
   public:
-    explicit SqliteApi(const std::string& file) {
-        if (sqlite3_open_v2(file.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) !=
-                SQLITE_OK ||
-            sqlite3_exec(db_, kSettings, nullptr, nullptr, nullptr) != SQLITE_OK)
+    explicit SqliteApi(const std::string& file)
+        : db_(OpenSqlite(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX)) {
+        if (sqlite3_errcode(db_.get()) != SQLITE_OK ||
+            sqlite3_exec(db_.get(), kSettings, nullptr, nullptr, nullptr) != SQLITE_OK)
             Fail();
         for (const char* text : kStepTexts)
             steps_.push_back(Prepared(text));
         begin_ = Prepared("begin immediate");
         commit_ = Prepared("commit");
     }
-    ~SqliteApi() {
-        for (sqlite3_stmt* statement : steps_)
-            sqlite3_finalize(statement);
-        sqlite3_finalize(begin_);
-        sqlite3_finalize(commit_);
-        sqlite3_close(db_);
-    }
-    SqliteApi(const SqliteApi&) = delete;
-    SqliteApi& operator=(const SqliteApi&) = delete;
 
-    void Begin() { Finish(begin_); }
-    void Commit() { Finish(commit_); }
+    void Begin() { Finish(begin_.get()); }
+    void Commit() { Finish(commit_.get()); }
 
     template <typename... Values>
     void Run(Step step, const Values&... values) {
@@ -71,11 +61,11 @@ class SqliteApi {
     size_t StatementCount() const { return count_; }
 
   private:
-    [[noreturn]] void Fail() const { throw std::runtime_error(sqlite3_errmsg(db_)); }
+    [[noreturn]] void Fail() const { throw std::runtime_error(sqlite3_errmsg(db_.get())); }
 
-    sqlite3_stmt* Prepared(const char* text) {
-        sqlite3_stmt* statement = nullptr;
-        if (sqlite3_prepare_v3(db_, text, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) != SQLITE_OK)
+    SqliteStatementHandle Prepared(const char* text) {
+        SqliteStatementHandle statement = PrepareSqlite(db_.get(), text, SQLITE_PREPARE_PERSISTENT);
+        if (!statement)
             Fail();
         return statement;
     }
@@ -92,7 +82,7 @@ class SqliteApi {
 
     template <typename... Values>
     sqlite3_stmt* Bound(Step step, const Values&... values) {
-        sqlite3_stmt* statement = steps_[static_cast<size_t>(step)];
+        sqlite3_stmt* statement = steps_[static_cast<size_t>(step)].get();
         int at = 0;
         (Bind(statement, ++at, values), ...);
         return statement;
@@ -111,10 +101,9 @@ class SqliteApi {
         ++count_;
     }
 
-    sqlite3* db_ = nullptr;
-    std::vector<sqlite3_stmt*> steps_;
-    sqlite3_stmt* begin_ = nullptr;
-    sqlite3_stmt* commit_ = nullptr;
+    SqliteHandle db_; // behind it, what must go first
+    std::vector<SqliteStatementHandle> steps_;
+    SqliteStatementHandle begin_, commit_;
     size_t count_ = 0;
 };
 

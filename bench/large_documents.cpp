@@ -20,7 +20,7 @@
 #include "documents/frmDj02.h"
 #include "host/company/create_company.h"
 #include "host/company_address.h"
-#include "host/screens.h"
+#include "host/embedding.h"
 #include "robot/clerk.h"
 #include "session/session.h"
 #include "tests/support/test_server.h"

@@ -9,21 +9,18 @@ namespace jxc::bench {
 class LargeFloor::Statements {
   public:
     explicit Statements(sqlite3* db) : db_(db) {}
-    ~Statements() {
-        for (const auto& [text, statement] : prepared_)
-            sqlite3_finalize(statement);
-    }
 
     // The statement with its values bound, not stepped.
     template <typename... Values>
     sqlite3_stmt* Bound(const char* text, const Values&... values) {
-        sqlite3_stmt*& statement = prepared_[text];
-        if (!statement &&
-            sqlite3_prepare_v3(db_, text, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) != SQLITE_OK)
+        SqliteStatementHandle& statement = prepared_[text];
+        if (!statement)
+            statement = PrepareSqlite(db_, text, SQLITE_PREPARE_PERSISTENT);
+        if (!statement)
             throw std::runtime_error(sqlite3_errmsg(db_));
         int at = 0;
-        (Bind(statement, ++at, values), ...);
-        return statement;
+        (Bind(statement.get(), ++at, values), ...);
+        return statement.get();
     }
 
     template <typename... Values>
@@ -50,7 +47,7 @@ class LargeFloor::Statements {
     }
 
     sqlite3* db_;
-    std::unordered_map<const char*, sqlite3_stmt*> prepared_;
+    std::unordered_map<const char*, SqliteStatementHandle> prepared_;
 };
 
 namespace {
@@ -78,21 +75,18 @@ double Total(const LargeDocument& document) {
 
 } // namespace
 
-LargeFloor::LargeFloor(const std::string& file) {
-    if (sqlite3_open_v2(file.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) !=
-            SQLITE_OK ||
-        sqlite3_exec(db_,
+LargeFloor::LargeFloor(const std::string& file)
+    : db_(OpenSqlite(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX)) {
+    if (sqlite3_errcode(db_.get()) != SQLITE_OK ||
+        sqlite3_exec(db_.get(),
                      "pragma synchronous = full; pragma temp_store = memory; pragma cache_size = -65536;"
                      "pragma journal_mode = wal",
                      nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw std::runtime_error(sqlite3_errmsg(db_));
-    statements_ = std::make_unique<Statements>(db_);
+        throw std::runtime_error(sqlite3_errmsg(db_.get()));
+    statements_ = std::make_unique<Statements>(db_.get());
 }
 
-LargeFloor::~LargeFloor() {
-    statements_.reset();
-    sqlite3_close(db_);
-}
+LargeFloor::~LargeFloor() = default;
 
 std::int64_t LargeFloor::Save(const LargeDocument& document) {
     Statements& s = *statements_;

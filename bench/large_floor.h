@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include <sqlite3.h>
+#include "database/sqlite_handles.h"
 
 namespace jxc::bench {
 
@@ -45,7 +45,7 @@ class LargeFloor {
     void PostPrices(const LargeDocument& document, std::int64_t key, bool reversal);
     void PostAccount(const LargeDocument& document, bool reversal);
 
-    sqlite3* db_ = nullptr;
+    SqliteHandle db_; // behind it, what must go first
     std::unique_ptr<Statements> statements_;
 };
 

@@ -55,7 +55,7 @@ struct Screen {
 
     // Public properties, for openers and scripts.
     template <typename Number>
-    void AddNumberProperty(std::string property, Number& number) {
+    void AddNumberProperty(const std::string& property, Number& number) {
         const auto set = [&number, property](const Value& value) {
             number = static_cast<Number>(WholeNumber(property, value, std::numeric_limits<Number>::min(),
                                                      std::numeric_limits<Number>::max()));

@@ -77,11 +77,33 @@ std::string CauseOf(const std::exception& error) {
     return error.what();
 }
 
+namespace {
+
+bool IsFault(const std::exception& error) {
+    return !dynamic_cast<const std::runtime_error*>(&error);
+}
+
+std::string TextOfFault() {
+    return "程序出现内部错误，本次操作没有完成。请把日志交给技术支持：" + LogFile();
+}
+
+std::string NameOfFault(const std::exception& error) {
+    return std::string(typeid(error).name()) + "：" + error.what();
+}
+
+} // namespace
+
+std::string TextForPeople(const std::string& title, const std::exception& error) {
+    if (!IsFault(error))
+        return error.what();
+    Log(title, NameOfFault(error));
+    return TextOfFault();
+}
+
 void WarnOfError(const std::string& title, const std::exception& error) {
-    if (dynamic_cast<const std::runtime_error*>(&error))
-        return WarnOfFailure(title, error.what(), CauseOf(error));
-    WarnOfFailure(title, "程序出现内部错误，本次操作没有完成。请把日志交给技术支持：" + LogFile(),
-                  std::string(typeid(error).name()) + "：" + error.what());
+    if (IsFault(error))
+        return WarnOfFailure(title, TextOfFault(), NameOfFault(error));
+    WarnOfFailure(title, error.what(), CauseOf(error));
 }
 
 bool Attempt(const std::string& title, const std::function<void()>& work) {

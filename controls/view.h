@@ -83,6 +83,9 @@ void Warn(const std::string& title, const std::string& text);
 void WarnOfFailure(const std::string& title, const std::string& text, const std::string& cause);
 // The text of the innermost error nested in an error, or else its own.
 std::string CauseOf(const std::exception& error);
+// What a person or a script is told of an error: a runtime error's own text; of a fault of the program, that there was
+// one, whose own text goes to the log as `title`'s.
+std::string TextForPeople(const std::string& title, const std::exception& error);
 // An error that no routine expected: a fault of the program, told as such. Errors of people and of the world are
 // runtime errors with a text for people, which is told as it is; what is nested in one is its cause.
 void WarnOfError(const std::string& title, const std::exception& error);

@@ -328,7 +328,7 @@ void Connection::Flush() {
 void Connection::BeginTrans() {
     RequireUsable();
     if (inTransaction_)
-        throw DatabaseError("事务尚未结束，不能再开始另一事务。");
+        throw std::logic_error("事务尚未结束，不能再开始另一事务。");
     Announce("begin");
     ForgetExpected(); // who waited for other writers reads what they wrote
     const WaitingEnds waitingEnds(engine_->waiting);
@@ -339,14 +339,14 @@ void Connection::BeginTrans() {
 void Connection::BeginReading() {
     RequireUsable();
     if (inTransaction_)
-        throw DatabaseError("事务尚未结束，不能再开始另一事务。");
+        throw std::logic_error("事务尚未结束，不能再开始另一事务。");
     engine_->BeginReading();
     inTransaction_ = true;
 }
 
 void Connection::CommitTrans() {
     if (!inTransaction_)
-        throw DatabaseError("没有可以提交的事务。");
+        throw std::logic_error("没有可以提交的事务。");
     Guarded("commit", [&] { engine_->Commit(); });
     inTransaction_ = false;
 }

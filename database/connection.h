@@ -46,7 +46,7 @@ class Connection {
     // there that finds it lost is tried once more.
     void Open(std::unique_ptr<Engine> engine, std::function<std::unique_ptr<Engine>()> again = {});
     void Close();
-    bool IsOpen() const;
+    [[nodiscard]] bool IsOpen() const;
 
     // Runs a statement that gives no rows: Insert, Update, Delete, ALTER TABLE. On a database server inside a
     // transaction it may be sent together with the statements behind it; its failure then shows at the next
@@ -68,14 +68,14 @@ class Connection {
     // What is sent from now on belongs to the caller's step `mark`. After a failure MarkOfFailure is the step
     // whose statement it was, which may have been sent some steps before the failure showed.
     void Mark(int mark);
-    int MarkOfFailure() const { return markOfFailure_; }
+    [[nodiscard]] int MarkOfFailure() const { return markOfFailure_; }
 
     // The tables that the user may read and their columns, all in lower case, as they were at the first
     // question or after the last change by ALTER TABLE or ForgetCatalogue: the server is asked once.
     bool HasColumn(std::string_view table, std::string_view column);
     void ForgetCatalogue() { catalogue_.clear(); }
 
-    // One transaction at a time, no nesting. Writers of one company wait for each other at BeginTrans, so a
+    // One transaction at a time, no nesting: a second BeginTrans, or a commit of none, is a std::logic_error. Writers of one company wait for each other at BeginTrans, so a
     // routine that reads, computes and writes inside a transaction is never overtaken.
     void BeginTrans();
     // Begins a transaction that only reads: all its selects see one state of the company, and nobody waits for
@@ -83,7 +83,7 @@ class Connection {
     void BeginReading();
     void CommitTrans();
     void RollbackTrans() noexcept;
-    bool InTransaction() const;
+    [[nodiscard]] bool InTransaction() const;
 
     // Runs `work` so that a DatabaseError inside it undoes only `work` and leaves an open transaction usable;
     // the error is thrown on. Routines that swallow errors by design run their statements so.
@@ -91,7 +91,7 @@ class Connection {
 
     // The engine's plan of a statement, a line per step, as EXPLAIN gives it: the proof that no table is
     // scanned.
-    std::vector<std::string> Plan(std::string_view sql);
+    [[nodiscard]] std::vector<std::string> Plan(std::string_view sql);
 
     // Called with each statement's text before it is sent, transaction commands among them ("begin",
     // "commit", "rollback" is not announced). It may throw DatabaseError: that is how faults are injected.
@@ -150,7 +150,7 @@ class Connection {
 // trip: a hint, which changes nothing but the time. Each is asked for as ever, by the same text, and then
 // found here; a write to a table forgets what was read of it. A failure to read them together is no failure:
 // each fails where it is asked for.
-class ReadAhead {
+class [[nodiscard]] ReadAhead {
   public:
     ReadAhead(Connection& connection, const std::vector<Connection::Expected>& selects)
         : connection_(connection), selects_(selects) {
@@ -166,7 +166,7 @@ class ReadAhead {
 };
 
 // Begins a transaction and rolls it back when it goes out of scope without Commit(). Only Commit() commits.
-class Transaction {
+class [[nodiscard]] Transaction {
   public:
     explicit Transaction(Connection& connection) : connection_(connection) { connection_.BeginTrans(); }
     ~Transaction() {
@@ -186,7 +186,7 @@ class Transaction {
 };
 
 // The same for a transaction that only reads.
-class ReadingTransaction {
+class [[nodiscard]] ReadingTransaction {
   public:
     explicit ReadingTransaction(Connection& connection) : connection_(connection) {
         connection_.BeginReading();

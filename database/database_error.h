@@ -1,4 +1,6 @@
-// What a database refuses. Faults of the program are other errors, and what a screen refuses is a ScreenError.
+// What a database refuses. There are three kinds of errors, and no routine takes one for another: a DatabaseError; a
+// refusal, which says what a person or a script may not do (ScreenError, GestureRefused, RequestError and the like), also
+// a std::runtime_error with a text for people; and a fault of the program, a std::logic_error, whose text is for the log.
 #pragma once
 
 #include <stdexcept>

@@ -9,6 +9,6 @@ namespace jxc {
 // `value` as the field holds it: whole numbers rounded and within the field's bits, money with four decimals,
 // dates normal, a number in a text field as its text. Null stays null. A wrong kind is a DatabaseError that
 // names the field.
-Value FieldValue(const FieldDef& field, Value value);
+[[nodiscard]] Value FieldValue(const FieldDef& field, Value value);
 
 } // namespace jxc

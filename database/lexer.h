@@ -44,10 +44,10 @@ struct LiftedStatement {
 void Lift(std::string_view sql, LiftedStatement& lifted, std::vector<Token>* tokens = nullptr);
 
 // The literals of a list, which stand between its commas.
-std::vector<Literal> ListElements(std::string_view list);
+[[nodiscard]] std::vector<Literal> ListElements(std::string_view list);
 // Whether the text is a mask of Format, such as yyyy-mm.
-bool IsDateMask(std::string_view text);
+[[nodiscard]] bool IsDateMask(std::string_view text);
 // 'it''s' without its quotes: it's.
-std::string UnquotedText(std::string_view insideQuotes);
+[[nodiscard]] std::string UnquotedText(std::string_view insideQuotes);
 
 } // namespace jxc

@@ -9,6 +9,6 @@
 namespace jxc {
 
 // Throws DatabaseError.
-StatementTree ParseStatement(std::span<const Token> tokens);
+[[nodiscard]] StatementTree ParseStatement(std::span<const Token> tokens);
 
 } // namespace jxc

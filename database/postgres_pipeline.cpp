@@ -7,48 +7,10 @@
 
 #include "base/log.h"
 #include "database/postgres_values.h"
-#include "database/server_address.h"
 
 namespace jxc {
 
 namespace {
-
-struct ResultDeleter {
-    void operator()(PGresult* result) const { PQclear(result); }
-};
-using Result = std::unique_ptr<PGresult, ResultDeleter>;
-
-std::string Trimmed(const char* message) {
-    std::string text = message ? message : "";
-    while (!text.empty() && (text.back() == '\n' || text.back() == ' '))
-        text.pop_back();
-    return text;
-}
-
-PGconn* Connect(const ServerAddress& address) {
-    std::vector<const char*> names, values;
-    const auto add = [&](const char* name, const std::string& value) {
-        if (value.empty())
-            return;
-        names.push_back(name);
-        values.push_back(value.c_str());
-    };
-    const std::string idle = "30", unanswered = "30000"; // a network that is gone is noticed
-    const std::string seconds = "10", encoding = "UTF8", program = "lzJxc";
-    const std::string path = ReadableAddress(address.path);
-    add("connect_timeout", seconds);
-    add("keepalives_idle", idle);
-    add("tcp_user_timeout", unanswered);
-    add(IsServerAddress(path) ? "dbname" : "host", path);
-    add("dbname", address.database);
-    add("user", address.user);
-    add("password", address.password);
-    add("client_encoding", encoding);
-    add("application_name", program);
-    names.push_back(nullptr);
-    values.push_back(nullptr);
-    return PQconnectdbParams(names.data(), values.data(), 1);
-}
 
 // Dates in the form that the system writes; waiting for another writer ends as it does on a file; the small
 // statements of documents gain nothing from compiling.
@@ -60,27 +22,11 @@ constexpr const char* kSettings =
 } // namespace
 
 PostgresPipeline::PostgresPipeline(const ServerAddress& address, Waiting& waiting)
-    : waiting_(waiting), connection_(Connect(address)) {
-    if (PQstatus(connection_) != CONNECTION_OK) {
-        const bool refused = PQconnectionNeedsPassword(connection_) || PQconnectionUsedPassword(connection_);
-        const std::string reason = Trimmed(PQerrorMessage(connection_));
-        PQfinish(connection_);
-        if (refused)
-            throw LoginError("数据库服务器拒绝登录，请检查用户名和密码：" + reason);
-        throw DatabaseError("不能连接数据库服务器：" + reason);
-    }
-    PQsetNoticeProcessor(
-        connection_, [](void*, const char*) {}, nullptr);
-    if (!PQenterPipelineMode(connection_)) {
-        const std::string reason = Trimmed(PQerrorMessage(connection_));
-        PQfinish(connection_);
-        throw DatabaseError("不能使用该数据库服务器：" + reason);
-    }
+    : waiting_(waiting), line_(OpenLine(address)) {
+    RequireLine(line_);
+    if (!PQenterPipelineMode(line_.get()))
+        throw DatabaseError("不能使用该数据库服务器：" + ReasonOf(line_));
     SendText(kSettings, {}, {}, 0); // waited for with what comes first
-}
-
-PostgresPipeline::~PostgresPipeline() {
-    PQfinish(connection_);
 }
 
 void PostgresPipeline::GiveUpLine() {
@@ -93,7 +39,7 @@ void PostgresPipeline::GiveUpLine() {
 
 void PostgresPipeline::Lost() {
     GiveUpLine();
-    const std::string words = Trimmed(PQerrorMessage(connection_));
+    const std::string words = ReasonOf(line_);
     Log("database", words); // whoever tells of the failed work may know no more than that it failed
     try {
         throw DatabaseError(words);
@@ -121,25 +67,25 @@ void PostgresPipeline::Send(const std::shared_ptr<ServerStatement>& statement, s
                             int depth, const RowAddress& address, Rows* into) {
     const char* const* encoded = Encode(values);
     if (statement->state == ServerStatement::State::Unknown) {
-        Require(PQsendPrepare(connection_, statement->name.c_str(), statement->sql.c_str(),
+        Require(PQsendPrepare(line_.get(), statement->name.c_str(), statement->sql.c_str(),
                               static_cast<int>(statement->types.size()), statement->types.data()));
         statement->state = ServerStatement::State::Sent;
         sent_.push_back({Sent::Kind::Prepare, statement, depth, nullptr, nullptr, mark_});
     }
-    Require(PQsendQueryPrepared(connection_, statement->name.c_str(), static_cast<int>(values.size()),
+    Require(PQsendQueryPrepared(line_.get(), statement->name.c_str(), static_cast<int>(values.size()),
                                 encoded, nullptr, nullptr, 0));
     sent_.push_back({address ? Sent::Kind::Change : Sent::Kind::Run, statement, depth, address, into, mark_});
 }
 
 void PostgresPipeline::SendText(const std::string& sql, const std::vector<Oid>& types,
                                 std::span<const Value> values, int depth) {
-    Require(PQsendQueryParams(connection_, sql.c_str(), static_cast<int>(types.size()), types.data(),
+    Require(PQsendQueryParams(line_.get(), sql.c_str(), static_cast<int>(types.size()), types.data(),
                               Encode(values), nullptr, nullptr, 0));
     sent_.push_back({Sent::Kind::Run, nullptr, depth, nullptr, nullptr, mark_});
 }
 
 void PostgresPipeline::Sync() {
-    Require(PQpipelineSync(connection_));
+    Require(PQpipelineSync(line_.get()));
     sent_.push_back({Sent::Kind::Sync, nullptr, 0, nullptr});
     ++roundTrips_;
 }
@@ -172,10 +118,10 @@ void PostgresPipeline::Receive() {
 void PostgresPipeline::AwaitResult() {
     constexpr int kInstant = 100; // milliseconds
     const auto begun = std::chrono::steady_clock::now();
-    while (PQisBusy(connection_)) {
-        pollfd socket{PQsocket(connection_), POLLIN, 0};
+    while (PQisBusy(line_.get())) {
+        pollfd socket{PQsocket(line_.get()), POLLIN, 0};
         if (poll(&socket, 1, kInstant) != 0) {
-            if (!PQconsumeInput(connection_))
+            if (!PQconsumeInput(line_.get()))
                 Lost();
             continue;
         }
@@ -188,7 +134,7 @@ void PostgresPipeline::AwaitResult() {
 void PostgresPipeline::CancelAtServer() {
     gaveUp_ = true;
     char reason[256];
-    const std::unique_ptr<PGcancel, decltype(&PQfreeCancel)> cancel(PQgetCancel(connection_), PQfreeCancel);
+    const PostgresCancel cancel(PQgetCancel(line_.get()));
     if (!cancel || !PQcancel(cancel.get(), reason, sizeof reason)) {
         GiveUpLine(); // a server that cannot be reached gives no answer either
         throw DatabaseError(kGaveUpWaiting);
@@ -199,14 +145,14 @@ void PostgresPipeline::ReceiveOne(const Sent& sent) {
     bool received = false;
     while (true) {
         AwaitResult();
-        const Result result(PQgetResult(connection_));
+        const PostgresResult result(PQgetResult(line_.get()));
         if (!result) {
-            if (!received || PQstatus(connection_) == CONNECTION_BAD)
+            if (!received || PQstatus(line_.get()) == CONNECTION_BAD)
                 Lost();
             return;
         }
         received = true;
-        if (PQstatus(connection_) == CONNECTION_BAD)
+        if (PQstatus(line_.get()) == CONNECTION_BAD)
             Lost();
         if (sent.kind == Sent::Kind::Sync)
             return;
@@ -244,7 +190,7 @@ void PostgresPipeline::NoteFailure(const PGresult* result, int depth, int mark) 
     else if (failure.state == "57014" && gaveUp_) // a server may also have time limits of its own
         failure.text = kGaveUpWaiting;
     else
-        failure.text = "数据库错误：" + Trimmed(PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY));
+        failure.text = "数据库错误：" + ReasonOf(result);
     failure_ = std::move(failure);
 }
 
@@ -269,9 +215,9 @@ bool PostgresPipeline::HasUnsettledWork(int depth) const {
 
 void PostgresPipeline::RunScript(const std::string& sql) {
     Settle();
-    PQexitPipelineMode(connection_);
-    const Result result(PQexec(connection_, sql.c_str()));
-    PQenterPipelineMode(connection_);
+    PQexitPipelineMode(line_.get());
+    const PostgresResult result(PQexec(line_.get(), sql.c_str()));
+    PQenterPipelineMode(line_.get());
     const ExecStatusType status = PQresultStatus(result.get());
     if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) {
         NoteFailure(result.get(), 0, mark_);

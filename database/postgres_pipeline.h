@@ -4,8 +4,6 @@
 // Depths are those of savepoints, 0 outside of all. A failure is kept, with its depth, until it is forgotten.
 #pragma once
 
-#include <libpq-fe.h>
-
 #include <deque>
 #include <memory>
 #include <optional>
@@ -14,14 +12,9 @@
 #include <vector>
 
 #include "database/engine.h"
+#include "database/postgres_line.h"
 
 namespace jxc {
-
-// Where the database is and who logs in: `path` a libpq URI or a host or socket directory; the others may be
-// empty.
-struct ServerAddress {
-    std::string path, password, user, database;
-};
 
 // A statement's life on the server, shared by its owner and the results still to come.
 struct ServerStatement {
@@ -36,7 +29,6 @@ class PostgresPipeline {
     // Throws DatabaseError with the reason: no server, a refused log-in, no such database. `waiting` is told
     // while the server is waited for, and must outlive the line.
     PostgresPipeline(const ServerAddress& address, Waiting& waiting);
-    ~PostgresPipeline();
     PostgresPipeline(const PostgresPipeline&) = delete;
     PostgresPipeline& operator=(const PostgresPipeline&) = delete;
 
@@ -102,7 +94,7 @@ class PostgresPipeline {
 
     Waiting& waiting_;
     bool lost_ = false;
-    PGconn* connection_;
+    PostgresLine line_;
     std::deque<Sent> sent_;
     int mark_ = -1;
     size_t roundTrips_ = 0;

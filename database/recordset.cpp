@@ -27,13 +27,13 @@ void Recordset::ReadRows(std::string_view sql) {
 
 void Recordset::MoveNext() {
     if (!assigned_.empty() || adding_)
-        throw DatabaseError("记录尚未存盘。");
+        throw std::logic_error("记录尚未存盘。");
     ++row_;
 }
 
 void Recordset::MoveTo(size_t row) {
     if (!assigned_.empty() || adding_)
-        throw DatabaseError("记录尚未存盘。");
+        throw std::logic_error("记录尚未存盘。");
     row_ = row;
 }
 
@@ -65,7 +65,7 @@ void Recordset::RequireRow() const {
 const Value& Recordset::Field(size_t ordinal) const {
     RequireRow();
     if (ordinal >= FieldCount())
-        throw DatabaseError("没有第 " + std::to_string(ordinal) + " 个字段。");
+        throw std::logic_error("没有第 " + std::to_string(ordinal) + " 个字段。");
     return adding_ ? newRow_[ordinal] : rows_.At(row_, firstField_ + ordinal);
 }
 
@@ -75,9 +75,9 @@ Value& Recordset::Cell(size_t ordinal) {
 
 const FieldDef& Recordset::Definition(size_t ordinal) {
     if (!table_)
-        throw DatabaseError("该记录集是只读的。");
+        throw std::logic_error("该记录集是只读的。");
     if (ordinal >= fields_.size())
-        throw DatabaseError("没有第 " + std::to_string(ordinal) + " 个字段。");
+        throw std::logic_error("没有第 " + std::to_string(ordinal) + " 个字段。");
     if (!fields_[ordinal])
         fields_[ordinal] = FindField(*table_, FieldName(ordinal));
     if (!fields_[ordinal])
@@ -87,9 +87,9 @@ const FieldDef& Recordset::Definition(size_t ordinal) {
 
 void Recordset::AddNew() {
     if (!table_)
-        throw DatabaseError("该记录集是只读的。");
+        throw std::logic_error("该记录集是只读的。");
     if (!assigned_.empty())
-        throw DatabaseError("记录尚未存盘。");
+        throw std::logic_error("记录尚未存盘。");
     adding_ = true;
     newRow_.assign(FieldCount(), Value());
 }
@@ -143,7 +143,7 @@ std::shared_ptr<Value> Recordset::AddressToWrite() {
     std::shared_ptr<Value>& address = addresses_[row_];
     if (!address) {
         if (AddressAsRead().IsNull())
-            throw DatabaseError("该记录已经删除。");
+            throw std::logic_error("该记录已经删除。");
         address = std::make_shared<Value>(AddressAsRead());
     }
     if (address->IsNull())
@@ -153,7 +153,7 @@ std::shared_ptr<Value> Recordset::AddressToWrite() {
 
 void Recordset::Update() {
     if (!table_)
-        throw DatabaseError("该记录集是只读的。");
+        throw std::logic_error("该记录集是只读的。");
     Engine& engine = connection_.EngineInUse();
     if (adding_) {
         if (assigned_.empty())
@@ -214,7 +214,7 @@ void Recordset::ChangeRow(Engine& engine) {
 
 void Recordset::Delete() {
     if (!table_)
-        throw DatabaseError("该记录集是只读的。");
+        throw std::logic_error("该记录集是只读的。");
     const std::shared_ptr<Value> address = AddressToWrite();
     const Value values[] = {*address};
     ForgetAssigned();

@@ -14,21 +14,23 @@ namespace jxc {
 
 enum class Access { Read, Write };
 
+// Whoever uses it against its rules (moves on from what is not written, writes what was opened to read, takes a place that
+// is none, deletes twice) gets a std::logic_error.
 class Recordset {
   public:
     // Opens `sql`. With Write it must be "select [distinct] <columns or *> from <one table> [where ..] [order
     // by ..]"; anything else is a DatabaseError.
     Recordset(Connection& connection, std::string_view sql, Access access = Access::Read);
 
-    bool AtEnd() const { return row_ >= RecordCount(); }
-    // Assigned fields must have been written by Update before; otherwise a DatabaseError.
+    [[nodiscard]] bool AtEnd() const { return row_ >= RecordCount(); }
+    // Assigned fields must have been written by Update before; otherwise a std::logic_error.
     void MoveNext();
     // Goes to a row by its place from 0, for sets that are read once and changed in another order.
     void MoveTo(size_t row);
-    size_t RecordCount() const { return rows_.Count(); }
+    [[nodiscard]] size_t RecordCount() const { return rows_.Count(); }
 
-    // A field of the current or new row, as last assigned, by name in any case or by ordinal from 0. An
-    // unknown name, or a read past the end, is a DatabaseError.
+    // A field of the current or new row, as last assigned, by name in any case or by ordinal from 0. A
+    // name that the tables do not have, or a row that is not there, is a DatabaseError.
     const Value& operator[](std::string_view name) const { return Field(OrdinalOf(name)); }
     const Value& operator[](size_t ordinal) const { return Field(ordinal); }
     size_t OrdinalOf(std::string_view name) const;

@@ -5,7 +5,8 @@
 
 namespace jxc {
 
-RowInserter::RowInserter(Connection& connection, std::string table, const std::vector<std::string>& fields)
+RowInserter::RowInserter(Connection& connection, const std::string& table,
+                         const std::vector<std::string>& fields)
     : connection_(connection), values_(fields.size()),
       text_(connection.EngineInUse().InsertText(table, fields)) {
     const TableDef* definition = FindTable(table);

@@ -13,7 +13,7 @@ namespace jxc {
 class RowInserter {
   public:
     // An unknown table or field is a DatabaseError. `connection` must outlive the inserter.
-    RowInserter(Connection& connection, std::string table, const std::vector<std::string>& fields);
+    RowInserter(Connection& connection, const std::string& table, const std::vector<std::string>& fields);
 
     // Sets the field at the place, from 0, that it has among the fields named. Converts and refuses as
     // Recordset::Set does.

@@ -31,10 +31,10 @@ struct TableDef {
     bool late = false; // companies of older versions lack it, and gain it when they are opened
 };
 
-std::span<const TableDef> AllTables();
+[[nodiscard]] std::span<const TableDef> AllTables();
 // The table by name in any case; null when the system knows none of that name.
-const TableDef* FindTable(std::string_view name);
-const FieldDef* FindField(const TableDef& table, std::string_view field);
+[[nodiscard]] const TableDef* FindTable(std::string_view name);
+[[nodiscard]] const FieldDef* FindField(const TableDef& table, std::string_view field);
 
 // Creates a new, empty company database and opens `connection` on it: for dialect 0 the file `path`, which
 // must not exist yet, readable and writable by its owner only (mode 0600); otherwise all tables in the

@@ -1,7 +1,5 @@
 #include "database/server_address.h"
 
-#include <libpq-fe.h>
-
 #include <algorithm>
 #include <map>
 #include <memory>
@@ -9,7 +7,8 @@
 #include <vector>
 
 #include "base/text.h"
-#include "database/connection.h"
+#include "database/database_error.h"
+#include "database/postgres_line.h"
 
 namespace jxc {
 
@@ -47,9 +46,8 @@ std::optional<std::vector<Setting>> SettingsOf(const std::string& address) {
     if (IsAmbiguous(address))
         return {};
     char* error = nullptr;
-    const std::unique_ptr<PQconninfoOption, void (*)(PQconninfoOption*)> options(
-        PQconninfoParse(WithPlainScheme(address).c_str(), &error), PQconninfoFree);
-    PQfreemem(error);
+    const PostgresOptions options(PQconninfoParse(WithPlainScheme(address).c_str(), &error));
+    const PostgresText reason(error); // which may hold a part of a password
     if (!options)
         return {};
     std::vector<Setting> settings;

@@ -1,30 +1,27 @@
 #include "database/sqlite_content.h"
 
-#include <sqlite3.h>
-
 #include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <set>
 
 #include "database/connection.h"
+#include "database/sqlite_handles.h"
 #include "database/storable_text.h"
 
 namespace jxc {
 
 namespace {
 
-using Statement = std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)>;
-
 [[noreturn]] void Fail(sqlite3* db) {
     throw DatabaseError(std::string("数据库错误：") + sqlite3_errmsg(db));
 }
 
-Statement Prepared(sqlite3* db, const std::string& sql) {
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(db, sql.c_str(), -1, &statement, nullptr) != SQLITE_OK)
+SqliteStatementHandle Prepared(sqlite3* db, const std::string& sql) {
+    SqliteStatementHandle statement = PrepareSqlite(db, sql);
+    if (!statement)
         Fail(db);
-    return Statement(statement, sqlite3_finalize);
+    return statement;
 }
 
 bool Step(sqlite3* db, sqlite3_stmt* statement) {
@@ -80,7 +77,7 @@ bool IsStrange(sqlite3_stmt* row, int column) {
 
 void ReadTable(sqlite3* db, const std::string& table, Digest& digest, SqliteContent& content) {
     digest.Add(table.data(), table.size());
-    const Statement rows = Prepared(db, "select * from \"" + table + "\" order by rowid");
+    const SqliteStatementHandle rows = Prepared(db, "select * from \"" + table + "\" order by rowid");
     std::set<std::string> strange;
     while (Step(db, rows.get()))
         for (int column = 0; column < sqlite3_column_count(rows.get()); ++column) {
@@ -97,8 +94,9 @@ void ReadTable(sqlite3* db, const std::string& table, Digest& digest, SqliteCont
 SqliteContent ReadContent(sqlite3* db) {
     SqliteContent content;
     Digest digest;
-    const Statement tables = Prepared(db, "select name from sqlite_master where type = 'table' and name not "
-                                          "like 'sqlite~_%' escape '~' order by name");
+    const SqliteStatementHandle tables =
+        Prepared(db, "select name from sqlite_master where type = 'table' and name not "
+                     "like 'sqlite~_%' escape '~' order by name");
     while (Step(db, tables.get())) {
         const std::string table = reinterpret_cast<const char*>(sqlite3_column_text(tables.get(), 0));
         if (table != kSeal)
@@ -109,10 +107,9 @@ SqliteContent ReadContent(sqlite3* db) {
 }
 
 void CopyPages(sqlite3* db, const std::string& path) {
-    sqlite3* copy = nullptr;
-    const std::unique_ptr<sqlite3*, void (*)(sqlite3**)> closed(&copy,
-                                                                [](sqlite3** at) { sqlite3_close(*at); });
-    if (sqlite3_open_v2(path.c_str(), &copy, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK)
+    const SqliteHandle owner = OpenSqlite(path, SQLITE_OPEN_READWRITE);
+    sqlite3* copy = owner.get();
+    if (sqlite3_errcode(copy) != SQLITE_OK)
         Fail(copy);
     sqlite3_backup* pages = sqlite3_backup_init(copy, "main", db, "main");
     if (!pages)

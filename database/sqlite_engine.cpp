@@ -49,14 +49,11 @@ int WaitForWriter(void* waiting, int tries) {
 
 class SqliteStatement : public EngineStatement {
   public:
-    SqliteStatement(sqlite3* db, const std::string& sql) : db_(db) {
-        if (sqlite3_prepare_v3(db, sql.c_str(), static_cast<int>(sql.size()) + 1, SQLITE_PREPARE_PERSISTENT,
-                               &statement_, nullptr) != SQLITE_OK)
+    SqliteStatement(sqlite3* db, const std::string& sql)
+        : db_(db), handle_(PrepareSqlite(db, sql, SQLITE_PREPARE_PERSISTENT)), statement_(handle_.get()) {
+        if (!handle_)
             Fail(db);
     }
-    ~SqliteStatement() override { sqlite3_finalize(statement_); }
-    SqliteStatement(const SqliteStatement&) = delete;
-    SqliteStatement& operator=(const SqliteStatement&) = delete;
 
     void Run(std::span<const Value> values) {
         const Reset reset{statement_};
@@ -140,8 +137,9 @@ class SqliteStatement : public EngineStatement {
     }
 
     sqlite3* db_;
-    sqlite3_stmt* statement_ = nullptr;
-    size_t cellsBefore_ = 0; // of the last result: the next one is mostly as large
+    SqliteStatementHandle handle_;
+    sqlite3_stmt* statement_; // its own
+    size_t cellsBefore_ = 0;  // of the last result: the next one is mostly as large
 };
 
 SqliteStatement& Own(EngineStatement& statement) {
@@ -174,25 +172,22 @@ constexpr const char* kSettings = "pragma synchronous = full;"
 SqliteEngine::SqliteEngine(const std::string& path, SqliteFile how) {
     if (how == SqliteFile::Create)
         CreatePrivateFile(path);
-    try {
-        if (how == SqliteFile::Read)
-            OpenToRead(path);
-        else
-            OpenFile(path, SQLITE_OPEN_READWRITE);
-        sqlite3_busy_handler(db_, WaitForWriter, &waiting);
-        ExecuteScript(kSettings);
-        if (how == SqliteFile::Read)
-            ExecuteScript("pragma query_only = on");
-        AddSqliteFunctions(db_);
-    } catch (const DatabaseError&) {
-        sqlite3_close(db_);
-        throw;
-    }
+    if (how == SqliteFile::Read)
+        OpenToRead(path);
+    else
+        OpenFile(path, SQLITE_OPEN_READWRITE);
+    sqlite3_busy_handler(db_.get(), WaitForWriter, &waiting);
+    ExecuteScript(kSettings);
+    if (how == SqliteFile::Read)
+        ExecuteScript("pragma query_only = on");
+    AddSqliteFunctions(db_.get());
 }
 
 void SqliteEngine::OpenFile(const std::string& path, int flags) {
-    if (sqlite3_open_v2(path.c_str(), &db_, flags | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK)
-        throw DatabaseError("不能打开数据库文件 " + path + "：" + sqlite3_errmsg(db_));
+    db_.reset(); // the other one's locks must not stand in the way
+    db_ = OpenSqlite(path, flags | SQLITE_OPEN_NOMUTEX);
+    if (sqlite3_errcode(db_.get()) != SQLITE_OK)
+        throw DatabaseError("不能打开数据库文件 " + path + "：" + sqlite3_errmsg(db_.get()));
 }
 
 // A log that others left needs a writable folder to be read. A file that nobody can write, without a log, is
@@ -205,15 +200,9 @@ void SqliteEngine::OpenToRead(const std::string& path) {
     std::error_code absent;
     const auto logged = std::filesystem::file_size(path + "-wal", absent);
     if ((!absent && logged > 0) ||
-        sqlite3_exec(db_, "select count(*) from sqlite_master", nullptr, nullptr, nullptr) == SQLITE_OK)
+        sqlite3_exec(db_.get(), "select count(*) from sqlite_master", nullptr, nullptr, nullptr) == SQLITE_OK)
         return;
-    sqlite3_close(db_);
     OpenFile(AsUri(path) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
-}
-
-SqliteEngine::~SqliteEngine() {
-    commands_.clear();
-    sqlite3_close(db_);
 }
 
 std::unique_ptr<StatementWriter> SqliteEngine::NewWriter() const {
@@ -222,7 +211,7 @@ std::unique_ptr<StatementWriter> SqliteEngine::NewWriter() const {
 
 std::unique_ptr<EngineStatement> SqliteEngine::Prepare(const std::string& sql,
                                                        const std::vector<ParameterType>&) {
-    return std::make_unique<SqliteStatement>(db_, sql);
+    return std::make_unique<SqliteStatement>(db_.get(), sql);
 }
 
 void SqliteEngine::Execute(EngineStatement& statement, std::span<const Value> values) {
@@ -235,7 +224,7 @@ Rows SqliteEngine::Query(EngineStatement& statement, std::span<const Value> valu
 
 std::vector<std::string> SqliteEngine::Plan(const std::string& sql, const std::vector<ParameterType>&,
                                             std::span<const Value> values) {
-    const Rows rows = SqliteStatement(db_, "explain query plan " + sql).Read(values);
+    const Rows rows = SqliteStatement(db_.get(), "explain query plan " + sql).Read(values);
     std::vector<std::string> steps;
     for (size_t row = 0; row < rows.Count(); ++row)
         steps.push_back(rows.At(row, 3).AsText());
@@ -244,7 +233,7 @@ std::vector<std::string> SqliteEngine::Plan(const std::string& sql, const std::v
 
 void SqliteEngine::Change(EngineStatement& statement, std::span<const Value> values, const RowAddress&) {
     Own(statement).Run(values);
-    if (sqlite3_changes(db_) == 0)
+    if (sqlite3_changes(db_.get()) == 0)
         throw ConflictError("该记录已被其他用户修改或删除。");
 }
 
@@ -291,7 +280,7 @@ void SqliteEngine::Commit() {
 
 // Some failures, such as a full disk, have rolled the transaction back already.
 void SqliteEngine::Rollback() noexcept {
-    if (sqlite3_get_autocommit(db_))
+    if (sqlite3_get_autocommit(db_.get()))
         return;
     try {
         Command("rollback");
@@ -303,7 +292,7 @@ void SqliteEngine::Rollback() noexcept {
 void SqliteEngine::Command(const std::string& sql) {
     std::unique_ptr<EngineStatement>& command = commands_[sql];
     if (!command)
-        command = std::make_unique<SqliteStatement>(db_, sql);
+        command = std::make_unique<SqliteStatement>(db_.get(), sql);
     Own(*command).Run({});
 }
 
@@ -321,24 +310,24 @@ void SqliteEngine::RollbackTo(int depth) {
 }
 
 void SqliteEngine::ExecuteScript(const std::string& sql) {
-    if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        Fail(db_);
+    if (sqlite3_exec(db_.get(), sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        Fail(db_.get());
 }
 
 Rows SqliteEngine::Ask(const std::string& sql) {
-    return SqliteStatement(db_, sql).Read({});
+    return SqliteStatement(db_.get(), sql).Read({});
 }
 
 void SqliteEngine::CopyTo(const std::string& file) {
     CreatePrivateFile(file);
-    CopyPages(db_, file);
+    CopyPages(db_.get(), file);
 }
 
 void SqliteEngine::Seal() {
     Unseal();
     ExecuteScript(std::string("create table ") + kSeal + " (content text) strict");
-    SqliteStatement(db_, std::string("insert into ") + kSeal + " values (?)")
-        .Run(std::vector<Value>{ReadContent(db_).digest});
+    SqliteStatement(db_.get(), std::string("insert into ") + kSeal + " values (?)")
+        .Run(std::vector<Value>{ReadContent(db_.get()).digest});
 }
 
 void SqliteEngine::Unseal() {
@@ -354,7 +343,7 @@ std::vector<std::string> SqliteEngine::Faults() {
                 faults.push_back(line);
         if (!faults.empty())
             return faults;
-        SqliteContent content = ReadContent(db_);
+        SqliteContent content = ReadContent(db_.get());
         faults = std::move(content.strangeTexts);
         const Rows sealed =
             Ask("select name from sqlite_master where name = '" + std::string(kSeal) + "' collate nocase");
@@ -385,9 +374,10 @@ void SqliteEngine::SetVersion(int version) {
 }
 
 std::map<std::string, std::set<std::string>> SqliteEngine::Catalogue() {
-    const Rows rows = SqliteStatement(db_, "select lower(m.name), lower(p.name) from sqlite_master m, "
-                                           "pragma_table_info(m.name) p where m.type in ('table', 'view')")
-                          .Read({});
+    const Rows rows =
+        SqliteStatement(db_.get(), "select lower(m.name), lower(p.name) from sqlite_master m, "
+                                   "pragma_table_info(m.name) p where m.type in ('table', 'view')")
+            .Read({});
     std::map<std::string, std::set<std::string>> tables;
     for (size_t row = 0; row < rows.Count(); ++row)
         tables[rows.At(row, 0).AsText()].insert(rows.At(row, 1).AsText());

@@ -7,6 +7,7 @@
 #include <unordered_map>
 
 #include "database/engine.h"
+#include "database/sqlite_handles.h"
 
 struct sqlite3;
 
@@ -20,7 +21,6 @@ class SqliteEngine : public Engine {
   public:
     // Throws DatabaseError.
     SqliteEngine(const std::string& path, SqliteFile how);
-    ~SqliteEngine() override;
 
     std::unique_ptr<StatementWriter> NewWriter() const override;
     std::unique_ptr<EngineStatement> Prepare(const std::string& sql,
@@ -71,7 +71,7 @@ class SqliteEngine : public Engine {
     Rows Ask(const std::string& sql);
     void Command(const std::string& sql); // of a transaction; each is prepared once
 
-    sqlite3* db_ = nullptr;
+    SqliteHandle db_; // behind it, what must go first
     std::unordered_map<std::string, std::unique_ptr<EngineStatement>> commands_;
 };
 

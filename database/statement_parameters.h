@@ -34,10 +34,10 @@ struct Parameter {
 };
 
 // Throws DatabaseError when a date is none.
-Value BindParameter(const Parameter& parameter, const std::vector<Literal>& literals);
+[[nodiscard]] Value BindParameter(const Parameter& parameter, const std::vector<Literal>& literals);
 
 // "yyyy-mm-dd" or "mm/dd/yyyy", a time "hh:mm:ss" behind it allowed, as the engines hold it: "yyyy-mm-dd",
 // with " hh:mm:ss" only when it is not midnight. "" when it is no date.
-std::string NormalDate(std::string_view text);
+[[nodiscard]] std::string NormalDate(std::string_view text);
 
 } // namespace jxc

@@ -7,9 +7,9 @@
 
 namespace jxc {
 
-bool IsStorable(std::string_view text);
+[[nodiscard]] bool IsStorable(std::string_view text);
 // The text with U+FFFD in the place of each byte that is none of a character: what a damaged file holds, to be shown.
-std::string Readable(std::string_view text);
+[[nodiscard]] std::string Readable(std::string_view text);
 // Throws DatabaseError with a text for people.
 void RequireStorable(std::string_view text);
 

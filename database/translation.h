@@ -4,10 +4,12 @@
 // function per difference.
 //
 // Three rewrites make the texts fast on indexes without changing their meaning (ranges.cpp):
-//   left(f,n)='stem'                         keeps its test and adds the range of texts that begin with the
-//   stem Year(f)=y And Month(f)=m                 becomes the range of the month Convert(varchar(10),f,120)
-//   <= 'd', f<=#d#  become ranges of whole dates
-// An update from a second table (update_from.cpp) always takes its values grouped by the changed row, so that
+//
+//     left(f,n)='stem'                            keeps its test and adds the range of texts that begin with the stem
+//     Year(f)=y And Month(f)=m                    becomes the range of the month
+//     Convert(varchar(10),f,120) <= 'd', f<=#d#   become ranges of whole dates
+//
+// An update from a second table always takes its values grouped by the changed row, so that
 // several matches give one value, the largest.
 #pragma once
 

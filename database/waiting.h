@@ -18,7 +18,7 @@ class Waiting {
     void SetObserver(std::function<bool(int seconds)> observer) { observer_ = std::move(observer); }
 
     // Waits of an instant are nobody's concern.
-    bool GoOn(std::chrono::milliseconds waited) {
+    [[nodiscard]] bool GoOn(std::chrono::milliseconds waited) {
         if (!observer_ || waited < std::chrono::milliseconds(300))
             return true;
         told_ = true;

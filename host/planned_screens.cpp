@@ -1,7 +1,7 @@
 // Screens that this version does not have yet. A host's call of one is answered by a box that says so, and menus do
 // not offer it. Whoever makes one moves its entry to the screen's own folder.
 
-#include "host/screens.h"
+#include "host/planned_screens.h"
 #include "session/screen_entries.h"
 #include "session/session.h"
 

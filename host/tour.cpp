@@ -4,14 +4,15 @@
 #include <iostream>
 #include <unistd.h>
 
+#include "database/server_database.h"
 #include "host/check.h"
 #include "host/company/create_company.h"
 #include "host/company/default_settings.h"
 #include "host/company/prepare_database.h"
 #include "host/company/sample_company.h"
 #include "host/company_address.h"
+#include "host/embedding.h"
 #include "host/exit_status.h"
-#include "host/screens.h"
 #include "robot/scenario.h"
 #include "session/company/open_connection.h"
 #include "session/session.h"
@@ -153,7 +154,8 @@ int PlayTour(const std::string& company) {
     RegisterAllScreens();
     if (!company.empty()) {
         const bool onServer = DialectOf(company) != 0;
-        if (onServer ? HoldsCompany(company) : std::filesystem::exists(company)) {
+        if (onServer ? FindServerDatabase(company).state == ServerDatabase::State::HoldsCompany
+                     : std::filesystem::exists(company)) {
             RequireSample(company);
         } else {
             if (onServer)

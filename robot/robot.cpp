@@ -13,6 +13,8 @@ using nlohmann::json;
 
 namespace {
 
+constexpr const char* kAnswer = "answer"; // the one operation while a box waits
+
 json BoxAsJson(const MessageBox& box) {
     json buttons = json::array();
     for (const BoxButton button : box.buttons)
@@ -92,7 +94,7 @@ void Robot::Answer(const Serve& serve) {
     try {
         serve();
     } catch (const std::exception& error) {
-        pending_ = json{{"ok", false}, {"error", error.what()}};
+        pending_ = json{{"ok", false}, {"error", TextForPeople("robot", error)}};
     }
 }
 
@@ -102,24 +104,45 @@ void Robot::Run() {
         Answer([&] { ServeHost(*request); });
 }
 
+const std::map<std::string, Robot::HostOperation>& Robot::HostOperations() {
+    static const std::map<std::string, HostOperation> operations{
+        {"property", &Robot::SetProperty}, {"refresh", &Robot::Refresh}, {"open", &Robot::OpenScreen}};
+    return operations;
+}
+
+std::vector<std::string> Robot::Operations() {
+    std::vector<std::string> operations = ScreenOperations();
+    for (const auto& [operation, serve] : HostOperations())
+        operations.push_back(operation);
+    operations.emplace_back(kAnswer);
+    return operations;
+}
+
 void Robot::ServeHost(const json& request) {
     const std::string operation = TextOf(request, "op");
-    if (operation == "property") {
-        control_.SetProperty(TextOf(request, "name"), ValueOf(request, "value"));
-    } else if (operation == "refresh") {
-        ScreenProperties properties;
-        if (request.contains("properties"))
-            for (const auto& [name, value] : request.at("properties").items())
-                properties[name] = ValueOf(request.at("properties"), name);
-        const std::int64_t action = NumberOf(request, "action");
-        if (action < INT16_MIN || action > INT16_MAX)
-            throw RequestError("action 须为 16 位整数。");
-        control_.Refresh(static_cast<std::int16_t>(action), properties);
-    } else if (operation == "open") {
-        OpenByName(TextOf(request, "screen"));
-    } else {
+    const auto serve = HostOperations().find(operation);
+    if (serve == HostOperations().end())
         throw RequestError("没有打开的窗口，不能执行 " + operation + "。");
-    }
+    (this->*serve->second)(request);
+}
+
+void Robot::SetProperty(const json& request) {
+    control_.SetProperty(TextOf(request, "name"), ValueOf(request, "value"));
+}
+
+void Robot::Refresh(const json& request) {
+    ScreenProperties properties;
+    if (request.contains("properties"))
+        for (const auto& [name, value] : request.at("properties").items())
+            properties[name] = ValueOf(request.at("properties"), name);
+    const std::int64_t action = NumberOf(request, "action");
+    if (action < INT16_MIN || action > INT16_MAX)
+        throw RequestError("action 须为 16 位整数。");
+    control_.Refresh(static_cast<std::int16_t>(action), properties);
+}
+
+void Robot::OpenScreen(const json& request) {
+    OpenByName(TextOf(request, "screen"));
 }
 
 void Robot::RunModal(Screen& screen) {
@@ -142,7 +165,7 @@ BoxButton Robot::ShowBox(const MessageBox& box) {
         BoxButton chosen{};
         bool answered = false;
         Answer([&] {
-            if (TextOf(*request, "op") != "answer")
+            if (TextOf(*request, "op") != kAnswer)
                 throw RequestError("请先回答提示框：" + box.text);
             chosen = ButtonOf(*request, box);
             answered = true;

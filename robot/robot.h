@@ -12,6 +12,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -50,6 +51,8 @@ class Robot : public View {
     Robot(lzJxc& control, RequestSource& source) : control_(control), source_(source) {}
     // Serves requests until they end.
     void Run();
+    // Every operation that a request may ask for.
+    static std::vector<std::string> Operations();
 
     void RunModal(Screen& screen) override;
     BoxButton ShowBox(const MessageBox& box) override;
@@ -68,7 +71,12 @@ class Robot : public View {
     // Runs `serve`; what does not fit becomes the error reply.
     template <typename Serve>
     void Answer(const Serve& serve);
+    using HostOperation = void (Robot::*)(const nlohmann::json& request);
+    static const std::map<std::string, HostOperation>& HostOperations();
     void ServeHost(const nlohmann::json& request);
+    void SetProperty(const nlohmann::json& request);
+    void Refresh(const nlohmann::json& request);
+    void OpenScreen(const nlohmann::json& request);
 
     lzJxc& control_;
     RequestSource& source_;

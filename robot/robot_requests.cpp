@@ -192,12 +192,22 @@ const std::map<std::string, Gesture>& Gestures() {
     return gestures;
 }
 
+using Question = json (*)(const Screen&, const json&);
+
+const std::map<std::string, Question>& Questions() {
+    static const std::map<std::string, Question> questions{
+        {"controls", [](const Screen& screen, const json&) { return ListControls(screen); }},
+        {"get", [](const Screen& screen, const json& r) { return GetControl(ControlOf(screen, r)); }},
+    };
+    return questions;
+}
+
 } // namespace
 
 std::string TextOf(const json& request, const std::string& part) {
     if (!request.contains(part) || !request.at(part).is_string())
         throw RequestError("请求缺少文本 " + part + "。");
-    const std::string text = request.at(part).get<std::string>();
+    std::string text = request.at(part).get<std::string>();
     if (text.find('\0') != std::string::npos)
         throw RequestError(part + " 含有无效字符。");
     return text;
@@ -234,15 +244,22 @@ bool EqualsButton(const std::string& name, BoxButton button) {
 
 json ServeScreen(Screen& screen, const json& request) {
     const std::string operation = TextOf(request, "op");
-    if (operation == "controls")
-        return ListControls(screen);
-    if (operation == "get")
-        return GetControl(ControlOf(screen, request));
+    if (const auto question = Questions().find(operation); question != Questions().end())
+        return question->second(screen, request);
     const auto gesture = Gestures().find(operation);
     if (gesture == Gestures().end())
         throw RequestError("窗口打开时不能执行 " + operation + "。");
     gesture->second(screen, request);
     return nullptr;
+}
+
+std::vector<std::string> ScreenOperations() {
+    std::vector<std::string> operations;
+    for (const auto& [operation, question] : Questions())
+        operations.push_back(operation);
+    for (const auto& [operation, gesture] : Gestures())
+        operations.push_back(operation);
+    return operations;
 }
 
 } // namespace jxc

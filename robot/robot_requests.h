@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
@@ -25,5 +26,7 @@ bool EqualsButton(const std::string& name, BoxButton button);
 
 // Performs the request on the screen; the reply's value, null for none.
 nlohmann::json ServeScreen(Screen& screen, const nlohmann::json& request);
+// The operations that it knows.
+std::vector<std::string> ScreenOperations();
 
 } // namespace jxc

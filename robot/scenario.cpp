@@ -1,7 +1,7 @@
 #include "robot/scenario.h"
 
+#include <charconv>
 #include <cmath>
-#include <functional>
 #include <set>
 #include <sstream>
 
@@ -97,104 +97,123 @@ std::string WithLineEnds(std::string text) {
     return text;
 }
 
-// Whether the verb looks at a control, whose state comes with a reply.
-bool Asks(const std::string& verb) {
-    static const std::set<std::string> verbs{"value", "caption", "enabled", "visible",
-                                             "grid",  "table",   "keep"};
-    return verbs.contains(verb);
+using Words = std::vector<std::string>;
+
+// A line that cannot be played as it is written.
+class ScenarioError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+const std::string& WordAt(const Words& words, size_t at) {
+    if (at >= words.size())
+        throw ScenarioError("缺少第 " + std::to_string(at + 1) + " 个词");
+    return words[at];
 }
 
-json ScreenProperties(const std::vector<std::string>& words) {
+std::string WordOrNone(const Words& words, size_t at) {
+    return at < words.size() ? words[at] : "";
+}
+
+int WholeNumberOf(const std::string& word) {
+    int number = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    if (error != std::errc() || end != word.data() + word.size())
+        throw ScenarioError(word + " 不是整数");
+    return number;
+}
+
+int NumberAt(const Words& words, size_t at) {
+    return WholeNumberOf(WordAt(words, at));
+}
+
+json ScreenProperties(const Words& words) {
     json properties = json::object();
     for (size_t i = 2; i < words.size(); ++i) {
         const size_t equals = words[i].find('=');
-        properties[words[i].substr(0, equals)] = std::stoi(words[i].substr(equals + 1));
+        if (equals == std::string::npos)
+            throw ScenarioError(words[i] + " 不是 属性=值");
+        properties[words[i].substr(0, equals)] = WholeNumberOf(words[i].substr(equals + 1));
     }
     return properties;
 }
 
-json ListChoice(const std::string& choice) {
-    if (choice[0] == '#')
-        return {{"index", std::stoi(choice.substr(1))}};
-    return {{"text", choice}};
+json ListChoice(const Words& words) {
+    const std::string& choice = WordAt(words, 2);
+    if (choice.starts_with('#'))
+        return {{"control", words[1]}, {"index", WholeNumberOf(choice.substr(1))}};
+    return {{"control", words[1]}, {"text", choice}};
 }
 
-// The request of a gesture; nothing for other verbs.
-std::optional<json> GestureOf(const std::vector<std::string>& words) {
-    const auto word = [&](size_t at) { return words.at(at); };
-    const auto optional = [&](size_t at) { return at < words.size() ? words[at] : std::string(); };
-    const auto number = [&](size_t at) { return std::stoi(words.at(at)); };
-    using Parts = std::function<json()>;
-    const std::map<std::string, Parts> gestures{
+json OnControl(const Words& words) {
+    return {{"control", WordAt(words, 1)}};
+}
+
+json OnRow(const Words& words) {
+    return {{"control", WordAt(words, 1)}, {"row", NumberAt(words, 2)}};
+}
+
+json PastedBlock(const Words& words) {
+    std::string cells = WordAt(words, 2); // "|" ends a cell, "\n" a row
+    std::replace(cells.begin(), cells.end(), '|', '\t');
+    return {{"control", words[1]}, {"value", WithLineEnds(cells)}};
+}
+
+using Gesture = json (*)(const Words&);
+
+// What each gesture asks of the robot, but for the operation, which has the gesture's name.
+const std::map<std::string, Gesture>& Gestures() {
+    static const std::map<std::string, Gesture> gestures{
         {"property",
-         [&] {
-             return json{{"name", word(1)}, {"value", optional(2)}};
+         [](const Words& w) {
+             return json{{"name", WordAt(w, 1)}, {"value", WordOrNone(w, 2)}};
          }},
         {"refresh",
-         [&] {
-             return json{{"action", number(1)}, {"properties", ScreenProperties(words)}};
+         [](const Words& w) {
+             return json{{"action", NumberAt(w, 1)}, {"properties", ScreenProperties(w)}};
          }},
         {"open",
-         [&] {
-             return json{{"screen", word(1)}};
+         [](const Words& w) {
+             return json{{"screen", WordAt(w, 1)}};
          }},
         {"set",
-         [&] {
-             return json{{"control", word(1)}, {"value", TypedValue(optional(2))}};
+         [](const Words& w) {
+             return json{{"control", WordAt(w, 1)}, {"value", TypedValue(WordOrNone(w, 2))}};
          }},
-        {"choose",
-         [&] {
-             json request = ListChoice(word(2));
-             request["control"] = word(1);
-             return request;
-         }},
-        {"paste",
-         [&] {
-             std::string cells = word(2); // "|" ends a cell, "\n" a row
-             std::replace(cells.begin(), cells.end(), '|', '\t');
-             return json{{"control", word(1)}, {"value", WithLineEnds(cells)}};
-         }},
+        {"choose", ListChoice},
+        {"paste", PastedBlock},
         {"type",
-         [&] {
-             return json{
-                 {"control", word(1)}, {"row", number(2)}, {"col", number(3)}, {"value", optional(4)}};
+         [](const Words& w) {
+             return json{{"control", WordAt(w, 1)},
+                         {"row", NumberAt(w, 2)},
+                         {"col", NumberAt(w, 3)},
+                         {"value", WordOrNone(w, 4)}};
          }},
         {"key",
-         [&] {
-             return json{{"control", word(1)}, {"key", word(2)}};
+         [](const Words& w) {
+             return json{{"control", WordAt(w, 1)}, {"key", WordAt(w, 2)}};
          }},
-        {"select",
-         [&] {
-             return json{{"control", word(1)}, {"row", number(2)}};
-         }},
-        {"dblclick",
-         [&] {
-             return json{{"control", word(1)}, {"row", number(2)}};
-         }},
+        {"select", OnRow},
+        {"dblclick", OnRow},
         {"heading",
-         [&] {
-             return json{{"control", word(1)}, {"col", number(2)}};
+         [](const Words& w) {
+             return json{{"control", WordAt(w, 1)}, {"col", NumberAt(w, 2)}};
          }},
         {"tab",
-         [&] {
-             return json{{"control", word(1)}, {"index", number(2)}};
+         [](const Words& w) {
+             return json{{"control", WordAt(w, 1)}, {"index", NumberAt(w, 2)}};
          }},
-        {"click",
-         [&] {
-             return json{{"control", word(1)}};
-         }},
-        {"menu",
-         [&] {
-             return json{{"control", word(1)}};
-         }},
-        {"close", [] { return json::object(); }},
+        {"click", OnControl},
+        {"menu", OnControl},
+        {"close", [](const Words&) { return json::object(); }},
     };
-    const auto gesture = gestures.find(words.at(0));
-    if (gesture == gestures.end())
-        return std::nullopt;
-    json request = gesture->second();
-    request["op"] = words[0];
-    return request;
+    return gestures;
+}
+
+// What is said of the box that waits, or of the database beside it.
+bool StandsBesideBox(const std::string& verb) {
+    static const std::set<std::string> verbs{"box", "signal", "refused", "do", "rows", "let"};
+    return verbs.contains(verb);
 }
 
 int DisplayWidth(const std::string& text) {
@@ -243,7 +262,9 @@ std::optional<json> Scenario::Next() {
         try {
             if (auto request = Perform(current_))
                 return request;
-        } catch (const std::exception& error) {
+        } catch (const ScenarioError& error) {
+            Fail(error.what());
+        } catch (const DatabaseError& error) {
             Fail(error.what());
         }
     }
@@ -254,94 +275,113 @@ std::optional<json> Scenario::Next() {
     return std::nullopt;
 }
 
+const std::map<std::string, Scenario::Step>& Scenario::Steps() {
+    static const std::map<std::string, Step> steps{
+        {"refused", &Scenario::ExpectRefusal}, {"signal", &Scenario::ExpectSignal},
+        {"box", &Scenario::AnswerBox},         {"value", &Scenario::AskControl},
+        {"caption", &Scenario::AskControl},    {"enabled", &Scenario::AskControl},
+        {"visible", &Scenario::AskControl},    {"grid", &Scenario::AskControl},
+        {"table", &Scenario::AskControl},      {"keep", &Scenario::AskControl},
+        {"screen", &Scenario::ExpectScreen},   {"host", &Scenario::ExpectScreen},
+        {"rows", &Scenario::ExpectRows},       {"let", &Scenario::KeepFigure},
+        {"do", &Scenario::RunStatement},       {"say", &Scenario::Tell},
+    };
+    return steps;
+}
+
+std::vector<std::string> Scenario::Verbs() {
+    std::vector<std::string> verbs;
+    for (const auto& [verb, gesture] : Gestures())
+        verbs.push_back(verb);
+    for (const auto& [verb, step] : Steps())
+        verbs.push_back(verb);
+    return verbs;
+}
+
 std::optional<json> Scenario::Perform(const Line& line) {
     const Words words = WordsOf(line.text);
-    const std::string& verb = words.at(0);
-    if (verb == "refused") {
-        ExpectRefusal(RestAfter(line.text, 1));
-        return std::nullopt;
-    }
-    if (!error_.empty())
+    const std::string& verb = WordAt(words, 0);
+    if (!error_.empty() && verb != "refused")
         Fail("此前的操作被拒绝：" + std::exchange(error_, ""));
-    if (verb == "signal")
-        return ExpectSignal(RestAfter(line.text, 1)), std::nullopt;
-    if (verb == "box")
-        return AnswerBox(RestAfter(line.text, 1));
-    const bool beside =
-        verb == "do" || verb == "rows" || verb == "let"; // the database is there while a box waits
-    if (box_ && !beside)
+    if (box_ && !StandsBesideBox(verb))
         Fail("未料到提示框：" + box_->dump());
-    if (Asks(verb))
-        return AskControl(words);
-    if (const auto gesture = GestureOf(words))
-        return gesture;
-    Expect(verb, line, words);
+    if (const auto gesture = Gestures().find(verb); gesture != Gestures().end()) {
+        json request = gesture->second(words);
+        request["op"] = verb;
+        return request;
+    }
+    const auto step = Steps().find(verb);
+    if (step == Steps().end())
+        throw ScenarioError("不认识的步骤");
+    return (this->*step->second)(words, RestAfter(line.text, 1));
+}
+
+std::optional<json> Scenario::Tell(const Words&, const std::string& rest) {
+    tell_(rest);
     return std::nullopt;
 }
 
-void Scenario::Expect(const std::string& verb, const Line& line, const Words& words) {
-    if (verb == "say")
-        tell_(RestAfter(line.text, 1));
-    else if (verb == "screen" || verb == "host")
-        ExpectScreen(verb == "host" ? "" : words.at(1));
-    else if (verb == "rows")
-        ExpectRows(RestAfter(line.text, 1));
-    else if (verb == "do")
-        execute_(RestAfter(line.text, 1));
-    else if (verb == "let")
-        Keep(words.at(1), RestAfter(line.text, 2));
-    else
-        Fail("不认识的步骤");
+std::optional<json> Scenario::RunStatement(const Words&, const std::string& rest) {
+    execute_(rest);
+    return std::nullopt;
 }
 
-void Scenario::Keep(const std::string& figure, const std::string& sql) {
+std::optional<json> Scenario::KeepFigure(const Words& words, const std::string& rest) {
+    const std::string sql = RestAfter(rest, 1);
     const Rows found = query_(sql);
     if (found.Count() == 0)
-        return Fail("没有记录：" + sql);
-    kept_[figure] = found.At(0, 0).AsText();
+        throw ScenarioError("没有记录：" + sql);
+    kept_[WordAt(words, 1)] = found.At(0, 0).AsText();
+    return std::nullopt;
 }
 
-std::optional<json> Scenario::AskControl(const Words& words) {
+std::optional<json> Scenario::AskControl(const Words& words, const std::string&) {
+    const std::string& control = WordAt(words, words[0] == "keep" ? 2 : 1);
+    if (words[0] == "grid")
+        for (const std::string& column : Split(WordAt(words, 2), ','))
+            WholeNumberOf(column);
     asked_ = words;
     const bool state = words[0] == "caption" || words[0] == "enabled" || words[0] == "visible";
     if (state)
         return json{{"op", "controls"}};
-    return json{{"op", "get"}, {"control", words.at(words[0] == "keep" ? 2 : 1)}};
+    return json{{"op", "get"}, {"control", control}};
 }
 
-std::optional<json> Scenario::AnswerBox(const std::string& rest) {
+std::optional<json> Scenario::AnswerBox(const Words&, const std::string& rest) {
     const Words parts = CellsOf(rest);
-    if (!box_) {
-        Fail("没有出现提示框");
-        return std::nullopt;
-    }
+    if (!box_)
+        throw ScenarioError("没有出现提示框");
     const std::string title = (*box_)["title"].get<std::string>();
     const std::string text = (*box_)["text"].get<std::string>();
-    if (title != parts.at(0))
+    if (title != WordAt(parts, 0))
         Fail("提示框标题是 " + title);
-    if (text != WithLineEnds(parts.at(1)))
+    if (text != WithLineEnds(WordAt(parts, 1)))
         Fail("提示框文本是 " + text);
     box_.reset();
     return json{{"op", "answer"}, {"button", parts.size() > 2 ? parts[2] : "OK"}};
 }
 
-void Scenario::ExpectScreen(const std::string& wanted) {
+std::optional<json> Scenario::ExpectScreen(const Words& words, const std::string&) {
+    const std::string wanted = words[0] == "host" ? "" : WordAt(words, 1);
     const std::string at = waiting_ == "host" ? "" : screen_;
     if (at != wanted)
         Fail("当前在 " + (at.empty() ? "host" : at));
+    return std::nullopt;
 }
 
-void Scenario::ExpectSignal(const std::string& text) {
+std::optional<json> Scenario::ExpectSignal(const Words&, const std::string& text) {
     if (signal_ != text)
         Fail("提示行是 " + signal_);
+    return std::nullopt;
 }
 
-void Scenario::ExpectRefusal(const std::string& text) {
+std::optional<json> Scenario::ExpectRefusal(const Words&, const std::string& text) {
     if (error_.empty())
         Fail("操作没有被拒绝");
     else if (error_.find(text) == std::string::npos)
         Fail("拒绝的原因是 " + error_);
     error_.clear();
+    return std::nullopt;
 }
 
 void Scenario::Reply(const json& reply) {
@@ -409,21 +449,24 @@ void Scenario::CompareRows(const std::vector<Words>& expected, const std::vector
     Fail(text);
 }
 
-void Scenario::ExpectRows(const std::string& sql) {
+std::optional<json> Scenario::ExpectRows(const Words&, const std::string& sql) {
     const Rows rows = query_(sql);
     std::vector<Words> found(rows.Count());
     for (size_t row = 0; row < rows.Count(); ++row)
         for (size_t column = 0; column < rows.names.size(); ++column)
             found[row].push_back(rows.At(row, column).AsText());
     CompareRows(ExpectedRows(), found);
+    return std::nullopt;
 }
 
 void Scenario::CheckGrid(const json& grid) {
     std::vector<Words> found;
     for (const json& row : grid["rows"]) {
         Words cells;
-        for (const std::string& column : Split(asked_.at(2), ','))
-            cells.push_back(row.at(static_cast<size_t>(std::stoi(column) - 1)).get<std::string>());
+        for (const std::string& column : Split(asked_[2], ',')) {
+            const auto at = static_cast<size_t>(WholeNumberOf(column)) - 1;
+            cells.push_back(at < row.size() ? row[at].get<std::string>() : "（没有第 " + column + " 列）");
+        }
         found.push_back(std::move(cells));
     }
     CompareRows(ExpectedRows(), found);

@@ -1,16 +1,17 @@
 // Scenarios: a day's work as text, in the vocabulary of the screens. Each line is one gesture or one
 // expectation; the gestures go through the robot's requests, so a scenario meets what any script meets.
 //
-//     property UserName 王芳              sets a property of lzJxc
+//     property UserName 王芳             sets a property of lzJxc
 //     refresh 13 invType=1               opens a screen, with properties
 //     open frmHostCards                  opens an editor of the host
 //     set txtKhSeek G001                 types; also dates (2026-11-05 or null) and ticks (true, false)
 //     choose cboCkName 总部仓            picks a list item; #2 picks the third
 //     type Grid2 1 6 10                  goes to row 1, column 6 and types
-//     paste Grid2 "A1|3|5\nB2|4|6"        a block of cells, "|" between them
+//     paste Grid2 "A1|3|5\nB2|4|6"       a block of cells, "|" between them
 //     click cmdSave | menu mnuX | key txtKhSeek Enter | select Grid1 2 | heading Grid1 5 | tab SSTab1 1 |
 //         dblclick Grid1 1 | close       the other gestures
-//     box 入库单：新增 | 该[单号]已有存在! | OK   expects this title and text, answers; \n is a line end
+//     box 入库单：新增 | 该[单号]已有存在! | OK
+//                                        expects this title and text, answers; \n is a line end
 //     signal 没有找到...                 expects the line that the gesture before raised, without a box
 //     refused 不可用                     expects that the gesture before was refused with a text that holds this
 //     value txtSum 1200.00               expects the value of a control
@@ -20,10 +21,11 @@
 //     rows select a,b from t             expects the rows of a statement, as the lines below; numbers to 1e-9
 //     say text | table Grid1             tells the reader what happens, shows a grid
 //     do update t set ...                runs a statement beside the screens, as another program would
-//     let name select ... | keep name txtNo   keeps a figure of the database or a control's value; ${name} stands
-//                                        for it
+//     let name select ... | keep name txtNo
+//                                        keeps a figure of the database or a control's value; ${name} stands for it
 //
-// Verbs of one's own stand for several lines: see robot/scenario_verbs.h. "#" starts a comment line. Double quotes hold a word with blanks together.
+// Verbs of one's own stand for several lines: see robot/scenario_verbs.h. "#" starts a comment line. Double quotes hold a
+// word with blanks together. docs/scenario-language.md tells all of it.
 #pragma once
 
 #include <deque>
@@ -49,6 +51,9 @@ class Scenario : public RequestSource {
     Scenario(const std::string& name, const std::string& text, Query query, Execute execute, Teller tell,
              const ScenarioVerbs& verbs = {});
 
+    // The verbs of the language itself, beside those that are defined as lines of others.
+    static std::vector<std::string> Verbs();
+
     // What did not come as expected, a line each, as "name:line: ...".
     const std::vector<std::string>& Failures() const { return failures_; }
 
@@ -62,16 +67,21 @@ class Scenario : public RequestSource {
     };
     using Words = std::vector<std::string>;
 
-    // The request that a line stands for; nothing for an expectation, which is checked at once.
+    // A verb that is no gesture: its request, if it has one, or nothing for what is done at once.
+    using Step = std::optional<nlohmann::json> (Scenario::*)(const Words& words, const std::string& rest);
+    static const std::map<std::string, Step>& Steps();
+
+    // The request that a line stands for; nothing for what is done at once.
     std::optional<nlohmann::json> Perform(const Line& line);
-    void Expect(const std::string& verb, const Line& line, const Words& words);
-    std::optional<nlohmann::json> AskControl(const Words& words);
-    std::optional<nlohmann::json> AnswerBox(const std::string& rest);
-    void Keep(const std::string& figure, const std::string& sql);
-    void ExpectScreen(const std::string& wanted);
-    void ExpectRows(const std::string& sql);
-    void ExpectRefusal(const std::string& text);
-    void ExpectSignal(const std::string& text);
+    std::optional<nlohmann::json> AskControl(const Words& words, const std::string& rest);
+    std::optional<nlohmann::json> AnswerBox(const Words& words, const std::string& rest);
+    std::optional<nlohmann::json> KeepFigure(const Words& words, const std::string& rest);
+    std::optional<nlohmann::json> RunStatement(const Words& words, const std::string& rest);
+    std::optional<nlohmann::json> Tell(const Words& words, const std::string& rest);
+    std::optional<nlohmann::json> ExpectScreen(const Words& words, const std::string& rest);
+    std::optional<nlohmann::json> ExpectRows(const Words& words, const std::string& rest);
+    std::optional<nlohmann::json> ExpectRefusal(const Words& words, const std::string& rest);
+    std::optional<nlohmann::json> ExpectSignal(const Words& words, const std::string& rest);
     void CheckAsked(const nlohmann::json& reply);
     void CheckGrid(const nlohmann::json& grid);
     void ShowTable(const nlohmann::json& grid);

@@ -11,7 +11,7 @@ namespace {
 
 std::string TakeWord(std::string& rest) {
     const size_t end = std::min(rest.find(' '), rest.size());
-    const std::string word = rest.substr(0, end);
+    std::string word = rest.substr(0, end);
     rest = Trim(rest.substr(end));
     return word;
 }

@@ -1,14 +1,20 @@
+# shellcheck shell=bash
 # Shared by ./run and ./test: packages, configuring, building, and the throw-away PostgreSQL of the tests.
 # Sourced, not run. Expects `set -euo pipefail`; works from any current directory.
 
 root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
-# The CMake preset: release, or ci where warnings are errors, both in build/release; no-view without the windows;
-# sanitize for the core under the address and undefined behaviour sanitizers.
-preset="${JXC_PRESET:-release}"
-build="$root/build/release"
-case "$preset" in
-no-view | sanitize) build="$root/build/$preset" ;;
-esac
+
+# use_preset NAME: what is configured and built from here on. release, or ci where warnings are errors, both in
+# build/release; no-view without the windows; sanitize for the core under the address and undefined behaviour sanitizers;
+# tidy for scripts/tidy.sh.
+use_preset() {
+    preset="$1"
+    case "$preset" in
+    release | ci) build="$root/build/release" ;;
+    *) build="$root/build/$preset" ;;
+    esac
+}
+use_preset "${JXC_PRESET:-release}"
 
 packages=(g++ cmake ninja-build ccache pkg-config
     libsqlite3-dev libpq-dev libmuparser-dev nlohmann-json3-dev libcli11-dev
@@ -46,12 +52,12 @@ install_packages() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
-# build_targets [TARGET...]: configures and builds; without targets, everything.
-build_targets() {
+# Configures the build of the preset.
+configure() {
     local warnings=(-DJXC_WERROR=OFF)
     case "$preset" in
     ci) warnings=() ;; # the preset turns them on
-    no-view) warnings+=(-DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON) ;; # as on a machine without it
+    no-view) warnings=(-DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON) ;; # them too; and as on a machine without it
     esac
     say "configuring (preset $preset)"
     mkdir -p "$root/build"
@@ -59,6 +65,11 @@ build_targets() {
         cat "$root/build/configure.log" >&2
         fail "configuring failed"
     }
+}
+
+# build_targets [TARGET...]: configures and builds; without targets, everything.
+build_targets() {
+    configure
     say "building ${*:-everything} in ${build#"$root"/}"
     cmake --build "$build" ${1:+--target "$@"}
 }

@@ -10,31 +10,31 @@
 namespace jxc {
 
 // A text as a statement holds it: in single quotes, its own quotes doubled.
-std::string InQuotes(std::string_view text);
+[[nodiscard]] std::string InQuotes(std::string_view text);
 
 // A day as a literal compared with DayColumn. Most statements of the file engine name it mm/dd/yyyy, a few yyyy-mm-dd.
 //     #07/31/2003#, #2003-07-31#      | '2003-07-31'
 enum class DayForm { Slash, Iso };
-std::string DayLiteral(Date day, DayForm form = DayForm::Slash);
+[[nodiscard]] std::string DayLiteral(Date day, DayForm form = DayForm::Slash);
 
 // A date column whose day is compared.
 //     a.fInvDate                      | Convert(varchar(10),a.fInvDate,120)
-std::string DayColumn(const std::string& column);
+[[nodiscard]] std::string DayColumn(const std::string& column);
 
 // The comparison of both; `comparison` is the sign between them with its blanks.
 //     fDate=#07/31/2003#              | Convert(varchar(10),fDate,120)='2003-07-31'
-std::string DayTest(const std::string& column, const std::string& comparison, Date day,
-                    DayForm form = DayForm::Slash);
+[[nodiscard]] std::string DayTest(const std::string& column, const std::string& comparison, Date day,
+                                  DayForm form = DayForm::Slash);
 
 //     LCase(ftable)                   | Lower(ftable)
-std::string LowerCaseOf(const std::string& column);
+[[nodiscard]] std::string LowerCaseOf(const std::string& column);
 
 // From the 1-based character `start` on, `count` characters.
 //     mid(fInvNo,12,3)                | SUBSTRING(fInvNo,12,3)
-std::string PartOf(const std::string& column, int start, int count);
+[[nodiscard]] std::string PartOf(const std::string& column, int start, int count);
 
 //     IsNumeric(x)                    | IsNumeric(x)=1
-std::string NumericTest(const std::string& expression);
+[[nodiscard]] std::string NumericTest(const std::string& expression);
 
 // Takes a value from a second table: `table` is a in it, `second` is b; `join` ties their rows, `condition` is tested
 // besides, "" for none.
@@ -43,6 +43,6 @@ std::string NumericTest(const std::string& expression);
 struct UpdateFromSecond {
     std::string table, field, second, value, join, condition;
 };
-std::string UpdateText(const UpdateFromSecond& update);
+[[nodiscard]] std::string UpdateText(const UpdateFromSecond& update);
 
 } // namespace jxc

@@ -7,7 +7,7 @@
 namespace jxc {
 
 // The text of message `id` in the session's language. An id that is not in the table is a std::out_of_range.
-std::string GetResStr(int id);
+[[nodiscard]] std::string GetResStr(int id);
 
 // Ids that routines use by name.
 constexpr int kMsgPasteTooLong = 44;

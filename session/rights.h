@@ -15,12 +15,12 @@ struct Module {
 
 // The module by its name or caption. Opens the connection if it is closed: a right may be asked for at any
 // time.
-Module GetModule(const std::string& moduleName);
+[[nodiscard]] Module GetModule(const std::string& moduleName);
 
 // Not 0 when the user has the right `offset` digits behind the module's own. Without a user name, or for a
 // module that is not in use, the answer is 0 without a message; a digit "0" shows message 39.
-int ModuleRight(const std::string& moduleName, int offset);
+[[nodiscard]] int ModuleRight(const std::string& moduleName, int offset);
 // The same without a message: for what is shown or disabled when a screen opens.
-bool HasModuleRight(const std::string& moduleName, int offset);
+[[nodiscard]] bool HasModuleRight(const std::string& moduleName, int offset);
 
 } // namespace jxc

@@ -45,7 +45,7 @@ void AddScreen(ScreenEntry entry);
 const std::vector<ScreenEntry>& ScreenEntries(); // in the order in which they were added
 
 // Whether the signed-in user may open the screen from a menu; asks nobody and says nothing.
-bool MayOpen(const ScreenEntry& entry);
+[[nodiscard]] bool MayOpen(const ScreenEntry& entry);
 
 // Opens the company of the session's properties, shows the screen until it is closed, and closes the company. A user
 // without its right is told so, wherever he comes from. A company that cannot be opened is told in a message box; a

@@ -9,7 +9,7 @@ namespace jxc {
 
 namespace {
 
-constexpr std::nullopt_t none = std::nullopt;
+constexpr std::nullopt_t none = std::nullopt; // NOLINT(readability-identifier-naming): a cell of the table
 
 // clang-format off
 constexpr std::array<DocumentTypeRow, 22> kTypes{{

@@ -14,7 +14,7 @@ namespace jxc {
 
 class Paper {
   public:
-    explicit Paper(QPageLayout layout) : layout_(std::move(layout)) {}
+    explicit Paper(const QPageLayout& layout) : layout_(layout) {}
     virtual ~Paper() = default;
 
     // The size, direction and margins of every page.

@@ -3,6 +3,11 @@
 #include "view/qt_text.h"
 #include "view/screen_window.h"
 
+// The forms stand in a library of which a host takes only what is asked for; the macro wants no namespace around it.
+static void UseForms() {
+    Q_INIT_RESOURCE(lzjxc_forms);
+}
+
 namespace jxc {
 
 namespace {
@@ -161,7 +166,9 @@ class AnswerBox : public QMessageBox {
     }
 };
 
-QtView::QtView() = default;
+QtView::QtView() {
+    UseForms();
+}
 QtView::~QtView() = default;
 
 void QtView::RunModal(Screen& screen) {

@@ -85,6 +85,7 @@ namespace {
 struct ReceivedLine {
     std::int64_t product;
     double quantity, price, rate;
+    // NOLINTNEXTLINE(modernize-use-nullptr): no null stands here
     auto operator<=>(const ReceivedLine&) const = default;
 };
 

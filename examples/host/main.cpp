@@ -1,6 +1,6 @@
 #include <QApplication>
 
-#include "examples/host/trade.h"
+#include "trade.h"
 #include "view/qt_view.h"
 
 int main(int argc, char** argv) {

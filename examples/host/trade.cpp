@@ -1,7 +1,6 @@
-#include "examples/host/trade.h"
+#include "trade.h"
 
-#include "host/screens.h"
-#include "session/lzjxc.h"
+#include "host/embedding.h"
 
 void Trade(const std::string& company) {
     jxc::RegisterAllScreens(); // once

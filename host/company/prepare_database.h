@@ -9,7 +9,4 @@ namespace jxc {
 // `create`, or after the question at a terminal; otherwise, as for every other obstacle, a DatabaseError in plain words.
 void PrepareDatabase(const std::string& address, bool create);
 
-// Whether the database can be reached and holds a company.
-bool HoldsCompany(const std::string& address);
-
 } // namespace jxc

@@ -8,7 +8,7 @@ namespace jxc {
 
 namespace {
 
-enum Column { Name = 1, Tick, Position };
+enum Column { kName = 1, kTick, kPosition };
 
 const std::vector<Use> kUses{
     {"tJXC_CkDj01 Where fInvDLR=", "仓库单据"},       {"tJXC_CkDj01 Where fInvSHR=", "仓库单据"},
@@ -52,16 +52,16 @@ void OfferRights(frmHostUsers& s) {
                         {.caption = "position", .hidden = true}});
     for (const RightPlace& place : RightPlaces()) {
         s.Grid2.SetRowCount(s.Grid2.RowCount() + 1);
-        s.Grid2.FillCell(s.Grid2.RowCount(), Name, place.name);
-        s.Grid2.FillCell(s.Grid2.RowCount(), Position, place.position);
+        s.Grid2.FillCell(s.Grid2.RowCount(), kName, place.name);
+        s.Grid2.FillCell(s.Grid2.RowCount(), kPosition, place.position);
     }
 }
 
 void ShowRights(frmHostUsers& s, const std::string& power) {
     s.power = power;
     for (int row = 1; row <= s.Grid2.RowCount(); ++row) {
-        const int position = static_cast<int>(s.Grid2.Number(row, Position));
-        s.Grid2.FillCell(row, Tick, DigitAt(power, position) != '0' ? 1 : 0);
+        const int position = static_cast<int>(s.Grid2.Number(row, kPosition));
+        s.Grid2.FillCell(row, kTick, DigitAt(power, position) != '0' ? 1 : 0);
     }
 }
 
@@ -69,9 +69,9 @@ void ShowRights(frmHostUsers& s, const std::string& power) {
 std::string RightsFromGrid(const frmHostUsers& s) {
     std::string power = s.power;
     for (int row = 1; row <= s.Grid2.RowCount(); ++row) {
-        const auto at = static_cast<size_t>(s.Grid2.Number(row, Position)) - 1;
+        const auto at = static_cast<size_t>(s.Grid2.Number(row, kPosition)) - 1;
         power.resize(std::max(power.size(), at + 1), '0');
-        const bool ticked = s.Grid2.Number(row, Tick) != 0;
+        const bool ticked = s.Grid2.Number(row, kTick) != 0;
         if (ticked != (power[at] != '0'))
             power[at] = ticked ? '1' : '0';
     }

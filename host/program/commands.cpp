@@ -9,9 +9,9 @@
 #include "host/company/create_company.h"
 #include "host/company/prepare_database.h"
 #include "host/company_address.h"
+#include "host/embedding.h"
 #include "host/exit_status.h"
 #include "host/program/words.h"
-#include "host/screens.h"
 #include "host/tour.h"
 #include "robot/robot.h"
 #ifdef JXC_VIEW

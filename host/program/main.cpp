@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "base/date.h"
+#include "controls/view.h"
 #include "host/exit_status.h"
 #include "host/program/commands.h"
 #include "host/program/words.h"
@@ -19,7 +20,7 @@ int RefuseUsage(const CLI::App& app, const CLI::ParseError& error) {
 }
 
 int Tell(const std::exception& error, int status) {
-    std::cerr << error.what() << std::endl;
+    std::cerr << TextForPeople("jxc", error) << std::endl;
     return status;
 }
 

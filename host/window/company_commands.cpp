@@ -189,7 +189,7 @@ void MainWindow::NewCompany() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     try {
         CreateCompany(0, S(file), CompanyKind::Default);
-    } catch (const std::exception&) {
+    } catch (...) {
         QApplication::restoreOverrideCursor();
         throw;
     }

@@ -25,7 +25,7 @@ void MakeSampleCompany(const std::string& file) {
             control.myPower(rights.myPower);
         }
         PlaySampleMonth();
-    } catch (const std::exception&) {
+    } catch (...) {
         for (const char* ending : {"", "-wal", "-shm"}) {
             std::error_code ignored;
             std::filesystem::remove(file + ending, ignored);
@@ -39,7 +39,7 @@ std::string SampleCompanyFile() {
 }
 
 std::string OwnSampleCompany() {
-    const std::string file = SampleCompanyFile();
+    std::string file = SampleCompanyFile();
     QDir().mkpath(QFileInfo(Q(file)).path());
     if (!QFileInfo::exists(Q(file)))
         MakeSampleCompany(file);

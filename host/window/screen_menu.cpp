@@ -90,9 +90,10 @@ class SubjectList {
             subjects_.push_back({caption, {}});
     }
     void Add(const std::string& subject, MenuItemRow item) {
-        for (Subject& known : subjects_)
-            if (known.caption == subject)
-                known.items.push_back(std::move(item));
+        const auto known = std::find_if(subjects_.begin(), subjects_.end(),
+                                        [&](const Subject& each) { return each.caption == subject; });
+        if (known != subjects_.end())
+            known->items.push_back(std::move(item));
     }
     std::vector<Subject> Filled() {
         std::erase_if(subjects_, [](const Subject& subject) { return subject.items.empty(); });

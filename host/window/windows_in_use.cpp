@@ -7,8 +7,8 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include "host/embedding.h"
 #include "host/exit_status.h"
-#include "host/screens.h"
 #include "session/components.h"
 #include "view/page_printer.h"
 #include "view/qt_text.h"

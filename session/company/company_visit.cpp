@@ -14,8 +14,8 @@ void CloseConnection() noexcept {
     try {
         if (session.Conn && session.Conn->IsOpen())
             session.Conn->Close();
-    } catch (const std::exception&) {
-        // The connection is given up either way; there is nobody left to tell.
+    } catch (const std::exception& error) { // the connection is given up either way
+        Log(session.CompName, error.what());
     }
     session.Conn.reset();
 }

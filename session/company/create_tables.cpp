@@ -34,7 +34,7 @@ void CreateIn(Connection& connection, std::unique_ptr<Engine> engine) {
         engine->ExecuteScript(CompanyTablesScript(*engine));
         engine->SetVersion(kCompanyVersion);
         engine->Commit();
-    } catch (const DatabaseError&) {
+    } catch (...) {
         engine->Rollback();
         throw;
     }
@@ -63,7 +63,7 @@ void CreateCompanyTables(int dialect, Connection& connection, const std::string&
     auto engine = std::make_unique<SqliteEngine>(path, SqliteFile::Create);
     try {
         CreateIn(connection, std::move(engine));
-    } catch (const DatabaseError&) {
+    } catch (...) {
         for (const char* suffix : {"", "-wal", "-shm"})
             unlink((path + suffix).c_str());
         throw;

@@ -8,8 +8,8 @@
 namespace jxc {
 
 // One table with its indexes.
-std::string TableScript(const Engine& engine, const TableDef& table);
+[[nodiscard]] std::string TableScript(const Engine& engine, const TableDef& table);
 // All tables and indexes, as one script without transaction commands.
-std::string CompanyTablesScript(const Engine& engine);
+[[nodiscard]] std::string CompanyTablesScript(const Engine& engine);
 
 } // namespace jxc

@@ -57,7 +57,7 @@ void OpenEngine(int dialect, Connection& connection, const ServerAddress& addres
             return;
         RaiseCompany(connection);
         connection.EngineInUse().Adopt();
-    } catch (const DatabaseError&) {
+    } catch (...) {
         connection.Close();
         throw;
     }

@@ -8,10 +8,10 @@ namespace jxc {
 // The stem of the book that a document type lives in; with `closed` the book of closed periods, whatever the
 // type.
 // "" for a number that is no document type.
-std::string BookStem(int type, bool closed);
+[[nodiscard]] std::string BookStem(int type, bool closed);
 
 // Deletes the headers and lines that satisfy `where` from a book, headers first. False when either statement
 // failed.
-bool DeleteDocumentRows(const std::string& stem, const std::string& where);
+[[nodiscard]] bool DeleteDocumentRows(const std::string& stem, const std::string& where);
 
 } // namespace jxc

@@ -29,15 +29,17 @@ struct ProductSought {
 std::int32_t FindProduct(ProductSought& sought);
 
 // The statements with which it finds an exact code and its stock, to be read ahead for many codes.
-std::vector<Connection::Expected> ProductStatements(const std::string& code, const std::string& warehouse);
+[[nodiscard]] std::vector<Connection::Expected> ProductStatements(const std::string& code,
+                                                                  const std::string& warehouse);
 
 // Stock of a product in a warehouse, with "" in all warehouses of the table together.
-double GetStockQty(const std::string& warehouse, std::int32_t fCpID);
+[[nodiscard]] double GetStockQty(const std::string& warehouse, std::int32_t fCpID);
 
 // The same of several products at once, by product; one without stock is not among them.
 std::map<std::int64_t, double> GetStockQtys(const std::string& warehouse,
                                             std::span<const std::int64_t> products);
-std::string StockQtysStatement(const std::string& warehouse, std::span<const std::int64_t> products);
+[[nodiscard]] std::string StockQtysStatement(const std::string& warehouse,
+                                             std::span<const std::int64_t> products);
 
 // Fills `list` with the cards that the text finds, an exact code first, else a pattern over code and name, at
 // most 101; selects the first without firing its event. The number of rows; an empty text leaves the list
@@ -45,12 +47,12 @@ std::string StockQtysStatement(const std::string& warehouse, std::span<const std
 int FindCustomerCard(ListBox& list, const std::string& text);
 
 // A customer list's row: the name in 80 characters, directly followed by the card number.
-std::string CustomerRow(const std::string& companyName, std::int64_t id);
+[[nodiscard]] std::string CustomerRow(const std::string& companyName, std::int64_t id);
 // The name and the number of such a row; "" and 0 for an empty one.
-std::string CustomerNameOf(const std::string& row);
-std::int64_t CustomerIdOf(const std::string& row);
+[[nodiscard]] std::string CustomerNameOf(const std::string& row);
+[[nodiscard]] std::int64_t CustomerIdOf(const std::string& row);
 
 // Adds the filter on active warehouses of a kind (a type's fSetCkType1) to a statement without a Where.
-std::string WarehouseFilter(int kind, const std::string& base);
+[[nodiscard]] std::string WarehouseFilter(int kind, const std::string& base);
 
 } // namespace jxc

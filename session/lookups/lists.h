@@ -15,14 +15,15 @@ void FillCombo(const std::string& sql, ListBox& list, int width = 0, bool withKe
 void FillDistinctCombo(const std::string& table, ListBox& list, const std::string& fields,
                        const std::string& where, const std::string& tail, bool twoColumns);
 // Adds the entries of a code list: the name, or the code, a tab and the name. The list is not cleared.
-std::string BriefStatement(const std::string& briefType);
+[[nodiscard]] std::string BriefStatement(const std::string& briefType);
 void FillBriefCombo(ListBox& list, const std::string& briefType, bool withCode);
 
 // The first item whose first `width` characters, or whose text from the character `start` on, count as the
 // number; -1 when there is none.
-int ComboIndexByLeftValue(const ListBox& list, std::int64_t value, int width);
-int ComboIndexByMidValue(const ListBox& list, std::int64_t value, int start); // 0 is never found
+[[nodiscard]] int ComboIndexByLeftValue(const ListBox& list, std::int64_t value, int width);
+[[nodiscard]] int ComboIndexByMidValue(const ListBox& list, std::int64_t value,
+                                       int start); // 0 is never found
 // The first item equal to the text; -1 when there is none, or for "".
-int ComboIndexByText(const ListBox& list, const std::string& text);
+[[nodiscard]] int ComboIndexByText(const ListBox& list, const std::string& text);
 
 } // namespace jxc

@@ -9,8 +9,8 @@
 namespace jxc {
 
 // A grid with its title, the company's header and the amount below; hidden columns are left out.
-std::string GridPage(const GridPrintJob& job);
+[[nodiscard]] std::string GridPage(const GridPrintJob& job);
 // A document: its fields and its lines.
-std::string TemplatePage(const TemplatePrintJob& job);
+[[nodiscard]] std::string TemplatePage(const TemplatePrintJob& job);
 
 } // namespace jxc

@@ -55,7 +55,7 @@ class Printouts {
     std::filesystem::path SheetFolder() {
         const std::filesystem::path base =
             session.PowerPath.empty() ? PrivateFolder() : std::filesystem::path(session.PowerPath);
-        const std::filesystem::path folder = base / "Sheet";
+        std::filesystem::path folder = base / "Sheet";
         std::filesystem::create_directories(folder);
         return folder;
     }

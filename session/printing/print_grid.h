@@ -20,6 +20,6 @@ inline constexpr const char* kAmountCaption = "金额合计";
 
 // The header's pairs as paper shows them: those without a value are left out, and the "<" and ">" around
 // keys, which are for templates only.
-std::vector<std::pair<std::string, std::string>> ShownHeader(const FieldList& header);
+[[nodiscard]] std::vector<std::pair<std::string, std::string>> ShownHeader(const FieldList& header);
 
 } // namespace jxc

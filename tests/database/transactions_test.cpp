@@ -32,7 +32,7 @@ TEST_P(Transactions, OnlyACommitKeeps) {
         Transaction transaction(Conn());
         Add(1);
         EXPECT_EQ(Ids(), (Lines{"1"}));
-        EXPECT_THROW(Conn().BeginTrans(), DatabaseError);
+        EXPECT_THROW(Conn().BeginTrans(), std::logic_error);
     }
     EXPECT_EQ(Ids(), Lines{});
     {
@@ -41,7 +41,7 @@ TEST_P(Transactions, OnlyACommitKeeps) {
         transaction.Commit();
     }
     EXPECT_EQ(Ids(), (Lines{"2"}));
-    EXPECT_THROW(Conn().CommitTrans(), DatabaseError);
+    EXPECT_THROW(Conn().CommitTrans(), std::logic_error);
 }
 
 TEST_P(Transactions, SwallowedFailuresLeaveThemUsable) {
@@ -219,7 +219,7 @@ TEST_P(Transactions, CountAndMaximum) {
     EXPECT_EQ(DbMax("tJXC_KhAdd", "fKhID"), 0);
     Do("Update tJXC_KhAdd Set fKhID=null");
     EXPECT_EQ(DbMax("tJXC_KhAdd", "fKhID"), 1);
-    EXPECT_THROW(DbMax("tJXC_KhAdd", "fNoSuchField"), DatabaseError);
+    EXPECT_THROW(static_cast<void>(DbMax("tJXC_KhAdd", "fNoSuchField")), DatabaseError);
     for (int rows = 1; rows < 32768; rows *= 2)
         Do("Insert Into tJXC_KhAdd Select * From tJXC_KhAdd");
     EXPECT_EQ(DbCount("tJXC_KhAdd", ""), -1); // 32768 is more than 16 bits tell

@@ -132,8 +132,10 @@ void CompareWithBooks(const Model& model) {
         found[{rows.At(row, column["fckname"]).AsText(), rows.At(row, column["fcpcode"]).AsText()}] = row;
     for (const auto& [place, stock] : model.All()) {
         ASSERT_TRUE(found.contains(place)) << place.first << " " << place.second;
-        const auto field = [&](const char* name) { return rows.At(found[place], column[name]).AsDouble(); };
-        const auto near = [&](const char* name, double expected) {
+        const auto field = [&, &place = place](const char* name) {
+            return rows.At(found[place], column[name]).AsDouble();
+        };
+        const auto near = [&, &place = place](const char* name, double expected) {
             ASSERT_NEAR(field(name), expected, 1e-7 * std::max(1.0, std::fabs(expected)))
                 << place.first << " " << place.second << " " << name;
         };

@@ -5,17 +5,17 @@
 #include <random>
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 #include <sys/stat.h>
 
 #include "database/recordset.h"
 #include "database/sqlite_content.h"
+#include "database/sqlite_handles.h"
 #include "host/check.h"
 #include "host/company/backup.h"
 #include "host/company/create_company.h"
 #include "host/company/sample_month.h"
 #include "host/company_address.h"
-#include "host/screens.h"
+#include "host/embedding.h"
 #include "session/session.h"
 #include "tests/support/files.h"
 
@@ -59,15 +59,12 @@ namespace {
 
 // What a reader of the file sees, or that it cannot be read.
 std::string ContentOf(const std::string& file) {
-    sqlite3* db = nullptr;
-    sqlite3_open_v2(file.c_str(), &db, SQLITE_OPEN_READONLY, nullptr);
-    std::string digest = "unreadable";
+    const SqliteHandle db = OpenSqlite(file, SQLITE_OPEN_READONLY);
     try {
-        digest = ReadContent(db).digest;
+        return ReadContent(db.get()).digest;
     } catch (const DatabaseError&) {
+        return "unreadable";
     }
-    sqlite3_close(db);
-    return digest;
 }
 
 void FlipBytes(const std::string& file, std::mt19937& random, int count) {
@@ -154,10 +151,8 @@ TEST_F(BackupTest, CopiesArePrivateAndMayBeReadOnly) {
 
 TEST_F(BackupTest, CompaniesTellTheirVersion) {
     const auto version = [&](const std::string& pragma) {
-        sqlite3* db = nullptr;
-        sqlite3_open(File("a.db").c_str(), &db);
-        sqlite3_exec(db, pragma.c_str(), nullptr, nullptr, nullptr);
-        sqlite3_close(db);
+        const SqliteHandle db = OpenSqlite(File("a.db"), SQLITE_OPEN_READWRITE);
+        sqlite3_exec(db.get(), pragma.c_str(), nullptr, nullptr, nullptr);
     };
     version("pragma user_version=99");
     EXPECT_THROW(OpenCompany open(File("a.db")), DatabaseError);

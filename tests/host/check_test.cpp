@@ -174,9 +174,9 @@ TEST_P(CheckOfBooks, FindsEveryDamage) {
         }
         const Lines found = CheckCompany();
         Conn().RollbackTrans();
-        EXPECT_TRUE(
-            std::any_of(found.begin(), found.end(),
-                        [&](const std::string& line) { return line.find(told) != std::string::npos; }))
+        EXPECT_TRUE(std::any_of(
+            found.begin(), found.end(),
+            [&told = told](const std::string& line) { return line.find(told) != std::string::npos; }))
             << sql << ": " << told << "\n"
             << testing::PrintToString(found);
         for (const std::string& line : found)

@@ -22,19 +22,30 @@ TEST(ExampleHost, OpensDocumentEntryOfItsCompany) {
     ResetScreens();
 }
 
+// Whole files, each below the line that names it; and no code of the section is anything else.
 TEST(ExampleHost, StandsInTheReadmes) {
-    for (const char* readme : {"README.md", "README.zh-CN.md"})
-        for (const char* file : {"trade.cpp", "main.cpp"}) {
-            std::string source = FileText(std::string(JXC_ROOT "/examples/host/") + file);
-            if (const std::string own = "#include \"examples/host/trade.h\"\n\n"; source.starts_with(own))
-                source.erase(0, own.size());
-            std::string shown; // as a block of a README
-            for (const std::string& line : Split(source, '\n'))
-                shown += (line.empty() ? "" : "    ") + line + "\n";
-            EXPECT_NE(FileText(std::string(JXC_ROOT "/") + readme).find("\n" + shown), std::string::npos)
-                << readme << " does not show\n"
-                << shown;
+    const std::vector<std::string> files{"host/trade.cpp", "host/main.cpp", "host/CMakeLists.txt",
+                                         "script_host/main.cpp", "script_host/CMakeLists.txt"};
+    for (const auto& [readme, section] :
+         {std::pair("README.md", "\n## Embedding\n"), {"README.zh-CN.md", "\n## 嵌入\n"}}) {
+        const std::string text = FileText(std::string(JXC_ROOT "/") + readme);
+        const size_t begin = text.find(section);
+        ASSERT_NE(begin, std::string::npos) << readme;
+        const std::string shown = text.substr(begin, text.find("\n## ", begin + 1) - begin);
+        size_t blocks = 0;
+        for (size_t at = 0; (at = shown.find("\n\n    ", at)) != std::string::npos; ++at)
+            blocks += shown[shown.rfind('\n', at - 1) + 1] != ' ';
+        EXPECT_EQ(blocks, files.size()) << readme;
+        for (const std::string& file : files) {
+            std::string block;
+            for (const std::string& line : Split(FileText(JXC_ROOT "/examples/" + file), '\n'))
+                block += (line.empty() ? "" : "    ") + line + "\n";
+            const size_t named = shown.find("`examples/" + file + "`");
+            ASSERT_NE(named, std::string::npos) << readme << " does not name " << file;
+            const size_t code = shown.find("\n\n", named) + 2;
+            EXPECT_EQ(shown.substr(code, block.size()), block) << readme << " does not show " << file;
         }
+    }
 }
 
 } // namespace jxc::test

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "host/company_address.h"
-#include "host/screens.h"
+#include "host/embedding.h"
 #include "robot/robot.h"
 #include "session/session.h"
 #include "tests/support/on_sample_company.h"

@@ -6,7 +6,7 @@
 
 #include "host/check.h"
 #include "host/company_address.h"
-#include "host/screens.h"
+#include "host/embedding.h"
 #include "robot/scenario.h"
 #include "tests/support/on_sample_company.h"
 #include "tests/support/scenario_statements.h"

@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #include "base/text.h"
-#include "host/screens.h"
+#include "host/embedding.h"
 #include "session/session.h"
 
 namespace jxc::test {

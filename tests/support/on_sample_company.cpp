@@ -5,7 +5,7 @@
 
 #include "host/company/create_company.h"
 #include "host/company_address.h"
-#include "host/screens.h"
+#include "host/embedding.h"
 #include "session/company/open_connection.h"
 
 namespace jxc::test {

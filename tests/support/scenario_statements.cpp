@@ -48,11 +48,22 @@ Statements AllStatements() {
     return statements;
 }
 
+const Statements& Known() {
+    static const Statements statements = AllStatements();
+    return statements;
+}
+
 } // namespace
 
+std::vector<std::string> ScenarioStatementNames() {
+    std::vector<std::string> names;
+    for (const auto& [name, statement] : Known())
+        names.push_back(name);
+    return names;
+}
+
 std::string ScenarioStatement(const std::string& text) {
-    static const Statements statements = AllStatements();
-    if (const auto found = statements.find(text); found != statements.end())
+    if (const auto found = Known().find(text); found != Known().end())
         return found->second;
     const std::string document = "lines of document ";
     if (text.starts_with(document))

@@ -14,10 +14,12 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace jxc::test {
 
 // The statement of that name; a text that is no name as it is.
 std::string ScenarioStatement(const std::string& text);
+std::vector<std::string> ScenarioStatementNames(); // but for those of a single document
 
 } // namespace jxc::test

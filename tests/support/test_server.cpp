@@ -3,9 +3,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include <libpq-fe.h>
-
 #include "database/connection.h"
+#include "database/postgres_line.h"
 
 namespace jxc::test {
 
@@ -15,14 +14,11 @@ std::string TestServer() {
 }
 
 void OnServer(const std::string& command, const std::string& database) {
-    PGconn* line = PQconnectdb((database.empty() ? TestServer() : AddressOnServer(database)).c_str());
-    PGresult* result = PQexec(line, command.c_str());
-    const bool succeeded = PQresultStatus(result) == PGRES_COMMAND_OK;
-    const std::string reason = PQerrorMessage(line);
-    PQclear(result);
-    PQfinish(line);
-    if (!succeeded)
-        throw DatabaseError(command + ": " + reason);
+    const PostgresLine line =
+        OpenLine({database.empty() ? TestServer() : AddressOnServer(database), "", "", ""});
+    const PostgresResult result(PQexec(line.get(), command.c_str()));
+    if (PQresultStatus(result.get()) != PGRES_COMMAND_OK)
+        throw DatabaseError(command + ": " + ReasonOf(line));
 }
 
 std::string AddressOnServer(const std::string& database) {

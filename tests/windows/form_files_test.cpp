@@ -6,7 +6,7 @@
 #include "documents/frmDj02.h"
 #include "forms/record_editor.h"
 #include "host/company_address.h"
-#include "host/screens.h"
+#include "host/embedding.h"
 #include "tests/windows/window_fixture.h"
 #include "view/binding.h"
 #include "view/screen_window.h"

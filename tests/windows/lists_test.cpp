@@ -158,7 +158,7 @@ TEST_F(Lists, RightButtonOffersTheConversionsOfTheRow) {
         Texts all = conversions;
         all.insert(all.end(), {"单据审核", "单据反审核", "", "复制选定", "复制全部", "", "打印预览...",
                                "存为 PDF...", "存为 Excel...", "存为 CSV..."});
-        Open(kList, type, [&] {
+        Open(kList, type, [&, type = type] {
             Texts shown;
             person.Next([&] { shown = person.MenuCaptions(); });
             person.ClickCell("Grid1", 1, 2, Qt::RightButton);

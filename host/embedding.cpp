@@ -1,7 +1,8 @@
-#include "host/screens.h"
+#include "host/embedding.h"
 
 #include "documents/document_screens.h"
 #include "host/editors/host_editors.h"
+#include "host/planned_screens.h"
 #include "settings/frmRs_RptSet.h"
 #include "stock/frmCkKc.h"
 
