@@ -1,6 +1,7 @@
 #include "settings/type_row.h"
 
 #include "session/session.h"
+#include "settings/document_types.h"
 
 namespace jxc {
 
@@ -36,6 +37,32 @@ TypeRow TypeRowOf(const Recordset& row) {
     read.fSetKc_ = flag("fSetKc_");
     read.fSetJy_ = flag("fSetJy_");
     return read;
+}
+
+TypeRow TypeRowOf(const DocumentTypeRow& shipped) {
+    const auto flag = [](std::optional<std::int16_t> cell) { return cell == 1; };
+    TypeRow row;
+    row.fSetNo = shipped.fSetNo;
+    row.fSetName = shipped.fSetName;
+    row.fSetTjType = shipped.fSetTjType.value_or(kNoChoice);
+    row.fSetKhType = shipped.fSetKhType;
+    row.fSetWlType = shipped.fSetWlType;
+    row.fSetZjType = shipped.fSetZjType.value_or(kNoChoice);
+    row.fSetDjBack_ = flag(shipped.fSetDjBack_);
+    row.fSetDjDd_ = flag(shipped.fSetDjDd_);
+    row.fSetAutoNo = shipped.fSetAutoNo;
+    row.fSetCkName1 = shipped.fSetCkName1.value_or("");
+    row.fSetCkType1 = shipped.fSetCkType1;
+    row.fSetCrType1 = shipped.fSetCrType1;
+    row.fSetCkName2 = shipped.fSetCkName2.value_or("");
+    row.fSetCkType2 = shipped.fSetCkType2;
+    row.fSetDjType1 = shipped.fSetDjType1;
+    row.fSetDjType2 = shipped.fSetDjType2;
+    row.fSetHb_ = flag(shipped.fSetHb_);
+    row.fSetHbSl_ = flag(shipped.fSetHbSl_);
+    row.fSetKc_ = flag(shipped.fSetKc_);
+    row.fSetJy_ = flag(shipped.fSetJy_);
+    return row;
 }
 
 std::optional<TypeRow> ReadTypeRow(int type) {

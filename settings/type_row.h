@@ -9,6 +9,8 @@
 
 namespace jxc {
 
+struct DocumentTypeRow;
+
 // The choices of list columns are the numbers of type_codes.h.
 struct TypeRow {
     int fSetNo = 0; // DocType, or a return's negative, or a type of the company's own
@@ -50,6 +52,8 @@ struct TypeRow {
 // The row at which a recordset of all the table's columns stands. An empty list column counts as kNoChoice, an empty
 // flag as off.
 TypeRow TypeRowOf(const Recordset& row);
+// The row that the type is shipped with.
+TypeRow TypeRowOf(const DocumentTypeRow& shipped);
 // The type's row; nothing when there is none in use.
 std::optional<TypeRow> ReadTypeRow(int type);
 std::string TypeRowStatement(int type);

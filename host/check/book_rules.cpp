@@ -53,7 +53,7 @@ std::vector<Rule> BookRules(const Book& book) {
         {"Select b.fInvNo,b.fRowID From {L} b Where b.fInvSL is null Or b.fCpID is null" +
              FiguresAbsurd(
                  {"fInvSL", "fInvSL2", "fInvDJ", "fInvDJ2", "fInvJE", "fInvHbDl", "fInvTaxRate", "fInvTax"}) +
-             (book.stem.starts_with("tJXC_CkDj") ? "" : " Or b.fInvSL=0"),
+             (book.IsOfStock() ? "" : " Or b.fInvSL=0"),
          "单据 {1}：第 {2} 行的数值为空或超出范围；请反审核后修改。"},
         {"Select b.fInvNo,b.fInvJE,b.fInvHbDl From {H} b Where b.fInvHbDl is null Or b.fInvHbDl<=0"
          " Or (b.fInvJE is null And b.fInvType<>0)" +

@@ -10,19 +10,6 @@ namespace jxc {
 
 namespace {
 
-TypeRow ShippedRow(const DocumentTypeRow& shipped) {
-    TypeRow row;
-    row.fSetNo = shipped.fSetNo;
-    row.fSetTjType = shipped.fSetTjType.value_or(kNoChoice);
-    row.fSetKhType = shipped.fSetKhType;
-    row.fSetWlType = shipped.fSetWlType;
-    row.fSetZjType = shipped.fSetZjType.value_or(kNoChoice);
-    row.fSetCkType1 = shipped.fSetCkType1;
-    row.fSetCrType1 = shipped.fSetCrType1;
-    row.fSetCkType2 = shipped.fSetCkType2;
-    return row;
-}
-
 CheckedTypes ReadTypes() {
     CheckedTypes types;
     Recordset rows(Conn(), "Select * From tJXC_InvSet Order By fSetNo,fRowID");
@@ -60,7 +47,7 @@ std::set<int> ValuesOf(const CheckedTypes& types, int type, int TypeRow::*column
         values.insert(known->second.row.*column);
     for (const DocumentTypeRow& shipped : DefaultDocumentTypes())
         if (shipped.fSetNo == type)
-            values.insert(ShippedRow(shipped).*column);
+            values.insert(TypeRowOf(shipped).*column);
     return values;
 }
 

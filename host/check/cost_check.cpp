@@ -101,7 +101,7 @@ void CheckLineCosts(const CheckedTypes& types, const std::string& received, Find
          "单据 {1}：第 {2} 行不是出库而有成本 {3}；请反审核后重新存盘。"},
         findings);
     for (const Book& book : AllBooks())
-        if (!book.stem.starts_with("tJXC_CkDj"))
+        if (!book.IsOfStock())
             Run({"Select fInvNo,fRowID,fInvDJ2 From " + book.Lines() + " Where fInvDJ2<>0",
                  "单据 {1}：第 {2} 行不是出库而有成本 {3}；请反审核后重新存盘。"},
                 findings);
@@ -128,13 +128,13 @@ void CheckAbsurdCosts(const CheckedTypes& types, const std::string& received, Fi
     std::map<std::int64_t, std::pair<double, double>> known;
     const auto learn = [&](const Value& product, const Value& price) {
         const double figure = price.AsDouble();
-        if (!(figure > 0 && figure < 1e15))
+        if (!(figure > 0 && figure < kAbsurdFigure))
             return;
         const auto [place, isNew] = known.try_emplace(product.AsLong(), figure, figure);
         place->second = {std::min(place->second.first, figure), std::max(place->second.second, figure)};
     };
     for (const Book& book : AllBooks())
-        if (book.stem.starts_with("tJXC_CkDj")) {
+        if (book.IsOfStock()) {
             const Rows rows =
                 findings.Ask("Select b.fCpID,min(b.fInvDJ*b.fInvHbDl),max(b.fInvDJ*b.fInvHbDl) From " +
                              book.Lines() + " b Inner Join " + book.Headers() + " a On " + book.On("b", "a") +

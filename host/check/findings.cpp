@@ -3,13 +3,16 @@
 #include <array>
 #include <cmath>
 
+#include "base/text.h"
 #include "session/session.h"
 
 namespace jxc {
 
 namespace {
 
-constexpr const char* kBig = "1000000000000000.0"; // no figure of a shop
+std::string Absurd() {
+    return FormatFixed(kAbsurdFigure, 1);
+}
 
 } // namespace
 
@@ -63,6 +66,14 @@ std::span<const Book> AllBooks() {
     return books;
 }
 
+const Book& StockBook() {
+    return AllBooks().front();
+}
+
+const Book& ClosedBook() {
+    return AllBooks().back();
+}
+
 std::string Differ(const std::string& x, const std::string& y) {
     return "(case when " + x + "=" + y + " then 0 when " + x + " is null And " + y +
            " is null then 0 else 1 end)";
@@ -78,11 +89,11 @@ std::string OrZero(const std::string& x) {
 }
 
 std::string IsAbsurd(const std::string& x) {
-    return "(" + x + ">" + kBig + " Or " + x + "<-" + kBig + ")";
+    return "(" + x + ">" + Absurd() + " Or " + x + "<-" + Absurd() + ")";
 }
 
 std::string IsPlausible(const std::string& x) {
-    return "abs(" + x + ")<" + kBig;
+    return "abs(" + x + ")<" + Absurd();
 }
 
 std::string SameDay(const std::string& x, const std::string& y) {

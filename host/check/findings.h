@@ -53,11 +53,18 @@ struct Book {
     std::string On(const std::string& x, const std::string& y) const;
     // ",fMonth" behind the key where it is needed.
     std::string Month() const { return closed ? ",fMonth" : ""; }
+    // Whether its documents move stock: the open book and the closed one.
+    bool IsOfStock() const { return stem.starts_with("tJXC_CkDj"); }
 };
 std::span<const Book> AllBooks();
+const Book& StockBook();
+const Book& ClosedBook();
+
+// No figure of a shop is as large, in either direction.
+constexpr double kAbsurdFigure = 1e15;
 
 // Pieces of statements, alike on both engines: 1 where two fields differ, nothing being equal to nothing; for
-// texts "" as well; a field with nothing as 0; a field that holds no figure of human size, and one that does.
+// texts "" as well; a field with nothing as 0; a field that holds an absurd figure, and one that does.
 std::string Differ(const std::string& x, const std::string& y);
 std::string TextsDiffer(const std::string& x, const std::string& y);
 std::string OrZero(const std::string& x);

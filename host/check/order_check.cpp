@@ -22,7 +22,7 @@ using OrderLine = std::pair<std::string, std::int64_t>; // number in lower case,
 std::set<OrderLine> LinesReferredTo(Findings& findings) {
     std::set<OrderLine> lines;
     for (const Book& book : AllBooks()) {
-        if (!book.stem.starts_with("tJXC_CkDj"))
+        if (!book.IsOfStock())
             continue;
         const Rows rows = findings.Ask("Select distinct a.fHtNo,b.fCpID From " + book.Headers() +
                                        " a Inner Join " + book.Lines() + " b On " + book.On("b", "a") +
@@ -37,21 +37,20 @@ std::set<OrderLine> LinesReferredTo(Findings& findings) {
 void CheckBalances(const CheckedTypes& types, Findings& findings) {
     const std::string left = "(b.fInvSL-" + OrZero("x.sl") + "-" + OrZero("y.sl") + ")";
     const std::string kept = InList(TypesWhere(types, [](int, const TypeRow& row) { return row.fSetJy_; }));
-    const Rows rows =
-        findings.Ask("Select a.fInvNo,b.fRowID,b.fCpID,b.fInvSL2," + left +
-                     " as fOpen,a.fInvSHR,c.fCpCode"
-                     " From (((tJXC_CkHt01 a Inner Join tJXC_CkHt02 b On b.fInvID=a.fInvID) Left Join " +
-                     Taken(AllBooks()[0]) + " x On x.fHtNo=a.fInvNo And x.fCpID=b.fCpID) Left Join " +
-                     Taken(AllBooks()[4]) +
-                     " y On y.fHtNo=a.fInvNo And y.fCpID=b.fCpID) Left Join tJXC_Cp c On c.fCpID=b.fCpID"
-                     " Where b.fInv1=0 And a.fInvType In (" +
-                     kept +
-                     ") And (case when b.fInvSL2 is null then 1"
-                     " when b.fInvSL2<-0.000000001 then 1 when abs(b.fInvSL2-" +
-                     left +
-                     ")<=0.000001+0.000000001*abs(b.fInvSL2) then 0"
-                     " when b.fInvSL2<0.000000001 And " +
-                     left + "<0.000001 then 0 else 1 end)=1");
+    const Rows rows = findings.Ask(
+        "Select a.fInvNo,b.fRowID,b.fCpID,b.fInvSL2," + left +
+        " as fOpen,a.fInvSHR,c.fCpCode"
+        " From (((tJXC_CkHt01 a Inner Join tJXC_CkHt02 b On b.fInvID=a.fInvID) Left Join " +
+        Taken(StockBook()) + " x On x.fHtNo=a.fInvNo And x.fCpID=b.fCpID) Left Join " + Taken(ClosedBook()) +
+        " y On y.fHtNo=a.fInvNo And y.fCpID=b.fCpID) Left Join tJXC_Cp c On c.fCpID=b.fCpID"
+        " Where b.fInv1=0 And a.fInvType In (" +
+        kept +
+        ") And (case when b.fInvSL2 is null then 1"
+        " when b.fInvSL2<-0.000000001 then 1 when abs(b.fInvSL2-" +
+        left +
+        ")<=0.000001+0.000000001*abs(b.fInvSL2) then 0"
+        " when b.fInvSL2<0.000000001 And " +
+        left + "<0.000001 then 0 else 1 end)=1");
     if (rows.Count() == 0)
         return;
     const Rows doubles = findings.Ask("Select fInvNo From tJXC_CkHt01 Group By fInvNo Having count(*)>1");
@@ -68,7 +67,7 @@ void CheckBalances(const CheckedTypes& types, Findings& findings) {
                                  at(6).AsText() + " 的结余为 " + (at(3).IsNull() ? "空" : at(3).AsText()) +
                                  "，按单据应为 " + NumberText(at(4).AsDouble()) +
                                  "；请修改订单的[结余数]，或核对有关单据。";
-        const bool figure = at(3).IsNumber() && at(3).AsDouble() > -1e-9 && at(3).AsDouble() < 1e15;
+        const bool figure = at(3).IsNumber() && at(3).AsDouble() > -1e-9 && at(3).AsDouble() < kAbsurdFigure;
         const bool byHand = at(5).AsText().empty(); // it may have been changed since
         const bool emptied = at(3).AsDouble() == 0 && referredTo.contains({number, at(2).AsLong()});
         if (figure && (byHand || emptied))

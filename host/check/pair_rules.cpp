@@ -80,7 +80,7 @@ void CheckDirections(const Book& book, const CheckedTypes& types, Findings& find
 void CheckPairs(const CheckedCompany& company, Findings& findings) {
     for (const Book& book : AllBooks()) {
         CheckPartners(book, findings);
-        if (!book.stem.starts_with("tJXC_CkDj"))
+        if (!book.IsOfStock())
             continue;
         CheckFinishedProduct(book, findings);
         CheckDirections(book, company.types, findings);

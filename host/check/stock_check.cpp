@@ -142,7 +142,7 @@ class StockCheck {
         for (size_t i = 0; i < figures.size(); ++i) {
             const Value& cell = rows.At(row, i + 2);
             figures[i] = cell.AsDouble();
-            if (cell.IsText() || !std::isfinite(figures[i]) || std::fabs(figures[i]) > 1e15)
+            if (cell.IsText() || !std::isfinite(figures[i]) || std::fabs(figures[i]) > kAbsurdFigure)
                 return findings_.Add(place + rows.names[i + 2] + " 不是正常的数值；请刷新库存统计。");
         }
         std::copy_n(figures.begin(), kCounters, stored_[key].begin());
