@@ -6,12 +6,7 @@
 
 namespace jxc {
 
-namespace {
-
-constexpr int kBackspace = 8;
-constexpr int kPaste = 22;
-
-} // namespace
+namespace {} // namespace
 
 std::string_view KindName(ControlKind kind) {
     switch (kind) {
@@ -86,9 +81,9 @@ bool EditBox::PressKey(int keyCode) {
         onKeyPress(keyCode);
     if (keyCode == 0 && text == before)
         return false;
-    if (keyCode == kPaste) {
+    if (keyCode == kPasteKey) {
         Insert(ClipboardLine());
-    } else if (keyCode == kBackspace) {
+    } else if (keyCode == kBackspaceKey) {
         if (selLength == 0 && selStart > 0) {
             --selStart;
             selLength = 1;

@@ -124,6 +124,10 @@ struct OptionButton : Toggle {
     const std::string group;
 };
 
+// The code points of keys that do something to a box's text.
+constexpr int kBackspaceKey = 8;
+constexpr int kPasteKey = 22;
+
 // Anything with text that is edited key by key.
 struct EditBox : Control {
     std::string text;

@@ -50,15 +50,6 @@ void RemoveBlankRows(Grid& grid, int column) {
             grid.RemoveRow(row);
 }
 
-int GridFindValue(Grid& grid, std::int64_t value) {
-    for (int row = 1; row <= grid.RowCount(); ++row)
-        if (grid.Cell(row, grid.ColumnCount()).AsLong() == value) {
-            grid.selectedRow = row;
-            return row;
-        }
-    return 0;
-}
-
 void GridSort(Grid& grid, int column, bool skip) {
     if (skip)
         return;

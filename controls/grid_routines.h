@@ -16,8 +16,6 @@ double SumGridColumn(const Grid& grid, int column);
 int GridHasValue(const Grid& grid, int row, const std::string& text);
 // Removes the rows whose column 1 is empty or whose `column` is 0.
 void RemoveBlankRows(Grid& grid, int column);
-// Selects and gives the row whose last, hidden column holds the number; 0 when there is none.
-int GridFindValue(Grid& grid, std::int64_t value);
 // Nothing with `skip`; otherwise sorts by the column, the same column again swaps the direction. The heading
 // of the sorted column ends in "↑" or "↓", the mark of the one before goes.
 void GridSort(Grid& grid, int column, bool skip = false);

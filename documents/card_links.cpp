@@ -12,7 +12,6 @@ namespace {
 
 const std::string kMailPrefix = "mailTo:";
 const std::string kWebPrefix = "http://";
-const std::string kSummaries = "2010";
 constexpr int kLongestNumber = 39;
 
 } // namespace
@@ -56,7 +55,7 @@ void OpenWarehouses(frmDj02& s) {
 void OpenSummaries(frmDj02& s) {
     if (ModuleRight("mnuJxcSysZy", 0) == 0)
         return;
-    ComponentsInUse().codeLists->Edit("", kSummaries, BriefKind::EditEntries);
+    ComponentsInUse().codeLists->Edit("", s.cboInvMemo.codeList, BriefKind::EditEntries);
     s.cboInvMemo.Offer();
 }
 

@@ -24,8 +24,7 @@ DocumentLine LineOf(const frmDj02& s, int row) {
         line.bookQuantity = grid.Number(row, line::kStock);
         line.counted = grid.Number(row, line::kCounted);
     }
-    // A new order's balance is its full quantity, a changed order's the one that the user sees.
-    line.balance = s.InHand() == DocAction::New ? line.quantity : grid.Number(row, line::kBalance);
+    line.balance = grid.Number(row, line::kBalance);
     line.price = grid.Number(row, line::kPrice);
     line.amount = grid.Number(row, line::kAmount);
     line.taxRate = grid.Number(row, line::kTaxRate);

@@ -23,7 +23,7 @@ struct DocumentLine {
     double quantity = 0;      // negative in a return; of a stocktake what was counted beyond the book
     double bookQuantity = 0;  // of a stocktake, and what was counted
     double counted = 0;
-    double balance = 0; // of an order: what is still to come of it
+    double balance = 0; // of a stored order: what is still to come of it
     double price = 0;   // of one piece, in document currency
     // In document currency and as they were worked out: StoredAmount and its like give what is stored. The tax
     // rate is a fraction.

@@ -1,6 +1,5 @@
 #include "documents/frmDj01.h"
 
-#include "base/text.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"
 #include "documents/document_list.h"

@@ -18,12 +18,6 @@ Value StatusText(const Recordset& row) {
     return status >= 1 && status <= 3 ? texts[status] : "";
 }
 
-Value ProductText(const Recordset& row) {
-    const std::string name = row["fCpName"].AsText();
-    const std::string spec = row["fCpGG"].AsText();
-    return spec.empty() ? name : name + "/" + spec;
-}
-
 std::vector<Column> DocumentColumns() {
     using enum Figure;
     return {{"日期", "fInvDate", 10, Day}, {"单号", "fInvNo", 15},

@@ -1,10 +1,7 @@
 // The filters of the document list: their lists, and which of them the type ticked leaves.
 
-#include "base/text.h"
 #include "documents/document_list.h"
 #include "session/lookups/database_routines.h"
-#include "session/lookups/lists.h"
-#include "session/session.h"
 
 namespace jxc {
 

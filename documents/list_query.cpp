@@ -1,12 +1,10 @@
 // The statement of the document list. A document is found by its header and by its lines, so both are joined
 // in either form; one without lines is not found.
 
-#include "base/text.h"
 #include "documents/document_list.h"
 #include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
-#include "session/session.h"
 
 namespace jxc {
 

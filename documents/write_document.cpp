@@ -79,17 +79,18 @@ class Lines {
     RowInserter rows_;
 };
 
-// Where fInvSL2 of a line comes from; null for nowhere: a stocktake keeps the book quantity, an order its balance.
-double DocumentLine::*SecondQuantity(const TypeRow& type, bool second) {
-    if (type.fSetJy_ && !second)
-        return &DocumentLine::balance;
-    return type.IsStocktake() ? &DocumentLine::bookQuantity : nullptr;
+// Where fInvSL2 of a line comes from; null for nowhere: a stocktake keeps the book quantity, a new order's balance is its
+// full quantity, a changed order's what is still to come of it.
+double DocumentLine::*SecondQuantity(const DocumentData& document, bool isNew, bool second) {
+    if (document.type.fSetJy_ && !second)
+        return isNew ? &DocumentLine::quantity : &DocumentLine::balance;
+    return document.type.IsStocktake() ? &DocumentLine::bookQuantity : nullptr;
 }
 
-void WriteOrdinaryLines(const DocumentData& document, bool second) {
+void WriteOrdinaryLines(const DocumentData& document, bool isNew, bool second) {
     Lines lines(document, second ? 1 : 0);
     lines.Set(kKhID, document.type.HasCustomer() ? document.customer : 0);
-    const auto secondQuantity = SecondQuantity(document.type, second);
+    const auto secondQuantity = SecondQuantity(document, isNew, second);
     int at = 0;
     for (const DocumentLine& line : document.lines) {
         lines.SetFigures(++at, line);
@@ -121,15 +122,15 @@ void WriteFinishedProduct(const DocumentData& document) {
     lines.Insert();
 }
 
-void WriteLines(const DocumentData& document) {
+void WriteLines(const DocumentData& document, bool isNew) {
     if (document.type.IsKit()) {
         WriteParts(document);
         WriteFinishedProduct(document);
         return;
     }
-    WriteOrdinaryLines(document, false);
+    WriteOrdinaryLines(document, isNew, false);
     if (document.type.HasSecondWarehouse())
-        WriteOrdinaryLines(document, true);
+        WriteOrdinaryLines(document, isNew, true);
 }
 
 // What a header says of its document, by field; its key apart. It is not approved then.
@@ -173,6 +174,10 @@ void UpdateHeader(const DocumentData& document) {
 }
 
 std::string FigureRefused(const DocumentData& document) {
+    if (document.type.IsKit() && document.kitQuantity == 0)
+        return "请输入产品套数！";
+    if (document.type.IsKit() && document.finishedProduct == 0)
+        return "请输入组装产品及其数量。";
     const auto refusal = FigureOutOfBounds(document);
     return refusal ? refusal->text : "";
 }
@@ -208,7 +213,7 @@ std::string WriteNewDocument(DocumentData& document) {
     document.key = DbMax(stem + "01", "fInvID") + 1;
     document.total = TotalOf(document.lines);
     InsertHeader(document);
-    WriteLines(document);
+    WriteLines(document, true);
     return "";
 }
 
@@ -224,7 +229,7 @@ std::string WriteChangedDocument(const DocumentData& document, const StoredDocum
         return refusal;
     UpdateHeader(document);
     Conn().Execute("Delete From " + stem + "02 Where fInvID=" + std::to_string(document.key));
-    WriteLines(document);
+    WriteLines(document, false);
     return "";
 }
 

@@ -16,10 +16,6 @@ namespace {
 
 constexpr double kUsualWidth = 8;
 
-std::string CaptionField() {
-    return "FieldName_" + std::to_string(session.Language);
-}
-
 GridColumn ColumnOf(const Recordset& row) {
     GridColumn column;
     column.caption = row[CaptionField()].AsText();
@@ -76,6 +72,10 @@ void CompleteDictionary(const std::string& table, const std::vector<Column>& shi
 }
 
 } // namespace
+
+std::string CaptionField() {
+    return "FieldName_" + std::to_string(session.Language);
+}
 
 std::string GetFieldCaption(const std::string& table, const std::string& field) {
     const Recordset row(Conn(), "Select Fieldname_" + std::to_string(session.Language) +

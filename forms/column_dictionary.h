@@ -22,6 +22,9 @@ constexpr int kDictionaryLeft = 0, kDictionaryRight = 1, kDictionaryCenter = 2;
 std::string GetFieldCaption(const std::string& table, const std::string& field);
 inline const std::string kNoCaption = "\t";
 
+// The dictionary's field with the captions of the session's language.
+std::string CaptionField();
+
 // Gives the grid the table's selected columns, from the column `firstColumn` (1 or more) on, and behind them
 // a hidden one for the row's key, which the caller fills. The grid is emptied and locked. The result is the
 // columns' fields, "a,b,c"; "" when none is selected.

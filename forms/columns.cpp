@@ -57,6 +57,21 @@ std::vector<Source> SourcesOf(const std::vector<Column>& columns, const Recordse
 
 } // namespace
 
+Column When(std::function<bool()> condition, Column column) {
+    column.when = std::move(condition);
+    return column;
+}
+
+Column ShownWhen(std::function<bool()> condition, Column column) {
+    column.shownWhen = std::move(condition);
+    return column;
+}
+
+Value ProductText(const Recordset& row) {
+    const std::string spec = row["fCpGG"].AsText();
+    return row["fCpName"].AsText() + (spec.empty() ? "" : "/" + spec);
+}
+
 int DecimalsOf(const Column& column) {
     switch (column.figure) {
     case Figure::Quantity:
@@ -134,16 +149,14 @@ bool HasKey(const Grid& grid, int row, const Value& key) {
     return EqualsNoCase(grid.Text(row, grid.ColumnCount()), key.AsText());
 }
 
-int RowOfKey(const Grid& grid, int before, const Value& key) {
-    if (before >= 1 && before <= grid.RowCount() && HasKey(grid, before, key))
-        return before;
-    for (int row = 1; row <= grid.RowCount(); ++row)
+} // namespace
+
+int RowOfKey(const Grid& grid, const Value& key) {
+    for (int row = 1; row <= grid.RowCount() && !key.IsNull(); ++row)
         if (HasKey(grid, row, key))
             return row;
     return 0;
 }
-
-} // namespace
 
 KeptPlace KeepPlace(const Columns& list) {
     const Grid& grid = list.InGrid();
@@ -164,8 +177,8 @@ void RestorePlace(Columns& list, const KeptPlace& kept) {
         if (!kept.ascending)
             GridSort(grid, sorted);
     }
-    if (kept.row >= 1)
-        grid.selectedRow = RowOfKey(grid, kept.row, kept.key);
+    const bool stands = kept.row >= 1 && kept.row <= grid.RowCount() && HasKey(grid, kept.row, kept.key);
+    grid.selectedRow = stands ? kept.row : RowOfKey(grid, kept.key);
 }
 
 } // namespace jxc

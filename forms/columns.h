@@ -1,5 +1,5 @@
-// The columns of a list as one table: what each is called, what it shows and when. The grid's set-up, its filling, the
-// company's choice of columns and the print-out follow from it.
+// The columns of a list as one table: what each is called, what it shows and when. The grid's set-up, its filling and the
+// company's choice of columns follow from it.
 #pragma once
 
 #include <functional>
@@ -35,6 +35,13 @@ struct Column {
     }
     bool IsUsed() const { return figure != Figure::Key && !caption.empty(); }
 };
+
+// The same column, filled and shown only when the condition holds; or filled always and shown then.
+Column When(std::function<bool()> condition, Column column);
+Column ShownWhen(std::function<bool()> condition, Column column);
+
+// "name/specification" of the row's product.
+Value ProductText(const Recordset& row);
 
 // By the session's decimals, which LoadPeriodSettings reads.
 int DecimalsOf(const Column& column);
@@ -75,6 +82,8 @@ struct KeptPlace {
     int row = 0;
     Value key;
 };
+// The first row whose last column holds the key; 0 when none does, or for no key.
+int RowOfKey(const Grid& grid, const Value& key);
 KeptPlace KeepPlace(const Columns& list);
 // The row where it was if it still has the key, else the first with it; none when it is gone.
 void RestorePlace(Columns& list, const KeptPlace& kept);

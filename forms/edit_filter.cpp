@@ -9,8 +9,6 @@ namespace jxc {
 
 namespace {
 
-constexpr int kPaste = 22;
-
 // The box's text with `insert` in place of the selection.
 std::u32string TextAfter(const EditBox& box, const std::u32string& insert) {
     std::u32string points = ToCodePoints(box.text);
@@ -50,13 +48,13 @@ void FilterNumber(EditBox& box, int& keyCode, const std::u32string& insert) {
 } // namespace
 
 void EditKeyFilter(EditBox& box, int& keyCode, int maxBytes, bool numeric) {
-    if (maxBytes == 0 || (keyCode > 0 && keyCode < 32 && keyCode != kPaste))
+    if (maxBytes == 0 || (keyCode > 0 && keyCode < 32 && keyCode != kPasteKey))
         return;
-    const std::u32string insert =
-        keyCode == kPaste ? ToCodePoints(ClipboardLine()) : std::u32string(1, static_cast<char32_t>(keyCode));
+    const std::u32string insert = keyCode == kPasteKey ? ToCodePoints(ClipboardLine())
+                                                       : std::u32string(1, static_cast<char32_t>(keyCode));
     const int rest = AnsiByteLength(FromCodePoints(TextAfter(box, U"")));
     if (rest + AnsiByteLength(FromCodePoints(insert)) > maxBytes) {
-        if (keyCode == kPaste)
+        if (keyCode == kPasteKey)
             Warn(box.screen.title, GetResStr(kMsgPasteTooLong));
         keyCode = 0;
         return;

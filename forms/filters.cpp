@@ -1,6 +1,7 @@
 #include "forms/filters.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "base/text.h"
 #include "session/dialect.h"
@@ -21,6 +22,8 @@ std::string WithValue(const std::string& test, const std::string& typed) {
             return std::string_view(test).substr(at).starts_with(known.first);
         });
         if (place == std::end(places)) {
+            if (test[at] == '{')
+                throw std::logic_error("no such place in a filter's test: " + test);
             condition += test[at++];
             continue;
         }

@@ -1,6 +1,5 @@
-// The conditions of a query, each behind a box that is ticked: one table from which the statement's condition, the
-// print-out's header and the emptying of the filters follow. What a person types or chooses in a filter's field ticks
-// its box.
+// The conditions of a query, each behind a box that is ticked: one table from which the statement's condition follows.
+// What a person types or chooses in a filter's field ticks its box.
 #pragma once
 
 #include <functional>
@@ -14,7 +13,7 @@ namespace jxc {
 
 struct Filter {
     // The test as it stands behind " And "; {like}, {text} and {number} become what the field holds: its pattern and
-    // its text as literals, and its number.
+    // its text as literals, and its number. Another place in braces is a std::logic_error.
     Filter(CheckBox& box, EditBox& value, std::string test);
     Filter(CheckBox& box, EditBox& value, std::function<std::string()> test);
     // The number that the field holds, compared by the sign chosen in the list.

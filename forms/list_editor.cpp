@@ -44,13 +44,6 @@ void FillList(ListEditor& s) {
     s.list.Fill(rows);
 }
 
-int RowOfKey(const Grid& grid, const Value& key) {
-    for (int row = 1; row <= grid.RowCount(); ++row)
-        if (!key.IsNull() && EqualsNoCase(grid.Text(row, grid.ColumnCount()), key.AsText()))
-            return row;
-    return 0;
-}
-
 MayRefuse RefuseTwins(const ListEditor& s) {
     for (const RecordField* field : s.fields) {
         const std::string text = field->ToStore().AsText();
@@ -103,11 +96,6 @@ ListEditor::ListEditor(std::string name, std::string title, EditedTable table)
     };
     cmdAdd.onClick = [this] { BeginMode(*this, EditorMode::Add); };
     cmdDelete.onClick = [this] { BeginMode(*this, EditorMode::Delete); };
-}
-
-void ListEditor::Open() {
-    list.SetUp();
-    RecordEditor::Open();
 }
 
 void ListEditor::SetColumns(std::vector<Column> columns) {

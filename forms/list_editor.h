@@ -24,7 +24,6 @@ struct EditedTable {
 
 struct ListEditor : RecordEditor {
     ListEditor(std::string name, std::string title, EditedTable table);
-    void Open() override;
     Arrangement Arrange() override;
 
     Grid Grid1{*this, "Grid1"};

@@ -1,5 +1,5 @@
 // Fields whose list comes from the company's data, each a member one line long: it knows its statement, fills itself and
-// tells what was chosen. The statements can be read ahead together.
+// tells what was chosen. Statements that open a screen are given to be read ahead together.
 #pragma once
 
 #include <cstdint>

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "controls/gestures.h"
+#include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
 
@@ -87,7 +88,7 @@ int Clerk::Save(const DocumentInput& input) {
         ClickSave(*this, s);
         if (LastBox() == "单据新增完毕。打印本张单据？")
             key = static_cast<int>(Val(DbScalar("select fInvID from " + BookStem(input.type, false) +
-                                                "01 where fInvNo='" + number + "'")));
+                                                "01 where fInvNo=" + InQuotes(number))));
     });
     return key;
 }

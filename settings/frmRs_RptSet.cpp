@@ -13,10 +13,6 @@ namespace {
 
 const std::string kListOfLists = "99999999";
 
-std::string CaptionField() {
-    return "FieldName_" + std::to_string(session.Language);
-}
-
 void ShowField(frmRs_RptSet& s) {
     const std::string which =
         s.Field.empty() ? CaptionField() + "=" + InQuotes(s.ModelName) : "FieldName=" + InQuotes(s.Field);

@@ -64,6 +64,7 @@ void Print(const frmCkKc& s) {
 
 frmCkKc::frmCkKc() : Screen("frmCkKc"), list(Grid1, StockColumns(*this)), filters(StockFilters(*this)) {
     AddNumberProperty("myState", myState);
+    list.takes = [](const Recordset& row) { return !row["fCpCode"].IsNull(); }; // the product may be gone
     chkDetail.onChange = [this] { list.ShowWanted(); };
     Grid1.onHeading = [this](int column) {
         GridSort(Grid1, column);

@@ -12,11 +12,6 @@ namespace {
 const Color kBelow = Rgb(255, 192, 192);
 const Color kAbove = Rgb(192, 255, 255);
 
-Value NameAndSpecification(const Recordset& row) {
-    const std::string spec = row["fCpGG"].AsText();
-    return row["fCpName"].AsText() + (spec.empty() ? "" : "/" + spec);
-}
-
 Value Margin(const Recordset& row) {
     return row["fCkJe"].AsDouble() - row["fCkCb"].AsDouble();
 }
@@ -43,25 +38,25 @@ std::vector<Column> StockColumns(const frmCkKc& s) {
     const auto detail = [&s] { return s.chkDetail.value; };
     using enum Figure;
     return {{"编码", "fCpCode", 12},
-            {"品名规格", "fCpName", 30, Text, NameAndSpecification},
+            {"品名规格", "fCpName", 30, Text, ProductText},
             {"单位", "fCpUnit", 6},
             {"仓库", "fCkName", 12},
             {"库存数", "fKcSL", 10, Quantity},
-            {"单价", "fKcDj", 10, Price, {}, cost},
-            {"金额", "fKcJE", 12, Money, {}, cost},
-            {"期初数", "fQcSl", 10, Quantity, {}, {}, detail},
-            {"期初金额", "fQcJe", 12, Money, {}, cost, detail},
-            {"入库数", "fRkSl", 10, Quantity, {}, {}, detail},
-            {"入库金额 ", "fRkJe", 12, Money, {}, cost, detail},
-            {"出库数", "fCkSl", 10, Quantity, {}, {}, detail},
-            {"出库金额", "fCkJe", 12, Money, {}, cost, detail},
-            {"销售毛利", "fCkJe", 12, Money, Margin, cost, detail},
-            {"调库数", "fDkSl", 10, Quantity, {}, {}, detail},
-            {"调库金额", "fDkSl", 12, Money, AtPrice("fDkSl"), cost, detail},
-            {"盘点数", "fPdSl", 10, Quantity, {}, {}, detail},
-            {"盘点金额", "fPdSl", 12, Money, AtPrice("fPdSl"), cost, detail},
-            {"下限", "fCpSlMin", 10, Quantity, {}, alarm},
-            {"上限", "fCpSlMax", 10, Quantity, {}, alarm},
+            When(cost, {"单价", "fKcDj", 10, Price}),
+            When(cost, {"金额", "fKcJE", 12, Money}),
+            ShownWhen(detail, {"期初数", "fQcSl", 10, Quantity}),
+            When(cost, ShownWhen(detail, {"期初金额", "fQcJe", 12, Money})),
+            ShownWhen(detail, {"入库数", "fRkSl", 10, Quantity}),
+            When(cost, ShownWhen(detail, {"入库金额 ", "fRkJe", 12, Money})),
+            ShownWhen(detail, {"出库数", "fCkSl", 10, Quantity}),
+            When(cost, ShownWhen(detail, {"出库金额", "fCkJe", 12, Money})),
+            When(cost, ShownWhen(detail, {"销售毛利", "fCkJe", 12, Money, Margin})),
+            ShownWhen(detail, {"调库数", "fDkSl", 10, Quantity}),
+            When(cost, ShownWhen(detail, {"调库金额", "fDkSl", 12, Money, AtPrice("fDkSl")})),
+            ShownWhen(detail, {"盘点数", "fPdSl", 10, Quantity}),
+            When(cost, ShownWhen(detail, {"盘点金额", "fPdSl", 12, Money, AtPrice("fPdSl")})),
+            When(alarm, {"下限", "fCpSlMin", 10, Quantity}),
+            When(alarm, {"上限", "fCpSlMax", 10, Quantity}),
             {"fCpID", "fCpID", 0, Key}};
 }
 

@@ -14,8 +14,6 @@ namespace jxc {
 namespace {
 
 constexpr int kBackspace = 8;
-constexpr int kPaste = 22;
-
 // Positions in the models are characters, in the toolkit 16-bit units.
 int CharactersBefore(const QString& text, int units) {
     return static_cast<int>(text.left(units).toUcs4().size());
@@ -44,7 +42,7 @@ class EditLine {
 
     bool OnKey(const QKeyEvent& key) {
         if (key.matches(QKeySequence::Paste))
-            return Type(kPaste);
+            return Type(kPasteKey);
         if (key.matches(QKeySequence::Cut)) {
             line_.copy();
             return !line_.hasSelectedText() || Type(kBackspace);
@@ -136,7 +134,7 @@ class EditLine {
                 Type(kBackspace);
         });
         menu.addAction("复制(&C)", &line_, &QLineEdit::copy);
-        menu.addAction("粘贴(&P)", [this] { Type(kPaste); });
+        menu.addAction("粘贴(&P)", [this] { Type(kPasteKey); });
         menu.addAction("全选(&A)", &line_, &QLineEdit::selectAll);
         menu.exec(line_.mapToGlobal(at));
     }

@@ -1,5 +1,7 @@
 #include "view/plain_form.h"
 
+#include <algorithm>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -76,10 +78,8 @@ class FormBuilder {
     QWidget* Place(const Control& control) {
         QWidget* widget = NewWidget(control);
         widget->setObjectName(Q(control.name));
-        if (IsField(control))
-            fields_.push_back(widget);
-        else if (control.kind == ControlKind::Check || control.kind == ControlKind::Option)
-            ticks_.push_back(widget);
+        if (control.kind != ControlKind::Label)
+            placed_.push_back({widget, &control});
         return widget;
     }
 
@@ -153,9 +153,9 @@ class FormBuilder {
         auto* middle = new QHBoxLayout;
         middle->setSpacing(kGap * 2);
         if (arrangement_.grid) {
-            grid_ = Place(*arrangement_.grid);
-            grid_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-            middle->addWidget(grid_, 3);
+            QWidget* grid = Place(*arrangement_.grid);
+            grid->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+            middle->addWidget(grid, 3);
         }
         if (!arrangement_.fields.empty()) {
             auto* side = new QVBoxLayout;
@@ -172,36 +172,46 @@ class FormBuilder {
     QHBoxLayout* Foot() {
         auto* foot = new QHBoxLayout;
         for (const Control* command : arrangement_.commands)
-            foot->addWidget(commands_.emplace_back(Place(*command)));
+            foot->addWidget(Place(*command));
         foot->addStretch(1);
         for (const Control* command : arrangement_.closingCommands)
-            foot->addWidget(closing_.emplace_back(Place(*command)));
+            foot->addWidget(Place(*command));
         return foot;
     }
 
-    // A list comes before the fields of its rows, and saving behind them; a query's grid behind its commands.
-    void OrderTabs() {
-        std::vector<QWidget*> order;
-        const auto add = [&](const std::vector<QWidget*>& widgets) {
-            order.insert(order.end(), widgets.begin(), widgets.end());
+    // The place of a control in the order of tabs; those of one place follow each other as they stand. A query's fields
+    // come before its ticks, then its commands and its grid; an editor's list before its fields, and saving behind them.
+    // What leaves the screen is last.
+    int TabPlace(const Control& control) const {
+        enum { kFields, kTicks, kNext, kGrid, kOthers, kLeave };
+        const auto stands = [&](const std::vector<Control*>& commands) {
+            return std::ranges::find(commands, &control) != commands.end();
         };
-        const bool editor = arrangement_.above.empty() || !arrangement_.fields.empty();
-        if (editor && grid_)
-            order.push_back(grid_);
-        add(fields_);
-        add(ticks_);
-        add(editor ? closing_ : commands_);
-        if (!editor && grid_)
-            order.push_back(grid_);
-        add(editor ? commands_ : closing_);
-        for (size_t at = 1; at < order.size(); ++at)
-            QWidget::setTabOrder(order[at - 1], order[at]);
+        const auto& closing = arrangement_.closingCommands;
+        const bool query = !arrangement_.above.empty() && arrangement_.fields.empty();
+        const bool tick = control.kind == ControlKind::Check || control.kind == ControlKind::Option;
+        if (stands(closing))
+            return &control == closing.back() ? kLeave : query ? kOthers : kNext;
+        if (stands(arrangement_.commands))
+            return query ? kNext : kOthers;
+        if (query && &control == arrangement_.grid)
+            return kGrid;
+        return query && tick ? kTicks : kFields;
     }
 
+    void OrderTabs() {
+        std::ranges::stable_sort(placed_, {}, [this](const Placed& one) { return TabPlace(*one.control); });
+        for (size_t at = 1; at < placed_.size(); ++at)
+            QWidget::setTabOrder(placed_[at - 1].widget, placed_[at].widget);
+    }
+
+    struct Placed {
+        QWidget* widget;
+        const Control* control;
+    };
     const Arrangement& arrangement_;
     std::unique_ptr<QWidget> form_;
-    QWidget* grid_ = nullptr;
-    std::vector<QWidget*> fields_, ticks_, commands_, closing_;
+    std::vector<Placed> placed_; // in the order in which they stand
 };
 
 } // namespace

@@ -10,7 +10,7 @@
 namespace jxc {
 
 // A field of a row to add.
-struct FieldValue {
+struct NamedValue {
     std::string_view field;
     Value value;
 };
@@ -22,9 +22,9 @@ class TableWriter {
         : rows_(connection, "select * from " + std::string(table), Access::Write) {}
 
     // Fields not named are null.
-    void Add(std::initializer_list<FieldValue> fields) {
+    void Add(std::initializer_list<NamedValue> fields) {
         rows_.AddNew();
-        for (const FieldValue& field : fields)
+        for (const NamedValue& field : fields)
             rows_.Set(field.field, field.value);
         rows_.Update();
     }

@@ -10,8 +10,8 @@ struct frmHostCards : ListEditor {
     void Open() override;
     Arrangement Arrange() override;
 
-    TextField txtSeek{*this, "txtSeek", "查找",
-                      50}; // limits the list to codes, names and contacts that hold the text
+    // Limits the list to codes, names and contacts that hold the text.
+    TextField txtSeek{*this, "txtSeek", "查找", 50};
     Button cmdSeek{*this, "cmdSeek", "查找(&F)"};
 
     TextRecordField txtCompCode{

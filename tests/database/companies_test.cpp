@@ -15,8 +15,7 @@ namespace {
 
 std::string WhyNot(int dialect, const std::string& path, const std::string& database = "") {
     Connection connection;
-    const std::string reason =
-        RefusalOf([&] { OpenConnection(dialect, connection, path, "", "", database); });
+    std::string reason = RefusalOf([&] { OpenConnection(dialect, connection, path, "", "", database); });
     EXPECT_EQ(connection.IsOpen(), reason.empty());
     return reason;
 }

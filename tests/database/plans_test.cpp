@@ -64,7 +64,7 @@ class Plans : public OnOpenCompany {
         std::smatch found;
         if (!std::regex_search(step, found, std::regex(IsPostgres() ? "Seq Scan on (\\w+)" : "^SCAN (\\w+)")))
             return "";
-        const std::string name = LowerCase(found[1].str());
+        std::string name = LowerCase(found[1].str());
         if (kGrowing.contains(name))
             return name;
         const std::string text = LowerCase(sql);

@@ -136,7 +136,7 @@ TEST_P(Transactions, OfASecondWriterWaitAtTheirBegin) {
     BeginWriting(other);
     auto waiting = std::async(std::launch::async, [&] {
         Transaction transaction(other);
-        const std::string seen = other.Query("Select count(*) From tJXC_KhAdd").At(0, 0).AsText();
+        std::string seen = other.Query("Select count(*) From tJXC_KhAdd").At(0, 0).AsText();
         transaction.Commit();
         return seen;
     });

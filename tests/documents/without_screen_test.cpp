@@ -24,7 +24,7 @@ std::int64_t ProductOf(const std::string& code) {
 DocumentLine LineOf(const std::string& code, double quantity, double price) {
     DocumentLine line;
     line.product = ProductOf(code);
-    line.quantity = line.balance = quantity;
+    line.quantity = quantity;
     line.price = price;
     line.amount = quantity * price;
     return line;

@@ -97,7 +97,7 @@ TEST_P(Company, RefreshOpensTheScreenOfTheNumber) {
     view.boxes.clear();
     for (const int unknown : {10, 15, 20, 26, 27, 30, -1})
         control.Refresh(static_cast<std::int16_t>(unknown));
-    EXPECT_TRUE(view.boxes.empty() || view.boxes.front().text == "");
+    EXPECT_TRUE(view.boxes.empty() || view.boxes.front().text.empty());
     EXPECT_EQ(view.screens.size(), 2U);
     EXPECT_FALSE(session.CompanyFieldList.empty());
     EXPECT_EQ(session.Conn, nullptr);

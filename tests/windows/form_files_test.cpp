@@ -78,6 +78,33 @@ TEST_P(Forms, NoneHasASecondWidgetOrNoControl) {
     }
 }
 
+// Enter and Tab lead through what a person fills in, then to saving, and to leaving last.
+TEST(PlainForms, LeadFromFieldToFieldAndThenToTheCommands) {
+    RegisterAllScreens();
+    ResetScreens();
+    const std::pair<const char*, const char*> orders[] = {
+        {"frmHostCards",
+         "txtSeek cmdSeek Grid1 txtCompCode txtCompName cboType0 txtName txtTelphone txtHomephone "
+         "txtHandphone txtFax txtE_mail txtHttp txtPostcode txtCompAdd cmdSave cmdCancel cmdAdd "
+         "cmdChange cmdDelete cmdQuit"},
+        {"frmHostUsers",
+         "Grid1 txtUserName chkSupervisor Grid2 cmdSave cmdCancel cmdAdd cmdChange cmdDelete cmdQuit"},
+        {"frmRs_RptSet", "txtName txtItemNo Command3 CmdOk CmdCancel"},
+        {"frmBrief", "Grid1 cmdOk cmdAdd cmdDelete cmdUp cmdDown cmdRename cmdCancel"},
+        {"frmCkKc",
+         "cboCk txtCpCode txtCpName DTPicker1 chkCk chkCpCode chkCpName chkKcBj chkNeg chkDetail chkDate "
+         "optPrice(0) optPrice(1) optPrice(2) optPrice(3) cmdQuery cmdRefresh cmdPrint Grid1 cmdQuit"}};
+    for (const auto& [name, order] : orders) {
+        Screen& screen = *FindScreen(name);
+        const std::unique_ptr<QWidget> form = FormOf(screen);
+        std::string led;
+        for (const QWidget* at = form->nextInFocusChain(); at != form.get(); at = at->nextInFocusChain())
+            if (screen.Find(S(at->objectName())) && at->focusPolicy() & Qt::TabFocus)
+                led += (led.empty() ? "" : " ") + S(at->objectName());
+        EXPECT_EQ(led, order) << name;
+    }
+}
+
 class FormFile : public testing::TestWithParam<std::string> {};
 INSTANTIATE_TEST_SUITE_P(All, FormFile, testing::ValuesIn(FormFiles()),
                          [](const auto& form) { return form.param; });
