@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "host/check/checked_company.h"
+#include "session/dialect.h"
 
 namespace jxc {
 
@@ -125,8 +126,8 @@ void CheckHistory(const std::string& periodStart, Findings& findings) {
              differ + ">0)",
          "供应商历史：单据 {1} 的进货记录缺少或不符；请在[产品管理]中执行[供应商刷新]。"},
         findings);
-    Run({"Select g.fInvNo,count(*) From tJXC_CpGys g Where g.fInvDate>='" + periodStart +
-             "' And not exists (Select a.fInvID From tJXC_CkDj01 a Where a.fInvNo=g.fInvNo And a.fInvType=1 "
+    Run({"Select g.fInvNo,count(*) From tJXC_CpGys g Where g.fInvDate>=" + InQuotes(periodStart) +
+             " And not exists (Select a.fInvID From tJXC_CkDj01 a Where a.fInvNo=g.fInvNo And a.fInvType=1 "
              "And a.fInvSHR<>'')"
              " And not exists (Select a.fInvID From tJXC_CkDj_Bak01 a Where a.fInvNo=g.fInvNo And "
              "a.fInvType=1) Group By g.fInvNo",

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "documents/approval/stages.h"
 #include "host/check/checked_company.h"
+#include "session/dialect.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -147,8 +148,8 @@ void CheckMasters(Findings& findings) {
             findings.Add("仓库 " + tied.At(row, 0).AsText() + "：入帐帐户 " + tied.At(row, 1).AsText() +
                          " 已不存在；请在[仓库管理]中重新选择。");
     const Rows entered = findings.Ask("Select fCompID,count(*),min(fInvID) From tAccountDetail"
-                                      " Where fBrief='" +
-                                      std::string(kPlacedByApproval) + "' And fType1=1 Group By fCompID");
+                                      " Where fBrief=" +
+                                      InQuotes(kPlacedByApproval) + " And fType1=1 Group By fCompID");
     for (size_t row = 0; row < entered.Count(); ++row)
         if (!accounts.contains(entered.At(row, 0).AsLong()))
             findings.Add("帐户单（单据 " + entered.At(row, 2).AsText() + " 等 " +
