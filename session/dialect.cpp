@@ -35,6 +35,32 @@ std::string DayTest(const std::string& column, const std::string& comparison, Da
     return DayColumn(column) + comparison + DayLiteral(day, form);
 }
 
+std::string DayValue(Date day) {
+    return Either("#" + SlashText(day) + "#", InQuotes(SlashText(day)));
+}
+
+std::string MonthTest(const std::string& column, Date day) {
+    return "Year(" + column + ")=" + std::to_string(YearOf(day)) + " And Month(" + column +
+           ")=" + std::to_string(MonthOf(day));
+}
+
+std::string MonthText(const std::string& column) {
+    return Either("Format(" + column + ",'yyyy-mm')", "Convert(varchar(7)," + column + ",120)");
+}
+
+std::string OneOf(const std::string& condition, const std::string& then, const std::string& otherwise) {
+    return Either("iif(" + condition + "," + then + "," + otherwise + ")",
+                  "case when " + condition + " then " + then + " else " + otherwise + " end");
+}
+
+std::string NothingTest(const std::string& expression) {
+    return Either("isnull(" + expression + ")", expression + " is null");
+}
+
+std::string MoneyOf(const std::string& expression) {
+    return Either("ccur(", "convert(money,") + expression + ")";
+}
+
 std::string LowerCaseOf(const std::string& column) {
     return Either("LCase(", "Lower(") + column + ")";
 }

@@ -26,6 +26,27 @@ enum class DayForm { Slash, Iso };
 [[nodiscard]] std::string DayTest(const std::string& column, const std::string& comparison, Date day,
                                   DayForm form = DayForm::Slash);
 
+// A day as a value to be stored, month first in both.
+//     #07/01/2003#                    | '07/01/2003'
+std::string DayValue(Date day);
+
+// A date column in the month of the day, alike in both; and its month as a text.
+//     Year(a.fMonth)=2003 And Month(a.fMonth)=7
+//     Format(a.fMonth,'yyyy-mm')      | Convert(varchar(7),a.fMonth,120)
+std::string MonthTest(const std::string& column, Date day);
+std::string MonthText(const std::string& column);
+
+// One of two values.
+//     iif(a.fInvInOut=1,1,-1)         | case when a.fInvInOut=1 then 1 else -1 end
+std::string OneOf(const std::string& condition, const std::string& then, const std::string& otherwise);
+
+//     isnull(fJbCode)                 | fJbCode is null
+std::string NothingTest(const std::string& expression);
+
+// With the four decimals of money.
+//     ccur(b.fYj_Tc_Xj)               | convert(money,b.fYj_Tc_Xj)
+std::string MoneyOf(const std::string& expression);
+
 //     LCase(ftable)                   | Lower(ftable)
 [[nodiscard]] std::string LowerCaseOf(const std::string& column);
 

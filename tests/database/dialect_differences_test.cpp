@@ -1,5 +1,6 @@
 // The differences between the two dialects, each in the form of its engine, against values worked out by
 // hand.
+#include "session/dialect.h"
 #include "session/session.h"
 #include "tests/support/test_company.h"
 
@@ -79,13 +80,9 @@ TEST_P(DialectDifferences, SupplierHistoryGoesFromADateOn) {
 
 TEST_P(DialectDifferences, MonthsAreTexts) {
     AddHeaders();
-    EXPECT_EQ(
-        RowsOf(Dialect(
-            "Select Format(a.fMonth,'yyyy-mm') as fX1,count(*) From tJXC_CkDj01 a Group By a.fMonth Order By "
-            "a.fMonth",
-            "Select convert(varchar(7),a.fMonth,120) as fX1,count(*) From tJXC_CkDj01 a Group By a.fMonth "
-            "Order By a.fMonth")),
-        (Lines{"null|1", "2003-06|1", "2003-07|1", "2003-07|1", "2003-08|1"}));
+    EXPECT_EQ(RowsOf("Select " + MonthText("a.fMonth") +
+                     " as fX1,count(*) From tJXC_CkDj01 a Group By a.fMonth Order By a.fMonth"),
+              (Lines{"null|1", "2003-06|1", "2003-07|1", "2003-07|1", "2003-08|1"}));
     const char* sqlServer = "convert(varchar(7),a.fMonth,120) between '2003-06' And '2003-07'";
     EXPECT_EQ(KeysWhere("Format(a.fMonth,'YYYYMM') Between 200306 And 200307", sqlServer),
               (Lines{"1", "2", "3"}));
@@ -103,12 +100,9 @@ TEST_P(DialectDifferences, MonthsAreTexts) {
 TEST_P(DialectDifferences, ConditionsInsideExpressions) {
     for (const char* line : {"1,10", "1,-3", "2,4", "null,null"})
         Do("Insert Into tJXC_CkDj02 (fInvInOut,fInvSL) Values (" + std::string(line) + ")");
-    EXPECT_EQ(
-        One(Dialect("Select sum(iif(a.fInvInOut=1,1,-1)*iif(a.fInvSL>-5,a.fInvSL,0)) From tJXC_CkDj02 a",
-                    "Select sum((case when a.fInvInOut=1 then 1 else -1 end)*(case when a.fInvSL>-5 then "
-                    "a.fInvSL else "
-                    "0 end)) From tJXC_CkDj02 a")),
-        "3");
+    EXPECT_EQ(One("Select sum((" + OneOf("a.fInvInOut=1", "1", "-1") + ")*(" +
+                  OneOf("a.fInvSL>-5", "a.fInvSL", "0") + ")) From tJXC_CkDj02 a"),
+              "3");
 }
 
 TEST_P(DialectDifferences, LowerCase) {

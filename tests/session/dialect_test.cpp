@@ -21,6 +21,12 @@ TEST(Dialects, DifferAsNamed) {
     session.SQLData = 0;
     EXPECT_EQ(DayTest("fDate", "=", day), "fDate=#07/31/2003#");
     EXPECT_EQ(DayTest("fInvDate", " >= ", day, DayForm::Iso), "fInvDate >= #2003-07-31#");
+    EXPECT_EQ(DayValue(day), "#07/31/2003#");
+    EXPECT_EQ(MonthTest("a.fMonth", day), "Year(a.fMonth)=2003 And Month(a.fMonth)=7");
+    EXPECT_EQ(MonthText("a.fMonth"), "Format(a.fMonth,'yyyy-mm')");
+    EXPECT_EQ(OneOf("f=1", "1", "-1"), "iif(f=1,1,-1)");
+    EXPECT_EQ(NothingTest("fJbCode"), "isnull(fJbCode)");
+    EXPECT_EQ(MoneyOf("a.f * 2"), "ccur(a.f * 2)");
     EXPECT_EQ(LowerCaseOf("ftable"), "LCase(ftable)");
     EXPECT_EQ(NumericTest(PartOf("fInvNo", 12, 3)), "IsNumeric(mid(fInvNo,12,3))");
     EXPECT_EQ(UpdateText(update),
@@ -30,6 +36,12 @@ TEST(Dialects, DifferAsNamed) {
     EXPECT_EQ(DayTest("fDate", "=", day), "Convert(varchar(10),fDate,120)='2003-07-31'");
     EXPECT_EQ(DayTest("fInvDate", " >= ", day, DayForm::Iso),
               "Convert(varchar(10),fInvDate,120) >= '2003-07-31'");
+    EXPECT_EQ(DayValue(day), "'07/31/2003'");
+    EXPECT_EQ(MonthTest("a.fMonth", day), "Year(a.fMonth)=2003 And Month(a.fMonth)=7");
+    EXPECT_EQ(MonthText("a.fMonth"), "Convert(varchar(7),a.fMonth,120)");
+    EXPECT_EQ(OneOf("f=1", "1", "-1"), "case when f=1 then 1 else -1 end");
+    EXPECT_EQ(NothingTest("fJbCode"), "fJbCode is null");
+    EXPECT_EQ(MoneyOf("a.f * 2"), "convert(money,a.f * 2)");
     EXPECT_EQ(LowerCaseOf("ftable"), "Lower(ftable)");
     EXPECT_EQ(NumericTest(PartOf("fInvNo", 12, 3)), "IsNumeric(SUBSTRING(fInvNo,12,3))=1");
     EXPECT_EQ(UpdateText(update),
