@@ -54,7 +54,7 @@ DocumentData DataOf(const frmDj02& s) {
     data.stopped = s.chkFlag.value;
     data.payment = Val(s.txtSsSf.text);
     data.approver = s.lblSHR.caption;
-    data.finishedProduct = s.finishedProduct;
+    data.finishedProduct = s.finishedProduct.id;
     data.finishedProductCode = s.txtCpCode.text;
     data.kitQuantity = KitQuantity(s);
     data.lines.reserve(static_cast<size_t>(s.Grid2.RowCount()));

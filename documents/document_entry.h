@@ -93,9 +93,7 @@ void LeaveRate(frmDj02& s);                   // a rate that is none is told, an
 [[nodiscard]] bool FormatPayment(frmDj02& s); // false when it is out of bounds: a message has told so
 
 // -- kit_panel.cpp: the finished product of assembly and dismantling
-void SeekFinishedProduct(frmDj02& s, bool byCode); // by what was typed; not found empties the panel
 void LoadFinishedProduct(frmDj02& s, const std::string& stem, std::int32_t key);
-void ClearFinishedProduct(frmDj02& s);
 [[nodiscard]] bool ChangeKitQuantity(frmDj02& s); // the parts follow; false when it is out of bounds
 double KitQuantity(const frmDj02& s);
 

@@ -147,10 +147,6 @@ std::string PriceField(int priceKind) {
     return isProducts ? "fCpPrice" + std::to_string(priceKind - PriceKind::Cost) : "";
 }
 
-std::string NameAndSpec(const std::string& name, const std::string& spec) {
-    return spec.empty() ? name : spec + "/" + name;
-}
-
 std::string CustomerCaption(const TypeRow& type) {
     return type.fSetKhType == Partner::Supplier ? "供应商"
            : type.fSetKhType == Partner::Dealer ? "销售商"

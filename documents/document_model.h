@@ -52,8 +52,6 @@ int DirectionOfSecondRow(const TypeRow& type);
 
 // "fCpPrice0" to "fCpPrice3" of the price kinds that are a product's, "" of others.
 std::string PriceField(int priceKind);
-// A product as lines show it: specification and name.
-std::string NameAndSpec(const std::string& name, const std::string& spec);
 
 // Captions that follow from the type.
 std::string CustomerCaption(const TypeRow& type); // "供应商", "销售商" or "客户"

@@ -61,21 +61,7 @@ void WireCardLinks(frmDj02& s) {
 }
 
 void WireKitPanel(frmDj02& s) {
-    s.txtCpUnit.locked = true;
     FilterKeys(s.txtInvSL, 10, true);
-    for (const bool byCode : {true, false}) {
-        TextBox& box = byCode ? s.txtCpCode : s.txtCpName;
-        box.onKey = [&s, byCode](const std::string& key) {
-            if (key == "Enter")
-                SeekFinishedProduct(s, byCode);
-        };
-        box.onLeave = [&s, &box, byCode] {
-            if (!CheckNoQuote(box.text))
-                return false;
-            SeekFinishedProduct(s, byCode);
-            return true;
-        };
-    }
     s.txtInvSL.onLeave = [&s] { return ChangeKitQuantity(s); };
 }
 

@@ -71,9 +71,8 @@ struct frmDj02 : Screen {
 
     // Assembly and dismantling: the finished product and how many of it.
     Frame picCpZj{*this, "picCpZj", "成品"};
-    TextBox txtCpCode{picCpZj, "txtCpCode"};
-    TextBox txtCpName{picCpZj, "txtCpName"};
-    TextBox txtCpUnit{picCpZj, "txtCpUnit"};
+    ProductFields finishedProduct{picCpZj, "txtCpCode", "txtCpName", "txtCpUnit"};
+    TextBox& txtCpCode = finishedProduct.code;
     TextBox txtInvSL{picCpZj, "txtInvSL", "1"}; // its tag keeps the quantity that the lines stand for
 
     // The lines.
@@ -114,10 +113,9 @@ struct frmDj02 : Screen {
     std::string accountRule; // by which an approval will number its account entry, "" for none
     // The stored document as it was loaded; approval, change and deletion go on only while it is still so.
     StoredDocument asLoaded;
-    double storedTotal = 0;           // of the stored document, as its header has it
-    std::string asBegun;              // TypedWork() of the document as it was loaded or begun
-    std::string madeNumber;           // the automatic number that the date or the type gave last
-    std::int32_t finishedProduct = 0; // fCpID of a kit document's product
+    double storedTotal = 0; // of the stored document, as its header has it
+    std::string asBegun;    // TypedWork() of the document as it was loaded or begun
+    std::string madeNumber; // the automatic number that the date or the type gave last
 
     DocAction InHand() const { return static_cast<DocAction>(Action); }
     std::string Number() const { return txtNo.text; }

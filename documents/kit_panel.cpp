@@ -6,7 +6,6 @@
 #include "database/recordset.h"
 #include "documents/document_entry.h"
 #include "documents/figure_bounds.h"
-#include "forms/edit_filter.h"
 #include "session/lookups/find_by_text.h"
 #include "session/session.h"
 
@@ -16,52 +15,14 @@ double KitQuantity(const frmDj02& s) {
     return Val(s.txtInvSL.text);
 }
 
-namespace {
-
-// Shows the product, and keeps what the boxes then hold: only another text is searched for.
-void ShowFinishedProduct(frmDj02& s, std::int32_t id, const std::string& code, const std::string& name,
-                         const std::string& unit) {
-    s.finishedProduct = id;
-    s.txtCpCode.text = s.txtCpCode.tag = code;
-    s.txtCpName.text = s.txtCpName.tag = name;
-    s.txtCpUnit.text = unit;
-}
-
-} // namespace
-
-void ClearFinishedProduct(frmDj02& s) {
-    ShowFinishedProduct(s, 0, "", "", "");
-}
-
-void SeekFinishedProduct(frmDj02& s, bool byCode) {
-    const TextBox& box = byCode ? s.txtCpCode : s.txtCpName;
-    const std::string typed = Trim(box.text);
-    if (typed == box.tag)
-        return;
-    ClearFinishedProduct(s); // the panel never shows a text that is not its product's
-    if (!CheckNoQuote(typed))
-        return;
-    ProductSought sought;
-    (byCode ? sought.code : sought.name) = typed;
-    std::int32_t id = 0;
-    try {
-        id = FindProduct(sought);
-    } catch (...) {
-        (byCode ? s.txtCpCode : s.txtCpName).text = typed; // to be sought again when the box is left again
-        throw;
-    }
-    if (id > 0)
-        ShowFinishedProduct(s, id, sought.code, NameAndSpec(sought.name, sought.spec), sought.unit);
-}
-
 void LoadFinishedProduct(frmDj02& s, const std::string& stem, std::int32_t key) {
-    ClearFinishedProduct(s);
+    s.finishedProduct.Clear();
     const Recordset stored(Conn(), LinesStatement(stem, key, 1));
     if (stored.AtEnd())
         return;
-    ShowFinishedProduct(s, static_cast<std::int32_t>(stored["fCpID"].AsLong()), stored["fCpCode"].AsText(),
-                        NameAndSpec(stored["fCpName"].AsText(), stored["fCpGG"].AsText()),
-                        stored["fCpUnit"].AsText());
+    s.finishedProduct.Show(static_cast<std::int32_t>(stored["fCpID"].AsLong()), stored["fCpCode"].AsText(),
+                           NameAndSpec(stored["fCpName"].AsText(), stored["fCpGG"].AsText()),
+                           stored["fCpUnit"].AsText());
     s.txtInvSL.text = s.txtInvSL.tag = NumberText(stored["fInvSL"].AsDouble());
 }
 

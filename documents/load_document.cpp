@@ -7,6 +7,7 @@
 #include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
+#include "session/lookups/find_by_text.h"
 #include "session/lookups/lists.h"
 #include "session/session.h"
 

@@ -266,7 +266,8 @@ void PrintSaved(frmDj02& s) {
 }
 
 bool FinishedProductGiven(frmDj02& s) {
-    return !s.type.IsKit() || s.finishedProduct != 0 || Refuse(s, "请输入组装产品及其数量。", &s.txtCpCode);
+    return !s.type.IsKit() || s.finishedProduct.id != 0 ||
+           Refuse(s, "请输入组装产品及其数量。", &s.txtCpCode);
 }
 
 bool SaveNew(frmDj02& s, DocumentData& document) {

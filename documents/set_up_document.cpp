@@ -99,7 +99,7 @@ void SetStartingValues(frmDj02& s) {
     s.lblSHR.caption.clear();
     Show(false, {&s.lblSHR, &s.shpSHR});
     s.asLoaded = {};
-    ClearFinishedProduct(s);
+    s.finishedProduct.Clear();
     s.txtInvSL.text = s.txtInvSL.tag = "1";
 }
 
@@ -178,7 +178,7 @@ void ResetDocument(frmDj02& s) {
     SetReturnSign(s);
     AppendLine(s);
     s.txtSsSf.text = "0.00";
-    ClearFinishedProduct(s);
+    s.finishedProduct.Clear();
     s.txtInvSL.text = s.txtInvSL.tag = "1";
     RefreshTotals(s);
     s.asLoaded = {};

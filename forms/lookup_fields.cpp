@@ -1,6 +1,7 @@
 #include "forms/lookup_fields.h"
 
 #include "base/text.h"
+#include "forms/edit_filter.h"
 #include "session/lookups/find_by_text.h"
 #include "session/lookups/lists.h"
 
@@ -67,6 +68,52 @@ std::int64_t CardField::Id() const {
 
 std::string CardField::CompanyName() const {
     return CustomerNameOf(Chosen());
+}
+
+ProductFields::ProductFields(Place place, std::string code, std::string name, std::string unit)
+    : code(place, std::move(code)), name(place, std::move(name)), unit(place, std::move(unit)) {
+    this->unit.locked = true;
+    for (TextBox* box : {&this->code, &this->name}) {
+        box->onKey = [this, box](const std::string& key) {
+            if (key == "Enter")
+                Seek(*box);
+        };
+        box->onLeave = [this, box] {
+            if (!CheckNoQuote(box->text))
+                return false;
+            Seek(*box);
+            return true;
+        };
+    }
+}
+
+// What the boxes then hold is kept in their tags: only another text is looked for.
+void ProductFields::Show(std::int32_t product, const std::string& itsCode, const std::string& itsName,
+                         const std::string& itsUnit) {
+    id = product;
+    code.text = code.tag = itsCode;
+    name.text = name.tag = itsName;
+    unit.text = itsUnit;
+}
+
+void ProductFields::Seek(TextBox& typedInto) {
+    const std::string typed = Trim(typedInto.text);
+    if (typed == typedInto.tag)
+        return;
+    Clear();
+    if (!CheckNoQuote(typed))
+        return;
+    ProductSought sought;
+    (&typedInto == &code ? sought.code : sought.name) = typed;
+    std::int32_t found = 0;
+    try {
+        found = FindProduct(sought);
+    } catch (...) {
+        typedInto.text = typed; // to be looked for again when the box is left again
+        throw;
+    }
+    if (found > 0)
+        Show(found, sought.code, NameAndSpec(sought.name, sought.spec), sought.unit);
 }
 
 void DocumentTypeField::Offer(int chosen) {

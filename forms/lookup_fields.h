@@ -55,6 +55,24 @@ struct CardField : ListBox {
     std::string CompanyName() const;
 };
 
+// A product by its code or its name, and its unit. What is typed is looked for at Enter and when the box is left; the boxes
+// never show a text that is not their product's.
+struct ProductFields {
+    ProductFields(Place place, std::string code, std::string name, std::string unit);
+    ProductFields(const ProductFields&) = delete;
+    ProductFields& operator=(const ProductFields&) = delete;
+
+    TextBox code, name, unit;
+    std::int32_t id = 0; // fCpID, 0 for none
+
+    void Show(std::int32_t product, const std::string& itsCode, const std::string& itsName,
+              const std::string& itsUnit);
+    void Clear() { Show(0, "", "", ""); }
+
+  private:
+    void Seek(TextBox& typedInto);
+};
+
 // The document types in use, number in 3 characters, name behind.
 struct DocumentTypeField : ListBox {
     using ListBox::ListBox;

@@ -163,6 +163,10 @@ std::map<std::int64_t, double> GetStockQtys(const std::string& warehouse,
     return stock;
 }
 
+std::string NameAndSpec(const std::string& name, const std::string& spec) {
+    return spec.empty() ? name : spec + "/" + name;
+}
+
 int FindCustomerCard(ListBox& list, const std::string& text) {
     const std::string key = UpperCase(text);
     if (key.empty())

@@ -32,6 +32,9 @@ std::int32_t FindProduct(ProductSought& sought);
 [[nodiscard]] std::vector<Connection::Expected> ProductStatements(const std::string& code,
                                                                   const std::string& warehouse);
 
+// A product as lines show it: specification and name.
+std::string NameAndSpec(const std::string& name, const std::string& spec);
+
 // Stock of a product in a warehouse, with "" in all warehouses of the table together.
 [[nodiscard]] double GetStockQty(const std::string& warehouse, std::int32_t fCpID);
 
