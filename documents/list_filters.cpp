@@ -68,8 +68,8 @@ void Offer(bool offered, CheckBox& box, EditBox& text) {
 void OfferWarehouse(frmDj01& s, int at, int kind, const std::string& caption) {
     WarehouseField& list = s.cboCk[at];
     list.Offer(kind);
-    Offer(kind != -1, s.chkCk[at], list);
-    if (kind == -1)
+    Offer(kind != kNoChoice, s.chkCk[at], list);
+    if (kind == kNoChoice)
         return;
     s.chkCk[at].caption = caption;
     list.SetIndex(list.items.empty() ? -1 : 0);
@@ -77,9 +77,8 @@ void OfferWarehouse(frmDj01& s, int at, int kind, const std::string& caption) {
 
 // Without a type the list goes through all stock documents, wherever their lines are.
 void OfferAll(frmDj01& s) {
-    constexpr int kAnyWarehouse = 0;
     Offer(true, s.chkKh, s.txtKh);
-    OfferWarehouse(s, 0, kAnyWarehouse, "仓库");
+    OfferWarehouse(s, 0, WarehouseKind::Any, "仓库");
     Offer(false, s.chkCk[1], s.cboCk[1]);
     Offer(true, s.chkDd, s.txtDd);
 }

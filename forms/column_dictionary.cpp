@@ -145,13 +145,17 @@ std::string OpenBriefPicker(const std::string& table, const std::string& code, B
     return ComponentsInUse().codeLists->Edit(table, code, kind);
 }
 
-bool SetControlCaption(Label& control, const std::string& table) {
+void OpenFieldSettings(const std::string& table, const std::string& field) {
     Screen& settings = ScreenNamed("frmRs_RptSet");
     settings.SetProperty("TabelName", table);
-    settings.SetProperty("Field", control.tag);
+    settings.SetProperty("Field", field);
     settings.SetProperty("ItemEnable", 0);
-    session.RptSetResult = control.caption; // stays when the window is closed without a choice
     ShowModal(settings);
+}
+
+bool SetControlCaption(Label& control, const std::string& table) {
+    session.RptSetResult = control.caption; // stays when the window is closed without a choice
+    OpenFieldSettings(table, control.tag);
     if (session.RptSetResult == control.caption)
         return false;
     control.caption = session.RptSetResult;

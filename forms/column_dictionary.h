@@ -42,6 +42,9 @@ std::vector<Column> CompanysColumns(const std::string& table, std::vector<Column
 // Opens the code list editor in use; see CodeListEditor for the arguments and the text that comes back.
 std::string OpenBriefPicker(const std::string& table, const std::string& code, BriefKind kind);
 
+// Lets the user rename a field and choose its code list: what session.RptSetResult holds afterwards.
+void OpenFieldSettings(const std::string& table, const std::string& field);
+
 // Lets the user rename the field that the label's tag names, and choose its code list. True when the label
 // has taken a new caption.
 bool SetControlCaption(Label& control, const std::string& table);

@@ -7,6 +7,7 @@
 #include "controls/grid_routines.h"
 #include "controls/view.h"
 #include "database/recordset.h"
+#include "forms/column_dictionary.h"
 #include "forms/edit_filter.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
@@ -147,11 +148,7 @@ void RenameColumn(frmBrief& s) {
     const int row = s.Grid1.selectedRow;
     if (row < 1)
         return;
-    Screen& field = ScreenNamed("frmRs_RptSet");
-    field.SetProperty("TabelName", s.table);
-    field.SetProperty("Field", s.Grid1.Text(row, 3));
-    field.SetProperty("ItemEnable", 0);
-    ShowModal(field);
+    OpenFieldSettings(s.table, s.Grid1.Text(row, 3));
     if (session.RptSetResult.empty() || session.RptSetResult == s.Grid1.Text(row, 2))
         return;
     s.Grid1.SetCell(row, 2, session.RptSetResult);

@@ -56,7 +56,7 @@ void Print(const frmCkKc& s) {
     const std::string warehouse = TickedText(s.chkCk, s.cboCk);
     FieldList fields{s.chkCk.caption, warehouse.empty() ? "所有仓库" : warehouse};
     if (s.chkPrice.value)
-        fields.insert(fields.end(), {"单价取值", s.ChosenPrice().caption});
+        fields.insert(fields.end(), {"单价取值", s.optPrice[s.ChosenPrice()].caption});
     PrintGrid(s.Grid1, s.title, s.title, "", fields);
 }
 
@@ -101,10 +101,11 @@ Arrangement frmCkKc::Arrange() {
         .height = 640};
 }
 
-const OptionButton& frmCkKc::ChosenPrice() const {
-    const auto chosen =
-        std::ranges::find_if(optPrice, [](const OptionButton& option) { return option.value; });
-    return chosen == std::end(optPrice) ? optPrice[3] : *chosen;
+size_t frmCkKc::ChosenPrice() const {
+    size_t place = 0;
+    while (place + 1 < std::size(optPrice) && !optPrice[place].value)
+        ++place;
+    return place;
 }
 
 void RegisterStockScreens() {

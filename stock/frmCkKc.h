@@ -49,7 +49,7 @@ struct frmCkKc : Screen {
     Filters filters;
 
     StockQuery Question() const { return static_cast<StockQuery>(myState); }
-    const OptionButton& ChosenPrice() const;
+    size_t ChosenPrice() const; // the place of its option
 };
 
 // -- stock_query.cpp

@@ -24,7 +24,7 @@ auto AtPrice(const char* quantity) {
 }
 
 std::string StockStatement(const frmCkKc& s) {
-    const auto price = std::to_string(&s.ChosenPrice() - s.optPrice);
+    const std::string price = std::to_string(s.ChosenPrice());
     return "select b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit,b.fCpSlMin,b.fCpSlMax,a.*,b.fCpPrice" + price +
            " as fCpPrice From (tJXC_CkTj a Left join tJXC_Cp b On a.fCpID=b.fCpID)  Where 1=1" +
            s.filters.Condition() + " Order By b.fCpCode,a.fCkName";
@@ -79,13 +79,15 @@ void QueryStock(frmCkKc& s) {
 void ColorRows(frmCkKc& s) {
     if (s.Question() != StockQuery::Alarm)
         return;
-    const auto figure = [&s](int row, const char* field) { return s.Grid1.Number(row, s.list.Place(field)); };
+    const int stockPlace = s.list.Place("fKcSL");
+    const int lowerPlace = s.list.Place("fCpSlMin");
+    const int upperPlace = s.list.Place("fCpSlMax");
     for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
-        const double stock = figure(row, "fKcSL");
-        const double upper = figure(row, "fCpSlMax");
+        const double stock = s.Grid1.Number(row, stockPlace);
+        const double upper = s.Grid1.Number(row, upperPlace);
         Color color = kNormalColor;
         if (upper > 0)
-            color = stock < figure(row, "fCpSlMin") ? kBelow : stock > upper ? kAbove : kNormalColor;
+            color = stock < s.Grid1.Number(row, lowerPlace) ? kBelow : stock > upper ? kAbove : kNormalColor;
         s.Grid1.SetRowColor(row, 2, color);
     }
 }

@@ -23,14 +23,13 @@ Recordset RowToWrite(const char* statement) {
 frmHostCompany::frmHostCompany() : RecordEditor("frmHostCompany", "公司资料") {
     fieldsInARow = 2;
     dtpCompDate.caption = "启用日期";
-    const auto periodEnd = [] {
-        LoadPeriodSettings();
-        return session.PeriodEnd;
-    };
     guards = {{[this] { return !dtpCompDate.date; }, "[启用日期]不能为空值！", &dtpCompDate},
-              {[this, periodEnd] { return periodEnd() && *dtpCompDate.date > *periodEnd(); },
+              {[this] {
+                   LoadPeriodSettings(); // a close by another user may have moved it
+                   return session.PeriodEnd && *dtpCompDate.date > *session.PeriodEnd;
+               },
                "[启用日期]不能晚于本期（至 {}）！", &dtpCompDate,
-               [periodEnd] { return IsoText(*periodEnd()); }}};
+               [] { return IsoText(*session.PeriodEnd); }}};
 }
 
 Arrangement frmHostCompany::Arrange() {
