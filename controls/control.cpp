@@ -34,6 +34,8 @@ std::string_view KindName(ControlKind kind) {
         return "frame";
     case ControlKind::Menu:
         return "menu";
+    case ControlKind::Picture:
+        return "picture";
     }
     return "";
 }

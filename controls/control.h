@@ -17,7 +17,21 @@ namespace jxc {
 
 struct Screen;
 
-enum class ControlKind { Text, Label, Button, Check, Option, List, Date, Grid, Tree, Tabs, Frame, Menu };
+enum class ControlKind {
+    Text,
+    Label,
+    Button,
+    Check,
+    Option,
+    List,
+    Date,
+    Grid,
+    Tree,
+    Tabs,
+    Frame,
+    Menu,
+    Picture
+};
 
 // "text", "label", "button" ...: the kind as scripts read it.
 std::string_view KindName(ControlKind kind);
@@ -64,6 +78,16 @@ struct Label : Control {
         : Control(place, std::move(name), ControlKind::Label, std::move(caption)) {}
     Value Shown() const override { return caption; }
     int color = 0;
+    // What a field's caption can do beside naming it. The keyboard reaches both from the field: F6 and Shift+F6.
+    std::function<void()> onDoubleClick;
+    std::function<void()> onRightClick;
+};
+
+// A picture from a file, "" for none. A file that holds none shows nothing.
+struct Picture : Control {
+    Picture(Place place, std::string name) : Control(place, std::move(name), ControlKind::Picture) {}
+    Value Shown() const override { return file; }
+    std::string file; // its path
 };
 
 struct Frame : Control {

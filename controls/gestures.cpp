@@ -1,5 +1,6 @@
 #include "controls/gestures.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/text.h"
@@ -99,6 +100,20 @@ Value TypedTick(const GridColumn& column, const std::string& text) {
     throw GestureRefused("“" + column.caption + "”只能是 1 或 0。");
 }
 
+// The item that reads so, or the first that begins so.
+Value TypedItem(const GridColumn& column, const std::string& text) {
+    const std::string typed = Trim(text);
+    if (typed.empty())
+        return {};
+    auto found = std::ranges::find(column.items, typed);
+    if (found == column.items.end())
+        found = std::ranges::find_if(column.items,
+                                     [&](const std::string& item) { return item.starts_with(typed); });
+    if (found == column.items.end())
+        throw GestureRefused("“" + column.caption + "”没有“" + typed + "”这一项。");
+    return static_cast<std::int64_t>(found - column.items.begin());
+}
+
 GestureRefused NoNumber(const GridColumn& column) {
     return GestureRefused("“" + column.caption + "”只能输入数字。");
 }
@@ -115,6 +130,8 @@ Value TypedValue(const GridColumn& column, const std::string& text) {
         return column.maxBytes > 0 ? TruncateToBytes(text, column.maxBytes) : text;
     if (column.type == CellType::Check)
         return TypedTick(column, text);
+    if (column.type == CellType::List)
+        return TypedItem(column, text);
     if (Trim(text).empty())
         return {};
     const std::string digits = WithoutThousands(text);
@@ -249,6 +266,18 @@ void Click(Screen& screen, Command& command) {
         Guarded(screen, command.onClick);
     if (screen.Focus() == &command)
         LeaveFocus(screen);
+}
+
+void DoubleClickLabel(Screen& screen, Label& label) {
+    RequireUsable(label);
+    if (label.onDoubleClick)
+        Guarded(screen, label.onDoubleClick);
+}
+
+void RightClickLabel(Screen& screen, Label& label) {
+    RequireUsable(label);
+    if (label.onRightClick)
+        Guarded(screen, label.onRightClick);
 }
 
 void PressKey(Screen& screen, Control& control, const std::string& key) {

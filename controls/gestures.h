@@ -44,6 +44,9 @@ void ChooseItem(Screen& screen, ListBox& list, int index);
 int ItemWithText(const ListBox& list, const std::string& text);
 void ChooseTab(Screen& screen, Tabs& tabs, int index);
 void Click(Screen& screen, Command& command);
+// On a field's caption; the focus stays where it is.
+void DoubleClickLabel(Screen& screen, Label& label);
+void RightClickLabel(Screen& screen, Label& label);
 // Presses a named key in a control: "Enter", "Delete", "F5" ...
 void PressKey(Screen& screen, Control& control, const std::string& key);
 

@@ -161,6 +161,11 @@ const Value& Grid::Cell(int row, int column) const {
 std::string Grid::ShownText(int row, int column) const {
     const Value& cell = Cell(row, column);
     const GridColumn& settings = Column(column);
+    if (settings.type == CellType::List) {
+        const std::int64_t place = cell.IsNull() ? -1 : cell.AsLong();
+        return place < 0 || place >= std::ssize(settings.items) ? ""
+                                                                : settings.items[static_cast<size_t>(place)];
+    }
     if (cell.IsNull() || settings.type != CellType::Number || cell.AsText().empty())
         return cell.AsText();
     return FormatFixed(cell.AsDouble(), settings.decimals, settings.thousands);

@@ -13,7 +13,8 @@
 
 namespace jxc {
 
-enum class CellType { Text, Number, Check };
+// A cell of a List column holds the place of one of the column's items, from 0; it is typed by the item's beginning.
+enum class CellType { Text, Number, Check, List };
 enum class Alignment { Left, Right, Center };
 
 // Red, green and blue as 0x00BBGGRR, the order in which the highlight colours are given; -1 is the normal
@@ -33,6 +34,7 @@ struct GridColumn {
     bool hidden = false;
     bool locked = false; // against typing
     Alignment alignment = Alignment::Left;
+    std::vector<std::string> items = {}; // of a List
     Color textColor = kNormalColor;
     int maxBytes = 0;     // typed text is cut to this many bytes, 0 for no limit
     double below = 0;     // what is typed may not make a figure of the column this large, 0 for no bound

@@ -9,9 +9,10 @@ namespace jxc {
 namespace {
 
 CellType TypeOf(const Column& column) {
-    return column.figure == Figure::Tick ? CellType::Check
-           : column.IsNumber()           ? CellType::Number
-                                         : CellType::Text;
+    return column.figure == Figure::Tick     ? CellType::Check
+           : column.figure == Figure::Choice ? CellType::List
+           : column.IsNumber()               ? CellType::Number
+                                             : CellType::Text;
 }
 
 GridColumn Shown(const Column& column) {
@@ -21,6 +22,7 @@ GridColumn Shown(const Column& column) {
             .width = column.width,
             .locked = !column.typed,
             .alignment = column.IsNumber() ? Alignment::Right : Alignment::Left,
+            .items = column.items,
             .maxBytes = column.maxBytes};
 }
 

@@ -13,7 +13,7 @@ namespace jxc {
 
 // How a column shows its field. Quantities and prices have the company's decimals, money has two; a day is its first
 // ten characters; a key is never shown.
-enum class Figure { Text, Day, Number, Quantity, Price, Money, Tick, Key };
+enum class Figure { Text, Day, Number, Quantity, Price, Money, Tick, Choice, Key };
 
 struct Column {
     std::string caption; // "" for a column that the company does not use
@@ -23,11 +23,12 @@ struct Column {
     std::function<Value(const Recordset&)> made = {}; // what the cell shows in place of the field
     std::function<bool()> when = {};                  // filled and shown only then
     std::function<bool()> shownWhen = {};             // always filled, but shown only then
-    int decimals = 2;                                 // of a Number
-    int maxBytes = 0;                                 // of what is typed
-    bool typed = false;                               // takes typing; otherwise it is locked
-    bool ownCaption = false;                          // the company's dictionary does not rename it
-    bool selected = true;                             // the company wants to see it
+    std::vector<std::string> items = {}; // of a Choice, whose cell holds the place of one, from 0
+    int decimals = 2;                    // of a Number
+    int maxBytes = 0;                    // of what is typed
+    bool typed = false;                  // takes typing; otherwise it is locked
+    bool ownCaption = false;             // the company's dictionary does not rename it
+    bool selected = true;                // the company wants to see it
 
     bool IsNumber() const {
         return figure == Figure::Number || figure == Figure::Quantity || figure == Figure::Price ||

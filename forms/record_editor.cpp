@@ -70,7 +70,7 @@ void RecordEditor::Clear() {
         field->Clear();
 }
 
-std::string TypedWork(const RecordEditor& s) {
+std::string TypedWork(const Screen& s) {
     std::string work;
     const auto add = [&](const std::string& text) { work.append(text).push_back('\x1f'); };
     for (const Control* control : s.Controls()) {

@@ -55,7 +55,7 @@ struct RecordEditor : Screen {
 };
 
 // What a person can type and choose on the screen, as it stands now: to be compared.
-std::string TypedWork(const RecordEditor& s);
+std::string TypedWork(const Screen& s);
 
 void BeginMode(RecordEditor& s, EditorMode mode);
 void LeaveMode(RecordEditor& s);

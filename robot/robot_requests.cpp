@@ -151,6 +151,8 @@ void SelectRowOrNode(Screen& screen, const json& request) {
 }
 
 void DoubleClickControl(Screen& screen, const json& request) {
+    if (auto* label = dynamic_cast<Label*>(&ControlOf(screen, request)))
+        return DoubleClickLabel(screen, *label);
     auto& grid = ControlOfKind<Grid>(screen, request, "表格");
     DoubleClickRow(screen, grid, request.contains("row") ? PlaceOf(request, "row") : grid.selectedRow);
 }
@@ -175,6 +177,10 @@ const std::map<std::string, Gesture>& Gestures() {
         {"menu",
          [](Screen& screen, const json& r) { Click(screen, ControlOfKind<MenuItem>(screen, r, "菜单项")); }},
         {"dblclick", DoubleClickControl},
+        {"rightclick",
+         [](Screen& screen, const json& r) {
+             RightClickLabel(screen, ControlOfKind<Label>(screen, r, "标签"));
+         }},
         {"select", SelectRowOrNode},
         {"key",
          [](Screen& screen, const json& r) { PressKey(screen, ControlOf(screen, r), TextOf(r, "key")); }},

@@ -194,7 +194,8 @@ const std::map<std::string, Gesture>& Gestures() {
              return json{{"control", WordAt(w, 1)}, {"key", WordAt(w, 2)}};
          }},
         {"select", OnRow},
-        {"dblclick", OnRow},
+        {"dblclick", [](const Words& w) { return w.size() > 2 ? OnRow(w) : OnControl(w); }},
+        {"rightclick", OnControl},
         {"heading",
          [](const Words& w) {
              return json{{"control", WordAt(w, 1)}, {"col", NumberAt(w, 2)}};

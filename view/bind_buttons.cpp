@@ -1,4 +1,4 @@
-// Labels, frames, tabs, buttons, menu items, check boxes and options.
+// Labels, pictures, frames, tabs, buttons, menu items, check boxes and options.
 
 #include "controls/gestures.h"
 #include "view/binding.h"
@@ -14,6 +14,10 @@ class LabelBinding : public Binding {
     LabelBinding(ScreenWindow& window, Label& label, QLabel& shown)
         : Binding(window, label, shown), label_(label), shown_(shown) {
         shown_.setTextFormat(Qt::PlainText);
+        if (label.onDoubleClick)
+            OfferKey("F6", [this] { DoubleClickLabel(window_.Shown(), label_); });
+        if (label.onRightClick)
+            OfferKey("Shift+F6", [this] { RightClickLabel(window_.Shown(), label_); });
     }
     bool TakesFocus() const override { return false; }
     void Refresh() override {
@@ -28,10 +32,67 @@ class LabelBinding : public Binding {
         shown_.setPalette(palette);
     }
 
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (object == &shown_ && event->type() == QEvent::MouseButtonDblClick) {
+            window_.Do([&] { DoubleClickLabel(window_.Shown(), label_); });
+            return true;
+        }
+        if (object == &shown_ && event->type() == QEvent::ContextMenu) {
+            window_.Do([&] { RightClickLabel(window_.Shown(), label_); });
+            return true;
+        }
+        return Binding::eventFilter(object, event);
+    }
+
   private:
+    // In the field that the label names.
+    void OfferKey(const char* key, std::function<void()> gesture) {
+        if (shown_.buddy())
+            connect(new QShortcut(QKeySequence(key), shown_.buddy(), nullptr, nullptr,
+                                  Qt::WidgetWithChildrenShortcut),
+                    &QShortcut::activated, this, [this, gesture] { window_.Do(gesture); });
+    }
+
     Label& label_;
     QLabel& shown_;
     int color_ = 0;
+};
+
+// Shown as large as its place allows, never larger than it is.
+class PictureBinding : public Binding {
+  public:
+    PictureBinding(ScreenWindow& window, Picture& picture, QLabel& shown)
+        : Binding(window, picture, shown), picture_(picture), shown_(shown) {
+        shown_.setAlignment(Qt::AlignCenter);
+        shown_.setMinimumSize(1, 1);
+        Watch(shown_);
+    }
+    bool TakesFocus() const override { return false; }
+    void Refresh() override {
+        Binding::Refresh();
+        if (file_ == picture_.file)
+            return;
+        file_ = picture_.file;
+        full_ = file_.empty() ? QPixmap() : QPixmap(Q(file_));
+        Fit();
+    }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Resize)
+            Fit();
+        return Binding::eventFilter(object, event);
+    }
+
+  private:
+    void Fit() {
+        const QSize room = full_.size().boundedTo(shown_.size());
+        shown_.setPixmap(full_.isNull() ? full_
+                                        : full_.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    }
+
+    Picture& picture_;
+    QLabel& shown_;
+    std::string file_;
+    QPixmap full_;
 };
 
 class FrameBinding : public Binding {
@@ -155,6 +216,8 @@ std::unique_ptr<Binding> BindButton(ScreenWindow& window, Control& control, QWid
         return nullptr;
     if (auto* label = dynamic_cast<Label*>(&control))
         return std::make_unique<LabelBinding>(window, *label, static_cast<QLabel&>(widget));
+    if (auto* picture = dynamic_cast<Picture*>(&control))
+        return std::make_unique<PictureBinding>(window, *picture, static_cast<QLabel&>(widget));
     if (auto* tabs = dynamic_cast<Tabs*>(&control))
         return std::make_unique<TabsBinding>(window, *tabs, static_cast<QTabWidget&>(widget));
     if (auto* command = dynamic_cast<Command*>(&control))

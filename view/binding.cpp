@@ -96,6 +96,7 @@ bool Fits(const Control& control, const QWidget& widget) {
     case ControlKind::Text:
         return qobject_cast<const QLineEdit*>(&widget);
     case ControlKind::Label:
+    case ControlKind::Picture:
         return qobject_cast<const QLabel*>(&widget);
     case ControlKind::Button:
     case ControlKind::Menu:

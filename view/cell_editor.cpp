@@ -1,7 +1,9 @@
 #include "view/cell_editor.h"
 
+#include <QCompleter>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
+#include <QTimer>
 
 #include "base/text.h"
 #include "view/grid_model.h"
@@ -24,6 +26,8 @@ class ByteLimit : public QValidator {
 };
 
 QValidator* ValidatorOf(const GridColumn& column, QObject* parent) {
+    if (column.type == CellType::List)
+        return nullptr;
     if (column.type == CellType::Text)
         return column.maxBytes > 0 ? new ByteLimit(column.maxBytes, parent) : nullptr;
     const QString decimals =
@@ -67,8 +71,34 @@ QWidget* CellEditor::createEditor(QWidget* parent, const QStyleOptionViewItem&,
     const GridColumn& column = grid_.Column(index.column() + 1);
     line->setAlignment(column.alignment == Alignment::Right ? Qt::AlignRight : Qt::AlignLeft);
     line->setValidator(ValidatorOf(column, line));
-    line->setProperty("numeric", column.type != CellType::Text);
+    line->setProperty("numeric", column.type == CellType::Number);
+    if (column.type == CellType::List)
+        const_cast<CellEditor*>(this)->OfferItems(*line, column);
     return line;
+}
+
+void CellEditor::OfferItems(QLineEdit& line, const GridColumn& column) {
+    QStringList items;
+    for (const std::string& item : column.items)
+        items << Q(item);
+    auto* offered = new QCompleter(items, &line);
+    offered->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    offered->setMaxVisibleItems(static_cast<int>(items.size()));
+    line.setCompleter(offered);
+    connect(offered, qOverload<const QString&>(&QCompleter::activated), &line,
+            [this, &line](const QString& item) {
+                line.setText(item);
+                Finish(line, CellExit::Enter);
+            });
+    QTimer::singleShot(0, offered, [offered] { offered->complete(); }); // when the cell stands in its place
+}
+
+void CellEditor::Finish(QLineEdit& line, CellExit exit) {
+    const QPointer<QLineEdit> held = &line; // a message of the commit may have closed it
+    emit commitData(&line);
+    if (held && !held->isHidden())
+        emit closeEditor(held, NoHint);
+    leave_(exit);
 }
 
 // A cell that was never filled is empty, not 0.
@@ -110,11 +140,7 @@ bool CellEditor::eventFilter(QObject* object, QEvent* event) {
     const std::optional<CellExit> exit = ExitOf(static_cast<QKeyEvent&>(*event), *line);
     if (!exit)
         return QStyledItemDelegate::eventFilter(object, event);
-    const QPointer<QLineEdit> held = line; // a message of the commit may have closed it
-    emit commitData(line);
-    if (held && !held->isHidden())
-        emit closeEditor(held, NoHint);
-    leave_(*exit);
+    Finish(*line, *exit);
     return true;
 }
 

@@ -7,6 +7,8 @@
 
 #include "controls/grid.h"
 
+class QLineEdit;
+
 namespace jxc {
 
 // How a cell is left: the way that the selection goes next.
@@ -28,6 +30,11 @@ class CellEditor : public QStyledItemDelegate {
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
+    // The items of a list column under the cell; taking one is an Enter.
+    void OfferItems(QLineEdit& line, const GridColumn& column);
+    // Hands over what is typed and leaves the cell.
+    void Finish(QLineEdit& line, CellExit exit);
+
     const Grid& grid_;
     std::function<void(int, int, const QString&)> commit_;
     std::function<void(CellExit)> leave_;

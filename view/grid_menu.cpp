@@ -31,7 +31,7 @@ std::vector<int> VisibleColumns(const Grid& grid, int first, int last) {
 // A cell as programs read it: a number without separators, a text that no spreadsheet runs.
 std::string PlainText(const Grid& grid, int row, int column) {
     std::string text = grid.ShownText(row, column);
-    if (!grid.Cell(row, column).IsNumber())
+    if (!grid.Cell(row, column).IsNumber() || grid.Column(column).type == CellType::List)
         return HarmlessText(text);
     if (grid.Column(column).type == CellType::Number)
         std::erase(text, ',');

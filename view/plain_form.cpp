@@ -10,9 +10,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTableView>
+#include <QTreeWidget>
 
 #include "controls/grid.h"
+#include "controls/tree.h"
 #include "view/qt_text.h"
 
 namespace jxc {
@@ -51,34 +54,89 @@ QWidget* NewWidget(const Control& control) {
         return new QPushButton;
     case ControlKind::Grid:
         return new QTableView;
+    case ControlKind::Tree:
+        return new QTreeWidget;
     default:
         return new QLabel;
     }
 }
 
+// What takes a whole row, and the height that is left over.
+bool TakesTheRow(const Control& control) {
+    return control.kind == ControlKind::Grid || control.kind == ControlKind::Picture;
+}
+
+// What stands for a field's caption before it.
+bool NamesAField(const Control& control) {
+    return control.kind == ControlKind::Check || control.kind == ControlKind::Label;
+}
+
+// The place of a control in the order of tabs; those of one place follow each other as they stand. A query's fields
+// come before its ticks, then its commands and its grid; an editor's list before its fields, and saving behind them.
+// What leaves the screen is last.
+int TabPlace(const Arrangement& arrangement, const Control& control) {
+    enum { kFields, kTicks, kNext, kGrid, kOthers, kLeave };
+    const auto stands = [&](const std::vector<Control*>& commands) {
+        return std::ranges::find(commands, &control) != commands.end();
+    };
+    const auto& closing = arrangement.closingCommands;
+    const bool query = arrangement.IsQuery();
+    const bool tick = control.kind == ControlKind::Check || control.kind == ControlKind::Option;
+    if (stands(closing))
+        return &control == closing.back() ? kLeave : query ? kOthers : kNext;
+    if (stands(arrangement.commands))
+        return query ? kNext : kOthers;
+    if (query && &control == arrangement.grid)
+        return kGrid;
+    return query && tick ? kTicks : kFields;
+}
+
 // Lays the parts of one form, and remembers its widgets for the order of tabs.
 class FormBuilder {
   public:
-    explicit FormBuilder(const Arrangement& arrangement) : arrangement_(arrangement), form_(new QWidget) {
-        form_->setObjectName("form");
-        form_->resize(arrangement.width, arrangement.height);
-        auto* parts = new QVBoxLayout(form_.get());
+    std::unique_ptr<QWidget> Form(const Arrangement& arrangement) {
+        auto form = std::make_unique<QWidget>();
+        form->setObjectName("form");
+        form->resize(arrangement.width, arrangement.height);
+        Fill(*form, arrangement);
+        for (size_t at = 1; at < order_.size(); ++at)
+            QWidget::setTabOrder(order_[at - 1], order_[at]);
+        return form;
+    }
+
+  private:
+    void Fill(QWidget& holder, const Arrangement& arrangement) {
+        const size_t before = placed_.size();
+        auto* parts = new QVBoxLayout(&holder);
         parts->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
         parts->setSpacing(kGap + 2);
         if (!arrangement.above.empty())
             parts->addLayout(Rows(arrangement.above));
-        parts->addLayout(Middle(), 1);
-        parts->addLayout(Foot());
-        OrderTabs();
+        if (arrangement.tabs)
+            parts->addWidget(Pages(arrangement), 1);
+        else
+            parts->addLayout(Middle(arrangement), 1);
+        if (!arrangement.IsEmpty())
+            parts->addLayout(Foot(arrangement));
+        TakeOrder(arrangement, before);
     }
 
-    std::unique_ptr<QWidget> Take() { return std::move(form_); }
+    QTabWidget* Pages(const Arrangement& arrangement) {
+        auto* tabs = new QTabWidget;
+        tabs->setObjectName(Q(arrangement.tabs->name));
+        for (size_t at = 0; at < arrangement.pages.size(); ++at) {
+            auto* page = new QWidget;
+            page->setObjectName(QString("tab_%1").arg(at));
+            tabs->addTab(page, Q(arrangement.tabs->captions.at(at)));
+            Fill(*page, arrangement.pages[at]);
+        }
+        return tabs;
+    }
 
-  private:
     QWidget* Place(const Control& control) {
         QWidget* widget = NewWidget(control);
         widget->setObjectName(Q(control.name));
-        if (control.kind != ControlKind::Label)
+        if (control.kind != ControlKind::Label && control.kind != ControlKind::Picture)
             placed_.push_back({widget, &control});
         return widget;
     }
@@ -110,20 +168,19 @@ class FormBuilder {
         size_t at = 0;
         for (; at < controls.size(); ++at, column += 2) {
             const Control& first = *controls[at];
-            if (first.kind == ControlKind::Grid)
-                return AddGrid(grid, row, first);
+            const Control* second = at + 1 < controls.size() ? controls[at + 1] : nullptr;
+            if (TakesTheRow(first))
+                return AddWhole(grid, row, first);
             if (IsField(first)) {
-                QWidget* field = Place(first);
+                QWidget* field = PlaceField(grid, row, column, first);
                 if (!first.caption.empty())
                     grid.addWidget(CaptionOf(first, field), row, column);
-                grid.addWidget(field, row, column + 1);
-                field->setMinimumWidth(kLeastField);
-            } else if (first.kind == ControlKind::Check && at + 1 < controls.size() &&
-                       IsField(*controls[at + 1])) {
-                grid.addWidget(Place(first), row, column);
-                QWidget* field = Place(*controls[++at]);
-                field->setMinimumWidth(kLeastField);
-                grid.addWidget(field, row, column + 1);
+            } else if (NamesAField(first) && second && IsField(*second)) {
+                QWidget* name = Place(first);
+                grid.addWidget(name, row, column);
+                QWidget* field = PlaceField(grid, row, column, *controls[++at]);
+                if (auto* label = qobject_cast<QLabel*>(name))
+                    label->setBuddy(field);
             } else {
                 break;
             }
@@ -134,7 +191,14 @@ class FormBuilder {
         return column;
     }
 
-    int AddGrid(QGridLayout& grid, int row, const Control& control) {
+    QWidget* PlaceField(QGridLayout& grid, int row, int column, const Control& control) {
+        QWidget* field = Place(control);
+        field->setMinimumWidth(kLeastField);
+        grid.addWidget(field, row, column + 1);
+        return field;
+    }
+
+    int AddWhole(QGridLayout& grid, int row, const Control& control) {
         grid.addWidget(Place(control), row, 0, 1, -1);
         grid.setRowStretch(row, 1);
         return 0;
@@ -143,24 +207,31 @@ class FormBuilder {
     QHBoxLayout* Line(const Arrangement::Row& controls) {
         auto* line = new QHBoxLayout;
         line->setSpacing(kGap * 2);
-        for (const Control* control : controls)
-            line->addWidget(Place(*control));
+        for (const Control* control : controls) {
+            QWidget* widget = Place(*control);
+            if (IsField(*control) && !control->caption.empty())
+                line->addWidget(CaptionOf(*control, widget));
+            line->addWidget(widget);
+        }
         line->addStretch(1);
         return line;
     }
 
-    QHBoxLayout* Middle() {
+    QHBoxLayout* Middle(const Arrangement& arrangement) {
         auto* middle = new QHBoxLayout;
         middle->setSpacing(kGap * 2);
-        if (arrangement_.grid) {
-            QWidget* grid = Place(*arrangement_.grid);
-            grid->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-            middle->addWidget(grid, 3);
+        const Control* large =
+            arrangement.grid ? static_cast<const Control*>(arrangement.grid) : arrangement.tree;
+        if (large) {
+            QWidget* widget = Place(*large);
+            widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+            middle->addWidget(widget, 3);
         }
-        if (!arrangement_.fields.empty()) {
+        if (!arrangement.fields.empty()) {
             auto* side = new QVBoxLayout;
-            auto* rows = Rows(arrangement_.fields);
-            const bool fills = arrangement_.fields.back().front()->kind == ControlKind::Grid;
+            auto* rows = Rows(arrangement.fields);
+            const bool fills = std::ranges::any_of(
+                arrangement.fields, [](const Arrangement::Row& row) { return TakesTheRow(*row.front()); });
             side->addLayout(rows, fills ? 1 : 0);
             if (!fills)
                 side->addStretch(1);
@@ -169,55 +240,39 @@ class FormBuilder {
         return middle;
     }
 
-    QHBoxLayout* Foot() {
+    QHBoxLayout* Foot(const Arrangement& arrangement) {
         auto* foot = new QHBoxLayout;
-        for (const Control* command : arrangement_.commands)
+        for (const Control* command : arrangement.commands)
             foot->addWidget(Place(*command));
         foot->addStretch(1);
-        for (const Control* command : arrangement_.closingCommands)
+        for (const Control* command : arrangement.closingCommands)
             foot->addWidget(Place(*command));
         return foot;
-    }
-
-    // The place of a control in the order of tabs; those of one place follow each other as they stand. A query's fields
-    // come before its ticks, then its commands and its grid; an editor's list before its fields, and saving behind them.
-    // What leaves the screen is last.
-    int TabPlace(const Control& control) const {
-        enum { kFields, kTicks, kNext, kGrid, kOthers, kLeave };
-        const auto stands = [&](const std::vector<Control*>& commands) {
-            return std::ranges::find(commands, &control) != commands.end();
-        };
-        const auto& closing = arrangement_.closingCommands;
-        const bool query = !arrangement_.above.empty() && arrangement_.fields.empty();
-        const bool tick = control.kind == ControlKind::Check || control.kind == ControlKind::Option;
-        if (stands(closing))
-            return &control == closing.back() ? kLeave : query ? kOthers : kNext;
-        if (stands(arrangement_.commands))
-            return query ? kNext : kOthers;
-        if (query && &control == arrangement_.grid)
-            return kGrid;
-        return query && tick ? kTicks : kFields;
-    }
-
-    void OrderTabs() {
-        std::ranges::stable_sort(placed_, {}, [this](const Placed& one) { return TabPlace(*one.control); });
-        for (size_t at = 1; at < placed_.size(); ++at)
-            QWidget::setTabOrder(placed_[at - 1].widget, placed_[at].widget);
     }
 
     struct Placed {
         QWidget* widget;
         const Control* control;
     };
-    const Arrangement& arrangement_;
-    std::unique_ptr<QWidget> form_;
-    std::vector<Placed> placed_; // in the order in which they stand
+
+    // The widgets of one arrangement, placed since `from`, go behind those of its pages, which have their order.
+    void TakeOrder(const Arrangement& arrangement, size_t from) {
+        std::vector<Placed> own(placed_.begin() + static_cast<std::ptrdiff_t>(from), placed_.end());
+        placed_.resize(from);
+        std::ranges::stable_sort(own, {},
+                                 [&](const Placed& one) { return TabPlace(arrangement, *one.control); });
+        for (const Placed& one : own)
+            order_.push_back(one.widget);
+    }
+
+    std::vector<Placed> placed_;  // of the arrangement in hand, as they stand
+    std::vector<QWidget*> order_; // of tabs
 };
 
 } // namespace
 
 std::unique_ptr<QWidget> PlainForm(const Arrangement& arrangement) {
-    return FormBuilder(arrangement).Take();
+    return FormBuilder().Form(arrangement);
 }
 
 } // namespace jxc
