@@ -44,9 +44,6 @@ void PlanMasterData() {
 }
 
 void PlanPeriods() {
-    AddScreen({.name = "frmSystem",
-               .calls = {{0}},
-               .menu = {{"系统(&T)", "系统参数", "会计期间、税、成本方法与小数位数。", 0}}});
     AddScreen({.name = "frmJz_Step",
                .calls = {{7, nullptr, IsClose}},
                .menu = {{"系统(&T)", "月末结帐", "结束本月，进入下一会计期间。", 7, 1}}});

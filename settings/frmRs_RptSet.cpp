@@ -6,6 +6,7 @@
 #include "session/screen_entries.h"
 #include "session/session.h"
 #include "settings/frmBrief.h"
+#include "settings/frmSystem.h"
 
 namespace jxc {
 
@@ -79,6 +80,10 @@ Arrangement frmRs_RptSet::Arrange() {
 void RegisterSettingsScreens() {
     AddScreen({"frmRs_RptSet", [] { return std::make_unique<frmRs_RptSet>(); }});
     AddScreen({"frmBrief", [] { return std::make_unique<frmBrief>(); }});
+    AddScreen({.name = "frmSystem",
+               .make = [] { return std::make_unique<frmSystem>(); },
+               .calls = {{0}},
+               .menu = {{"系统(&T)", "系统参数", "会计期间、税、成本方法与小数位数。", 0}}});
 }
 
 } // namespace jxc

@@ -1,0 +1,128 @@
+#include "settings/frmSystem.h"
+
+#include "controls/gestures.h"
+#include "forms/edit_filter.h"
+#include "forms/record_editor.h"
+
+namespace jxc {
+
+namespace {
+
+void OfferNumbers(ListBox& list, int first, int last) {
+    list.Clear();
+    for (int number = first; number <= last; ++number)
+        list.items.push_back(std::to_string(number));
+}
+
+// Each page has its commands; the last one is only read.
+void ShowPage(frmSystem& s) {
+    s.cmdDefault.visible = s.cmdTest.visible = s.SSTab1.index == frmSystem::kTypes;
+    s.cmdConfirm.enabled = s.SSTab1.index != frmSystem::kModules;
+}
+
+void Confirm(frmSystem& s) {
+    const bool saved = s.SSTab1.index == frmSystem::kTypes ? SaveTypeGrid(s) : SaveParameters(s);
+    if (!saved)
+        return;
+    s.cmdConfirm.enabled = false;
+    s.asLoaded = TypedWork(s);
+}
+
+} // namespace
+
+FixedList::FixedList(Place place, std::string name, std::string caption, std::vector<std::string> choices)
+    : ListBox(place, std::move(name)) {
+    this->caption = std::move(caption);
+    items = std::move(choices);
+    SetIndex(0);
+}
+
+frmSystem::frmSystem() : Screen("frmSystem") {
+    title = "系统参数设置";
+    comYear.caption = "本期年月";
+    comMonth.caption = "月";
+    cboDay.caption = "日";
+    OfferNumbers(comMonth, 1, 12);
+    OfferNumbers(cboDay, 1, 28);
+    txtDeciLen[0].caption = "数量小数位";
+    txtDeciLen[1].caption = "单价小数位";
+    txtMaxRow.caption = "单据最大行";
+    const auto digitsOnly = [](TextBox& box, int most) {
+        box.maxBytes = most;
+        box.onKeyPress = [&box, most](int& keyCode) {
+            EditKeyFilter(box, keyCode, most, true);
+            if (keyCode >= ' ' && (keyCode < '0' || keyCode > '9'))
+                keyCode = 0;
+        };
+    };
+    for (TextBox& box : txtDeciLen)
+        digitsOnly(box, 1);
+    digitsOnly(txtMaxRow, 3);
+    fraMemo.enabled = false;
+    SSTab1.onChange = [this] { ShowPage(*this); };
+    cboTaxWay.onChoose = [this] { TakeTaxWay(*this); };
+    cboSysType.onChoose = [this] { TakeSystemType(*this); };
+    for (size_t memo = 0; memo < std::size(chkBz); ++memo) {
+        chkBz[memo].onChange = [this, memo] { TurnMemo(*this, memo); };
+        txtBz[memo].onChange = [this, memo] { memoBefore[memo] = txtBz[memo].text; };
+    }
+    Grid1.onCellLeave = [this](int row, int column) { OnCellChange(*this, column, row); };
+    cmdDefault.onClick = [this] { TakeDefaultRules(*this); };
+    cmdTest.onClick = [this] { TestRules(*this); };
+    cmdConfirm.onClick = [this] { Confirm(*this); };
+    cmdClose.onClick = [this] { Close(); };
+    cmdClose.dropsWork = true;
+}
+
+void frmSystem::Open() {
+    SSTab1.index = kParameters;
+    LoadTypeGrid(*this);
+    LoadParameters(*this);
+    ShowPage(*this);
+    asLoaded = TypedWork(*this);
+    MoveFocus(&comYear);
+}
+
+Arrangement frmSystem::Arrange() {
+    const Arrangement parameters{
+        .fields = {{&comYear, &comMonth, &cboDayMonth, &cboDay},
+                   {&cboTaxWay, &txtTaxRate, &lblTaxMemo},
+                   {&cboSysCost, &cboInvType},
+                   {&txtDeciLen[0], &txtDeciLen[1], &txtMaxRow},
+                   {&chkBz[0], &txtBz[0], &chkBz[1], &txtBz[1], &chkBz[2], &txtBz[2]},
+                   {&chkAutoCheck},
+                   {&chkAutoKcTj},
+                   {&chkInputRapic},
+                   {&chkInputOther}}};
+    const Arrangement typesPage{.above = {{&lblAutoNo}}, .grid = &Grid1, .commands = {&lblTypes}};
+    Arrangement modules{.fields = {{&cboSysType, &Label4}}};
+    for (CheckBox& box : chkMemo)
+        modules.fields.push_back({&box});
+    return {.tabs = &SSTab1,
+            .pages = {parameters, typesPage, modules},
+            .commands = {&cmdDefault, &cmdTest},
+            .closingCommands = {&cmdConfirm, &cmdClose},
+            .width = 1040,
+            .height = 600};
+}
+
+std::string frmSystem::UnsavedWork() const {
+    return TypedWork(*this) != asLoaded ? "设置尚未保存，放弃所作的修改？" : "";
+}
+
+// Whichever page is in front.
+void frmSystem::SaveWork() {
+    if (LeaveFocus(*this) && SaveParameters(*this) && (!HasChangedTypes(*this) || SaveTypeGrid(*this)))
+        asLoaded = TypedWork(*this);
+}
+
+Date frmSystem::Period() const {
+    return MakeDate(std::stoi(comYear.Chosen()), comMonth.Index() + 1, 1);
+}
+
+int frmSystem::StartDay() const {
+    const int day = cboDay.Index() + 1;
+    return cboDayMonth.Index() == 0 ? -day : day;
+}
+
+} // namespace jxc
