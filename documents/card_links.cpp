@@ -39,7 +39,11 @@ void OpenProducts(frmDj02& s) {
     if (ModuleRight("mnuJxcSysCp", 0) == 0)
         return;
     Screen& products = ScreenNamed("frmCp");
-    products.SetProperty("CpNoEdit", 0);
+    const int kind = s.type.fSetNo;
+    const bool mayEdit = kind == DocType::Receipt || kind == DocType::PurchaseOrder;
+    products.SetProperty("CpCode", "");
+    products.SetProperty("CpName", "");
+    products.SetProperty("CpNoEdit", mayEdit ? 0 : 1);
     ShowModal(products);
     if (!s.type.IsStocktake()) // its book quantities stay those of the count
         RefreshGridStock(s);

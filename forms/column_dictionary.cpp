@@ -77,11 +77,14 @@ std::string CaptionField() {
     return "FieldName_" + std::to_string(session.Language);
 }
 
+std::string CaptionStatement(const std::string& table, const std::string& field) {
+    return "Select Fieldname_" + std::to_string(session.Language) + " from rptListDetail" + " where " +
+           LowerCaseOf("ftable") + " =" + InQuotes(LowerCase(table)) + " and " + LowerCaseOf("FieldName") +
+           " =" + InQuotes(LowerCase(field));
+}
+
 std::string GetFieldCaption(const std::string& table, const std::string& field) {
-    const Recordset row(Conn(), "Select Fieldname_" + std::to_string(session.Language) +
-                                    " from rptListDetail" + " where " + LowerCaseOf("ftable") + " =" +
-                                    InQuotes(LowerCase(table)) + " and " + LowerCaseOf("FieldName") + " =" +
-                                    InQuotes(LowerCase(field)));
+    const Recordset row(Conn(), CaptionStatement(table, field));
     return row.AtEnd() ? kNoCaption : row[size_t{0}].AsText();
 }
 

@@ -20,6 +20,7 @@ constexpr int kDictionaryLeft = 0, kDictionaryRight = 1, kDictionaryCenter = 2;
 // The caption of a field in the session's language, names in any case; kNoCaption when the dictionary has no
 // such row: the label keeps the caption it has then.
 std::string GetFieldCaption(const std::string& table, const std::string& field);
+std::string CaptionStatement(const std::string& table, const std::string& field);
 inline const std::string kNoCaption = "\t";
 
 // The dictionary's field with the captions of the session's language.

@@ -9,9 +9,6 @@ namespace jxc {
 
 namespace {
 
-void CpNoEditOff(Screen& screen) {
-    screen.SetProperty("CpNoEdit", 0);
-}
 void CpTjSelectOff(Screen& screen) {
     screen.SetProperty("CpTjSelect", 0);
 }
@@ -33,10 +30,6 @@ void PlanMasterData() {
                .calls = {{1}},
                .menu = {{"资料(&D)", "仓库资料", "仓库的名称与用途。", 1}},
                .module = "mnuJxcSysCk"});
-    AddScreen({.name = "frmCp",
-               .calls = {{2, CpNoEditOff}},
-               .menu = {{"资料(&D)", "产品资料", "产品的编码、名称、价格与库存限额。", 2}},
-               .module = "mnuJxcSysCp"});
     AddScreen({.name = "frmCpTj",
                .calls = {{3, CpTjSelectOff}},
                .menu = {{"资料(&D)", "产品套件", "组装与拆卸的配件清单。", 3}},

@@ -1,5 +1,6 @@
 #include "session/lookups/database_routines.h"
 
+#include <exception>
 #include <limits>
 
 #include "base/log.h"
@@ -25,6 +26,14 @@ int DbCount(std::string_view table, std::string_view where) {
         return -1;
     }
     return count > std::numeric_limits<std::int16_t>::max() ? -1 : static_cast<int>(count);
+}
+
+bool HasRows(std::string_view table, std::string_view where) {
+    try {
+        return Conn().Query(CountStatement(table, where)).At(0, 0).AsLong() > 0;
+    } catch (const DatabaseError&) {
+        std::throw_with_nested(DatabaseError("无法完成存盘前的检查，操作已经取消！"));
+    }
 }
 
 std::string MaxStatement(std::string_view table, std::string_view field) {

@@ -12,6 +12,9 @@ namespace jxc {
 // or more than 32767 rows. Callers that guard with it must treat -1 as "could not be checked".
 [[nodiscard]] std::string CountStatement(std::string_view table, std::string_view where);
 [[nodiscard]] int DbCount(std::string_view table, std::string_view where);
+// Whether DbCount would count any. A DatabaseError with a text for people when that could not be found out: a guard never
+// lets pass what it could not check.
+[[nodiscard]] bool HasRows(std::string_view table, std::string_view where);
 // The largest value of `field`; 1 when there is none, so that the first key handed out (DbMax + 1) is 2.
 // Errors are thrown.
 [[nodiscard]] std::string MaxStatement(std::string_view table, std::string_view field);

@@ -18,6 +18,7 @@ std::vector<Opening> Openings(int receipt) {
           {{"Action", 0}, {"invType", 1}, {"oldInvID", receipt}},
           {{"Action", 2}, {"invType", 1}, {"oldInvID", receipt}}}},
         {"frmBrief", {{{"kind", 1}}, {{"kind", 2}, {"code", "zy"}}, {{"kind", 5}, {"table", "lzJxc_Dj01"}}}},
+        {"frmCp", {{}, {{"CpCode", "CPU"}, {"CpNoEdit", 1}}}},
         {"frmRs_RptSet", {{{"TabelName", "tJXC_Cp"}, {"Field", "fCpCode"}}}}};
     for (const ScreenEntry& entry : ScreenEntries()) {
         if (!entry.make)

@@ -1,0 +1,236 @@
+// Adding, changing and deleting a product.
+
+#include <optional>
+
+#include "base/text.h"
+#include "controls/view.h"
+#include "database/recordset.h"
+#include "forms/guard.h"
+#include "forms/record_editor.h"
+#include "master/frmCp.h"
+#include "session/dialect.h"
+#include "session/lookups/database_routines.h"
+#include "session/messages.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr int kMsgDangerousChange = 41;
+constexpr int kMsgDangerousDelete = 42;
+
+std::string Named(const Label& label) {
+    return "[" + label.caption + "]";
+}
+
+std::string InHand() {
+    return "fCpID=" + std::to_string(session.SelectedProductID);
+}
+
+bool IsTaken(const std::string& field, const std::string& text) {
+    return HasRows("tJXC_Cp", field + " = " + InQuotes(text));
+}
+
+MayRefuse RefuseTexts(frmCp& s) {
+    const auto holds = [](const TextBox& box) { return box.text.find('\'') != std::string::npos; };
+    return FirstRefusal(
+        {{[&] { return Trim(s.txtCpCode.text).empty(); }, "请输入" + Named(s.lblCpCode) + "!", &s.txtCpCode},
+         {[&] { return Trim(s.txtCpName.text).empty(); }, "请输入" + Named(s.lblCpName), &s.txtCpName},
+         {[&] { return holds(s.txtCpCode); }, Named(s.lblCpCode) + "不可含有引号!", &s.txtCpCode},
+         {[&] { return holds(s.txtCpName); }, Named(s.lblCpName) + "不可含有引号!", &s.txtCpName}});
+}
+
+MayRefuse RefuseCode(frmCp& s) {
+    if (!IsTaken("fCpCode", s.txtCpCode.text))
+        return std::nullopt;
+    return Refusal{Named(s.lblCpCode) + "重复 !", &s.txtCpCode};
+}
+
+bool Tell(frmCp& s, const MayRefuse& refusal) {
+    if (!refusal)
+        return false;
+    Warn(s.title, refusal->text);
+    if (refusal->focus)
+        s.MoveFocus(refusal->focus);
+    return true;
+}
+
+// Two products may share a name, if the person says so.
+bool MayShareName(frmCp& s) {
+    return !IsTaken("fCpName", s.txtCpName.text) ||
+           AskYesNo(s.title, Named(s.lblCpName) + "已有存在，继续 ?");
+}
+
+void WriteFields(frmCp& s, Recordset& row) {
+    row.Set("fCpCode", s.txtCpCode.text);
+    row.Set("fCpName", s.txtCpName.text);
+    row.Set("fCpGG", s.txtCpGG.text);
+    row.Set("fCpUnit", s.cboCpUnit.text);
+    row.Set("fCpBarCode", s.txtCpBarCode.text);
+    for (size_t price = 0; price < std::size(s.txtCpPrice); ++price)
+        row.Set("fCpPrice" + std::to_string(price), Val(s.txtCpPrice[price].text));
+    row.Set("fCpSlMin", Val(s.txtCpSlMin.text));
+    row.Set("fCpSlMax", Val(s.txtCpSlMax.text));
+    row.Set("fCkName", s.cboCkName.text);
+    row.Set("fCpCw", s.cboCpCw.text);
+    row.Set("fCpZy", s.cboCpZy.text);
+    row.Set("fCpCd", s.cboCpCd.text);
+    row.Set("fKhName", s.cboKh.CompanyName());
+    row.Set("fKhID", s.cboKh.Id());
+    row.Set("fCpPicture", s.txtCpPicture.text);
+    row.Set("fCpFlag", s.chkCpFlag.value ? 1 : 0);
+}
+
+// Nothing is asked while it is open: another user may have taken the code since the person was asked.
+MayRefuse StoreNew(frmCp& s) {
+    Transaction transaction(Conn());
+    if (MayRefuse refusal = RefuseCode(s))
+        return refusal;
+    std::int32_t id = DbMax("tJXC_Cp", "fCpID") + 1;
+    Recordset row(Conn(), "select * from tJXC_Cp Where fCpID=" + std::to_string(id), Access::Write);
+    if (!row.AtEnd())
+        ++id;
+    row.AddNew();
+    row.Set("fCpID", id);
+    WriteFields(s, row);
+    row.Update();
+    transaction.Commit();
+    session.SelectedProductID = id;
+    return std::nullopt;
+}
+
+void Add(frmCp& s) {
+    if (Tell(s, RefuseCode(s)) || !MayShareName(s) ||
+        !AskOkCancel(s.title, "确定新增 [" + s.txtCpName.text + "] ?") || Tell(s, StoreNew(s)))
+        return;
+    Inform(s.title, "新增完毕!");
+    ClearProduct(s);
+    s.asBegun = TypedWork(s);
+    s.MoveFocus(&s.txtCpCode);
+}
+
+MayRefuse StoreChanged(frmCp& s) {
+    Transaction transaction(Conn());
+    if (s.txtCpCode.text != s.oldCode)
+        if (MayRefuse refusal = RefuseCode(s))
+            return refusal;
+    Recordset row(Conn(), "select * from tJXC_Cp where " + InHand(), Access::Write);
+    if (row.AtEnd()) {
+        CurrentView().Signal("该产品已被其他用户删除，没有存盘。");
+        return std::nullopt;
+    }
+    WriteFields(s, row);
+    row.Update();
+    transaction.Commit();
+    LeaveProductMode(s);
+    return std::nullopt;
+}
+
+void Change(frmCp& s) {
+    if (session.SelectedProductID == 0)
+        return;
+    const std::string& page = s.SSTab1.captions[static_cast<size_t>(s.SSTab1.index)];
+    if (!AskOkCancel(s.title, s.oldCode + "-" + s.oldName + ": " + page + GetResStr(kMsgDangerousChange)))
+        return;
+    if (s.txtCpName.text != s.oldName && !MayShareName(s))
+        return;
+    Tell(s, StoreChanged(s));
+}
+
+// A place that keeps a product from being deleted, and what the person is told of it.
+struct ProductUse {
+    const char* table;
+    const char* field;
+    const char* text;
+};
+constexpr ProductUse kUses[] = {
+    {"tJXC_CkDj02", "fCpID", "]：该产品已经投入仓库单据的使用，不可删除。请选择“停用”！"},
+    {"tJXC_CkHt02", "fCpID", "]：该产品已经投入合同订单的使用，不可删除。请选择“停用”！"},
+    {"tJXC_CpTj01", "fCpID", "]：该产品已经投入套件模板的使用，暂时不可删除。请删除其套件模板！"},
+    {"tJXC_CpTj02", "fCpPjID", "]：该配件已经投入套件模板的使用，暂时不可删除。请删除其套件模板！"}};
+
+std::string WhyInUse(const frmCp& s) {
+    for (const ProductUse& use : kUses)
+        if (HasRows(use.table, std::string(use.field) + "=" + std::to_string(session.SelectedProductID)))
+            return "[" + s.txtCpName.text + use.text;
+    return "";
+}
+
+void Delete(frmCp& s) {
+    if (session.SelectedProductID == 0 || !AskOkCancel(s.title, GetResStr(kMsgDangerousDelete)))
+        return;
+    std::string use = WhyInUse(s);
+    const std::string name = "[" + s.txtCpName.text + "]";
+    if (use.empty()) {
+        if (!AskOkCancel(s.title, "确定删除 " + name + " ?"))
+            return;
+        Transaction transaction(Conn());
+        use = WhyInUse(s); // a document may have been saved while the person was asked
+        if (use.empty()) {
+            Conn().Execute("Delete From tJXC_Cp Where fCpID = " + std::to_string(session.SelectedProductID));
+            transaction.Commit();
+        }
+    }
+    if (!use.empty())
+        return Inform(s.title, use);
+    Inform(s.title, name + " 删除完毕!");
+    session.SelectedProductID = 0;
+    ClearProduct(s);
+    LeaveProductMode(s);
+}
+
+void SetMode(frmCp& s, ProductMode mode) {
+    s.mode = mode;
+    const bool browsing = mode == ProductMode::Browse;
+    s.cmdSave.visible = s.cmdCancel.visible = !browsing;
+    s.cmdSave.caption = mode == ProductMode::Delete ? "确认删除(&S)" : "保存(&S)";
+    for (Frame& frame : s.fraCp)
+        frame.enabled = !browsing;
+    for (Button* command : {&s.cmdAdd, &s.cmdChange, &s.cmdDelete, &s.cmdSupplier, &s.cmdStock, &s.cmdPrint,
+                            &s.cmdColumns, &s.cmdColumnSave, &s.cmdSelect, &s.cmdQuit, &s.cmdQuery})
+        command->enabled = browsing;
+    s.SSTab1.disabledTabs = browsing ? std::set<int>{} : std::set<int>{frmCp::kList, frmCp::kQuery};
+}
+
+} // namespace
+
+void BeginProductMode(frmCp& s, ProductMode mode) {
+    SetMode(s, mode);
+    s.SSTab1.index = frmCp::kDetail;
+    if (mode == ProductMode::Add)
+        ClearProduct(s);
+    s.asBegun = TypedWork(s);
+    if (mode == ProductMode::Delete)
+        s.MoveFocus(&s.cmdSave);
+    else
+        s.MoveFocus(&s.txtCpCode);
+}
+
+void EndProductMode(frmCp& s) {
+    SetMode(s, ProductMode::Browse);
+    s.SSTab1.index = frmCp::kList;
+    s.MoveFocus(&s.Grid1);
+}
+
+void LeaveProductMode(frmCp& s) {
+    EndProductMode(s);
+    QueryProducts(s);
+}
+
+void SaveProduct(frmCp& s) {
+    if (Tell(s, RefuseTexts(s)))
+        return;
+    switch (s.mode) {
+    case ProductMode::Add:
+        return Add(s);
+    case ProductMode::Change:
+        return Change(s);
+    case ProductMode::Delete:
+        return Delete(s);
+    case ProductMode::Browse:
+        break;
+    }
+}
+
+} // namespace jxc
