@@ -68,6 +68,10 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     AddTextProperty("CpName", CpName);
     AddNumberProperty("CpNoEdit", CpNoEdit);
     WireProductFields(*this);
+    SSTab1.onChange = [this] {
+        if (SSTab1.index != kDetail)
+            MoveFocus(SSTab1.index == kList ? static_cast<Control*>(&Grid1) : &txtCpCode2);
+    };
     Grid1.onSelect = [this](int row) { ShowRow(*this, row); };
     Grid1.onDoubleClick = [this](int) { TakeRow(*this); };
     Grid1.onKey = [this](const std::string& key) {

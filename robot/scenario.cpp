@@ -153,6 +153,12 @@ json OnRow(const Words& words) {
     return {{"control", WordAt(words, 1)}, {"row", NumberAt(words, 2)}};
 }
 
+// A text in double quotes keeps the blanks at its ends.
+std::string WithoutQuotes(const std::string& text) {
+    const bool quoted = text.size() > 1 && text.front() == '"' && text.back() == '"';
+    return quoted ? text.substr(1, text.size() - 2) : text;
+}
+
 json PastedBlock(const Words& words) {
     std::string cells = WordAt(words, 2); // "|" ends a cell, "\n" a row
     std::replace(cells.begin(), cells.end(), '|', '\t');
@@ -356,7 +362,7 @@ std::optional<json> Scenario::AnswerBox(const Words&, const std::string& rest) {
     const std::string text = (*box_)["text"].get<std::string>();
     if (title != WordAt(parts, 0))
         Fail("提示框标题是 " + title);
-    if (text != WithLineEnds(WordAt(parts, 1)))
+    if (text != WithLineEnds(WithoutQuotes(WordAt(parts, 1))))
         Fail("提示框文本是 " + text);
     box_.reset();
     return json{{"op", "answer"}, {"button", parts.size() > 2 ? parts[2] : "OK"}};

@@ -16,6 +16,8 @@ void OfferNumbers(ListBox& list, int first, int last) {
 
 // Each page has its commands; the last one is only read.
 void ShowPage(frmSystem& s) {
+    Control* const first[] = {&s.comYear, &s.Grid1, &s.cboSysType};
+    s.MoveFocus(first[s.SSTab1.index]);
     s.cmdDefault.visible = s.cmdTest.visible = s.SSTab1.index == frmSystem::kTypes;
     s.cmdConfirm.enabled = s.SSTab1.index != frmSystem::kModules;
 }
@@ -58,6 +60,7 @@ frmSystem::frmSystem() : Screen("frmSystem") {
     for (TextBox& box : txtDeciLen)
         digitsOnly(box, 1);
     digitsOnly(txtMaxRow, 3);
+    memoBefore[0] = txtBz[0].text = "产品规格";
     fraMemo.enabled = false;
     SSTab1.onChange = [this] { ShowPage(*this); };
     cboTaxWay.onChoose = [this] { TakeTaxWay(*this); };
@@ -80,7 +83,6 @@ void frmSystem::Open() {
     LoadParameters(*this);
     ShowPage(*this);
     asLoaded = TypedWork(*this);
-    MoveFocus(&comYear);
 }
 
 Arrangement frmSystem::Arrange() {

@@ -51,6 +51,11 @@ class PictureBook {
             widget->setFocus();
         });
     }
+    // Shows a page of the window and takes its picture.
+    void TakePage(int page, const QString& name) {
+        script_.Then([page] { WindowInFront()->findChild<QTabWidget*>()->setCurrentIndex(page); });
+        Take(name);
+    }
     void Choose(const QString& list, const QString& item) {
         script_.Then([list, item] {
             auto* box = WindowInFront()->findChild<QComboBox*>(list);
@@ -146,6 +151,24 @@ void Queries(PictureBook& book) {
     }
 }
 
+void MasterData(PictureBook& book) {
+    WindowScript& script = book.Script();
+    book.Open("系统参数", "打开");
+    book.Take("parameters");
+    book.TakePage(1, "types");
+    book.TakePage(2, "modules");
+    script.Click("cmdClose");
+    script.Then([] {
+        if (auto* discard = WindowInFront()->findChild<QAbstractButton*>("Discard"))
+            discard->click(); // the preset of the modules may differ from what is stored
+    });
+    book.Open("产品资料", "打开");
+    book.Take("products");
+    book.TakePage(1, "product");
+    book.TakePage(2, "product-query");
+    script.Click("cmdQuit");
+}
+
 void Editors(PictureBook& book) {
     WindowScript& script = book.Script();
     for (const auto& [item, name] : {std::pair("客户资料", "cards"),
@@ -180,6 +203,7 @@ int TakePictures(const std::string& folder) {
     OtherDocuments(book);
     Lists(book);
     Queries(book);
+    MasterData(book);
     Editors(book);
     book.Script().Run();
     if (!book.Script().Failure().empty())
