@@ -51,6 +51,14 @@ class PictureBook {
             widget->setFocus();
         });
     }
+    void Turn(const QString& tabs, int page) {
+        script_.Then([tabs, page] {
+            auto* shown = WindowInFront()->findChild<QTabWidget*>(tabs);
+            if (!shown)
+                throw std::runtime_error("没有 " + S(tabs));
+            shown->setCurrentIndex(page);
+        });
+    }
     void Choose(const QString& list, const QString& item) {
         script_.Then([list, item] {
             auto* box = WindowInFront()->findChild<QComboBox*>(list);
@@ -146,6 +154,21 @@ void Queries(PictureBook& book) {
     }
 }
 
+void MasterData(PictureBook& book) {
+    WindowScript& script = book.Script();
+    book.Open("仓库资料", "打开");
+    script.Press(Qt::Key_Down);
+    script.Press(Qt::Key_Down);
+    book.Take("warehouses");
+    script.Press(Qt::Key_Return);
+    script.Press(Qt::Key_F4);
+    book.Take("warehouse");
+    script.Click("cmdCancel");
+    book.Turn("SSTab1", 2);
+    book.Take("warehouses-query");
+    script.Click("cmdQuit");
+}
+
 void Editors(PictureBook& book) {
     WindowScript& script = book.Script();
     for (const auto& [item, name] : {std::pair("客户资料", "cards"),
@@ -180,6 +203,7 @@ int TakePictures(const std::string& folder) {
     OtherDocuments(book);
     Lists(book);
     Queries(book);
+    MasterData(book);
     Editors(book);
     book.Script().Run();
     if (!book.Script().Failure().empty())
