@@ -396,6 +396,12 @@ void SelectNode(Screen& screen, Tree& tree, int node) {
         Guarded(screen, [&] { tree.onSelect(node); });
 }
 
+void DoubleClickNode(Screen& screen, Tree& tree, int node) {
+    SelectNode(screen, tree, node);
+    if (tree.onDoubleClick)
+        Guarded(screen, [&] { tree.onDoubleClick(node); });
+}
+
 void DropNode(Screen& screen, Tree& tree, int node, int onto) {
     const auto known = [&](int at) { return at >= 0 && at < static_cast<int>(tree.nodes.size()); };
     if (!known(node) || !known(onto))

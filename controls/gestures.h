@@ -69,6 +69,7 @@ void SelectRow(Screen& screen, Grid& grid, int row);
 void DoubleClickRow(Screen& screen, Grid& grid, int row);
 void ClickHeading(Screen& screen, Grid& grid, int column);
 void SelectNode(Screen& screen, Tree& tree, int node);
+void DoubleClickNode(Screen& screen, Tree& tree, int node);
 void DropNode(Screen& screen, Tree& tree, int node, int onto);
 
 } // namespace jxc

@@ -11,7 +11,8 @@ namespace jxc {
 struct TreeNode {
     std::string key;
     std::string caption;
-    int parent = -1; // place in the node list, -1 for a root
+    int parent = -1;       // place in the node list, -1 for a root
+    std::string icon = {}; // a word for its kind, which a view draws; "" for none
 };
 
 struct Tree : Control {
@@ -21,6 +22,7 @@ struct Tree : Control {
     std::vector<TreeNode> nodes;
     int selected = -1;
     std::function<void(int node)> onSelect;
+    std::function<void(int node)> onDoubleClick;
     std::function<void(int node, int onto)> onDrop; // node dragged onto another
 
     int DepthOf(int node) const {
@@ -30,11 +32,12 @@ struct Tree : Control {
             ++depth;
         return depth;
     }
-    // The node with that caption; -1 when there is none.
-    int FindCaption(const std::string& caption) const {
-        for (size_t i = 0; i < nodes.size(); ++i)
-            if (nodes[i].caption == caption)
-                return static_cast<int>(i);
+    // The node with that caption, or else with that key; -1 when there is none.
+    int FindNode(const std::string& captionOrKey) const {
+        for (const auto part : {&TreeNode::caption, &TreeNode::key})
+            for (size_t i = 0; i < nodes.size(); ++i)
+                if (nodes[i].*part == captionOrKey)
+                    return static_cast<int>(i);
         return -1;
     }
 };

@@ -36,6 +36,9 @@ Fields LineFields(bool closable) {
 // date.
 const std::vector<IndexDef> kHeaderIndexes = {
     {"fInvID", true}, {"fInvNo"}, {"fInvType,fInvNo"}, {"fInvDate"}};
+// A warehouse that documents name is not deleted.
+const std::vector<IndexDef> kStockHeaderIndexes = {
+    {"fInvID", true}, {"fInvNo"}, {"fInvType,fInvNo"}, {"fInvDate"}, {"fCkName"}};
 const std::vector<IndexDef> kLineIndexes = {{"fInvID,fInv1,fRowID"}, {"fInvNo"}};
 // Order lines are also asked for by product: a delivery lowers its order's balance, a plan sums what is on
 // order.
@@ -131,7 +134,7 @@ void AddMasterData(std::vector<TableDef>& tables) {
 }
 
 void AddDocuments(std::vector<TableDef>& tables) {
-    tables.push_back({"tJXC_CkDj01", HeaderFields(true), kHeaderIndexes});
+    tables.push_back({"tJXC_CkDj01", HeaderFields(true), kStockHeaderIndexes});
     tables.push_back({"tJXC_CkDj02", LineFields(true), kLineIndexes});
     tables.push_back({"tJXC_CkHt01", HeaderFields(false), kHeaderIndexes});
     tables.push_back({"tJXC_CkHt02", LineFields(false), kOrderLineIndexes});

@@ -1,5 +1,8 @@
 #include "forms/guard.h"
 
+#include "controls/screen.h"
+#include "controls/view.h"
+
 namespace jxc {
 
 MayRefuse FirstRefusal(const std::vector<Guard>& guards) {
@@ -12,6 +15,12 @@ MayRefuse FirstRefusal(const std::vector<Guard>& guards) {
         return Refusal{text, guard.focus};
     }
     return std::nullopt;
+}
+
+void TellRefusal(Screen& screen, const Refusal& refusal) {
+    Warn(screen.title, refusal.text);
+    if (refusal.focus)
+        screen.MoveFocus(refusal.focus);
 }
 
 } // namespace jxc

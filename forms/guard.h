@@ -27,4 +27,7 @@ struct Guard {
 // pass.
 [[nodiscard]] MayRefuse FirstRefusal(const std::vector<Guard>& guards);
 
+// Warns of the refusal and moves the focus.
+void TellRefusal(Screen& screen, const Refusal& refusal);
+
 } // namespace jxc

@@ -10,6 +10,7 @@ namespace jxc {
 namespace {
 
 constexpr int kTypeNumberWidth = 3;
+constexpr int kAccountWidth = 80; // of an account's name, before its code
 constexpr int kNoKind = -1;
 
 } // namespace
@@ -68,6 +69,22 @@ std::int64_t CardField::Id() const {
 
 std::string CardField::CompanyName() const {
     return CustomerNameOf(Chosen());
+}
+
+AccountField::AccountField(Place place, std::string name) : ListBox(place, std::move(name)) {
+    visibleText = CustomerNameOf; // its rows are made like a customer's
+}
+
+void AccountField::Offer() {
+    FillCombo("Select compname,compCode from tAccounts", *this, kAccountWidth, true);
+}
+
+void AccountField::Show(std::int64_t number) {
+    SetIndex(ComboIndexByMidValue(*this, number, kAccountWidth + 1));
+}
+
+std::int64_t AccountField::Id() const {
+    return CustomerIdOf(Chosen());
 }
 
 ProductFields::ProductFields(Place place, std::string code, std::string name, std::string unit)

@@ -55,6 +55,14 @@ struct CardField : ListBox {
     std::string CompanyName() const;
 };
 
+// The company's internal accounts by name; what is stored is the number of the account's code.
+struct AccountField : ListBox {
+    AccountField(Place place, std::string name);
+    void Offer();
+    void Show(std::int64_t number); // chooses it, none for a number without an account
+    std::int64_t Id() const;        // of the account chosen, 0 for none
+};
+
 // A product by its code or its name, and its unit. What is typed is looked for at Enter and when the box is left; the boxes
 // never show a text that is not their product's.
 struct ProductFields {

@@ -113,12 +113,8 @@ void SaveRecord(RecordEditor& s) {
             transaction.Commit();
         }
     }
-    if (refusal) {
-        Warn(s.title, refusal->text);
-        if (refusal->focus)
-            s.MoveFocus(refusal->focus);
-        return;
-    }
+    if (refusal)
+        return TellRefusal(s, *refusal);
     s.Stored();
     const bool added = s.mode == EditorMode::Add;
     LeaveMode(s);

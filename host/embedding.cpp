@@ -3,7 +3,7 @@
 #include "documents/document_screens.h"
 #include "host/editors/host_editors.h"
 #include "host/planned_screens.h"
-#include "master/frmCp.h"
+#include "master/master_screens.h"
 #include "settings/frmRs_RptSet.h"
 #include "stock/frmCkKc.h"
 
@@ -11,7 +11,7 @@ namespace jxc {
 
 void RegisterAllScreens() {
     RegisterSettingsScreens();
-    RegisterProductScreen();
+    RegisterMasterScreens();
     RegisterStockScreens();
     RegisterDocumentScreens();
     RegisterPlannedScreens();

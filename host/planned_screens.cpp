@@ -26,10 +26,6 @@ bool IsList() {
 }
 
 void PlanMasterData() {
-    AddScreen({.name = "frmCk",
-               .calls = {{1}},
-               .menu = {{"资料(&D)", "仓库资料", "仓库的名称与用途。", 1}},
-               .module = "mnuJxcSysCk"});
     AddScreen({.name = "frmCpTj",
                .calls = {{3, CpTjSelectOff}},
                .menu = {{"资料(&D)", "产品套件", "组装与拆卸的配件清单。", 3}},

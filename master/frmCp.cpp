@@ -8,7 +8,6 @@
 #include "master/supplier_history.h"
 #include "session/period.h"
 #include "session/printing/print_grid.h"
-#include "session/screen_entries.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -149,14 +148,6 @@ std::string frmCp::UnsavedWork() const {
 void frmCp::SaveWork() {
     if (LeaveFocus(*this)) // what stands in the field in hand counts
         SaveProduct(*this);
-}
-
-void RegisterProductScreen() {
-    AddScreen({.name = "frmCp",
-               .make = [] { return std::make_unique<frmCp>(); },
-               .calls = {{2, [](Screen& screen) { screen.SetProperty("CpNoEdit", 0); }}},
-               .menu = {{"资料(&D)", "产品资料", "产品的编码、名称、价格与库存限额。", 2}},
-               .module = "mnuJxcSysCp"});
 }
 
 } // namespace jxc

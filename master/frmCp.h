@@ -165,6 +165,4 @@ void EndProductMode(frmCp& s); // without reading it
 // Checks, asks and stores by the mode; a refusal is told and changes nothing.
 void SaveProduct(frmCp& s);
 
-void RegisterProductScreen();
-
 } // namespace jxc

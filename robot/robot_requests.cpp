@@ -72,7 +72,8 @@ json TreeAsJson(const Tree& tree) {
     for (int node = 0; node < static_cast<int>(tree.nodes.size()); ++node)
         nodes.push_back({{"key", tree.nodes[static_cast<size_t>(node)].key},
                          {"caption", tree.nodes[static_cast<size_t>(node)].caption},
-                         {"depth", tree.DepthOf(node)}});
+                         {"depth", tree.DepthOf(node)},
+                         {"icon", tree.nodes[static_cast<size_t>(node)].icon}});
     return {{"nodes", nodes}, {"selected", tree.selected}};
 }
 
@@ -140,19 +141,22 @@ void ChooseListItem(Screen& screen, const json& request) {
 
 void DropOnNode(Screen& screen, const json& request) {
     auto& tree = ControlOfKind<Tree>(screen, request, "树");
-    DropNode(screen, tree, tree.FindCaption(TextOf(request, "node")),
-             tree.FindCaption(TextOf(request, "onto")));
+    DropNode(screen, tree, tree.FindNode(TextOf(request, "node")), tree.FindNode(TextOf(request, "onto")));
 }
 
 void SelectRowOrNode(Screen& screen, const json& request) {
     if (auto* tree = dynamic_cast<Tree*>(&ControlOf(screen, request)))
-        return SelectNode(screen, *tree, tree->FindCaption(TextOf(request, "node")));
+        return SelectNode(screen, *tree, tree->FindNode(TextOf(request, "node")));
     SelectRow(screen, ControlOfKind<Grid>(screen, request, "表格"), PlaceOf(request, "row"));
 }
 
 void DoubleClickControl(Screen& screen, const json& request) {
     if (auto* label = dynamic_cast<Label*>(&ControlOf(screen, request)))
         return DoubleClickLabel(screen, *label);
+    if (auto* tree = dynamic_cast<Tree*>(&ControlOf(screen, request)))
+        return DoubleClickNode(screen, *tree,
+                               request.contains("node") ? tree->FindNode(TextOf(request, "node"))
+                                                        : tree->selected);
     auto& grid = ControlOfKind<Grid>(screen, request, "表格");
     DoubleClickRow(screen, grid, request.contains("row") ? PlaceOf(request, "row") : grid.selectedRow);
 }

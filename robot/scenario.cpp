@@ -149,8 +149,12 @@ json OnControl(const Words& words) {
     return {{"control", WordAt(words, 1)}};
 }
 
-json OnRow(const Words& words) {
-    return {{"control", WordAt(words, 1)}, {"row", NumberAt(words, 2)}};
+// A grid's row by its number, a tree's node by its caption or its key.
+json OnRowOrNode(const Words& words) {
+    const std::string& which = WordAt(words, 2);
+    if (which.find_first_not_of("-0123456789") == std::string::npos)
+        return {{"control", words[1]}, {"row", WholeNumberOf(which)}};
+    return {{"control", words[1]}, {"node", which}};
 }
 
 // A text in double quotes keeps the blanks at its ends.
@@ -199,8 +203,8 @@ const std::map<std::string, Gesture>& Gestures() {
          [](const Words& w) {
              return json{{"control", WordAt(w, 1)}, {"key", WordAt(w, 2)}};
          }},
-        {"select", OnRow},
-        {"dblclick", [](const Words& w) { return w.size() > 2 ? OnRow(w) : OnControl(w); }},
+        {"select", OnRowOrNode},
+        {"dblclick", [](const Words& w) { return w.size() > 2 ? OnRowOrNode(w) : OnControl(w); }},
         {"rightclick", OnControl},
         {"heading",
          [](const Words& w) {
@@ -284,14 +288,23 @@ std::optional<json> Scenario::Next() {
 
 const std::map<std::string, Scenario::Step>& Scenario::Steps() {
     static const std::map<std::string, Step> steps{
-        {"refused", &Scenario::ExpectRefusal}, {"signal", &Scenario::ExpectSignal},
-        {"box", &Scenario::AnswerBox},         {"value", &Scenario::AskControl},
-        {"caption", &Scenario::AskControl},    {"enabled", &Scenario::AskControl},
-        {"visible", &Scenario::AskControl},    {"grid", &Scenario::AskControl},
-        {"table", &Scenario::AskControl},      {"keep", &Scenario::AskControl},
-        {"screen", &Scenario::ExpectScreen},   {"host", &Scenario::ExpectScreen},
-        {"rows", &Scenario::ExpectRows},       {"let", &Scenario::KeepFigure},
-        {"do", &Scenario::RunStatement},       {"say", &Scenario::Tell},
+        {"refused", &Scenario::ExpectRefusal},
+        {"signal", &Scenario::ExpectSignal},
+        {"box", &Scenario::AnswerBox},
+        {"value", &Scenario::AskControl},
+        {"caption", &Scenario::AskControl},
+        {"enabled", &Scenario::AskControl},
+        {"visible", &Scenario::AskControl},
+        {"grid", &Scenario::AskControl},
+        {"table", &Scenario::AskControl},
+        {"keep", &Scenario::AskControl},
+        {"tree", &Scenario::AskControl},
+        {"screen", &Scenario::ExpectScreen},
+        {"host", &Scenario::ExpectScreen},
+        {"rows", &Scenario::ExpectRows},
+        {"let", &Scenario::KeepFigure},
+        {"do", &Scenario::RunStatement},
+        {"say", &Scenario::Tell},
     };
     return steps;
 }
@@ -412,6 +425,8 @@ void Scenario::CheckAsked(const json& reply) {
     const json value = reply.contains("value") ? reply["value"] : json();
     if (what == "grid")
         return CheckGrid(value);
+    if (what == "tree")
+        return CheckTree(value);
     if (what == "table")
         return ShowTable(value);
     if (what == "keep") {
@@ -475,6 +490,17 @@ void Scenario::CheckGrid(const json& grid) {
             cells.push_back(at < row.size() ? row[at].get<std::string>() : "（没有第 " + column + " 列）");
         }
         found.push_back(std::move(cells));
+    }
+    CompareRows(ExpectedRows(), found);
+}
+
+void Scenario::CheckTree(const json& tree) {
+    std::vector<Words> found;
+    for (const json& node : tree["nodes"]) {
+        Words parts;
+        for (const std::string& part : Split(WordAt(asked_, 2), ','))
+            parts.push_back(node.contains(part) ? Trim(AsText(node[part])) : "（没有 " + part + "）");
+        found.push_back(std::move(parts));
     }
     CompareRows(ExpectedRows(), found);
 }

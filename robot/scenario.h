@@ -84,6 +84,7 @@ class Scenario : public RequestSource {
     std::optional<nlohmann::json> ExpectSignal(const Words& words, const std::string& rest);
     void CheckAsked(const nlohmann::json& reply);
     void CheckGrid(const nlohmann::json& grid);
+    void CheckTree(const nlohmann::json& tree);
     void ShowTable(const nlohmann::json& grid);
     std::vector<Words> ExpectedRows();
     void CompareRows(const std::vector<Words>& expected, const std::vector<Words>& found);

@@ -1,10 +1,11 @@
-// Trees: selected with the mouse or the arrow keys, nodes dragged onto others.
+// Trees: selected with the mouse or the arrow keys, gone into by a double click or Enter, nodes dragged onto others.
 
 #include "controls/gestures.h"
 #include "controls/tree.h"
 #include "view/binding.h"
 #include "view/qt_text.h"
 #include "view/screen_window.h"
+#include "view/tree_icons.h"
 
 namespace jxc {
 
@@ -16,7 +17,12 @@ class TreeBinding : public Binding {
         : Binding(window, tree, shown), tree_(tree), shown_(shown) {
         shown_.setHeaderHidden(true);
         shown_.setDragDropMode(tree.onDrop ? QAbstractItemView::InternalMove : QAbstractItemView::NoDragDrop);
+        shown_.setIconSize({kTreeIconSize, kTreeIconSize});
+        shown_.setExpandsOnDoubleClick(false); // it is always expanded
         Watch(*shown_.viewport());
+        connect(&shown_, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
+            window_.Do([&] { DoubleClickNode(window_.Shown(), tree_, PlaceOf(item)); });
+        });
         connect(&shown_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
             if (item && quiet_ == 0)
                 window_.Do([&] { SelectNode(window_.Shown(), tree_, PlaceOf(item)); });
@@ -54,7 +60,8 @@ class TreeBinding : public Binding {
     bool ShowsNodes() const {
         return std::equal(nodes_.begin(), nodes_.end(), tree_.nodes.begin(), tree_.nodes.end(),
                           [](const TreeNode& a, const TreeNode& b) {
-                              return a.key == b.key && a.caption == b.caption && a.parent == b.parent;
+                              return a.key == b.key && a.caption == b.caption && a.parent == b.parent &&
+                                     a.icon == b.icon;
                           });
     }
 
@@ -66,6 +73,7 @@ class TreeBinding : public Binding {
             auto* item = node.parent < 0 ? new QTreeWidgetItem(&shown_)
                                          : new QTreeWidgetItem(items_[static_cast<size_t>(node.parent)]);
             item->setText(0, Q(node.caption));
+            item->setIcon(0, TreeIcon(node.icon));
             items_.push_back(item);
         }
         shown_.expandAll();

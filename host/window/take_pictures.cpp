@@ -167,6 +167,16 @@ void MasterData(PictureBook& book) {
     book.TakePage(1, "product");
     book.TakePage(2, "product-query");
     script.Click("cmdQuit");
+    book.Open("仓库资料", "打开");
+    script.Press(Qt::Key_Down);
+    script.Press(Qt::Key_Down);
+    book.Take("warehouses");
+    script.Press(Qt::Key_Return);
+    script.Press(Qt::Key_F4);
+    book.Take("warehouse");
+    script.Click("cmdCancel");
+    book.TakePage(2, "warehouses-query");
+    script.Click("cmdQuit");
 }
 
 void Editors(PictureBook& book) {
