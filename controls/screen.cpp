@@ -85,7 +85,10 @@ void ShowModal(Screen& screen) {
 }
 
 void RegisterScreen(std::string name, std::function<std::unique_ptr<Screen>()> make) {
-    Table()[std::move(name)] = {std::move(make), nullptr};
+    if (make)
+        Table()[std::move(name)] = {std::move(make), nullptr};
+    else
+        Table().erase(name);
 }
 
 Screen* FindScreen(std::string_view name) {

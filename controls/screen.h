@@ -92,7 +92,7 @@ struct Screen {
 // be loaded shows the reason in a message box and does not open.
 void ShowModal(Screen& screen);
 
-// The table of screens. An instance is made on first use and kept.
+// The table of screens. An instance is made on first use and kept. Without a maker the name leaves the table.
 void RegisterScreen(std::string name, std::function<std::unique_ptr<Screen>()> make);
 // The screen of that name; null when none is registered.
 Screen* FindScreen(std::string_view name);

@@ -195,6 +195,13 @@ Rows Connection::Query(std::string_view sql) {
     });
 }
 
+NotedChanges Connection::ChangesSince(const NotedTable& table, double from) {
+    const std::string asked = std::string("Select fID,fStamp From ") + kChangeLog +
+                              " Where fKind=" + std::to_string(table.kind) +
+                              " And fStamp>=" + NumberText(from);
+    return Reading([&] { return Guarded(asked, [&] { return engine_->ChangesSince(table, from); }); });
+}
+
 Rows Connection::QueryRows(std::string_view sql, std::string& table) {
     return Reading([&] {
         return Guarded(sql, [&] {

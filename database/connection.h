@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "base/value.h"
+#include "database/change_log.h"
 #include "database/database_error.h"
 
 namespace jxc {
@@ -64,6 +65,9 @@ class Connection {
     };
     void Expect(const std::vector<Expected>& selects);
     void ForgetExpected(const std::vector<Expected>& selects);
+
+    // What the log of changes tells of a table from a stamp on; see change_log.h.
+    NotedChanges ChangesSince(const NotedTable& table, double from);
 
     // What is sent from now on belongs to the caller's step `mark`. After a failure MarkOfFailure is the step
     // whose statement it was, which may have been sent some steps before the failure showed.

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "database/change_log.h"
 #include "database/connection.h"
 #include "database/statement_parameters.h"
 #include "database/translation.h"
@@ -69,6 +70,11 @@ class Engine {
 
     // The tables that this user may read, in lower case, each with its columns.
     virtual std::map<std::string, std::set<std::string>> Catalogue() = 0;
+
+    // What the log tells of a table from a stamp on, 0 from the start.
+    virtual NotedChanges ChangesSince(const NotedTable& table, double from) = 0;
+    // DDL that has the database write the log; does no harm where it does so already.
+    virtual std::string NotingScript(const NotedTable& table) const = 0;
 
     // Changes or deletes the row at `address`, the last of `values`; a row that is gone is a ConflictError.
     // `sql` as ChangeText or DeleteText gives it.

@@ -42,6 +42,9 @@ class PostgresEngine : public Engine {
     int Version() override;
     void SetVersion(int version) override;
 
+    NotedChanges ChangesSince(const NotedTable& table, double from) override;
+    std::string NotingScript(const NotedTable& table) const override;
+
     void Change(EngineStatement& statement, std::span<const Value> values,
                 const RowAddress& address) override;
     bool MovesChangedRows() const override { return true; }

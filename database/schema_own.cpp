@@ -79,6 +79,11 @@ void AddSettings(std::vector<TableDef>& tables) {
           {"fSetDjType1", Short}, {"fSetDjType2", Short}, {"fSetHb_", Short},      {"fSetHbSl_", Short},
           {"fSetKc_", Short},     {"fSetJy_", Short},     {"fSetDefaultNo", Text}, {"fSetNoUse_", Short}},
          {{"fSetNo"}}});
+    // See database/change_log.h.
+    tables.push_back({"tJXC_Change",
+                      {{"fKind", Short}, {"fID", Long}, {"fStamp", Double}},
+                      {{"fKind,fID", true}, {"fKind,fStamp"}},
+                      true});
     tables.push_back({"tJXC_rptListDetail",
                       {{"fieldID", Long},
                        {"FieldName", Text},

@@ -30,6 +30,9 @@ class SqliteEngine : public Engine {
     std::vector<std::string> Plan(const std::string& sql, const std::vector<ParameterType>& types,
                                   std::span<const Value> values) override;
 
+    NotedChanges ChangesSince(const NotedTable& table, double from) override;
+    std::string NotingScript(const NotedTable& table) const override;
+
     void Change(EngineStatement& statement, std::span<const Value> values,
                 const RowAddress& address) override;
     bool MovesChangedRows() const override { return false; }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/text.h"
+#include "controls/bounds.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"
 #include "database/recordset.h"
@@ -96,6 +97,28 @@ void ShowOtherRow(frmDj02& s, int row, int other) {
     CurrentView().Signal("该产品已在第 " + std::to_string(other) + " 行，按方向键继续。");
 }
 
+// A bar code whose product has a line counts one more there; the cursor waits for the next one to be scanned.
+void CountOneMore(frmDj02& s, int row, int counted, const std::string& product) {
+    Grid& grid = s.Grid2;
+    const int column = s.type.IsStocktake() ? line::kCounted : line::kQuantity;
+    const bool returned = s.chkTh.value && !s.type.IsStocktake();
+    const Value before = grid.Cell(counted, column);
+    grid.SetCell(counted, column, AddDecimal(before.AsDouble(), returned ? -1 : 1));
+    const int beyond = grid.ColumnOutOfBounds(counted);
+    if (beyond > 0)
+        grid.SetCell(counted, column, before);
+    if (row != counted)
+        ClearRow(grid, row);
+    const std::string line = "第 " + std::to_string(counted) + " 行“" + product;
+    if (beyond > 0)
+        return RefuseRow(grid, row,
+                         line + "”没有加 1：" +
+                             BoundText(grid.Column(beyond).caption, grid.Column(beyond).below));
+    RefuseRow(grid, row,
+              line + (returned ? "”退回加 1，" : "”加 1，") + grid.Column(column).caption + " " +
+                  grid.ShownText(counted, column) + "。");
+}
+
 // The code or name typed into a row finds its product.
 void LeaveProductCell(frmDj02& s, int row, int column) {
     Grid& grid = s.Grid2;
@@ -118,9 +141,14 @@ void LeaveProductCell(frmDj02& s, int row, int column) {
         ClearRow(grid, row);
         return RefuseRow(grid, row, "没有找到产品“" + typed + "”，该行已清空。");
     }
-    if (const int other = GridHasValue(grid, row, sought.code); other > 0)
-        return ShowOtherRow(s, row, other);
+    const bool counts = sought.byBarCode;
+    const int other = GridHasValue(grid, row, sought.code);
+    if (other > 0)
+        return counts ? CountOneMore(s, row, other, sought.code) : ShowOtherRow(s, row, other);
+    const bool itsOwn = grid.Cell(row, line::kProduct).AsLong() == id;
     FillProduct(s, row, sought, id);
+    if (counts && itsOwn)
+        return CountOneMore(s, row, row, sought.code);
     if (s.type.fSetDjType2 == PriceKind::Discounted && grid.Number(row, line::kDiscount) == 0)
         CurrentView().Signal("折扣为 0，单价因此为 0：请输入折扣。");
 }

@@ -13,15 +13,24 @@ struct NewColumn {
 };
 constexpr NewColumn kColumnsOfVersion1[] = {{"tJXC_Ck", "fKhID"}, {"tJXC_CpTj02", "fCpPjMemo"}};
 
-void RaiseToVersion1(Connection& connection) {
+void AddLateTables(Connection& connection) {
     Engine& engine = connection.EngineInUse();
     for (const TableDef& table : AllTables())
         if (table.late && !connection.HasColumn(table.name, table.fields.front().name))
             engine.ExecuteScript(TableScript(engine, table));
+}
+
+void RaiseToVersion1(Connection& connection) {
+    Engine& engine = connection.EngineInUse();
     for (const auto& [table, field] : kColumnsOfVersion1)
         if (!connection.HasColumn(table, field))
             engine.ExecuteScript(std::string("alter table ") + table + " add column " +
                                  engine.ColumnDefinition(*FindField(*FindTable(table), field)));
+}
+
+void RaiseToVersion2(Connection& connection) {
+    for (const NotedTable& table : kNotedTables)
+        connection.EngineInUse().ExecuteScript(connection.EngineInUse().NotingScript(table));
 }
 
 } // namespace
@@ -42,7 +51,9 @@ void RaiseCompany(Connection& connection) {
         connection.ForgetCatalogue();
         if (connection.HasColumn("tJXC_InvSys", "fSysDate") &&
             connection.EngineInUse().Version() < kCompanyVersion) {
+            AddLateTables(connection);
             RaiseToVersion1(connection);
+            RaiseToVersion2(connection);
             connection.EngineInUse().SetVersion(kCompanyVersion);
             transaction.Commit();
         }

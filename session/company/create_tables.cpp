@@ -48,6 +48,8 @@ std::string CompanyTablesScript(const Engine& engine) {
     std::string sql = engine.ScriptPrologue();
     for (const TableDef& table : AllTables())
         sql += TableScript(engine, table);
+    for (const NotedTable& table : kNotedTables)
+        sql += engine.NotingScript(table);
     return sql;
 }
 

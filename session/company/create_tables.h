@@ -9,7 +9,7 @@ namespace jxc {
 
 // One table with its indexes.
 [[nodiscard]] std::string TableScript(const Engine& engine, const TableDef& table);
-// All tables and indexes, as one script without transaction commands.
+// All tables and indexes and what keeps the log of changes, as one script without transaction commands.
 [[nodiscard]] std::string CompanyTablesScript(const Engine& engine);
 
 } // namespace jxc

@@ -37,12 +37,16 @@ std::vector<std::string> NameParts(const std::string& typed) {
     return parts;
 }
 
-// Lets the user pick among several hits; the statement of the product picked, nothing when none was.
-std::optional<std::string> PickProduct(const std::string& code, const std::string& name) {
+// Lets the user pick among several hits; the statement of the product picked, nothing when none was. A picker that asks
+// for bar codes is given one; another lists all products for it, as their codes do not hold it.
+std::optional<std::string> PickProduct(const std::string& code, const std::string& name,
+                                       const std::string& barCode = "") {
     session.SelectedProductID = 0;
     Screen& picker = ScreenNamed("frmCp");
     picker.SetProperty("CpCode", code);
     picker.SetProperty("CpName", name);
+    if (picker.HasProperty("CpBarCode"))
+        picker.SetProperty("CpBarCode", barCode);
     picker.SetProperty("CpNoEdit", 1);
     ShowModal(picker);
     if (session.SelectedProductID == 0)
@@ -52,7 +56,7 @@ std::optional<std::string> PickProduct(const std::string& code, const std::strin
 
 // The statements of a search by code: the exact code, how many have it in their codes, and the stock of the exact one.
 struct ByCode {
-    std::string exact, count, stock;
+    std::string exact, count, stock, barCode;
 };
 
 ByCode StatementsByCode(const std::string& code, const std::string& warehouse) {
@@ -67,15 +71,26 @@ ByCode StatementsByCode(const std::string& code, const std::string& warehouse) {
             ? "select sum(a.fKcSl) as fKcSl from (tJXC_CkTj a Left Join tJXC_Ck b On a.fCkName=b.fCkName)" +
                   ofCode + " Where " + isCode + " And (b.fCkType2=0 Or b.fCkType2=1)"
             : "select a.fKcSl from tJXC_CkTj a" + ofCode + " Where " + isCode +
-                  " And a.fCkName=" + InQuotes(warehouse)};
+                  " And a.fCkName=" + InQuotes(warehouse),
+        kProducts + " And fCpBarCode = " + InQuotes(code) + " Order By fCpCode,fCpID Desc"};
 }
 
-std::optional<std::string> StatementByCode(const std::string& code, const ByCode& statements) {
-    if (!Recordset(Conn(), statements.exact).AtEnd())
-        return statements.exact;
-    const auto hits = Recordset(Conn(), statements.count)[size_t{0}].AsLong();
+std::optional<std::string> StatementByBarCode(const std::string& code, const std::string& statement) {
+    const size_t hits = Recordset(Conn(), statement).RecordCount();
     if (hits == 0)
         return std::nullopt;
+    return hits == 1 ? std::optional(statement) : PickProduct("", "", code);
+}
+
+std::optional<std::string> StatementByCode(const std::string& code, const ByCode& statements,
+                                           bool& byBarCode) {
+    if (!Recordset(Conn(), statements.exact).AtEnd())
+        return statements.exact;
+    const ReadAhead ahead(Conn(), {{statements.count}, {statements.barCode}});
+    const auto hits = Recordset(Conn(), statements.count)[size_t{0}].AsLong();
+    byBarCode = hits == 0;
+    if (byBarCode)
+        return StatementByBarCode(code, statements.barCode);
     if (hits == 1)
         return kProducts + " And fCpCode like " + InQuotes(LikePattern(code));
     return PickProduct(code, "");
@@ -107,18 +122,22 @@ std::int32_t FindProduct(ProductSought& sought) {
     // A line's code costs one waiting for a server.
     const ReadAhead ahead(Conn(), byCode ? ProductStatements(sought.code, sought.warehouse)
                                          : std::vector<Connection::Expected>{});
-    const auto statement = byCode ? StatementByCode(sought.code, statements) : StatementByName(sought.name);
+    bool byBarCode = false;
+    const auto statement =
+        byCode ? StatementByCode(sought.code, statements, byBarCode) : StatementByName(sought.name);
     if (!statement)
         return 0;
     const Recordset row(Conn(), *statement);
     if (row.AtEnd())
         return 0;
     const auto id = static_cast<std::int32_t>(row["fCpID"].AsLong());
+    const std::string typedCode = sought.code;
     sought.code = row["fCpCode"].AsText();
     sought.name = row["fCpName"].AsText();
     sought.spec = row["fCpGG"].AsText();
     sought.unit = row["fCpUnit"].AsText();
     sought.barCode = row["fCpBarCode"].AsText();
+    sought.byBarCode = byBarCode && EqualsNoCase(sought.barCode, typedCode);
     for (int i = 0; i < 4; ++i)
         sought.price[i] = row["fCpPrice" + std::to_string(i)].AsDouble();
     if (sought.stock < 0)

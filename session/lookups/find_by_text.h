@@ -20,12 +20,14 @@ struct ProductSought {
     std::string spec = {};
     std::string unit = {};
     std::string barCode = {};
-    double stock = -1; // negative: no stock figure is wanted
+    bool byBarCode = false; // no code was like the one typed, but one product has it as its bar code
+    double stock = -1;      // negative: no stock figure is wanted
     double price[4] = {0, 0, 0, 0};
 };
 
 // The product's fCpID, 0 when nothing was found; the fields of `sought` are filled on success. An exact code
-// wins over a pattern; several hits open the product picker. A stopped product is never found.
+// wins over a pattern, and where no code is like it, a bar code is looked for; several hits open the product picker. A
+// stopped product is never found.
 std::int32_t FindProduct(ProductSought& sought);
 
 // The statements with which it finds an exact code and its stock, to be read ahead for many codes.

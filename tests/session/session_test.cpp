@@ -17,6 +17,7 @@
 #include "session/session.h"
 #include "settings/document_numbers.h"
 #include "tests/support/on_sample_company.h"
+#include "tests/support/picker_stand_in.h"
 
 namespace jxc::test {
 
@@ -251,6 +252,43 @@ TEST_P(Company, ProductsAreFoundAsTyped) {
     EXPECT_EQ(stopped.code, "CPU0021");
     ProductSought several{.code = "MEM"};
     EXPECT_THROW(FindProduct(several), ScreenError); // the picker is not in this version
+}
+
+// What its own steps do not find by code is looked for among the bar codes.
+TEST_P(Company, ProductsAreFoundByBarCode) {
+    Open();
+    Connection& books = *session.Conn;
+    const std::string code = "Where fCpCode=";
+    books.Execute("Update tJXC_Cp Set fCpBarCode='X69' " + code + "'CPU001'");
+    books.Execute("Update tJXC_Cp Set fCpBarCode='CPU002' " + code + "'CPU003'");
+    books.Execute("Update tJXC_Cp Set fCpBarCode='U00' " + code + "'CPU004'");
+    ProductSought scanned{.code = "x69"};
+    const int id = FindProduct(scanned);
+    EXPECT_EQ(scanned.code, "CPU001");
+    EXPECT_TRUE(scanned.byBarCode);
+    ProductSought exact{.code = "CPU002"};
+    FindProduct(exact);
+    EXPECT_EQ(exact.code, "CPU002");
+    EXPECT_FALSE(exact.byBarCode);
+    for (const char* other : {"X6", "69", "X69'", "X%", ""}) // whole, and no pattern
+        EXPECT_EQ(FindProduct(scanned = {.code = other}), 0) << other;
+
+    PickerStandIn picker(id);
+    ProductSought like{.code = "U00"}; // many codes are like it
+    EXPECT_EQ(FindProduct(like), id);
+    EXPECT_EQ(picker.CpCode, "U00");
+    EXPECT_FALSE(like.byBarCode);
+    books.Execute("Update tJXC_Cp Set fCpBarCode='X69' " + code + "'MEM001'");
+    EXPECT_EQ(FindProduct(scanned = {.code = "X69"}), id);
+    EXPECT_TRUE(scanned.byBarCode);
+    EXPECT_EQ(picker.opened, 2);
+    EXPECT_EQ(picker.CpCode, "");
+    EXPECT_EQ(picker.CpBarCode, "X69");
+    picker.picks = 0;
+    EXPECT_EQ(FindProduct(scanned = {.code = "X69"}), 0);
+    books.Execute("Update tJXC_Cp Set fCpFlag=1 " + code + "'CPU001'");
+    EXPECT_NE(FindProduct(scanned = {.code = "X69"}), id);
+    EXPECT_EQ(scanned.code, "MEM001"); // a stopped product's bar code is nobody's
 }
 
 TEST_P(Company, CustomersAreFoundAsTyped) {
