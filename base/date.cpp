@@ -1,5 +1,6 @@
 #include "base/date.h"
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -21,6 +22,15 @@ Date Today() {
     std::tm local{};
     localtime_r(&now, &local);
     return MakeDate(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
+}
+
+std::string NowText() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    std::array<char, 16> time{};
+    std::strftime(time.data(), time.size(), " %H:%M:%S", &local);
+    return IsoText(Today()) + time.data();
 }
 
 std::optional<Date> ParseDate(std::string_view text) {

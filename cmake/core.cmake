@@ -7,6 +7,7 @@ find_package(PostgreSQL REQUIRED)
 find_package(muparser REQUIRED)
 find_package(nlohmann_json REQUIRED)
 find_package(utf8proc REQUIRED)
+find_package(sodium REQUIRED)
 
 add_library(lzjxc_core STATIC)
 add_library(lzJxc::core ALIAS lzjxc_core)
@@ -21,4 +22,4 @@ endforeach()
 target_compile_features(lzjxc_core PUBLIC cxx_std_20)
 target_precompile_headers(lzjxc_core PRIVATE ${PROJECT_SOURCE_DIR}/cmake/standard_headers.h)
 target_link_libraries(lzjxc_core PUBLIC SQLite::SQLite3 PostgreSQL::PostgreSQL muparser::muparser
-                                        nlohmann_json::nlohmann_json utf8proc::utf8proc)
+                                        nlohmann_json::nlohmann_json utf8proc::utf8proc sodium::sodium)

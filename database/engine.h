@@ -54,6 +54,8 @@ class Engine {
     virtual bool IsFar() const { return false; }
     virtual std::vector<Rows> QueryTogether(std::span<const Select>) { return {}; }
     // How often a server was waited for, the log-in apart.
+    // As whom the server has let the program in; "" where nobody asks.
+    virtual std::string ServerUser() const { return ""; }
     virtual size_t RoundTrips() const { return 0; }
     // See Connection::Mark; -1 when the failure, if any, is the last call's.
     virtual void Mark(int) {}

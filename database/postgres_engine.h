@@ -30,6 +30,7 @@ class PostgresEngine : public Engine {
     bool IsFar() const override { return true; }
     bool IsLost() const override { return line_.IsLost(); }
     std::vector<Rows> QueryTogether(std::span<const Select> selects) override;
+    std::string ServerUser() const override { return line_.ServerUser(); }
     size_t RoundTrips() const override { return line_.RoundTrips(); }
     void Mark(int mark) override { line_.Mark(mark); }
     int MarkOfFailure() const override { return line_.MarkOfFailure(); }

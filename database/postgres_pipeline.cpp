@@ -225,4 +225,9 @@ void PostgresPipeline::RunScript(const std::string& sql) {
     }
 }
 
+std::string PostgresPipeline::ServerUser() const {
+    const char* user = PQuser(line_.get());
+    return user ? user : "";
+}
+
 } // namespace jxc

@@ -53,6 +53,7 @@ class PostgresPipeline {
     bool HasUnsettledChanges() const;
     bool HasUnsettledWork(int depth) const; // statements sent inside the savepoint of that depth
     size_t UnsettledCount() const { return sent_.size(); }
+    std::string ServerUser() const;
     // How often the server has been waited for, the log-in apart.
     size_t RoundTrips() const { return roundTrips_; }
 

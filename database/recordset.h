@@ -23,6 +23,8 @@ class Recordset {
     Recordset(Connection& connection, std::string_view sql, Access access = Access::Read);
 
     [[nodiscard]] bool AtEnd() const { return row_ >= RecordCount(); }
+    // Whether there is a row to read or assign: one that was read, or one that is being added.
+    [[nodiscard]] bool HasRow() const { return adding_ || !AtEnd(); }
     // Assigned fields must have been written by Update before; otherwise a std::logic_error.
     void MoveNext();
     // Goes to a row by its place from 0, for sets that are read once and changed in another order.

@@ -69,7 +69,7 @@ void AddHostTables(std::vector<TableDef>& tables) {
                        {"NoUse_", Short}},
                       {}});
     tables.push_back({"tHostUser",
-                      {{"fUserName", Text}, {"fPower", Text}, {"fSupervisor", Short}},
+                      {{"fUserName", Text}, {"fPower", Text}, {"fSupervisor", Short}, {"fPassword", Text}},
                       {{"fUserName", true}},
                       true});
     tables.push_back({"Brief", {{"BriefType", Text}, {"BriefTypeName", Text}}, {}});

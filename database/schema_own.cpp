@@ -220,6 +220,21 @@ void AddPerformance(std::vector<TableDef>& tables) {
 } // namespace
 
 void AddOwnTables(std::vector<TableDef>& tables) {
+    tables.push_back({"tJXC_Audit",
+                      {{"fID", Long},
+                       {"fTime", Text},
+                       {"fUser", Text},
+                       {"fServerUser", Text},
+                       {"fMachine", Text},
+                       {"fAction", Text},
+                       {"fTable", Text},
+                       {"fKey", Text},
+                       {"fName", Text},
+                       {"fBefore", Text},
+                       {"fAfter", Text},
+                       {"fHash", Text}},
+                      {{"fID", true}, {"fTime"}},
+                      true});
     AddSettings(tables);
     AddMasterData(tables);
     AddDocuments(tables);

@@ -23,7 +23,9 @@ std::string LinesStatement(const std::string& stem, std::int32_t key, int fInv1)
 
 StoredDocument ReadStored(const std::string& stem, std::int32_t key) {
     StoredDocument stored;
-    stored.header = Conn().Query(StoredHeaderStatement(stem, key)).cells;
+    Rows header = Conn().Query(StoredHeaderStatement(stem, key));
+    stored.headerNames = std::move(header.names);
+    stored.header = std::move(header.cells);
     if (stored.Exists())
         stored.lines = Conn().Query(StoredLinesStatement(stem, key)).cells;
     return stored;

@@ -11,6 +11,7 @@ namespace jxc {
 
 struct StoredDocument {
     // The cells of the header row and of the line rows in their order; what approval writes into lines apart.
+    std::vector<std::string> headerNames;
     std::vector<Value> header;
     std::vector<Value> lines;
 

@@ -3,9 +3,11 @@
 #include "base/text.h"
 #include "database/recordset.h"
 #include "database/row_inserter.h"
+#include "documents/audit_document.h"
 #include "documents/document_checks.h"
 #include "documents/document_model.h"
 #include "documents/figure_bounds.h"
+#include "session/audit/audit.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
@@ -133,27 +135,6 @@ void WriteLines(const DocumentData& document, bool isNew) {
         WriteOrdinaryLines(document, isNew, true);
 }
 
-// What a header says of its document, by field; its key apart. It is not approved then.
-std::vector<std::pair<std::string, Value>> HeaderFields(const DocumentData& document) {
-    const TypeRow& type = document.type;
-    return {{"fHtNo", document.order},
-            {"fInvType", type.fSetNo},
-            {"fInvNo", document.number},
-            {"fInvDate", IsoText(document.date)},
-            {"fInvHb", document.currency},
-            {"fInvHbDl", document.rate},
-            {"fInvJE", TotalOf(document.lines)},
-            {"fInvMemo", document.memo},
-            {"fInvDLR", session.UserName},
-            {"fInvJbr", document.handler},
-            {"fInvSHR", ""},
-            {"fKhID", type.HasCustomer() ? document.customer : 0},
-            {"fKhAdd", type.HasCustomer() ? document.address : ""},
-            {"fCkName", type.HasFirstWarehouse() ? document.warehouse : ""},
-            {"fCkName2", type.HasSecondWarehouse() ? document.warehouse2 : ""},
-            {"fFlag", document.stopped ? 1 : 0}};
-}
-
 void InsertHeader(const DocumentData& document) {
     const auto values = HeaderFields(document);
     std::vector<std::string> names{"fInvID"};
@@ -182,21 +163,47 @@ std::string FigureRefused(const DocumentData& document) {
     return refusal ? refusal->text : "";
 }
 
+std::vector<Connection::Expected> StoredDocumentReads(const DocumentData& document) {
+    std::vector<Connection::Expected> reads = CheckStatements(document);
+    reads.push_back(AuditRead());
+    return reads;
+}
+
 // Why the stored document may not be changed or deleted any more.
 std::string MayStillBeWritten(const DocumentData& document, const StoredDocument& asLoaded,
                               DocAction action) {
-    const ReadAhead ahead(Conn(), CheckStatements(document));
     const std::string refusal = ChangedMeanwhile(document, asLoaded, action);
     return refusal.empty() ? DatedBeforePeriod(document, action) : refusal;
 }
 
 } // namespace
 
+std::vector<std::pair<std::string, Value>> HeaderFields(const DocumentData& document) {
+    const TypeRow& type = document.type;
+    return {{"fHtNo", document.order},
+            {"fInvType", type.fSetNo},
+            {"fInvNo", document.number},
+            {"fInvDate", IsoText(document.date)},
+            {"fInvHb", document.currency},
+            {"fInvHbDl", document.rate},
+            {"fInvJE", TotalOf(document.lines)},
+            {"fInvMemo", document.memo},
+            {"fInvDLR", session.UserName},
+            {"fInvJbr", document.handler},
+            {"fInvSHR", ""},
+            {"fKhID", type.HasCustomer() ? document.customer : 0},
+            {"fKhAdd", type.HasCustomer() ? document.address : ""},
+            {"fCkName", type.HasFirstWarehouse() ? document.warehouse : ""},
+            {"fCkName2", type.HasSecondWarehouse() ? document.warehouse2 : ""},
+            {"fFlag", document.stopped ? 1 : 0}};
+}
+
 std::vector<Connection::Expected> NewDocumentReads(const DocumentData& document) {
     const std::string stem = StemOf(document);
     return {{ParametersStatement()},
             {NumberStatement(stem, document.number)},
-            {MaxStatement(stem + "01", "fInvID")}};
+            {MaxStatement(stem + "01", "fInvID")},
+            AuditRead()};
 }
 
 // Key and number are taken inside the transaction, where no other user can come between.
@@ -214,12 +221,14 @@ std::string WriteNewDocument(DocumentData& document) {
     document.total = TotalOf(document.lines);
     InsertHeader(document);
     WriteLines(document, true);
+    AuditWritten(document);
     return "";
 }
 
 std::string WriteChangedDocument(const DocumentData& document, const StoredDocument& asLoaded,
                                  const std::string& numberBefore) {
     const std::string stem = StemOf(document);
+    const ReadAhead ahead(Conn(), StoredDocumentReads(document));
     std::string refusal = FigureRefused(document);
     if (refusal.empty())
         refusal = MayStillBeWritten(document, asLoaded, DocAction::Change);
@@ -230,13 +239,17 @@ std::string WriteChangedDocument(const DocumentData& document, const StoredDocum
     UpdateHeader(document);
     Conn().Execute("Delete From " + stem + "02 Where fInvID=" + std::to_string(document.key));
     WriteLines(document, false);
+    AuditChanged(document, asLoaded);
     return "";
 }
 
 std::string DeleteDocument(const DocumentData& document, const StoredDocument& asLoaded) {
+    const ReadAhead ahead(Conn(), StoredDocumentReads(document));
     std::string refusal = MayStillBeWritten(document, asLoaded, DocAction::Delete);
     if (refusal.empty() && !DeleteDocumentRows(StemOf(document), "fInvID=" + std::to_string(document.key)))
         throw DatabaseError("删除单据失败。");
+    if (refusal.empty())
+        AuditDeleted(document, asLoaded);
     return refusal;
 }
 

@@ -10,6 +10,9 @@
 
 namespace jxc {
 
+// What a header says of its document, by field; its key apart. It is not approved then.
+std::vector<std::pair<std::string, Value>> HeaderFields(const DocumentData& document);
+
 // Writes a new document under the book's next key, which it puts into `document` with the total of the lines. Refused are
 // figures out of bounds, a date before the period and a number that is taken. It is not approved then. That number,
 // warehouses, customer and lines are given as the type wants them is for the caller to see to.

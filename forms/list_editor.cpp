@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/session.h"
 
@@ -154,6 +155,8 @@ void ListEditor::Store() {
     newKey = mode == EditorMode::Delete ? Value() : KeyToStore();
     if (mode == EditorMode::Delete) {
         StoreElsewhere();
+        WriteAudit(
+            {"删除", table.name, key.AsText(), RecordName(), JsonOf(RowInHand(*this, Access::Read)), ""});
         Conn().Execute("Delete From " + table.name + " Where " + table.key + "=" + Literal(key));
         return;
     }
@@ -161,13 +164,16 @@ void ListEditor::Store() {
     if (marked)
         Conn().Execute("Update " + table.name + " Set " + mark->field + "=0 Where " + mark->field + "=1");
     Recordset row = RowInHand(*this, Access::Write);
-    if (mode == EditorMode::Add)
+    const bool adds = mode == EditorMode::Add;
+    const std::string before = adds ? "" : JsonOf(row);
+    if (adds)
         row.AddNew();
     WriteFields(*this, row);
     row.Set(table.key, newKey);
     if (mark)
         row.Set(mark->field, marked ? 1 : 0);
     WriteRest(row);
+    WriteAudit({adds ? "新增" : "修改", table.name, newKey.AsText(), RecordName(), before, JsonOf(row)});
     row.Update();
     StoreElsewhere();
 }

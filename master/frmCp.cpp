@@ -16,14 +16,17 @@ namespace {
 
 // What the caller wanted, taken once: the next caller who says nothing wants the whole screen.
 void TakeProperties(frmCp& s) {
-    s.picking = !s.CpCode.empty() || !s.CpName.empty();
+    s.picking = !s.CpCode.empty() || !s.CpName.empty() || !s.CpBarCode.empty();
     s.noEdit = s.CpNoEdit == 1;
     s.chkCpCode2.value = !s.CpCode.empty();
     s.txtCpCode2.text = s.CpCode;
     s.chkCpName2.value = s.CpCode.empty() && !s.CpName.empty();
     s.txtCpName2.text = s.CpCode.empty() ? s.CpName : "";
+    s.chkCpBarCode2.value = !s.CpBarCode.empty();
+    s.txtCpBarCode2.text = s.CpBarCode;
     s.CpCode.clear();
     s.CpName.clear();
+    s.CpBarCode.clear();
     s.CpNoEdit = 0;
 }
 
@@ -65,6 +68,7 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     title = "产品管理";
     AddTextProperty("CpCode", CpCode);
     AddTextProperty("CpName", CpName);
+    AddTextProperty("CpBarCode", CpBarCode);
     AddNumberProperty("CpNoEdit", CpNoEdit);
     WireProductFields(*this);
     SSTab1.onChange = [this] {

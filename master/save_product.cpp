@@ -8,6 +8,7 @@
 #include "forms/guard.h"
 #include "forms/record_editor.h"
 #include "master/frmCp.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/messages.h"
@@ -94,6 +95,7 @@ MayRefuse StoreNew(frmCp& s) {
     row.AddNew();
     row.Set("fCpID", id);
     WriteFields(s, row);
+    WriteAudit({"新增", "tJXC_Cp", std::to_string(id), s.txtCpCode.text, "", JsonOf(row)});
     row.Update();
     transaction.Commit();
     session.SelectedProductID = id;
@@ -120,7 +122,9 @@ MayRefuse StoreChanged(frmCp& s) {
         CurrentView().Signal("该产品已被其他用户删除，没有存盘。");
         return std::nullopt;
     }
+    const std::string before = JsonOf(row);
     WriteFields(s, row);
+    WriteAudit({"修改", "tJXC_Cp", row["fCpID"].AsText(), s.txtCpCode.text, before, JsonOf(row)});
     row.Update();
     transaction.Commit();
     LeaveProductMode(s);
@@ -168,6 +172,9 @@ void Delete(frmCp& s) {
         Transaction transaction(Conn());
         use = WhyInUse(s); // a document may have been saved while the person was asked
         if (use.empty()) {
+            const Recordset row(Conn(), "select * from tJXC_Cp where " + InHand());
+            WriteAudit({"删除", "tJXC_Cp", std::to_string(session.SelectedProductID), s.txtCpCode.text,
+                        JsonOf(row), ""});
             Conn().Execute("Delete From tJXC_Cp Where fCpID = " + std::to_string(session.SelectedProductID));
             transaction.Commit();
         }

@@ -5,6 +5,7 @@
 #include "database/recordset.h"
 #include "master/frmCk.h"
 #include "master/rename_warehouse.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/messages.h"
@@ -65,6 +66,10 @@ void WriteFields(const frmCk& s, Recordset& row) {
     row.Update();
 }
 
+std::string WarehouseJson(const std::string& name) {
+    return JsonOf(Recordset(Conn(), "select * from tJXC_Ck where fCkName=" + InQuotes(name)));
+}
+
 MayRefuse RefuseNew(frmCk& s) {
     const MayRefuse code = RefuseTakenCode(s);
     return code ? code : RefuseTakenName(s);
@@ -79,6 +84,7 @@ MayRefuse StoreNew(frmCk& s) {
                   Access::Write);
     row.AddNew();
     WriteFields(s, row);
+    WriteAudit({"新增", "tJXC_Ck", s.txtCkCode.text, s.txtCkName.text, "", WarehouseJson(s.txtCkName.text)});
     transaction.Commit();
     return std::nullopt;
 }
@@ -126,8 +132,11 @@ MayRefuse StoreChange(frmCk& s, bool& followed) {
                   Access::Write);
     if (row.AtEnd())
         return Gone(s);
+    const std::string before = JsonOf(row);
     WriteFields(s, row);
     followed = !IsRenamed(s) || RenameWarehouseEverywhere(session.OldName, s.txtCkName.text);
+    WriteAudit({IsRenamed(s) ? "改名" : "修改", "tJXC_Ck", s.txtCkCode.text, s.txtCkName.text, before,
+                WarehouseJson(s.txtCkName.text)});
     transaction.Commit();
     return std::nullopt;
 }
@@ -157,6 +166,7 @@ MayRefuse StoreDeletion(frmCk& s, const std::string& name) {
     Transaction transaction(Conn());
     if (MayRefuse refusal = RefuseDeletion(s, name))
         return refusal;
+    WriteAudit({"删除", "tJXC_Ck", s.txtCkCode.text, name, WarehouseJson(name), ""});
     Conn().Execute("Delete From tJXC_Ck Where fCkName = " + InQuotes(name));
     transaction.Commit();
     return std::nullopt;

@@ -9,6 +9,7 @@
 #include "database/recordset.h"
 #include "forms/column_dictionary.h"
 #include "forms/edit_filter.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
@@ -78,8 +79,17 @@ bool EntriesAreSound(frmBrief& s) {
     return true;
 }
 
+// The entries stored, by code.
+std::string StoredEntries(const frmBrief& s) {
+    AuditedFields fields;
+    for (Recordset entry(Conn(), "select *" + EntriesOf(s)); !entry.AtEnd(); entry.MoveNext())
+        fields.emplace_back(entry["BriefCode"].AsText(), entry["BriefName"]);
+    return JsonOf(fields);
+}
+
 void SaveEntries(const frmBrief& s) {
     Transaction transaction(Conn());
+    const std::string before = StoredEntries(s);
     Conn().Execute("Delete" + EntriesOf(s));
     Recordset entries(Conn(), "select *" + EntriesOf(s), Access::Write);
     for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
@@ -89,6 +99,7 @@ void SaveEntries(const frmBrief& s) {
         entries.Set("BriefName", Trim(s.Grid1.Text(row, 2)));
         entries.Update();
     }
+    WriteAudit({"修改", "briefDetail", s.code, s.title, before, StoredEntries(s)});
     transaction.Commit();
 }
 

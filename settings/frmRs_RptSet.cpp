@@ -2,6 +2,7 @@
 
 #include "database/recordset.h"
 #include "forms/column_dictionary.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/screen_entries.h"
 #include "session/session.h"
@@ -42,9 +43,13 @@ void FindCodeList(frmRs_RptSet& s) {
 void Confirm(frmRs_RptSet& s) {
     if (s.txtName.text.empty())
         return;
+    Transaction transaction(Conn());
+    const AuditedFields after{{CaptionField(), s.txtName.text}, {"FieldBriefType", s.txtItemNo.text}};
+    WriteAudit({"修改", "rptListDetail", s.TabelName, s.Field, "", JsonOf(after)});
     Conn().Execute("UpDate rptListDetail Set " + CaptionField() + "=" + InQuotes(s.txtName.text) +
                    ",FieldBriefType=" + InQuotes(s.txtItemNo.text) +
                    " where ftable=" + InQuotes(s.TabelName) + " and FieldName=" + InQuotes(s.Field));
+    transaction.Commit();
     session.RptSetResult = s.txtName.text;
     s.Close();
 }

@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "controls/view.h"
 #include "database/recordset.h"
+#include "session/audit/audit.h"
 #include "session/period.h"
 #include "session/session.h"
 #include "settings/frmSystem.h"
@@ -135,9 +136,11 @@ bool SaveParameters(frmSystem& s) {
         return false;
     Transaction transaction(Conn());
     Recordset row(Conn(), ParametersStatement(), Access::Write);
+    const std::string before = JsonOf(row);
     if (row.AtEnd())
         row.AddNew();
     WriteRow(s, row);
+    WriteAudit({"修改", "tJXC_InvSys", "", s.SSTab1.captions[frmSystem::kParameters], before, JsonOf(row)});
     row.Update();
     transaction.Commit();
     LoadPeriodSettings();

@@ -6,6 +6,7 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "forms/edit_filter.h"
+#include "session/audit/audit.h"
 #include "session/session.h"
 #include "settings/document_numbers.h"
 #include "settings/document_types.h"
@@ -136,6 +137,7 @@ std::string TypeStatement(const frmSystem& s, int row) {
 
 void WriteType(const frmSystem& s, int row) {
     Recordset record(Conn(), TypeStatement(s, row), Access::Write);
+    const std::string before = JsonOf(record);
     if (record.AtEnd()) {
         record.AddNew();
         record.Set(size_t{kRowID}, row);
@@ -143,6 +145,8 @@ void WriteType(const frmSystem& s, int row) {
     }
     for (int column = kNo; column < kMark; ++column)
         record.Set(static_cast<size_t>(column), StoredCell(s, column, s.Grid1.Cell(row, column)));
+    WriteAudit({before.empty() ? "新增" : "修改", "tJXC_InvSet", record["fSetNo"].AsText(),
+                record["fSetName"].AsText(), before, JsonOf(record)});
     record.Update();
 }
 

@@ -5,8 +5,10 @@
 #include "database/recordset.h"
 #include "database/waiting.h"
 #include "documents/approval/stages.h"
+#include "documents/audit_document.h"
 #include "documents/document_checks.h"
 #include "master/supplier_history.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/session.h"
 #include "settings/document_numbers.h"
@@ -103,7 +105,10 @@ std::vector<Stage> StagesOf(const DocumentData& document, const StoredDocument& 
         stages.push_back({"实收实付款自动挂入“内部资金帐户”",
                           [&document, reversal] { PostMoneyAccount(document, reversal); },
                           NumberReads(document, series, reversal)});
-    stages.push_back({"单据审核标志处理", [&document, reversal] { MarkApproved(document, reversal); }});
+    stages.push_back({"单据审核标志处理", [&document, reversal] {
+                          MarkApproved(document, reversal);
+                          AuditApproval(document, reversal);
+                      }});
     return stages;
 }
 
@@ -160,6 +165,7 @@ std::string RefusalMeanwhile(const DocumentData& document, const StoredDocument&
 std::string RunStages(const std::vector<Stage>& stages, const DocumentData& document,
                       const StoredDocument& asLoaded, bool reversal, const ApprovalProgress& progress) {
     std::vector<Connection::Expected> together = CheckStatements(document);
+    together.push_back(AuditRead());
     if (reversal)
         together.push_back({AccountEntryStatement(document)});
     for (const Stage& stage : stages)

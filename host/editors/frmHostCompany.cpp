@@ -1,5 +1,7 @@
 #include "host/editors/frmHostCompany.h"
 
+#include "session/audit/audit.h"
+#include "session/company/company_fields.h"
 #include "session/period.h"
 #include "session/session.h"
 
@@ -48,11 +50,14 @@ void frmHostCompany::Load() {
 
 void frmHostCompany::Store() {
     Recordset header = RowToWrite(kHeader);
+    const std::string before = JsonOf(header);
     WriteFields(*this, header);
+    const std::string after = JsonOf(header);
     header.Update();
     Recordset start = RowToWrite(kStart);
     start.Set("CompDate", IsoText(*dtpCompDate.date));
     start.Update();
+    WriteAudit({"修改", "myCompany", "", CompanyName(header), before, after});
 }
 
 void frmHostCompany::ShapeByMode() {

@@ -12,6 +12,7 @@ struct NewColumn {
     const char* field;
 };
 constexpr NewColumn kColumnsOfVersion1[] = {{"tJXC_Ck", "fKhID"}, {"tJXC_CpTj02", "fCpPjMemo"}};
+constexpr NewColumn kColumnsOfVersion2[] = {{"tHostUser", "fPassword"}};
 
 void AddLateTables(Connection& connection) {
     Engine& engine = connection.EngineInUse();
@@ -20,15 +21,21 @@ void AddLateTables(Connection& connection) {
             engine.ExecuteScript(TableScript(engine, table));
 }
 
-void RaiseToVersion1(Connection& connection) {
+template <size_t N>
+void AddColumns(Connection& connection, const NewColumn (&columns)[N]) {
     Engine& engine = connection.EngineInUse();
-    for (const auto& [table, field] : kColumnsOfVersion1)
+    for (const auto& [table, field] : columns)
         if (!connection.HasColumn(table, field))
             engine.ExecuteScript(std::string("alter table ") + table + " add column " +
                                  engine.ColumnDefinition(*FindField(*FindTable(table), field)));
 }
 
+void RaiseToVersion1(Connection& connection) {
+    AddColumns(connection, kColumnsOfVersion1);
+}
+
 void RaiseToVersion2(Connection& connection) {
+    AddColumns(connection, kColumnsOfVersion2);
     for (const NotedTable& table : kNotedTables)
         connection.EngineInUse().ExecuteScript(connection.EngineInUse().NotingScript(table));
 }
@@ -52,6 +59,7 @@ void RaiseCompany(Connection& connection) {
         if (connection.HasColumn("tJXC_InvSys", "fSysDate") &&
             connection.EngineInUse().Version() < kCompanyVersion) {
             AddLateTables(connection);
+            connection.ForgetCatalogue();
             RaiseToVersion1(connection);
             RaiseToVersion2(connection);
             connection.EngineInUse().SetVersion(kCompanyVersion);

@@ -148,8 +148,8 @@ TEST_P(Plans, OfOneDocumentWalkThroughNoTable) {
 
 // Lists read what they list, and nothing else.
 TEST_P(Plans, OfTheOtherScreensWalkThroughWhatTheyListOnly) {
-    const std::map<std::string, std::set<std::string>> listed{{"frmCkKc", {"tjxc_cktj", "tjxc_cp"}},
-                                                              {"frmHostCards", {"cards"}}};
+    const std::map<std::string, std::set<std::string>> listed{
+        {"frmCkKc", {"tjxc_cktj", "tjxc_cp"}}, {"frmCp", {"tjxc_cp"}}, {"frmHostCards", {"cards"}}};
     Fill();
     Analyze();
     const int receipt = clerk->Save(TypicalDocument(1));

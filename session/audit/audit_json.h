@@ -1,0 +1,17 @@
+// Values as JSON, as the trail keeps them.
+#pragma once
+
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "base/value.h"
+
+namespace jxc {
+
+using Json = nlohmann::ordered_json;
+
+Json JsonValue(const Value& value);
+std::string JsonText(const Json& json);
+
+} // namespace jxc
