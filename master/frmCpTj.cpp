@@ -126,7 +126,8 @@ Arrangement frmCpTj::Arrange() {
                                        {&txtCpCode, &txtCpName, &txtCpPrice},
                                        {&chkCk, &cboCk, &txtTjPrice}},
                              .grid = &Grid2,
-                             .commands = {&cmdAddRow, &cmdDeleteRow, &lblPrices}};
+                             .commands = {&lblPrices},
+                             .closingCommands = {&cmdAddRow, &cmdDeleteRow}};
     Arrangement query;
     for (size_t i = 0; i < std::size(chkCode); ++i)
         query.fields.push_back({&chkCode[i], &txtCode[i], &chkName[i], &txtName[i]});
@@ -136,7 +137,7 @@ Arrangement frmCpTj::Arrange() {
             .pages = {{.grid = &Grid1}, detail, query},
             .commands = {&cmdAdd, &cmdChange, &cmdDelete, &cmdPrint},
             .closingCommands = {&cmdSave, &cmdCancel, &cmdSelect, &cmdQuit},
-            .width = 1000,
+            .width = 1120,
             .height = 600};
 }
 

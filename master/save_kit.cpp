@@ -33,6 +33,8 @@ MayRefuse RefuseFields(frmCpTj& s) {
 void CutToTheirLimits(frmCpTj& s) {
     for (TextBox* box : std::initializer_list<TextBox*>{&s.txtTjCode, &s.txtTjName, &s.txtTjMemo})
         box->text = TruncateToBytes(box->text, box->maxBytes);
+    if (const std::string rows = HalfBlankRows(s.Grid2, part::kQuantity); !rows.empty() && s.IsTyping())
+        CurrentView().Signal("以下各行不计入模板：" + rows + "。");
     RemoveBlankRows(s.Grid2, part::kQuantity);
     RefreshTotal(s);
 }

@@ -183,8 +183,7 @@ void MasterData(PictureBook& book) {
     script.Press(Qt::Key_F4);
     book.Take("kit");
     script.Click("cmdCancel");
-    book.Turn("SSTab1", 2);
-    book.Take("kits-query");
+    book.TakePage(2, "kits-query");
     script.Click("cmdQuit");
 }
 
