@@ -50,6 +50,17 @@ void RemoveBlankRows(Grid& grid, int column) {
             grid.RemoveRow(row);
 }
 
+std::string HalfBlankRows(const Grid& grid, int column) {
+    std::string rows;
+    for (int row = 1; row <= grid.RowCount(); ++row) {
+        const std::string code = grid.Text(row, 1);
+        if (code.empty() != (grid.Number(row, column) == 0))
+            rows += (rows.empty() ? "第 " : "、第 ") + std::to_string(row) + " 行" +
+                    (code.empty() ? "（没有产品）" : "（" + code + "，没有数量）");
+    }
+    return rows;
+}
+
 void GridSort(Grid& grid, int column, bool skip) {
     if (skip)
         return;

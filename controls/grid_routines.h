@@ -16,6 +16,8 @@ double SumGridColumn(const Grid& grid, int column);
 int GridHasValue(const Grid& grid, int row, const std::string& text);
 // Removes the rows whose column 1 is empty or whose `column` is 0.
 void RemoveBlankRows(Grid& grid, int column);
+// Those of them in which one of the two is typed, as people are told: they go, but not without a word. "" for none.
+std::string HalfBlankRows(const Grid& grid, int column);
 // Nothing with `skip`; otherwise sorts by the column, the same column again swaps the direction. The heading
 // of the sorted column ends in "↑" or "↓", the mark of the one before goes.
 void GridSort(Grid& grid, int column, bool skip = false);

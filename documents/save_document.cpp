@@ -166,13 +166,7 @@ bool CountsGiven(frmDj02& s) {
 void TellOfRowsLeftOut(frmDj02& s) {
     if (s.type.IsStocktake() || !IsEditing(s.InHand()))
         return; // a count that is as the book says is no line
-    std::string rows;
-    for (int row = 1; row <= s.Grid2.RowCount(); ++row) {
-        const std::string code = s.Grid2.Text(row, line::kCode);
-        if (code.empty() != (s.Grid2.Number(row, line::kQuantity) == 0))
-            rows += (rows.empty() ? "第 " : "、第 ") + std::to_string(row) + " 行" +
-                    (code.empty() ? "（没有产品）" : "（" + code + "，没有数量）");
-    }
+    const std::string rows = HalfBlankRows(s.Grid2, line::kQuantity);
     if (!rows.empty())
         CurrentView().Signal("以下各行不计入单据：" + rows + "。");
 }

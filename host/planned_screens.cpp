@@ -9,9 +9,6 @@ namespace jxc {
 
 namespace {
 
-void CpTjSelectOff(Screen& screen) {
-    screen.SetProperty("CpTjSelect", 0);
-}
 bool IsClose() {
     return session.myType == 1;
 }
@@ -23,13 +20,6 @@ bool IsTree() {
 }
 bool IsList() {
     return session.myType != 0;
-}
-
-void PlanMasterData() {
-    AddScreen({.name = "frmCpTj",
-               .calls = {{3, CpTjSelectOff}},
-               .menu = {{"资料(&D)", "产品套件", "组装与拆卸的配件清单。", 3}},
-               .module = "mnuJxcSysCp"});
 }
 
 void PlanPeriods() {
@@ -68,7 +58,6 @@ void PlanPerformance() {
 } // namespace
 
 void RegisterPlannedScreens() {
-    PlanMasterData();
     PlanAnalyses();
     PlanPerformance();
     PlanPeriods();

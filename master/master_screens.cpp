@@ -2,6 +2,7 @@
 
 #include "master/frmCk.h"
 #include "master/frmCp.h"
+#include "master/frmCpTj.h"
 #include "session/screen_entries.h"
 
 namespace jxc {
@@ -16,6 +17,11 @@ void RegisterMasterScreens() {
                .make = [] { return std::make_unique<frmCp>(); },
                .calls = {{2, [](Screen& screen) { screen.SetProperty("CpNoEdit", 0); }}},
                .menu = {{"资料(&D)", "产品资料", "产品的编码、名称、价格与库存限额。", 2}},
+               .module = "mnuJxcSysCp"});
+    AddScreen({.name = "frmCpTj",
+               .make = [] { return std::make_unique<frmCpTj>(); },
+               .calls = {{3, [](Screen& screen) { screen.SetProperty("CpTjSelect", 0); }}},
+               .menu = {{"资料(&D)", "产品套件", "组装与拆卸的配件清单。", 3}},
                .module = "mnuJxcSysCp"});
 }
 

@@ -74,6 +74,14 @@ std::string NumericTest(const std::string& expression) {
     return "IsNumeric(" + expression + ")" + Either("", "=1");
 }
 
+std::string TextType(int bytes) {
+    return (session.IsJet() ? "varchar(" : "nvarchar(") + std::to_string(bytes) + ")";
+}
+
+std::string DeleteText(const std::string& table, const std::string& test) {
+    return "Delete From " + table + (session.IsJet() ? " a  where a." : "  where ") + test;
+}
+
 std::string UpdateText(const UpdateFromSecond& update) {
     const std::string further = update.condition.empty() ? "" : " And " + update.condition;
     if (session.IsJet())

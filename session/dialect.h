@@ -57,6 +57,14 @@ std::string MoneyOf(const std::string& expression);
 //     IsNumeric(x)                    | IsNumeric(x)=1
 [[nodiscard]] std::string NumericTest(const std::string& expression);
 
+// A text column of so many bytes.
+//     varchar(50)                     | nvarchar(50)
+[[nodiscard]] std::string TextType(int bytes);
+
+// The rows of a table that satisfy a test of one of its columns.
+//     Delete From T a where a.TEST    | Delete From T where TEST
+[[nodiscard]] std::string DeleteText(const std::string& table, const std::string& test);
+
 // Takes a value from a second table: `table` is a in it, `second` is b; `join` ties their rows, `condition` is tested
 // besides, "" for none.
 //     Update T a,U b Set a.F=b.G Where JOIN And CONDITION

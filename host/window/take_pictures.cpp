@@ -177,6 +177,14 @@ void MasterData(PictureBook& book) {
     script.Click("cmdCancel");
     book.TakePage(2, "warehouses-query");
     script.Click("cmdQuit");
+    book.Open("产品套件", "打开");
+    book.Take("kits");
+    script.Press(Qt::Key_Return);
+    script.Press(Qt::Key_F4);
+    book.Take("kit");
+    script.Click("cmdCancel");
+    book.TakePage(2, "kits-query");
+    script.Click("cmdQuit");
 }
 
 void Editors(PictureBook& book) {

@@ -32,7 +32,11 @@ TEST(Dialects, DifferAsNamed) {
     EXPECT_EQ(UpdateText(update),
               "Update tJXC_CkDj02 a,tJXC_CkTj b Set a.fInvDJ2=b.fKcDj Where a.fCpID=b.fCpID And "
               "a.fInvID=7");
+    EXPECT_EQ(TextType(50), "varchar(50)");
+    EXPECT_EQ(DeleteText("tJXC_CpTj01", "fTjID = 3"), "Delete From tJXC_CpTj01 a  where a.fTjID = 3");
     session.SQLData = 1;
+    EXPECT_EQ(TextType(50), "nvarchar(50)");
+    EXPECT_EQ(DeleteText("tJXC_CpTj01", "fTjID = 3"), "Delete From tJXC_CpTj01  where fTjID = 3");
     EXPECT_EQ(DayTest("fDate", "=", day), "Convert(varchar(10),fDate,120)='2003-07-31'");
     EXPECT_EQ(DayTest("fInvDate", " >= ", day, DayForm::Iso),
               "Convert(varchar(10),fInvDate,120) >= '2003-07-31'");

@@ -10,6 +10,7 @@ namespace jxc::test {
 std::vector<Opening> Openings(int receipt) {
     std::vector<Opening> openings;
     const std::map<std::string, std::vector<ScreenProperties>> several{
+        {"frmCpTj", {{{"CpTjSelect", 0}}, {{"CpTjSelect", 1}, {"TjID", 3}}}},
         {"frmCkKc", {{{"myState", 0}}, {{"myState", 1}}, {{"myState", 2}}}},
         {"frmDj01", {{{"invType", 1}}, {{"invType", 99}}, {{"invType", 224}}}},
         {"frmDj02",
