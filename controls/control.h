@@ -158,10 +158,11 @@ struct EditBox : Control {
     int selStart = 0; // in characters
     int selLength = 0;
     bool locked = false;
+    bool secret = false; // a pass word: neither seen nor told
     // A key before it takes effect: its code point, 22 for a paste. Setting it to 0 refuses the key.
     std::function<void(int& keyCode)> onKeyPress;
     std::function<void()> onChange; // the user changed the text
-    Value Shown() const override { return text; }
+    Value Shown() const override { return secret ? std::string(text.empty() ? "" : "***") : text; }
 
     void SelectAll();
     // Types one character, or 8 for backspace, 22 for a paste, through onKeyPress; false when it was refused.

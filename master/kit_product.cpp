@@ -5,6 +5,7 @@
 #include "controls/view.h"
 #include "forms/edit_filter.h"
 #include "master/frmCpTj.h"
+#include "session/audit/audit.h"
 #include "session/lookups/database_routines.h"
 #include "session/lookups/find_by_text.h"
 #include "session/rights.h"
@@ -95,8 +96,12 @@ void ChangeCost(frmCpTj& s) {
     }
     const std::string text = FormatFixed(Val(price.text), session.DeciDj);
     price.text = price.tag; // until it is stored
-    Conn().Execute("Update tJXC_Cp Set fCpPrice0=" + NumberText(Val(text)) +
-                   " Where fCpID=" + std::to_string(session.SelectedProductID));
+    const std::string product = std::to_string(session.SelectedProductID);
+    Transaction transaction(Conn());
+    WriteAudit({"修改", "tJXC_Cp", product, s.txtCpCode.text, JsonOf({{"fCpPrice0", Val(price.tag)}}),
+                JsonOf({{"fCpPrice0", Val(text)}})});
+    Conn().Execute("Update tJXC_Cp Set fCpPrice0=" + NumberText(Val(text)) + " Where fCpID=" + product);
+    transaction.Commit();
     price.text = price.tag = text;
 }
 

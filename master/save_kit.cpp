@@ -6,6 +6,8 @@
 #include "database/recordset.h"
 #include "forms/guard.h"
 #include "master/frmCpTj.h"
+#include "session/audit/audit.h"
+#include "session/audit/audit_json.h"
 #include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
@@ -91,12 +93,32 @@ void WriteParts(const frmCpTj& s, std::int32_t id) {
     }
 }
 
+// Header and parts as they are stored, for the trail; "" when the template is not there.
+std::string StoredKit(std::int32_t id) {
+    const Recordset header(Conn(), "select * from tJXC_CpTj01 Where " + ThisKit(id));
+    if (header.AtEnd())
+        return "";
+    Json kit = Json::parse(JsonOf(header));
+    Json& parts = kit["lines"] = Json::array();
+    Recordset part(Conn(), "select fCpPjID,fCpPjSL,fCpPjMemo from tJXC_CpTj02 Where " + ThisKit(id) +
+                               " Order By fRowID");
+    for (; !part.AtEnd(); part.MoveNext())
+        parts.push_back(Json::array(
+            {JsonValue(part["fCpPjID"]), JsonValue(part["fCpPjSL"]), JsonValue(part["fCpPjMemo"])}));
+    return JsonText(kit);
+}
+
+void AuditKit(const frmCpTj& s, const std::string& action, std::int32_t id, const std::string& before) {
+    WriteAudit({action, "tJXC_CpTj01", std::to_string(id), s.txtTjCode.text, before, StoredKit(id)});
+}
+
 MayRefuse StoreNew(frmCpTj& s, std::int32_t& id) {
     if (MayRefuse taken = RefuseTaken(s))
         return taken;
     id = DbMax("tJXC_CpTj01", "fTjID") + 1;
     WriteHeader(s, id);
     WriteParts(s, id);
+    AuditKit(s, "新增", id, "");
     return std::nullopt;
 }
 
@@ -105,17 +127,21 @@ MayRefuse StoreChanged(frmCpTj& s) {
         return refusal;
     if (MayRefuse taken = RefuseTaken(s))
         return taken;
+    const std::string before = StoredKit(s.TjID);
     WriteHeader(s, s.TjID);
     Conn().Execute("Delete From tJXC_CpTj02 Where " + ThisKit(s.TjID));
     WriteParts(s, s.TjID);
+    AuditKit(s, "修改", s.TjID, before);
     return std::nullopt;
 }
 
 MayRefuse Remove(frmCpTj& s) {
     if (MayRefuse refusal = RefuseOthersWork(s))
         return refusal;
+    const std::string before = StoredKit(s.TjID);
     if (!DeleteDocumentRows("tJXC_CpTj", ThisKit(s.TjID)))
         throw DatabaseError("不能删除套件模板。");
+    AuditKit(s, "删除", s.TjID, before);
     return std::nullopt;
 }
 

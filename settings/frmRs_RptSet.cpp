@@ -6,6 +6,7 @@
 #include "session/dialect.h"
 #include "session/screen_entries.h"
 #include "session/session.h"
+#include "settings/frmAudit.h"
 #include "settings/frmBrief.h"
 #include "settings/frmSystem.h"
 
@@ -85,6 +86,10 @@ Arrangement frmRs_RptSet::Arrange() {
 void RegisterSettingsScreens() {
     AddScreen({"frmRs_RptSet", [] { return std::make_unique<frmRs_RptSet>(); }});
     AddScreen({"frmBrief", [] { return std::make_unique<frmBrief>(); }});
+    AddScreen({.name = "frmAudit",
+               .make = [] { return std::make_unique<frmAudit>(); },
+               .menu = {{"系统(&T)", "操作日志", "谁在何时做了什么。"}},
+               .openedByName = true});
     AddScreen({.name = "frmSystem",
                .make = [] { return std::make_unique<frmSystem>(); },
                .calls = {{0}},

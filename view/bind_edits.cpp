@@ -152,7 +152,10 @@ bool IsMiddleClick(const QEvent& event) {
 class TextBinding : public Binding {
   public:
     TextBinding(ScreenWindow& window, TextBox& box, QLineEdit& line)
-        : Binding(window, box, line), line_(line), edit_(window, box, line) {}
+        : Binding(window, box, line), line_(line), edit_(window, box, line) {
+        if (box.secret)
+            line_.setEchoMode(QLineEdit::Password);
+    }
 
     void Refresh() override {
         Binding::Refresh();

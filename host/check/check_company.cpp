@@ -4,6 +4,7 @@
 
 #include "database/engine.h"
 #include "host/check/checked_company.h"
+#include "session/audit/audit.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -27,6 +28,10 @@ std::vector<std::string> CheckCompany(std::vector<std::string>* notes) {
     for (const auto check :
          {CheckBooks, CheckPairs, CheckStock, CheckCosts, CheckOrders, CheckLedger, CheckSupplierHistory})
         check(company, findings);
+    findings.Try([&] {
+        for (const std::string& fault : AuditFaults(Conn()))
+            findings.Add(fault);
+    });
     if (notes)
         *notes = findings.Notes();
     return findings.Lines();

@@ -65,6 +65,13 @@ void ShowRights(frmHostUsers& s, const std::string& power) {
     }
 }
 
+void ShowPassword(frmHostUsers& s, bool has) {
+    s.txtPassword.text.clear();
+    s.txtPassword2.text.clear();
+    s.chkNoPassword.value = false;
+    s.lblPassword.caption = has ? "已设密码" : "未设密码";
+}
+
 // A digit above 1 that is ticked as before stays.
 std::string RightsFromGrid(const frmHostUsers& s) {
     std::string power = s.power;
@@ -89,6 +96,9 @@ frmHostUsers::frmHostUsers()
                   .uses = kUses,
                   .mayDeleteUsed = true}) {
     mark = &chkSupervisor;
+    txtPassword.secret = txtPassword2.secret = true;
+    guards = {
+        {[this] { return txtPassword.text != txtPassword2.text; }, "两次输入的密码不一致！", &txtPassword2}};
     SetColumns({{"用户", "fUserName", 20}, {"负责人", "fSupervisor", 8, Figure::Tick}});
 }
 
@@ -101,29 +111,44 @@ void frmHostUsers::Open() {
 
 Arrangement frmHostUsers::Arrange() {
     Arrangement plain = ListEditor::Arrange();
+    plain.fields.push_back({&txtPassword, &chkNoPassword});
+    plain.fields.push_back({&txtPassword2, &lblPassword});
     plain.fields.push_back({&Grid2});
-    plain.width = 820;
-    plain.height = 520;
+    plain.width = 860;
+    plain.height = 560;
     return plain;
+}
+
+bool frmHostUsers::Confirmed() {
+    if (!ListEditor::Confirmed())
+        return false;
+    const bool typed = IsTyping() && !chkNoPassword.value && txtPassword.text == txtPassword2.text;
+    hash = typed ? HashOfPassword(txtPassword.text) : "";
+    return true;
 }
 
 void frmHostUsers::ShapeByMode() {
     ListEditor::ShapeByMode();
+    txtPassword.enabled = txtPassword2.enabled = chkNoPassword.enabled = IsTyping();
     Grid2.readOnly = mode == EditorMode::Browse || mode == EditorMode::Delete;
 }
 
 void frmHostUsers::Clear() {
     ListEditor::Clear();
     ShowRights(*this, "");
+    ShowPassword(*this, false);
 }
 
 void frmHostUsers::ShowRest(const Recordset& row) {
     ShowRights(*this, row["fPower"].AsText());
+    ShowPassword(*this, !row["fPassword"].AsText().empty());
 }
 
 // The first user of a company may do everything.
 void frmHostUsers::WriteRest(Recordset& row) {
     row.Set("fPower", mode == EditorMode::Add && NoUsers() ? AllRights() : RightsFromGrid(*this));
+    if (chkNoPassword.value || !hash.empty())
+        row.Set("fPassword", hash);
 }
 
 } // namespace jxc

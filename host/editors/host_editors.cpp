@@ -4,6 +4,7 @@
 #include "host/editors/frmHostCards.h"
 #include "host/editors/frmHostCompany.h"
 #include "host/editors/frmHostMoneys.h"
+#include "host/editors/frmHostPassword.h"
 #include "host/editors/frmHostUsers.h"
 #include "session/screen_entries.h"
 
@@ -29,6 +30,7 @@ void RegisterHostEditors() {
     AddEditor<frmHostAccounts>("frmHostAccounts", {"资料(&D)", "内部资金帐户", "现金与银行帐户。"});
     AddEditor<frmHostCompany>("frmHostCompany", {"系统(&T)", "公司资料", "印在单据上的公司名称与地址。"});
     AddEditor<frmHostUsers>("frmHostUsers", {"系统(&T)", "用户与权限", "谁可以使用哪些功能。"});
+    AddEditor<frmHostPassword>("frmHostPassword", {"系统(&T)", "修改密码", "自己登录时的密码。"});
 }
 
 } // namespace jxc

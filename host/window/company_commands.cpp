@@ -7,9 +7,11 @@
 #include "host/company/backup.h"
 #include "host/company/create_company.h"
 #include "host/company_address.h"
+#include "host/passwords.h"
 #include "host/window/company_users.h"
 #include "host/window/main_window.h"
 #include "host/window/recent_companies.h"
+#include "host/window/sign_in.h"
 #include "session/company/company_fields.h"
 #include "session/period.h"
 #include "session/session.h"
@@ -58,6 +60,7 @@ CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string
     CompanyFacts facts;
     facts.name = CompanyName();
     facts.users = CompanyUsers();
+    facts.passwords = KeptPasswords();
     facts.user = user.empty() ? facts.users.front() : user;
     facts.rights = UserSettings(facts.user);
     if (!facts.rights.known)
@@ -92,7 +95,15 @@ bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& us
 void MainWindow::TakeWithPassword(const std::string& company, const std::string& user) {
     for (;;) {
         try {
-            return TakeCompany(company, ReadFacts(company, user));
+            CompanyFacts facts = ReadFacts(company, user);
+            const bool goesOn = company == company_ && facts.user == session.UserName;
+            if (!goesOn && facts.passwords.contains(facts.user)) {
+                const auto signedIn = SignIn(this, facts.users, facts.user, facts.passwords);
+                if (!signedIn)
+                    return;
+                facts = ReadFacts(company, *signedIn);
+            }
+            return TakeCompany(company, std::move(facts));
         } catch (const LoginError&) {
             if (!AskPassword(company))
                 throw;
@@ -214,23 +225,9 @@ void MainWindow::BackUp() {
 }
 
 void MainWindow::ChangeUser() {
-    QStringList users;
-    for (const std::string& user : ReadFacts(company_, session.UserName).users)
-        users << Q(user);
-    const QString user = ChosenUser(users);
-    if (!user.isEmpty())
-        OpenCompanyOf(company_, S(user));
-}
-
-QString MainWindow::ChosenUser(const QStringList& users) {
-    QInputDialog dialog(this);
-    dialog.setWindowTitle("更换用户");
-    dialog.setLabelText("用户：");
-    dialog.setComboBoxItems(users);
-    dialog.setTextValue(Q(session.UserName));
-    dialog.setOkButtonText("确定(&O)");
-    dialog.setCancelButtonText("取消(&C)");
-    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+    const CompanyFacts facts = ReadFacts(company_, session.UserName);
+    if (const auto user = SignIn(this, facts.users, facts.user, facts.passwords))
+        TakeCompany(company_, ReadFacts(company_, *user));
 }
 
 } // namespace jxc

@@ -2,6 +2,8 @@
 // screens by subject, sets the properties of lzJxc and calls Refresh.
 #pragma once
 
+#include <map>
+
 #include <QMainWindow>
 #include <QSettings>
 #include <QTimer>
@@ -25,6 +27,7 @@ struct CompanyFacts {
     std::string name;
     std::string period;
     std::vector<std::string> users;
+    std::map<std::string, std::string> passwords; // hashes, of the users who have one
     std::string user;
     UserRights rights;
     std::vector<Subject> subjects;
@@ -86,7 +89,6 @@ class MainWindow : public QMainWindow {
     void About();
     // Runs a command of the window; what it throws is told.
     void Guard(const std::function<void()>& command);
-    QString ChosenUser(const QStringList& users);
 
     lzJxc control_;
     QSettings memory_{"lzJxc", "jxc"};
