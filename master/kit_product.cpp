@@ -94,9 +94,11 @@ void ChangeCost(frmCpTj& s) {
         return;
     }
     const std::string text = FormatFixed(Val(price.text), session.DeciDj);
+    const std::string product = "fCpID=" + std::to_string(session.SelectedProductID);
     price.text = price.tag; // until it is stored
-    Conn().Execute("Update tJXC_Cp Set fCpPrice0=" + NumberText(Val(text)) +
-                   " Where fCpID=" + std::to_string(session.SelectedProductID));
+    if (!HasRows("tJXC_Cp", product))
+        return Warn(s.title, "该套件产品资料已不存在！");
+    Conn().Execute("Update tJXC_Cp Set fCpPrice0=" + NumberText(Val(text)) + " Where " + product);
     price.text = price.tag = text;
 }
 
