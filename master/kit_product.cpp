@@ -95,12 +95,14 @@ void ChangeCost(frmCpTj& s) {
         return;
     }
     const std::string text = FormatFixed(Val(price.text), session.DeciDj);
+    const std::string product = "fCpID=" + std::to_string(session.SelectedProductID);
     price.text = price.tag; // until it is stored
-    const std::string product = std::to_string(session.SelectedProductID);
+    if (!HasRows("tJXC_Cp", product))
+        return Warn(s.title, "该套件产品资料已不存在！");
     Transaction transaction(Conn());
-    WriteAudit({"修改", "tJXC_Cp", product, s.txtCpCode.text, JsonOf({{"fCpPrice0", Val(price.tag)}}),
-                JsonOf({{"fCpPrice0", Val(text)}})});
-    Conn().Execute("Update tJXC_Cp Set fCpPrice0=" + NumberText(Val(text)) + " Where fCpID=" + product);
+    WriteAudit({"修改", "tJXC_Cp", std::to_string(session.SelectedProductID), s.txtCpCode.text,
+                JsonOf({{"fCpPrice0", Val(price.tag)}}), JsonOf({{"fCpPrice0", Val(text)}})});
+    Conn().Execute("Update tJXC_Cp Set fCpPrice0=" + NumberText(Val(text)) + " Where " + product);
     transaction.Commit();
     price.text = price.tag = text;
 }

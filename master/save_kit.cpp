@@ -1,5 +1,7 @@
 // Saving a kit template: its checks in their order, then adding, changing, deleting.
 
+#include <set>
+
 #include "base/text.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"
@@ -66,6 +68,25 @@ MayRefuse RefuseOthersWork(frmCpTj& s) {
     return std::nullopt;
 }
 
+// Another user may have deleted what the template is made of, as long as no template held it.
+MayRefuse RefuseGoneProducts(frmCpTj& s) {
+    if (!HasRows("tJXC_Cp", "fCpID=" + std::to_string(session.SelectedProductID)))
+        return Refusal{"该套件产品资料已不存在！", &s.txtCpCode};
+    std::vector<std::int64_t> parts;
+    for (int row = 1; row <= s.Grid2.RowCount(); ++row)
+        parts.push_back(s.Grid2.Cell(row, part::kProduct).AsLong());
+    if (parts.empty())
+        return std::nullopt;
+    std::set<std::int64_t> there;
+    for (Recordset row(Conn(), "Select fCpID From tJXC_Cp Where fCpID" + InKeys(parts)); !row.AtEnd();
+         row.MoveNext())
+        there.insert(row[size_t{0}].AsLong());
+    for (int row = 1; row <= s.Grid2.RowCount(); ++row)
+        if (!there.contains(s.Grid2.Cell(row, part::kProduct).AsLong()))
+            return Refusal{"[" + s.Grid2.Text(row, part::kCode) + "] 已不存在！", &s.Grid2};
+    return std::nullopt;
+}
+
 void WriteHeader(const frmCpTj& s, std::int32_t id) {
     Recordset row(Conn(), "select * from tJXC_CpTj01 Where " + ThisKit(id), Access::Write);
     if (row.AtEnd()) {
@@ -115,6 +136,8 @@ void AuditKit(const frmCpTj& s, const std::string& action, std::int32_t id, cons
 MayRefuse StoreNew(frmCpTj& s, std::int32_t& id) {
     if (MayRefuse taken = RefuseTaken(s))
         return taken;
+    if (MayRefuse gone = RefuseGoneProducts(s))
+        return gone;
     id = DbMax("tJXC_CpTj01", "fTjID") + 1;
     WriteHeader(s, id);
     WriteParts(s, id);
@@ -127,6 +150,8 @@ MayRefuse StoreChanged(frmCpTj& s) {
         return refusal;
     if (MayRefuse taken = RefuseTaken(s))
         return taken;
+    if (MayRefuse gone = RefuseGoneProducts(s))
+        return gone;
     const std::string before = StoredKit(s.TjID);
     WriteHeader(s, s.TjID);
     Conn().Execute("Delete From tJXC_CpTj02 Where " + ThisKit(s.TjID));

@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "controls/gestures.h"
 #include "database/engine.h"
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 #include "tests/support/openings.h"
 #include "tests/support/recorder.h"
@@ -160,6 +161,13 @@ TEST_P(Plans, OfTheOtherScreensWalkThroughWhatTheyListOnly) {
         for (const std::string& sql : Planned(recorder))
             ExpectNoWalk(sql, known == listed.end() ? std::set<std::string>{} : known->second);
     }
+}
+
+// Whether documents name a warehouse is asked before it is deleted.
+TEST_P(Plans, OfAWarehouseInUseWalkThroughNoDocuments) {
+    Fill();
+    Analyze();
+    ExpectNoWalk(CountStatement("tJXC_CkDj01", "fCkName='总部仓'"));
 }
 
 TEST_P(Plans, ShowAWalkWhereThereIsOne) {

@@ -47,6 +47,9 @@ lzJxc SampleCompany::SignedIn() const {
     control.UserName("王芳");
     control.ZgName("王芳");
     control.myPower("9999999999");
+    control.OldName("");
+    control.myModel("");
+    session.SelectedProductID = 0; // what a screen of the test before has left behind
     control.Language(0);
     control.myType(-1);
     return control;
