@@ -109,6 +109,16 @@ std::optional<std::string> StatementByName(const std::string& name) {
 
 } // namespace
 
+std::string PickProductCode(const std::string& typed, bool byName) {
+    if (typed.find('\'') != std::string::npos) // no product has one, and the picker takes none
+        return PickProductCode("", byName);
+    const auto statement = byName ? PickProduct("", typed) : PickProduct(typed, "");
+    if (!statement)
+        return "";
+    const Recordset row(Conn(), *statement);
+    return row.AtEnd() ? "" : row["fCpCode"].AsText();
+}
+
 std::vector<Connection::Expected> ProductStatements(const std::string& code, const std::string& warehouse) {
     const ByCode statements = StatementsByCode(code, warehouse);
     return {{statements.exact}, {statements.stock}};
