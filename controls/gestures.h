@@ -42,7 +42,8 @@ bool TypeText(Screen& screen, EditBox& box, const std::string& text);
 // search that fails suggests nothing: the one behind Enter tells why.
 Suggestions Suggest(const EditBox& box, const std::string& typed);
 Suggestions SuggestInCell(const Grid& grid, int row, int column, const std::string& typed);
-// Takes a suggestion: its text is typed, and Enter pressed.
+// Takes a suggestion: its text is typed (TakeText), and Enter pressed.
+void TakeText(Screen& screen, EditBox& box, const SuggestedRow& taken);
 void TakeSuggestion(Screen& screen, EditBox& box, const SuggestedRow& taken);
 void TakeInCell(Screen& screen, Grid& grid, int row, int column, const SuggestedRow& taken);
 // Lets the person pick what belongs into the box or cell; nothing when nothing was picked. Taking it is the caller's.

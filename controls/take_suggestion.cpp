@@ -44,7 +44,7 @@ Suggestions SuggestInCell(const Grid& grid, int row, int column, const std::stri
                           : Suggestions();
 }
 
-void TakeSuggestion(Screen& screen, EditBox& box, const SuggestedRow& taken) {
+void TakeText(Screen& screen, EditBox& box, const SuggestedRow& taken) {
     RequireTyping(box);
     if (!GoTo(screen, box))
         return;
@@ -52,6 +52,10 @@ void TakeSuggestion(Screen& screen, EditBox& box, const SuggestedRow& taken) {
         Attempt(screen.title, [&] { box.onTake(taken.text); });
     else
         TypeText(screen, box, taken.text);
+}
+
+void TakeSuggestion(Screen& screen, EditBox& box, const SuggestedRow& taken) {
+    TakeText(screen, box, taken);
     if (box.onKey && screen.Focus() == &box)
         PressKey(screen, box, "Enter");
 }

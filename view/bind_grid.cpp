@@ -10,6 +10,7 @@
 #include "view/qt_text.h"
 #include "view/qt_view.h"
 #include "view/screen_window.h"
+#include "view/suggest_popup.h"
 
 namespace jxc {
 
@@ -27,6 +28,8 @@ class GridBinding : public Binding {
               [this](CellExit exit) { LeaveCell(exit); }) {
         table_.setModel(&model_);
         table_.setItemDelegate(&editor_);
+        if (grid_.onSuggest)
+            editor_.onOpen = [this](QLineEdit& line, int row, int column) { SuggestRows(line, row, column); };
         LookOfTable();
         Watch(*table_.viewport());
         connect(table_.selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -53,6 +56,10 @@ class GridBinding : public Binding {
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::Resize && object == table_.viewport())
             FillWidth();
+        if (event->type() == QEvent::ShortcutOverride && Picks(static_cast<const QKeyEvent&>(*event))) {
+            event->accept(); // here the key means this and no command
+            return true;
+        }
         if (event->type() == QEvent::ContextMenu) {
             ShowMenu(static_cast<QContextMenuEvent&>(*event));
             return true;
@@ -96,6 +103,11 @@ class GridBinding : public Binding {
         }
         if (key.key() == Qt::Key_Space && IsCheck(table_.currentIndex())) {
             TurnCheck(table_.currentIndex());
+            return true;
+        }
+        if (Picks(key)) {
+            PickInto(grid_.selectedRow, grid_.selectedColumn,
+                     S(EditText(grid_, grid_.selectedRow, grid_.selectedColumn)));
             return true;
         }
         if (key.modifiers() & Qt::ControlModifier)
@@ -252,6 +264,38 @@ class GridBinding : public Binding {
         } else if (grid_.refusedRow == row) {
             committed_ = false; // what was typed is gone: no command acts as if it were there
         }
+    }
+
+    bool Picks(const QKeyEvent& key) const {
+        return key.key() == Qt::Key_F3 && grid_.onPick && TypesAt(table_.currentIndex());
+    }
+
+    void SuggestRows(QLineEdit& line, int row, int column) {
+        SuggestPopup::Source source;
+        source.suggest = [this, row, column](const std::string& typed) {
+            return SuggestInCell(grid_, row, column, typed);
+        };
+        source.take = [this, row, column](const SuggestedRow& taken) { Take(row, column, taken); };
+        if (grid_.onPick)
+            source.pick = [this, row, column](const std::string& typed) { PickInto(row, column, typed); };
+        new SuggestPopup(line, std::move(source)); // the line's own
+    }
+
+    // As if the text had been typed and Enter pressed; what stands in the open editor is dropped.
+    void Take(int row, int column, const SuggestedRow& taken) {
+        if (QWidget* line = table_.indexWidget(table_.currentIndex())) {
+            line->setProperty("before", static_cast<QLineEdit*>(line)->text());
+            emit editor_.closeEditor(line, QAbstractItemDelegate::NoHint);
+        }
+        Commit(row, taken.column > 0 ? taken.column : column, Q(taken.text));
+        LeaveCell(CellExit::Enter);
+    }
+
+    void PickInto(int row, int column, const std::string& typed) {
+        std::optional<SuggestedRow> picked;
+        window_.Do([&] { picked = PickInCell(window_.Shown(), grid_, row, column, typed); });
+        if (picked && window_.Shown().IsOpen())
+            Take(row, column, *picked);
     }
 
     void LeaveCell(CellExit exit) {
