@@ -101,7 +101,7 @@ int Main(int argc, char** argv) {
         (std::filesystem::temp_directory_path() / ("jxc_search_" + std::to_string(getpid()) + ".db"))
             .string();
     session.UserPath = file;
-    CreateCompanyTables(0, Conn(), file);
+    CreateCompanyTables(0, *session.Conn, file);
     Measure("SQLite", products);
     Conn().Close();
     for (const char* ending : {"", "-wal", "-shm"})
@@ -114,7 +114,7 @@ int Main(int argc, char** argv) {
     session.SQLData = 1;
     session.UserPath = test::TestServer();
     session.Default = database.Name();
-    CreateCompanyTables(1, Conn(), session.UserPath, "", "", session.Default);
+    CreateCompanyTables(1, *session.Conn, session.UserPath, "", "", session.Default);
     Measure("PostgreSQL", products);
     Conn().Close();
     return 0;

@@ -1,5 +1,6 @@
 // What is suggested under a field while a person types into it: rows to choose from, each with the text that taking it
-// puts in. A field without suggestions works the same; nothing is taken that the person has not chosen.
+// puts in. A field without suggestions works the same; nothing is taken that the person has not chosen. Nothing typed
+// suggests nothing: a view asks so when the person comes to a field, that the first key may find everything ready.
 #pragma once
 
 #include <string>

@@ -15,9 +15,10 @@ namespace {
 constexpr const char* kRetailPrice = "fCpPrice3";
 constexpr size_t kMostItems = 12;
 
-// A search by a quote finds nothing; it is told when the field is left.
-bool IsSought(const std::string& typed) {
-    return !Trim(typed).empty() && typed.find('\'') == std::string::npos;
+// A search by a quote finds nothing; it is told when the field is left. And nothing is asked of a company beside a
+// transaction that is at work, whose statements it would be among.
+bool MaySearch(const std::string& typed) {
+    return typed.find('\'') == std::string::npos && !Conn().InTransaction();
 }
 
 bool Holds(const std::string& folded, const std::string& sought) {
@@ -44,7 +45,7 @@ Suggestions ItemRows(const ListBox& list, const std::string& typed) {
 
 Suggestions CardRows(const std::string& typed, bool byName) {
     Suggestions shown{.columns = {{"编号"}, {"名称"}, {"联系人"}}, .rows = {}};
-    if (!IsSought(typed))
+    if (!MaySearch(typed))
         return shown;
     const CardSuggestions found = SuggestCards(typed);
     shown.more = found.more;
@@ -59,7 +60,7 @@ Suggestions CardRows(const std::string& typed, bool byName) {
 Suggestions ProductRows(const std::string& typed, ProductPart part, const std::string& warehouse,
                         const std::string& priceField) {
     Suggestions shown{.columns = {{"编码"}, {"品名规格"}, {"库存数", true}, {"单价", true}}, .rows = {}};
-    if (!IsSought(typed))
+    if (!MaySearch(typed))
         return shown;
     const ProductSuggestions found =
         SuggestProducts(typed, warehouse, priceField.empty() ? kRetailPrice : priceField);

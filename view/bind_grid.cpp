@@ -1,6 +1,8 @@
 // Grids: a table over the model itself, typed into cell by cell, walked with Enter and the arrow keys, copied
 // from and pasted into as spreadsheets do.
 
+#include <QTimer>
+
 #include "base/text.h"
 #include "controls/gestures.h"
 #include "view/binding.h"
@@ -56,6 +58,9 @@ class GridBinding : public Binding {
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::Resize && object == table_.viewport())
             FillWidth();
+        if (event->type() == QEvent::FocusIn && object == &table_ && grid_.onSuggest &&
+            !std::exchange(ready_, true))
+            QTimer::singleShot(0, this, [this] { GetReady(); });
         if (event->type() == QEvent::ShortcutOverride && Picks(static_cast<const QKeyEvent&>(*event))) {
             event->accept(); // here the key means this and no command
             return true;
@@ -266,6 +271,11 @@ class GridBinding : public Binding {
         }
     }
 
+    void GetReady() {
+        if (table_.hasFocus() && TypesAt(table_.currentIndex()))
+            static_cast<void>(SuggestInCell(grid_, grid_.selectedRow, grid_.selectedColumn, ""));
+    }
+
     bool Picks(const QKeyEvent& key) const {
         return key.key() == Qt::Key_F3 && grid_.onPick && TypesAt(table_.currentIndex());
     }
@@ -412,6 +422,7 @@ class GridBinding : public Binding {
         menu.addSeparator();
     }
 
+    bool ready_ = false; // for suggestions
     Grid& grid_;
     QTableView& table_;
     GridModel model_;

@@ -51,6 +51,7 @@ bool SuggestPopup::eventFilter(QObject* object, QEvent* event) {
         break;
     case QEvent::FocusIn:
         searched_ = line_.text(); // what stood there is not being typed
+        GetReady();
         break;
     case QEvent::FocusOut:
     case QEvent::Hide:
@@ -114,6 +115,15 @@ bool SuggestPopup::MoveChoice(int key) {
     else
         rows_->setCurrentCell(row, 0);
     return true;
+}
+
+void SuggestPopup::GetReady() {
+    if (std::exchange(ready_, true))
+        return;
+    QTimer::singleShot(kPause, this, [this] {
+        if (line_.hasFocus())
+            static_cast<void>(source_.suggest(""));
+    });
 }
 
 void SuggestPopup::Search() {

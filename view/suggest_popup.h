@@ -35,6 +35,7 @@ class SuggestPopup : public QObject {
   private:
     bool OnKey(const QKeyEvent& key);
     bool MoveChoice(int key);
+    void GetReady(); // once, when the person first comes here
     void Search();
     void Show(Suggestions found);
     void PlaceUnderLine();
@@ -47,6 +48,7 @@ class SuggestPopup : public QObject {
     Source source_;
     QTimer pause_; // of the person's typing, before it is searched for
     QString searched_;
+    bool ready_ = false;
     Suggestions shown_;
     QPointer<QFrame> list_; // made when it is first shown; a child of the window
     QTableWidget* rows_ = nullptr;
