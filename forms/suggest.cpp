@@ -78,9 +78,9 @@ std::optional<SuggestedRow> PickProduct(const std::string& typed, bool byName, i
     return code.empty() ? std::nullopt : std::optional(SuggestedRow{{}, code, column});
 }
 
-void SuggestProductsIn(EditBox& box, ProductPart part) {
+void SuggestProductsIn(EditBox& box, ProductPart part, bool picks) {
     box.onSuggest = [part](const std::string& typed) { return ProductRows(typed, part); };
-    if (part == ProductPart::Code)
+    if (picks && part == ProductPart::Code)
         box.onPick = [](const std::string& typed) { return PickProduct(typed, false); };
 }
 

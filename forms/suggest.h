@@ -19,8 +19,8 @@ enum class ProductPart { Code, Name };
 // One product picked with the picker, found by code or by name; nothing when none was. Its code goes into the column.
 std::optional<SuggestedRow> PickProduct(const std::string& typed, bool byName, int column = 0);
 
-// Has a field suggest products while it is typed into, and pick one with the picker.
-void SuggestProductsIn(EditBox& box, ProductPart part);
+// Has a field suggest products while it is typed into and, but for the picker's own fields, pick one with the picker.
+void SuggestProductsIn(EditBox& box, ProductPart part, bool picks = true);
 // Has it suggest cards; taking one puts in its code, or its name where it has none or with `byName`.
 void SuggestCardsIn(EditBox& box, bool byName = false);
 // Has an editable list suggest those of its items that the text finds.

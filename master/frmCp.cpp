@@ -5,6 +5,7 @@
 #include "controls/view.h"
 #include "forms/column_dictionary.h"
 #include "forms/record_editor.h"
+#include "forms/suggest.h"
 #include "master/supplier_history.h"
 #include "session/period.h"
 #include "session/printing/print_grid.h"
@@ -16,12 +17,15 @@ namespace {
 
 // What the caller wanted, taken once: the next caller who says nothing wants the whole screen.
 void TakeProperties(frmCp& s) {
-    s.picking = !s.CpCode.empty() || !s.CpName.empty();
+    s.picking = !s.CpCode.empty() || !s.CpName.empty() || !s.CpBarCode.empty();
     s.noEdit = s.CpNoEdit == 1;
     s.chkCpCode2.value = !s.CpCode.empty();
     s.txtCpCode2.text = s.CpCode;
     s.chkCpName2.value = s.CpCode.empty() && !s.CpName.empty();
     s.txtCpName2.text = s.CpCode.empty() ? s.CpName : "";
+    s.chkCpBarCode2.value = !s.CpBarCode.empty();
+    s.txtCpBarCode2.text = s.CpBarCode;
+    s.CpBarCode.clear();
     s.CpCode.clear();
     s.CpName.clear();
     s.CpNoEdit = 0;
@@ -65,8 +69,13 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     title = "产品管理";
     AddTextProperty("CpCode", CpCode);
     AddTextProperty("CpName", CpName);
+    AddTextProperty("CpBarCode", CpBarCode);
     AddNumberProperty("CpNoEdit", CpNoEdit);
     WireProductFields(*this);
+    SuggestProductsIn(txtCpCode2, ProductPart::Code, false);
+    SuggestProductsIn(txtCpName2, ProductPart::Name, false);
+    SuggestCardsIn(txtCpGYS2, true);
+    SuggestCardsIn(txtKhSeek);
     SSTab1.onChange = [this] {
         if (SSTab1.index != kDetail)
             MoveFocus(SSTab1.index == kList ? static_cast<Control*>(&Grid1) : &txtCpCode2);

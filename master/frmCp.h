@@ -122,7 +122,7 @@ struct frmCp : Screen {
 
     // Set by the opener and good for one opening: what the list is limited to at first, which makes it a picker; and 1
     // to take away what changes products. The product shown, and picked, is session.SelectedProductID.
-    std::string CpCode, CpName;
+    std::string CpCode, CpName, CpBarCode;
     std::uint8_t CpNoEdit = 0;
 
     ProductMode mode = ProductMode::Browse;

@@ -2,8 +2,8 @@
 #include <QTest>
 
 #include "documents/frmDj02.h"
+#include "master/frmCp.h"
 #include "stock/frmCkKc.h"
-#include "tests/support/picker_stand_in.h"
 #include "tests/windows/window_fixture.h"
 
 namespace jxc::test {
@@ -202,18 +202,22 @@ TEST_F(SuggestionsShown, OfCardsAndListsByPinyin) {
 }
 
 TEST_F(SuggestionsShown, PickerOpensByF3) {
-    PickerStandIn picker(3);
-    const std::string code = Rows("select fCpCode from tJXC_Cp where fCpID=3").at(0);
     Receipt([&] {
         person.Type("cpu");
+        person.Next([&] {
+            EXPECT_EQ(Person::Text("txtCpCode2"), "cpu");
+            person.ClickCell("Grid1", 2, 1);
+            person.Click("cmdSelect");
+        });
         person.Press(Qt::Key_F3);
-        EXPECT_EQ(picker.CpCode, "cpu");
-        EXPECT_EQ(Code(1), code);
+        EXPECT_EQ(Code(1), "CPU002");
         EXPECT_EQ(Lines().selectedColumn, line::kQuantity);
         person.EnterEach({"5", "880"});
-        picker.picks = 0;
-        person.Press(Qt::Key_F3); // nothing typed, nothing picked
-        EXPECT_EQ(picker.opened, 2);
+        person.Next([&] { // nothing typed: every product; nothing picked
+            EXPECT_GT(Person::Shown<frmCp>().Grid1.RowCount(), 50);
+            person.Click("cmdQuit");
+        });
+        person.Press(Qt::Key_F3);
         EXPECT_EQ(Code(2), "");
         EXPECT_EQ(person.Boxes(), Texts{});
     });
