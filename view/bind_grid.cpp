@@ -291,21 +291,38 @@ class GridBinding : public Binding {
         new SuggestPopup(line, std::move(source)); // the line's own
     }
 
-    // As if the text had been typed and Enter pressed; what stands in the open editor is dropped.
+    // Closes the open editor; what stands in it goes nowhere. False when none is open.
+    bool DropTyping() {
+        auto* line = static_cast<QLineEdit*>(table_.indexWidget(table_.currentIndex()));
+        if (!line)
+            return false;
+        line->setProperty("before", line->text());
+        emit editor_.closeEditor(line, QAbstractItemDelegate::NoHint);
+        return true;
+    }
+
+    // As if the text had been typed and Enter pressed.
     void Take(int row, int column, const SuggestedRow& taken) {
-        if (QWidget* line = table_.indexWidget(table_.currentIndex())) {
-            line->setProperty("before", static_cast<QLineEdit*>(line)->text());
-            emit editor_.closeEditor(line, QAbstractItemDelegate::NoHint);
-        }
+        DropTyping();
         Commit(row, taken.column > 0 ? taken.column : column, Q(taken.text));
         LeaveCell(CellExit::Enter);
     }
 
+    // What was being typed is typed on when nothing is picked; the picker's window must not bring it into the model.
     void PickInto(int row, int column, const std::string& typed) {
+        const bool typing = DropTyping();
         std::optional<SuggestedRow> picked;
         window_.Do([&] { picked = PickInCell(window_.Shown(), grid_, row, column, typed); });
-        if (picked && window_.Shown().IsOpen())
-            Take(row, column, *picked);
+        if (!window_.Shown().IsOpen())
+            return;
+        if (picked)
+            return Take(row, column, *picked);
+        table_.setFocus();
+        if (!typing)
+            return;
+        table_.edit(table_.currentIndex());
+        if (auto* line = static_cast<QLineEdit*>(table_.indexWidget(table_.currentIndex())))
+            line->setText(Q(typed));
     }
 
     void LeaveCell(CellExit exit) {
