@@ -12,6 +12,7 @@
 
 #include "base/date.h"
 #include "base/value.h"
+#include "controls/suggestions.h"
 
 namespace jxc {
 
@@ -162,6 +163,12 @@ struct EditBox : Control {
     // A key before it takes effect: its code point, 22 for a paste. Setting it to 0 refuses the key.
     std::function<void(int& keyCode)> onKeyPress;
     std::function<void()> onChange; // the user changed the text
+    // What is suggested for a text being typed; none for a box without suggestions.
+    std::function<Suggestions(const std::string& typed)> onSuggest;
+    // Puts in what was taken, where that is more than typing it; Enter follows.
+    std::function<void(const std::string& text)> onTake;
+    // Lets the person pick from a screen of its own, by what is typed; nothing when nothing was picked.
+    std::function<std::optional<SuggestedRow>(const std::string& typed)> onPick;
     Value Shown() const override { return secret ? std::string(text.empty() ? "" : "***") : text; }
 
     void SelectAll();

@@ -171,15 +171,20 @@ bool GoTo(Screen& screen, Control& control) {
     return screen.Focus() == &control;
 }
 
-void EnterText(Screen& screen, EditBox& box, const std::string& text) {
+bool TypeText(Screen& screen, EditBox& box, const std::string& text) {
     if (const auto* list = dynamic_cast<ListBox*>(&box); box.locked || (list && !list->editable))
         throw GestureRefused(box.name + " 不能输入。");
     if (!GoTo(screen, box))
-        return;
+        return false;
     ReplaceText(box, text);
     if (auto* list = dynamic_cast<ListBox*>(&box))
         list->SetText(list->text);
-    LeaveFocus(screen);
+    return true;
+}
+
+void EnterText(Screen& screen, EditBox& box, const std::string& text) {
+    if (TypeText(screen, box, text))
+        LeaveFocus(screen);
 }
 
 bool TypeKey(Screen& screen, EditBox& box, int keyCode) {

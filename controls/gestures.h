@@ -35,6 +35,22 @@ void PickDate(Screen& screen, DateBox& box, std::optional<Date> date);
 void Tick(Screen& screen, Toggle& toggle, bool on);
 void PickItem(Screen& screen, ListBox& list, int index);
 
+// Replaces the whole text key by key and stays. False when the box could not be entered.
+bool TypeText(Screen& screen, EditBox& box, const std::string& text);
+
+// What is suggested while the text is typed, into a box or a cell; no columns where nothing is. It changes nothing, and a
+// search that fails suggests nothing: the one behind Enter tells why.
+Suggestions Suggest(const EditBox& box, const std::string& typed);
+Suggestions SuggestInCell(const Grid& grid, int row, int column, const std::string& typed);
+// Takes a suggestion: its text is typed (TakeText), and Enter pressed.
+void TakeText(Screen& screen, EditBox& box, const SuggestedRow& taken);
+void TakeSuggestion(Screen& screen, EditBox& box, const SuggestedRow& taken);
+void TakeInCell(Screen& screen, Grid& grid, int row, int column, const SuggestedRow& taken);
+// Lets the person pick what belongs into the box or cell; nothing when nothing was picked. Taking it is the caller's.
+std::optional<SuggestedRow> Pick(Screen& screen, EditBox& box, const std::string& typed);
+std::optional<SuggestedRow> PickInCell(Screen& screen, Grid& grid, int row, int column,
+                                       const std::string& typed);
+
 // The same, and leave the control again. EnterText replaces the whole text key by key.
 void EnterText(Screen& screen, EditBox& box, const std::string& text);
 void EnterDate(Screen& screen, DateBox& box, std::optional<Date> date);

@@ -103,6 +103,9 @@ struct Grid : Control {
     std::function<void(int row, int column)> onCellChange;
     std::function<void(int row, int column)> onCellLeave; // a person leaves a cell that was typed into
     std::function<void()> onEnterKey;                     // Enter on the last row
+    // What is suggested for a text being typed into a cell, and picked for it: see EditBox. None for a column without.
+    std::function<Suggestions(int row, int column, const std::string& typed)> onSuggest;
+    std::function<std::optional<SuggestedRow>(int row, int column, const std::string& typed)> onPick;
     // Takes a block of cells whole or not at all; without it a view types a pasted block cell by cell.
     std::function<void(const CellBlock& block)> onPaste;
     std::function<void(int column)> onHeading;

@@ -5,6 +5,7 @@
 #include "documents/document_list.h"
 #include "documents/document_state.h"
 #include "documents/list_columns.h"
+#include "forms/suggest.h"
 #include "session/period.h"
 
 namespace jxc {
@@ -91,6 +92,10 @@ void WireFilters(frmDj01& s) {
         };
     s.chkInvType.onChange = [&s] { ApplyTickedType(s); };
     s.cboInvType.onChoose = [&s] { ApplyTickedType(s); };
+    SuggestCardsIn(s.txtKh, true);
+    SuggestItemsIn(s.cboCk[0]);
+    SuggestProductsIn(s.txtCp[0], ProductPart::Code);
+    SuggestProductsIn(s.txtCp[1], ProductPart::Name);
     s.filters = Filters(ListFilters(s));
 }
 

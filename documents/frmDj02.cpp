@@ -6,6 +6,7 @@
 #include "documents/document_entry.h"
 #include "documents/frmDj01.h"
 #include "forms/edit_filter.h"
+#include "forms/suggest.h"
 #include "settings/document_numbers.h"
 
 namespace jxc {
@@ -33,6 +34,12 @@ void WireHead(frmDj02& s) {
     s.txtKhSeek.onKey = [&s](const std::string& key) {
         if (key == "Enter" && CheckNoQuote(s.txtKhSeek.text))
             SeekCustomer(s);
+    };
+    SuggestCardsIn(s.txtKhSeek);
+    s.txtKhSeek.onPick = [&s](const std::string&) -> std::optional<SuggestedRow> {
+        if (CheckNoQuote(s.txtKhSeek.text)) // a card is picked from those that its search lists
+            SeekCustomer(s);
+        return std::nullopt;
     };
     s.cboKhList.onChoose = [&s] { RefreshCustomer(s); };
     s.cboKhAdd.onLeave = [&s] {
@@ -69,6 +76,12 @@ void WireLinesAndFoot(frmDj02& s) {
     s.Grid2.onEnter = [&s] { EnterGrid(s); };
     s.Grid2.onEnterKey = [&s] { AppendLine(s); };
     s.Grid2.onCellLeave = [&s](int row, int column) { LeaveCell(s, row, column); };
+    s.Grid2.onSuggest = [&s](int, int column, const std::string& typed) {
+        return SuggestProduct(s, column, typed);
+    };
+    s.Grid2.onPick = [](int, int column, const std::string& typed) {
+        return PickProductOfLine(column, typed);
+    };
     s.Grid2.onPaste = [&s](const CellBlock& block) { PasteLines(s, block); };
     s.cmdAddRow.onClick = [&s] { InsertLine(s); };
     s.cmdDeleteRow.onClick = [&s] { DeleteLine(s); };

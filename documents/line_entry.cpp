@@ -18,11 +18,6 @@ namespace jxc {
 
 namespace {
 
-// The warehouse whose stock the lines show; "" when the document has none.
-std::string StockWarehouse(const frmDj02& s) {
-    return s.type.HasFirstWarehouse() ? s.cboCkName.Chosen() : "";
-}
-
 // Prices come into the cells as people write them, with two decimals, or fewer where the company shows fewer: the
 // amount is that of the price that is seen and stored.
 double PriceAsShown(const Grid& grid, int column, double price) {
@@ -181,6 +176,10 @@ bool MayAddLine(const frmDj02& s) {
 }
 
 } // namespace
+
+std::string StockWarehouse(const frmDj02& s) {
+    return s.type.HasFirstWarehouse() ? s.cboCkName.Chosen() : "";
+}
 
 void AppendLine(frmDj02& s) {
     Grid& grid = s.Grid2;

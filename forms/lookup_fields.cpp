@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "forms/edit_filter.h"
+#include "forms/suggest.h"
 #include "session/lookups/find_by_text.h"
 #include "session/lookups/lists.h"
 
@@ -101,7 +102,13 @@ ProductFields::ProductFields(Place place, std::string code, std::string name, st
             Seek(*box);
             return true;
         };
+        SuggestProductsIn(*box, ProductPart::Code);
     }
+    this->name.onTake = [this](const std::string& itsCode) { // many products may have that name
+        this->code.text = itsCode;
+        Seek(this->code);
+    };
+    this->name.onPick = [](const std::string& typed) { return PickProduct(typed, true); };
 }
 
 // What the boxes then hold is kept in their tags: only another text is looked for.

@@ -4,6 +4,7 @@
 #include "controls/gestures.h"
 #include "controls/view.h"
 #include "forms/edit_filter.h"
+#include "forms/suggest.h"
 #include "session/lookups/database_routines.h"
 #include "session/messages.h"
 #include "session/session.h"
@@ -113,6 +114,7 @@ void WireFields(frmCk& s) {
             ShapeByMode(s);
         };
     s.txtKhSeek.onLeave = [&s] { return CheckNoQuote(s.txtKhSeek.text); };
+    SuggestCardsIn(s.txtKhSeek);
     s.txtKhSeek.onKey = [&s](const std::string& pressed) {
         if (pressed == "Enter" && CheckNoQuote(s.txtKhSeek.text))
             SeekConsignee(s);

@@ -5,6 +5,7 @@
 #include "controls/view.h"
 #include "forms/column_dictionary.h"
 #include "forms/record_editor.h"
+#include "forms/suggest.h"
 #include "master/supplier_history.h"
 #include "session/period.h"
 #include "session/printing/print_grid.h"
@@ -71,6 +72,10 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     AddTextProperty("CpBarCode", CpBarCode);
     AddNumberProperty("CpNoEdit", CpNoEdit);
     WireProductFields(*this);
+    SuggestProductsIn(txtCpCode2, ProductPart::Code, false);
+    SuggestProductsIn(txtCpName2, ProductPart::Name, false);
+    SuggestCardsIn(txtCpGYS2, true);
+    SuggestCardsIn(txtKhSeek);
     SSTab1.onChange = [this] {
         if (SSTab1.index != kDetail)
             MoveFocus(SSTab1.index == kList ? static_cast<Control*>(&Grid1) : &txtCpCode2);

@@ -161,6 +161,64 @@ void DoubleClickControl(Screen& screen, const json& request) {
     DoubleClickRow(screen, grid, request.contains("row") ? PlaceOf(request, "row") : grid.selectedRow);
 }
 
+// The box or cell into which a request types, and what is suggested there for its text.
+struct TypedInto {
+    EditBox* box = nullptr; // null: a cell
+    Grid* grid = nullptr;
+    int row = 0, column = 0;
+    std::string typed;
+};
+
+TypedInto PlaceTypedInto(const Screen& screen, const json& request) {
+    TypedInto at;
+    at.typed = TextOf(request, "value");
+    at.box = dynamic_cast<EditBox*>(&ControlOf(screen, request));
+    if (at.box)
+        return at;
+    at.grid = &ControlOfKind<Grid>(screen, request, "输入框或表格");
+    at.row = PlaceOf(request, "row");
+    at.column = PlaceOf(request, "col");
+    return at;
+}
+
+Suggestions SuggestionsFor(const TypedInto& at) {
+    return at.box ? Suggest(*at.box, at.typed) : SuggestInCell(*at.grid, at.row, at.column, at.typed);
+}
+
+json SuggestionsAsJson(const Screen& screen, const json& request) {
+    const Suggestions found = SuggestionsFor(PlaceTypedInto(screen, request));
+    json columns = json::array(), rows = json::array();
+    for (const SuggestionColumn& column : found.columns)
+        columns.push_back(column.caption);
+    for (const SuggestedRow& row : found.rows)
+        rows.push_back(row.cells);
+    return {{"columns", columns}, {"rows", rows}, {"more", found.more}};
+}
+
+void Take(Screen& screen, const TypedInto& at, const SuggestedRow& taken) {
+    if (at.box)
+        TakeSuggestion(screen, *at.box, taken);
+    else
+        TakeInCell(screen, *at.grid, at.row, at.column, taken);
+}
+
+void TakeOneSuggested(Screen& screen, const json& request) {
+    const TypedInto at = PlaceTypedInto(screen, request);
+    const Suggestions found = SuggestionsFor(at);
+    const int index = PlaceOf(request, "index");
+    if (index < 0 || index >= static_cast<int>(found.rows.size()))
+        throw RequestError("没有第 " + std::to_string(index) + " 条提示。");
+    Take(screen, at, found.rows[static_cast<size_t>(index)]);
+}
+
+void PickForField(Screen& screen, const json& request) {
+    const TypedInto at = PlaceTypedInto(screen, request);
+    const auto picked =
+        at.box ? Pick(screen, *at.box, at.typed) : PickInCell(screen, *at.grid, at.row, at.column, at.typed);
+    if (picked)
+        Take(screen, at, *picked);
+}
+
 using Gesture = std::function<void(Screen&, const json&)>;
 
 const std::map<std::string, Gesture>& Gestures() {
@@ -197,6 +255,8 @@ const std::map<std::string, Gesture>& Gestures() {
              ClickHeading(screen, ControlOfKind<Grid>(screen, r, "表格"), PlaceOf(r, "col"));
          }},
         {"drop", DropOnNode},
+        {"take", TakeOneSuggested},
+        {"pick", PickForField},
         {"close", [](Screen& screen, const json&) { screen.Close(); }},
     };
     return gestures;
@@ -208,6 +268,7 @@ const std::map<std::string, Question>& Questions() {
     static const std::map<std::string, Question> questions{
         {"controls", [](const Screen& screen, const json&) { return ListControls(screen); }},
         {"get", [](const Screen& screen, const json& r) { return GetControl(ControlOf(screen, r)); }},
+        {"suggest", SuggestionsAsJson},
     };
     return questions;
 }

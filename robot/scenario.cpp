@@ -169,6 +169,27 @@ json PastedBlock(const Words& words) {
     return {{"control", words[1]}, {"value", WithLineEnds(cells)}};
 }
 
+// A text typed into a box, or with row and column before it into a cell; `behind` words follow it.
+json TypedText(const Words& words, size_t behind) {
+    json request{{"control", WordAt(words, 1)}};
+    const size_t at = words.size() > 3 + behind ? 4 : 2;
+    if (at == 4) {
+        request["row"] = NumberAt(words, 2);
+        request["col"] = NumberAt(words, 3);
+    }
+    request["value"] = WordAt(words, at);
+    return request;
+}
+
+json SuggestionTaken(const Words& words) {
+    json request = TypedText(words, 1);
+    const std::string& place = words.back();
+    if (!place.starts_with('#'))
+        throw ScenarioError(place + " 不是 #n");
+    request["index"] = WholeNumberOf(place.substr(1));
+    return request;
+}
+
 using Gesture = json (*)(const Words&);
 
 // What each gesture asks of the robot, but for the operation, which has the gesture's name.
@@ -199,6 +220,8 @@ const std::map<std::string, Gesture>& Gestures() {
                          {"col", NumberAt(w, 3)},
                          {"value", WordOrNone(w, 4)}};
          }},
+        {"take", SuggestionTaken},
+        {"pick", [](const Words& w) { return TypedText(w, 0); }},
         {"key",
          [](const Words& w) {
              return json{{"control", WordAt(w, 1)}, {"key", WordAt(w, 2)}};
@@ -305,6 +328,7 @@ const std::map<std::string, Scenario::Step>& Scenario::Steps() {
         {"let", &Scenario::KeepFigure},
         {"do", &Scenario::RunStatement},
         {"say", &Scenario::Tell},
+        {"suggest", &Scenario::AskSuggestions},
     };
     return steps;
 }
@@ -367,6 +391,13 @@ std::optional<json> Scenario::AskControl(const Words& words, const std::string&)
     return json{{"op", "get"}, {"control", control}};
 }
 
+std::optional<json> Scenario::AskSuggestions(const Words& words, const std::string&) {
+    asked_ = words;
+    json request = TypedText(words, 0);
+    request["op"] = "suggest";
+    return request;
+}
+
 std::optional<json> Scenario::AnswerBox(const Words&, const std::string& rest) {
     const Words parts = CellsOf(rest);
     if (!box_)
@@ -427,6 +458,8 @@ void Scenario::CheckAsked(const json& reply) {
         return CheckGrid(value);
     if (what == "tree")
         return CheckTree(value);
+    if (what == "suggest")
+        return CheckSuggestions(value);
     if (what == "table")
         return ShowTable(value);
     if (what == "keep") {
@@ -502,6 +535,13 @@ void Scenario::CheckTree(const json& tree) {
             parts.push_back(node.contains(part) ? Trim(AsText(node[part])) : "（没有 " + part + "）");
         found.push_back(std::move(parts));
     }
+    CompareRows(ExpectedRows(), found);
+}
+
+void Scenario::CheckSuggestions(const json& suggested) {
+    std::vector<Words> found = suggested["rows"].get<std::vector<Words>>();
+    if (suggested["more"] == true)
+        found.push_back({"……"});
     CompareRows(ExpectedRows(), found);
 }
 

@@ -7,6 +7,8 @@
 //     set txtKhSeek G001                 types; also dates (2026-11-05 or null) and ticks (true, false)
 //     choose cboCkName 总部仓            picks a list item; #2 picks the third
 //     type Grid2 1 6 10                  goes to row 1, column 6 and types
+//     take Grid2 1 1 ls #0               types so far, takes the first row suggested; take txtCpCode ls #0 in a box;
+//                                        pick alike, without a place: picks from the picker
 //     paste Grid2 "A1|3|5\nB2|4|6"       a block of cells, "|" between them
 //     click cmdSave | menu mnuX | key txtKhSeek Enter | select Grid1 2 | heading Grid1 5 | tab SSTab1 1 |
 //         dblclick Grid1 1 | close       the other gestures
@@ -18,6 +20,8 @@
 //     caption lblSHR 王芳                expects a caption; enabled cmdSave false, visible txtZkl false alike
 //     screen frmDj02 | host              expects where the program waits
 //     grid Grid1 1,2,5                   expects the grid's rows in these columns, as the lines "| a | b" below
+//     suggest Grid2 1 1 ls               expects what is suggested for a text typed into a cell, or a box, as the lines
+//                                        below; "| ……" when there is more
 //     rows select a,b from t             expects the rows of a statement, as the lines below; numbers to 1e-9
 //     say text | table Grid1             tells the reader what happens, shows a grid
 //     do update t set ...                runs a statement beside the screens, as another program would
@@ -74,6 +78,7 @@ class Scenario : public RequestSource {
     // The request that a line stands for; nothing for what is done at once.
     std::optional<nlohmann::json> Perform(const Line& line);
     std::optional<nlohmann::json> AskControl(const Words& words, const std::string& rest);
+    std::optional<nlohmann::json> AskSuggestions(const Words& words, const std::string& rest);
     std::optional<nlohmann::json> AnswerBox(const Words& words, const std::string& rest);
     std::optional<nlohmann::json> KeepFigure(const Words& words, const std::string& rest);
     std::optional<nlohmann::json> RunStatement(const Words& words, const std::string& rest);
@@ -85,6 +90,7 @@ class Scenario : public RequestSource {
     void CheckAsked(const nlohmann::json& reply);
     void CheckGrid(const nlohmann::json& grid);
     void CheckTree(const nlohmann::json& tree);
+    void CheckSuggestions(const nlohmann::json& suggested);
     void ShowTable(const nlohmann::json& grid);
     std::vector<Words> ExpectedRows();
     void CompareRows(const std::vector<Words>& expected, const std::vector<Words>& found);

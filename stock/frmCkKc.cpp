@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"
+#include "forms/suggest.h"
 #include "session/lookups/database_routines.h"
 #include "session/period.h"
 #include "session/printing/print_grid.h"
@@ -64,6 +65,8 @@ void Print(const frmCkKc& s) {
 
 frmCkKc::frmCkKc() : Screen("frmCkKc"), list(Grid1, StockColumns(*this)), filters(StockFilters(*this)) {
     AddNumberProperty("myState", myState);
+    SuggestProductsIn(txtCpCode, ProductPart::Code);
+    SuggestProductsIn(txtCpName, ProductPart::Name);
     list.takes = [](const Recordset& row) { return !row["fCpCode"].IsNull(); }; // the product may be gone
     chkDetail.onChange = [this] { list.ShowWanted(); };
     Grid1.onHeading = [this](int column) {

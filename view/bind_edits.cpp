@@ -2,12 +2,15 @@
 // model's key filter; the widget only shows what the model took.
 
 #include <QDateEdit>
+#include <QElapsedTimer>
 
 #include "base/text.h"
 #include "controls/gestures.h"
+#include "forms/suggest.h"
 #include "view/binding.h"
 #include "view/qt_text.h"
 #include "view/screen_window.h"
+#include "view/suggest_popup.h"
 
 namespace jxc {
 
@@ -72,6 +75,27 @@ class EditLine {
         return false;
     }
 
+    // Rows are suggested under the line. `enter` presses Enter once a row's text stands in it.
+    void SuggestRows(std::function<void()> enter) {
+        if (!box_.onSuggest)
+            return;
+        const auto take = [this, enter](const SuggestedRow& taken) {
+            if (Take(taken))
+                enter();
+        };
+        SuggestPopup::Source source;
+        source.suggest = [this](const std::string& typed) { return Suggest(box_, typed); };
+        source.take = take;
+        if (box_.onPick)
+            source.pick = [this, take](const std::string& typed) {
+                std::optional<SuggestedRow> picked;
+                window_.Do([&] { picked = Pick(window_.Shown(), box_, typed); });
+                if (picked && window_.Shown().IsOpen())
+                    take(*picked);
+            };
+        new SuggestPopup(line_, std::move(source)); // the line's own
+    }
+
   private:
     // Of the keys with Ctrl those that copy or move; others would change the widget's text alone.
     static bool LeavesText(const QKeyEvent& key) {
@@ -88,6 +112,12 @@ class EditLine {
         default:
             return false;
         }
+    }
+
+    // False when a message was raised, or the screen has sent the person elsewhere.
+    bool Take(const SuggestedRow& taken) {
+        return window_.Do([&] { TakeText(window_.Shown(), box_, taken); }) && window_.Shown().IsOpen() &&
+               window_.Shown().Focus() == &box_;
     }
 
     bool TakesText() const {
@@ -155,6 +185,7 @@ class TextBinding : public Binding {
         : Binding(window, box, line), line_(line), edit_(window, box, line) {
         if (box.secret)
             line_.setEchoMode(QLineEdit::Password);
+        edit_.SuggestRows([this] { PressEnter(); });
     }
 
     void Refresh() override {
@@ -193,6 +224,7 @@ class ListBinding : public Binding {
             box_.setCompleter(nullptr);
             edit_ = std::make_unique<EditLine>(window, list, *box_.lineEdit());
             Watch(*box_.lineEdit());
+            edit_->SuggestRows([this] { PressEnter(); });
         }
         // Also by the letters and arrow keys that a closed list takes.
         connect(&box_, &QComboBox::currentIndexChanged, this, [this](int index) {
@@ -229,13 +261,32 @@ class ListBinding : public Binding {
             box_.showPopup();
             return true;
         }
-        if (!moves && edit_ && edit_->OnKey(key))
+        if (!moves && (edit_ ? edit_->OnKey(key) : JumpTo(key)))
             return true;
         return Binding::OnKey(key);
     }
     bool OnInput(QInputMethodEvent& event) override { return edit_ && edit_->OnInput(event); }
 
   private:
+    // Letters typed at a closed list lead to the item that they name, by a part of it or in pinyin.
+    bool JumpTo(const QKeyEvent& key) {
+        const bool command = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+        if (command || key.text().isEmpty() || !key.text().at(0).isPrint() || key.text().at(0).isSpace())
+            return false;
+        if (!sinceLetter_.isValid() || sinceLetter_.hasExpired(kLettersOfOneWord))
+            letters_.clear();
+        sinceLetter_.start();
+        letters_ += key.text();
+        // The same first letter again goes on to the next such item.
+        const int found = ItemFoundBy(list_, S(letters_), list_.Index() + (letters_.size() == 1 ? 1 : 0));
+        if (found >= 0)
+            window_.Do([&] { PickItem(window_.Shown(), list_, found); });
+        return found >= 0;
+    }
+
+    static constexpr qint64 kLettersOfOneWord = 1000; // milliseconds between them at most
+    QString letters_;
+    QElapsedTimer sinceLetter_;
     ListBox& list_;
     QComboBox& box_;
     std::unique_ptr<EditLine> edit_;

@@ -1,6 +1,8 @@
 // Grids: a table over the model itself, typed into cell by cell, walked with Enter and the arrow keys, copied
 // from and pasted into as spreadsheets do.
 
+#include <QTimer>
+
 #include "base/text.h"
 #include "controls/gestures.h"
 #include "view/binding.h"
@@ -10,6 +12,7 @@
 #include "view/qt_text.h"
 #include "view/qt_view.h"
 #include "view/screen_window.h"
+#include "view/suggest_popup.h"
 
 namespace jxc {
 
@@ -27,6 +30,8 @@ class GridBinding : public Binding {
               [this](CellExit exit) { LeaveCell(exit); }) {
         table_.setModel(&model_);
         table_.setItemDelegate(&editor_);
+        if (grid_.onSuggest)
+            editor_.onOpen = [this](QLineEdit& line, int row, int column) { SuggestRows(line, row, column); };
         LookOfTable();
         Watch(*table_.viewport());
         connect(table_.selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -53,6 +58,13 @@ class GridBinding : public Binding {
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::Resize && object == table_.viewport())
             FillWidth();
+        if (event->type() == QEvent::FocusIn && object == &table_ && grid_.onSuggest &&
+            !std::exchange(ready_, true))
+            QTimer::singleShot(0, this, [this] { GetReady(); });
+        if (event->type() == QEvent::ShortcutOverride && Picks(static_cast<const QKeyEvent&>(*event))) {
+            event->accept(); // here the key means this and no command
+            return true;
+        }
         if (event->type() == QEvent::ContextMenu) {
             ShowMenu(static_cast<QContextMenuEvent&>(*event));
             return true;
@@ -96,6 +108,11 @@ class GridBinding : public Binding {
         }
         if (key.key() == Qt::Key_Space && IsCheck(table_.currentIndex())) {
             TurnCheck(table_.currentIndex());
+            return true;
+        }
+        if (Picks(key)) {
+            PickInto(grid_.selectedRow, grid_.selectedColumn,
+                     S(EditText(grid_, grid_.selectedRow, grid_.selectedColumn)));
             return true;
         }
         if (key.modifiers() & Qt::ControlModifier)
@@ -254,6 +271,60 @@ class GridBinding : public Binding {
         }
     }
 
+    void GetReady() {
+        if (table_.hasFocus() && TypesAt(table_.currentIndex()))
+            static_cast<void>(SuggestInCell(grid_, grid_.selectedRow, grid_.selectedColumn, ""));
+    }
+
+    bool Picks(const QKeyEvent& key) const {
+        return key.key() == Qt::Key_F3 && grid_.onPick && TypesAt(table_.currentIndex());
+    }
+
+    void SuggestRows(QLineEdit& line, int row, int column) {
+        SuggestPopup::Source source;
+        source.suggest = [this, row, column](const std::string& typed) {
+            return SuggestInCell(grid_, row, column, typed);
+        };
+        source.take = [this, row, column](const SuggestedRow& taken) { Take(row, column, taken); };
+        if (grid_.onPick)
+            source.pick = [this, row, column](const std::string& typed) { PickInto(row, column, typed); };
+        new SuggestPopup(line, std::move(source)); // the line's own
+    }
+
+    // Closes the open editor; what stands in it goes nowhere. False when none is open.
+    bool DropTyping() {
+        auto* line = static_cast<QLineEdit*>(table_.indexWidget(table_.currentIndex()));
+        if (!line)
+            return false;
+        line->setProperty("before", line->text());
+        emit editor_.closeEditor(line, QAbstractItemDelegate::NoHint);
+        return true;
+    }
+
+    // As if the text had been typed and Enter pressed.
+    void Take(int row, int column, const SuggestedRow& taken) {
+        DropTyping();
+        Commit(row, taken.column > 0 ? taken.column : column, Q(taken.text));
+        LeaveCell(CellExit::Enter);
+    }
+
+    // What was being typed is typed on when nothing is picked; the picker's window must not bring it into the model.
+    void PickInto(int row, int column, const std::string& typed) {
+        const bool typing = DropTyping();
+        std::optional<SuggestedRow> picked;
+        window_.Do([&] { picked = PickInCell(window_.Shown(), grid_, row, column, typed); });
+        if (!window_.Shown().IsOpen())
+            return;
+        if (picked)
+            return Take(row, column, *picked);
+        table_.setFocus();
+        if (!typing)
+            return;
+        table_.edit(table_.currentIndex());
+        if (auto* line = static_cast<QLineEdit*>(table_.indexWidget(table_.currentIndex())))
+            line->setText(Q(typed));
+    }
+
     void LeaveCell(CellExit exit) {
         Screen& screen = window_.Shown();
         const bool stay = !committed_; // what was typed raised a message: the person looks at it first
@@ -368,6 +439,7 @@ class GridBinding : public Binding {
         menu.addSeparator();
     }
 
+    bool ready_ = false; // for suggestions
     Grid& grid_;
     QTableView& table_;
     GridModel model_;

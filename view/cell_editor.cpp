@@ -110,6 +110,8 @@ void CellEditor::setEditorData(QWidget* editor, const QModelIndex& index) const 
     const QString text = EditText(grid_, index.row() + 1, index.column() + 1);
     line->setProperty("before", text);
     line->setText(text);
+    if (onOpen)
+        onOpen(*line, index.row() + 1, index.column() + 1);
 }
 
 void CellEditor::setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const {

@@ -21,6 +21,9 @@ class CellEditor : public QStyledItemDelegate {
     CellEditor(const Grid& grid, std::function<void(int row, int column, const QString& text)> commit,
                std::function<void(CellExit)> leave);
 
+    // Called with each editor that opens, before it has any key. Null for none.
+    std::function<void(QLineEdit& line, int row, int column)> onOpen;
+
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;

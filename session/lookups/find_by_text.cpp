@@ -16,6 +16,7 @@ namespace {
 constexpr int kNameWidth = 80;  // of a customer list's row
 constexpr int kMostCards = 101; // listed by one search
 
+constexpr const char* kEveryCode = "*"; // the pattern
 const std::string kProducts =
     "select fCpID,fCpCode,fCpName,fCpGG,fCpUnit,fCpBarCode,fCpPrice0,fCpPrice1,fCpPrice2,fCpPrice3 "
     " from tJXC_Cp "
@@ -37,16 +38,14 @@ std::vector<std::string> NameParts(const std::string& typed) {
     return parts;
 }
 
-// Lets the user pick among several hits; the statement of the product picked, nothing when none was. A picker that asks
-// for bar codes is given one; another lists all products for it, as their codes do not hold it.
+// Lets the user pick among several hits; the statement of the product picked, nothing when none was.
 std::optional<std::string> PickProduct(const std::string& code, const std::string& name,
                                        const std::string& barCode = "") {
     session.SelectedProductID = 0;
     Screen& picker = ScreenNamed("frmCp");
     picker.SetProperty("CpCode", code);
     picker.SetProperty("CpName", name);
-    if (picker.HasProperty("CpBarCode"))
-        picker.SetProperty("CpBarCode", barCode);
+    picker.SetProperty("CpBarCode", barCode);
     picker.SetProperty("CpNoEdit", 1);
     ShowModal(picker);
     if (session.SelectedProductID == 0)
@@ -108,6 +107,18 @@ std::optional<std::string> StatementByName(const std::string& name) {
 }
 
 } // namespace
+
+std::string PickProductCode(const std::string& typed, bool byName) {
+    const bool asked = !typed.empty() && typed.find('\'') == std::string::npos; // no product's text has one
+    const auto statement = PickProduct(!asked   ? kEveryCode
+                                       : byName ? ""
+                                                : typed,
+                                       asked && byName ? typed : "");
+    if (!statement)
+        return "";
+    const Recordset row(Conn(), *statement);
+    return row.AtEnd() ? "" : row["fCpCode"].AsText();
+}
 
 std::vector<Connection::Expected> ProductStatements(const std::string& code, const std::string& warehouse) {
     const ByCode statements = StatementsByCode(code, warehouse);

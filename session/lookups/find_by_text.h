@@ -30,6 +30,10 @@ struct ProductSought {
 // stopped product is never found.
 std::int32_t FindProduct(ProductSought& sought);
 
+// Lets the user pick a product in the product picker, which shows those that the text finds, by code or, with `byName`,
+// by name, or all of them when nothing is typed; the code of the one picked, "" for none.
+std::string PickProductCode(const std::string& typed, bool byName);
+
 // The statements with which it finds an exact code and its stock, to be read ahead for many codes.
 [[nodiscard]] std::vector<Connection::Expected> ProductStatements(const std::string& code,
                                                                   const std::string& warehouse);

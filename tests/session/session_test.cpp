@@ -17,7 +17,6 @@
 #include "session/session.h"
 #include "settings/document_numbers.h"
 #include "tests/support/on_sample_company.h"
-#include "tests/support/picker_stand_in.h"
 
 namespace jxc::test {
 
@@ -251,9 +250,10 @@ TEST_P(Company, ProductsAreFoundAsTyped) {
     EXPECT_NE(FindProduct(stopped), id); // the pattern now finds CPU0021 alone
     EXPECT_EQ(stopped.code, "CPU0021");
     ProductSought several{.code = "MEM"};
-    const PickerStandIn nobody(0);
+    view.OnScreen("frmCp",
+                  [](Screen& picker) { Click(picker, *dynamic_cast<Button*>(picker.Find("cmdQuit"))); });
     EXPECT_EQ(FindProduct(several), 0);
-    EXPECT_EQ(nobody.CpCode, "MEM");
+    EXPECT_EQ(view.screens.back(), "frmCp");
 }
 
 // What its own steps do not find by code is looked for among the bar codes.
@@ -275,18 +275,22 @@ TEST_P(Company, ProductsAreFoundByBarCode) {
     for (const char* other : {"X6", "69", "X69'", "X%", ""}) // whole, and no pattern
         EXPECT_EQ(FindProduct(scanned = {.code = other}), 0) << other;
 
-    PickerStandIn picker(id);
+    std::int32_t picks = id;
+    std::string asked; // of the picker, last
+    view.OnScreen("frmCp", [&](Screen& picker) {
+        const auto text = [&](const char* box) { return dynamic_cast<TextBox*>(picker.Find(box))->text; };
+        asked = text("txtCpCode2") + "|" + text("txtCpName2") + "|" + text("txtCpBarCode2");
+        session.SelectedProductID = picks;
+    });
     ProductSought like{.code = "U00"}; // many codes are like it
     EXPECT_EQ(FindProduct(like), id);
-    EXPECT_EQ(picker.CpCode, "U00");
+    EXPECT_EQ(asked, "U00||");
     EXPECT_FALSE(like.byBarCode);
     books.Execute("Update tJXC_Cp Set fCpBarCode='X69' " + code + "'MEM001'");
     EXPECT_EQ(FindProduct(scanned = {.code = "X69"}), id);
     EXPECT_TRUE(scanned.byBarCode);
-    EXPECT_EQ(picker.opened, 2);
-    EXPECT_EQ(picker.CpCode, "");
-    EXPECT_EQ(picker.CpBarCode, "X69");
-    picker.picks = 0;
+    EXPECT_EQ(asked, "||X69");
+    picks = 0;
     EXPECT_EQ(FindProduct(scanned = {.code = "X69"}), 0);
     books.Execute("Update tJXC_Cp Set fCpFlag=1 " + code + "'CPU001'");
     EXPECT_NE(FindProduct(scanned = {.code = "X69"}), id);

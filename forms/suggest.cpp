@@ -1,0 +1,105 @@
+#include "forms/suggest.h"
+
+#include "base/folding.h"
+#include "base/text.h"
+#include "session/lookups/card_index.h"
+#include "session/lookups/find_by_text.h"
+#include "session/lookups/pinyin.h"
+#include "session/lookups/product_index.h"
+#include "session/session.h"
+
+namespace jxc {
+
+namespace {
+
+constexpr const char* kRetailPrice = "fCpPrice3";
+constexpr size_t kMostItems = 12;
+
+// A search by a quote finds nothing; it is told when the field is left. And nothing is asked of a company beside a
+// transaction that is at work, whose statements it would be among.
+bool MaySearch(const std::string& typed) {
+    return typed.find('\'') == std::string::npos && !Conn().InTransaction();
+}
+
+bool Holds(const std::string& folded, const std::string& sought) {
+    if (folded.find(sought) != std::string::npos)
+        return true;
+    const std::vector<std::string> initials = PinyinInitials(folded);
+    return std::ranges::any_of(initials, [&](const std::string& text) { return text.starts_with(sought); });
+}
+
+Suggestions ItemRows(const ListBox& list, const std::string& typed) {
+    Suggestions found{.columns = {{list.caption}}, .rows = {}};
+    const std::string sought = Trim(FoldText(typed));
+    for (int i = 0; i < static_cast<int>(list.items.size()) && !sought.empty(); ++i) {
+        const std::string item = Trim(list.VisibleText(i));
+        if (!Holds(FoldText(item), sought))
+            continue;
+        found.more = found.rows.size() == kMostItems;
+        if (found.more)
+            break;
+        found.rows.push_back({{item}, item});
+    }
+    return found;
+}
+
+Suggestions CardRows(const std::string& typed, bool byName) {
+    Suggestions shown{.columns = {{"编号"}, {"名称"}, {"联系人"}}, .rows = {}};
+    if (!MaySearch(typed))
+        return shown;
+    const CardSuggestions found = SuggestCards(typed);
+    shown.more = found.more;
+    for (const SuggestedCard& card : found.rows)
+        shown.rows.push_back(
+            {{card.code, card.name, card.contact}, byName || card.code.empty() ? card.name : card.code});
+    return shown;
+}
+
+} // namespace
+
+Suggestions ProductRows(const std::string& typed, ProductPart part, const std::string& warehouse,
+                        const std::string& priceField) {
+    Suggestions shown{.columns = {{"编码"}, {"品名规格"}, {"库存数", true}, {"单价", true}}, .rows = {}};
+    if (!MaySearch(typed))
+        return shown;
+    const ProductSuggestions found =
+        SuggestProducts(typed, warehouse, priceField.empty() ? kRetailPrice : priceField);
+    shown.more = found.more;
+    for (const SuggestedProduct& product : found.rows)
+        shown.rows.push_back({{product.code, NameAndSpec(product.name, product.spec),
+                               FormatFixed(product.stock, session.DeciSl, true) + product.unit,
+                               FormatFixed(product.price, session.DeciDj, true)},
+                              part == ProductPart::Code ? product.code : product.name});
+    return shown;
+}
+
+std::optional<SuggestedRow> PickProduct(const std::string& typed, bool byName, int column) {
+    const std::string code = PickProductCode(typed, byName);
+    return code.empty() ? std::nullopt : std::optional(SuggestedRow{{}, code, column});
+}
+
+void SuggestProductsIn(EditBox& box, ProductPart part, bool picks) {
+    box.onSuggest = [part](const std::string& typed) { return ProductRows(typed, part); };
+    if (picks && part == ProductPart::Code)
+        box.onPick = [](const std::string& typed) { return PickProduct(typed, false); };
+}
+
+void SuggestCardsIn(EditBox& box, bool byName) {
+    box.onSuggest = [byName](const std::string& typed) { return CardRows(typed, byName); };
+}
+
+void SuggestItemsIn(ListBox& list) {
+    list.onSuggest = [&list](const std::string& typed) { return ItemRows(list, typed); };
+}
+
+int ItemFoundBy(const ListBox& list, const std::string& typed, int from) {
+    const std::string sought = Trim(FoldText(typed));
+    const int count = static_cast<int>(list.items.size());
+    for (int step = 0; step < count && !sought.empty(); ++step)
+        if (const int at = (std::max(from, 0) + step) % count;
+            Holds(FoldText(Trim(list.VisibleText(at))), sought))
+            return at;
+    return -1;
+}
+
+} // namespace jxc
