@@ -76,6 +76,7 @@ Options ReadOptions() {
     options.historyLines = NumberFrom("JXC_BENCH_LINES", options.historyLines, 10, 10'000'000);
     options.rounds = NumberFrom("JXC_BENCH_ROUNDS", options.rounds, 1, 365);
     options.documents = NumberFrom("JXC_BENCH_DOCUMENTS", options.documents, 1, kMostInADay);
+    options.trail = NumberFrom("JXC_BENCH_TRAIL", 1, 0, 1) == 1;
     const char* folder = std::getenv("JXC_BENCH_FOLDER");
     options.folder = folder ? folder : std::filesystem::temp_directory_path().string();
     return options;

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include "bench/history.h"
+#include "database/engine.h"
 #include "host/company/create_company.h"
 #include "session/company/open_connection.h"
 #include "tests/support/test_server.h"
@@ -60,6 +61,8 @@ CompanyPair::CompanyPair(const Options& options, EngineKind kind, int documents)
         Connection company;
         Open(company, kind, system_);
         company.Execute("Update tJXC_InvSys Set fSysAuto1=1");
+        if (!options.trail)
+            company.EngineInUse().ExecuteScript("drop table tJXC_Audit");
         trade_ = ReadTrade(company);
         if (documents > 0)
             FillHistory(company, kind == EngineKind::Postgres, trade_, documents);

@@ -9,6 +9,7 @@ struct Options {
     int historyLines = 1'000'000; // JXC_BENCH_LINES: of the full book, ten to a document
     int rounds = 10;              // JXC_BENCH_ROUNDS: each writes one block of every kind
     int documents = 100;          // JXC_BENCH_DOCUMENTS: in a block, at most kMostInADay
+    bool trail = true;            // JXC_BENCH_TRAIL: 0 measures companies that keep no trail
     std::string folder;           // JXC_BENCH_FOLDER: of the files, else the one for temporary files
 };
 

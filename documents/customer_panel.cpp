@@ -4,6 +4,7 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "documents/document_entry.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/lookups/lists.h"
 #include "session/session.h"
@@ -137,13 +138,16 @@ void SaveAddress(frmDj02& s) {
         return;
     if (!s.cboKhAdd.items.empty() && !ConfirmAddress(s, "保存", address))
         return;
+    Transaction transaction(Conn());
     Recordset stored = StoredAddress(id, address);
     if (stored.AtEnd()) {
         stored.AddNew();
         stored.Set("fKhID", id);
         stored.Set("fKhAdd", address);
+        WriteAudit({"新增", "tJXC_KhAdd", std::to_string(id), s.cboKhList.CompanyName(), "", JsonOf(stored)});
         stored.Update();
     }
+    transaction.Commit();
     s.cboKhAdd.items.insert(s.cboKhAdd.items.begin(), address);
     s.cboKhAdd.SetIndex(0);
 }
@@ -154,9 +158,13 @@ void DeleteAddress(frmDj02& s) {
     const int at = ComboIndexByText(s.cboKhAdd, address);
     if (id < 1 || address.empty() || at < 0 || !ConfirmAddress(s, "删除", address))
         return;
+    Transaction transaction(Conn());
     Recordset stored = StoredAddress(id, address);
-    if (!stored.AtEnd())
+    if (!stored.AtEnd()) {
+        WriteAudit({"删除", "tJXC_KhAdd", std::to_string(id), s.cboKhList.CompanyName(), JsonOf(stored), ""});
         stored.Delete();
+    }
+    transaction.Commit();
     s.cboKhAdd.items.erase(s.cboKhAdd.items.begin() + at);
     s.cboKhAdd.SetIndex(s.cboKhAdd.items.empty() ? -1 : 0);
 }

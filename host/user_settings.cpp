@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "database/recordset.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/session.h"
 
@@ -22,9 +23,26 @@ std::string AllRights() {
     return std::string(static_cast<size_t>(RightPlaces().back().position), '1');
 }
 
+bool NoUsers() {
+    return Recordset(Conn(), "Select Top 1 fUserName From tHostUser").AtEnd();
+}
+
+void EnterFirstUser() {
+    Transaction transaction(Conn());
+    if (NoUsers() && !session.UserName.empty()) {
+        Recordset row(Conn(), "select * from tHostUser", Access::Write);
+        row.AddNew();
+        row.Set("fUserName", session.UserName);
+        row.Set("fPower", AllRights());
+        row.Set("fSupervisor", 1);
+        WriteAudit({"新增", "tHostUser", session.UserName, session.UserName, "", JsonOf(row)});
+        row.Update();
+    }
+    transaction.Commit();
+}
+
 UserRights UserSettings(const std::string& user) {
-    const Recordset users(Conn(), "Select Top 1 fUserName From tHostUser");
-    if (users.AtEnd())
+    if (NoUsers())
         return {true, AllRights(), user};
     UserRights rights;
     const Recordset row(Conn(), "select * from tHostUser where fUserName=" + InQuotes(user));

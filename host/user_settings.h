@@ -19,6 +19,10 @@ std::vector<RightPlace> RightPlaces();
 // A rights string with every right.
 std::string AllRights();
 
+bool NoUsers();
+// Who is signed in to a company without users becomes its first one, supervisor with all rights. Opens a transaction.
+void EnterFirstUser();
+
 struct UserRights {
     bool known = false; // false: the company has users, and this is none of them
     std::string myPower = "0000";

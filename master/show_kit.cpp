@@ -5,6 +5,7 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "master/frmCpTj.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/lookups/find_by_text.h"
@@ -61,6 +62,10 @@ void DeleteWithoutParts(std::int32_t id, const std::string& test) {
     Transaction transaction(Conn());
     if (HasRows("tJXC_CpTj02", "fTjID=" + std::to_string(id)))
         return;
+    const Recordset header(Conn(), "select * from tJXC_CpTj01 Where fTjID=" + std::to_string(id));
+    if (header.HasRow())
+        WriteAudit(
+            {"删除", "tJXC_CpTj01", std::to_string(id), header["fTjCode"].AsText(), JsonOf(header), ""});
     Conn().Execute(DeleteText("tJXC_CpTj01", test));
     transaction.Commit();
 }

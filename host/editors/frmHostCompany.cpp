@@ -52,12 +52,11 @@ void frmHostCompany::Store() {
     Recordset header = RowToWrite(kHeader);
     const std::string before = JsonOf(header);
     WriteFields(*this, header);
-    const std::string after = JsonOf(header);
+    WriteAudit({"修改", "myCompany", "", CompanyName(header), before, JsonOf(header)});
     header.Update();
     Recordset start = RowToWrite(kStart);
     start.Set("CompDate", IsoText(*dtpCompDate.date));
     start.Update();
-    WriteAudit({"修改", "myCompany", "", CompanyName(header), before, after});
 }
 
 void frmHostCompany::ShapeByMode() {

@@ -2,6 +2,7 @@
 
 #include "controls/view.h"
 #include "database/recordset.h"
+#include "host/user_settings.h"
 #include "session/dialect.h"
 #include "session/session.h"
 
@@ -39,6 +40,7 @@ frmHostPassword::frmHostPassword() : Screen("frmHostPassword") {
 }
 
 void frmHostPassword::Open() {
+    EnterFirstUser();
     if (Recordset(Conn(), "select fUserName from tHostUser where fUserName=" + InQuotes(session.UserName))
             .AtEnd())
         throw ScreenError("请先由系统[负责人]在 [用户与权限] 中登记用户“" + session.UserName + "”！");

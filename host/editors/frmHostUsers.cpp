@@ -19,23 +19,6 @@ const std::vector<Use> kUses{
     {"tAccountDetail Where fUser=", "帐户单"},
 };
 
-bool NoUsers() {
-    return Recordset(Conn(), "Select Top 1 fUserName From tHostUser").AtEnd();
-}
-
-void EnterFirstUser() {
-    Transaction transaction(Conn());
-    if (NoUsers() && !session.UserName.empty()) {
-        Recordset row(Conn(), "select * from tHostUser", Access::Write);
-        row.AddNew();
-        row.Set("fUserName", session.UserName);
-        row.Set("fPower", AllRights());
-        row.Set("fSupervisor", 1);
-        row.Update();
-    }
-    transaction.Commit();
-}
-
 void RequireSupervisor() {
     const UserRights rights = UserSettings(session.UserName);
     if (!NoUsers() && !EqualsNoCase(rights.ZgName, session.UserName))

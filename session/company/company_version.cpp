@@ -34,7 +34,16 @@ void RaiseToVersion1(Connection& connection) {
     AddColumns(connection, kColumnsOfVersion1);
 }
 
+// Guards ask the headers of documents for their warehouse.
+void AddHeaderIndexes(Connection& connection) {
+    Engine& engine = connection.EngineInUse();
+    const TableDef& headers = *FindTable("tJXC_CkDj01");
+    for (size_t place = 0; place < headers.indexes.size(); ++place)
+        engine.ExecuteScript(IndexScript(engine, headers, place));
+}
+
 void RaiseToVersion2(Connection& connection) {
+    AddHeaderIndexes(connection);
     AddColumns(connection, kColumnsOfVersion2);
     for (const NotedTable& table : kNotedTables)
         connection.EngineInUse().ExecuteScript(connection.EngineInUse().NotingScript(table));

@@ -9,20 +9,24 @@
 
 namespace jxc {
 
+std::string IndexScript(const Engine& engine, const TableDef& table, size_t place) {
+    const IndexDef& index = table.indexes[place];
+    const std::string name(table.name);
+    std::string columns;
+    for (const std::string& field : Split(index.fields, ','))
+        columns.append(columns.empty() ? "" : ", ").append(engine.IndexedColumn(field));
+    return std::string(index.unique ? "create unique index" : "create index") + " if not exists " + name +
+           "_" + std::to_string(place + 1) + " on " + name + " (" + columns + ");\n";
+}
+
 std::string TableScript(const Engine& engine, const TableDef& table) {
     const std::string name(table.name);
     std::string sql = "create table " + name + " (";
     for (size_t i = 0; i < table.fields.size(); ++i)
         sql.append(i > 0 ? ", " : "").append(engine.ColumnDefinition(table.fields[i]));
     sql.append(")").append(engine.TableSuffix()).append(";\n");
-    for (size_t i = 0; i < table.indexes.size(); ++i) {
-        const IndexDef& index = table.indexes[i];
-        std::string columns;
-        for (const std::string& field : Split(index.fields, ','))
-            columns.append(columns.empty() ? "" : ", ").append(engine.IndexedColumn(field));
-        sql += std::string(index.unique ? "create unique index " : "create index ") + name + "_" +
-               std::to_string(i + 1) + " on " + name + " (" + columns + ");\n";
-    }
+    for (size_t place = 0; place < table.indexes.size(); ++place)
+        sql += IndexScript(engine, table, place);
     return sql;
 }
 

@@ -1,6 +1,8 @@
 // Master data by keys alone: a warehouse from its tree into its fields, a kit template part by part.
 #include "master/frmCk.h"
+#include "master/frmCp.h"
 #include "master/frmCpTj.h"
+#include "settings/frmSystem.h"
 #include "tests/windows/window_fixture.h"
 
 namespace jxc::test {
@@ -53,6 +55,57 @@ TEST_F(MasterData, AKitIsTypedPartByPart) {
     EXPECT_EQ(Rows("select a.fTjJe,b.fRowID,b.fCpPjSL from tJXC_CpTj01 a Inner Join tJXC_CpTj02 b On "
                    "b.fTjID=a.fTjID Where a.fTjCode='ZZ9' Order By b.fRowID"),
               (Texts{"356|1|2", "356|2|1"}));
+}
+
+// Field by field with Enter; its picture is shown as soon as its file is named, and what is none is told.
+TEST_F(MasterData, AProductIsTypedByKeysAndShowsItsPicture) {
+    const QFileInfo place(Q(company.Address()));
+    QImage(40, 30, QImage::Format_RGB32).save(place.absolutePath() + "/teapot.png");
+    Open(2, 0, [&] {
+        EXPECT_EQ(person.Focus(), "Grid1");
+        person.Press(Qt::Key_F2);
+        EXPECT_EQ(person.Focus(), "txtCpCode");
+        person.EnterEach({"TEA1", "Teapot", "0.8 l", "pc", "6901"});
+        EXPECT_EQ(person.Focus(), "txtCpPrice(0)");
+        person.EnterEach({"10", "12.5"});
+        EXPECT_EQ(person.Text("txtCpPrice(1)"), "12.50");
+        auto& s = person.Shown<frmCp>();
+        person.Find("txtCpPicture").setFocus();
+        person.Enter("none.png");
+        EXPECT_EQ(s.lblNoPicture.caption, "没有找到图片文件。");
+        EXPECT_TRUE(person.Find<QLabel>("imgPicture").pixmap(Qt::ReturnByValue).isNull());
+        person.Find("txtCpPicture").setFocus();
+        person.Press(Qt::Key_A, Qt::ControlModifier);
+        person.Enter("teapot.png");
+        EXPECT_EQ(s.lblNoPicture.caption, "");
+        EXPECT_EQ(person.Find<QLabel>("imgPicture").pixmap(Qt::ReturnByValue).size(), QSize(40, 30));
+        person.Press(Qt::Key_F9);
+        EXPECT_EQ(person.Boxes(), (Texts{"确定新增 [Teapot] ?", "新增完毕!"}));
+        EXPECT_EQ(person.Focus(), "txtCpCode");
+        person.Press(Qt::Key_Escape);
+        person.Press(Qt::Key_Return);
+    });
+    EXPECT_EQ(Rows("select fCpName,fCpGG,fCpUnit,fCpBarCode,fCpPrice0,fCpPrice1,fCpPicture from tJXC_Cp "
+                   "Where fCpCode='TEA1'"),
+              Texts{"Teapot|0.8 l|pc|6901|10|12.5|teapot.png"});
+}
+
+// A cell of a list is opened by typing, and its item taken with the arrows or by its number.
+TEST_F(MasterData, AListCellOfTheTypesIsChosenByKeys) {
+    Open(0, 0, [&] {
+        person.Press(Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(person.Focus(), "Grid1");
+        auto& s = person.Shown<frmSystem>();
+        person.ClickCell("Grid1", 7, 4);
+        person.Press(Qt::Key_3);
+        person.Press(Qt::Key_Return);
+        EXPECT_EQ(s.Grid1.ShownText(7, 4), "3.代销商");
+        person.ClickCell("Grid1", 7, 4);
+        person.Press(Qt::Key_9);
+        person.Press(Qt::Key_Return);
+        EXPECT_EQ(s.Grid1.ShownText(7, 4), "3.代销商");
+        EXPECT_EQ(person.Boxes().size(), 1U); // no such item
+    });
 }
 
 } // namespace
