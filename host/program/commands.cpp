@@ -15,6 +15,7 @@
 #include "host/program/words.h"
 #include "host/tour.h"
 #include "robot/robot.h"
+#include "session/session.h"
 #ifdef JXC_VIEW
 #include "host/window/window_program.h"
 #endif
