@@ -29,7 +29,7 @@ std::string JsonOf(const DocumentData& document) {
 std::string JsonOf(const StoredDocument& stored) {
     Json json;
     for (size_t field = 0; field < stored.headerNames.size(); ++field)
-        json[stored.headerNames[field]] = JsonValue(stored.header[field]);
+        json[FieldNameOf(stored.headerNames[field])] = JsonValue(stored.header[field]);
     Json& lines = json["lines"] = Json::array();
     for (size_t cell = 0; cell < stored.lines.size(); ++cell) {
         if (cell % StoredDocument::kLineCells == 0)

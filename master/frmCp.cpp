@@ -125,15 +125,15 @@ void frmCp::Open() {
 
 Arrangement frmCp::Arrange() {
     const Arrangement detail{
-        .fields = {{&lblCpCode, &txtCpCode, &lblCpName, &txtCpName, &lblCpGG, &txtCpGG},
-                   {&lblCpUnit, &cboCpUnit, &lblCpBarCode, &txtCpBarCode, &chkCpFlag},
-                   {&lblCpPrice[0], &txtCpPrice[0], &lblCpPrice[1], &txtCpPrice[1], &lblCpSlMin, &txtCpSlMin},
-                   {&lblCpPrice[2], &txtCpPrice[2], &lblCpPrice[3], &txtCpPrice[3], &lblCpSlMax, &txtCpSlMax},
-                   {&lblCkName, &cboCkName, &lblCpCw, &cboCpCw},
-                   {&lblCpZy, &cboCpZy, &lblCpCd, &cboCpCd},
-                   {&txtKhSeek, &lblKhName, &cboKh},
-                   {&lblCpPicture, &txtCpPicture, &lblNoPicture},
-                   {&imgPicture}}};
+        .fields = {
+            {&lblCpCode, &txtCpCode, &lblCpName, &txtCpName, &lblCpGG, &txtCpGG},
+            {&lblCpUnit, &cboCpUnit, &lblCpBarCode, &txtCpBarCode, &lblCpPrice[0], &txtCpPrice[0]},
+            {&lblCpPrice[1], &txtCpPrice[1], &lblCpPrice[2], &txtCpPrice[2], &lblCpPrice[3], &txtCpPrice[3]},
+            {&lblCpSlMin, &txtCpSlMin, &lblCpSlMax, &txtCpSlMax, &lblCkName, &cboCkName},
+            {&lblCpCw, &cboCpCw, &lblCpZy, &cboCpZy, &lblCpCd, &cboCpCd},
+            {&txtKhSeek, &lblKhName, &cboKh, &chkCpFlag},
+            {&lblCpPicture, &txtCpPicture, &lblNoPicture},
+            {&imgPicture}}};
     Arrangement query{.fields = {{&chkCpCode2, &txtCpCode2, &chkCpName2, &txtCpName2},
                                  {&chkCpBarCode2, &txtCpBarCode2, &chkCpCk2, &txtCpck2},
                                  {&chkCpCw2, &txtCpCw2, &chkCpZy2, &txtCpZy2},

@@ -87,7 +87,7 @@ std::string JsonOf(const Recordset& row) {
         return "";
     AuditedFields fields;
     for (size_t field = 0; field < row.FieldCount(); ++field)
-        fields.emplace_back(row.FieldName(field), row[field]);
+        fields.emplace_back(FieldNameOf(row.FieldName(field)), row[field]);
     return JsonOf(fields);
 }
 

@@ -39,7 +39,7 @@ void AddHeaderIndexes(Connection& connection) {
     Engine& engine = connection.EngineInUse();
     const TableDef& headers = *FindTable("tJXC_CkDj01");
     for (size_t place = 0; place < headers.indexes.size(); ++place)
-        engine.ExecuteScript(IndexScript(engine, headers, place));
+        engine.ExecuteScript(IndexScript(engine, headers, place, true));
 }
 
 void RaiseToVersion2(Connection& connection) {

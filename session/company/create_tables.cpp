@@ -9,14 +9,15 @@
 
 namespace jxc {
 
-std::string IndexScript(const Engine& engine, const TableDef& table, size_t place) {
+std::string IndexScript(const Engine& engine, const TableDef& table, size_t place, bool mayStand) {
     const IndexDef& index = table.indexes[place];
     const std::string name(table.name);
     std::string columns;
     for (const std::string& field : Split(index.fields, ','))
         columns.append(columns.empty() ? "" : ", ").append(engine.IndexedColumn(field));
-    return std::string(index.unique ? "create unique index" : "create index") + " if not exists " + name +
-           "_" + std::to_string(place + 1) + " on " + name + " (" + columns + ");\n";
+    return std::string(index.unique ? "create unique index " : "create index ") +
+           (mayStand ? "if not exists " : "") + name + "_" + std::to_string(place + 1) + " on " + name +
+           " (" + columns + ");\n";
 }
 
 std::string TableScript(const Engine& engine, const TableDef& table) {
@@ -26,7 +27,7 @@ std::string TableScript(const Engine& engine, const TableDef& table) {
         sql.append(i > 0 ? ", " : "").append(engine.ColumnDefinition(table.fields[i]));
     sql.append(")").append(engine.TableSuffix()).append(";\n");
     for (size_t place = 0; place < table.indexes.size(); ++place)
-        sql += IndexScript(engine, table, place);
+        sql += IndexScript(engine, table, place, false);
     return sql;
 }
 

@@ -9,8 +9,9 @@ namespace jxc {
 
 // One table with its indexes.
 [[nodiscard]] std::string TableScript(const Engine& engine, const TableDef& table);
-// The index at that place of a table that stands; nothing happens where it is there.
-[[nodiscard]] std::string IndexScript(const Engine& engine, const TableDef& table, size_t place);
+// The index at that place of a table that stands; one that is there already is left alone where it may be there.
+[[nodiscard]] std::string IndexScript(const Engine& engine, const TableDef& table, size_t place,
+                                      bool mayStand);
 // All tables and indexes and what keeps the log of changes, as one script without transaction commands.
 [[nodiscard]] std::string CompanyTablesScript(const Engine& engine);
 

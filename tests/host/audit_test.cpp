@@ -47,7 +47,7 @@ TEST_P(Trail, KeepsADocumentsLife) {
     const std::string before = One("select fBefore from tJXC_Audit where fID=4");
     const std::string after = One("select fAfter from tJXC_Audit where fID=4");
     EXPECT_NE(before.find("\"lines\":[[0,1,\"总部仓\""), std::string::npos) << before;
-    EXPECT_NE(before.find(",3"), std::string::npos);
+    EXPECT_NE(before.find("\"fInvJE\":1800"), std::string::npos) << before;
     EXPECT_NE(after.find("\"fInvJE\":2400"), std::string::npos) << after;
     EXPECT_EQ(One("select fAfter from tJXC_Audit where fID=5"), "");
     EXPECT_NE(One("select fBefore from tJXC_Audit where fID=5").find("2400"), std::string::npos);
@@ -87,8 +87,7 @@ TEST_P(Trail, ShowsWhatWasTamperedWith) {
     EXPECT_EQ(Faults(), Lines{});
     Conn().BeginTrans();
     Do("Delete From tJXC_Audit" + of);
-    EXPECT_EQ(Faults(), (Lines{"操作日志：第 3 行至第 3 行缺失。",
-                               Faults().size() > 1 ? Faults()[1] : "操作日志：第 4 行"}));
+    EXPECT_EQ(Faults(), Lines{"操作日志：第 3 行至第 3 行缺失。"});
     const Lines found = CheckCompany();
     EXPECT_FALSE(found.empty());
     Conn().RollbackTrans();

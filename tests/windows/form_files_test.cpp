@@ -89,8 +89,8 @@ TEST(PlainForms, LeadFromFieldToFieldAndThenToTheCommands) {
          "txtSeek cmdSeek Grid1 txtCompCode txtCompName cboType0 txtName txtTelphone txtHomephone "
          "txtHandphone txtFax txtE_mail txtHttp txtPostcode txtCompAdd cmdSave cmdCancel cmdAdd "
          "cmdChange cmdDelete cmdQuit"},
-        {"frmHostUsers",
-         "Grid1 txtUserName chkSupervisor Grid2 cmdSave cmdCancel cmdAdd cmdChange cmdDelete cmdQuit"},
+        {"frmHostUsers", "Grid1 txtUserName chkSupervisor txtPassword chkNoPassword txtPassword2 Grid2 "
+                         "cmdSave cmdCancel cmdAdd cmdChange cmdDelete cmdQuit"},
         {"frmRs_RptSet", "txtName txtItemNo Command3 CmdOk CmdCancel"},
         {"frmBrief", "Grid1 cmdOk cmdAdd cmdDelete cmdUp cmdDown cmdRename cmdCancel"},
         {"frmCkKc",

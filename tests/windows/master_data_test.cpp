@@ -102,6 +102,7 @@ TEST_F(MasterData, AListCellOfTheTypesIsChosenByKeys) {
         EXPECT_EQ(s.Grid1.ShownText(7, 4), "3.代销商");
         person.ClickCell("Grid1", 7, 4);
         person.Press(Qt::Key_9);
+        person.Press(Qt::Key_Return); // leaves the list
         person.Press(Qt::Key_Return);
         EXPECT_EQ(s.Grid1.ShownText(7, 4), "3.代销商");
         EXPECT_EQ(person.Boxes().size(), 1U); // no such item
