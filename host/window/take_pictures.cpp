@@ -193,7 +193,9 @@ void Editors(PictureBook& book) {
                                      {"货币", "moneys"},
                                      {"内部资金帐户", "accounts"},
                                      {"公司资料", "company"},
-                                     {"用户与权限", "users"}}) {
+                                     {"用户与权限", "users"},
+                                     {"操作日志", "trail"},
+                                     {"修改密码", "password"}}) {
         book.Open(item, "打开");
         book.Take(name);
         script.Click("cmdQuit");
