@@ -1,6 +1,6 @@
 // The rows of the trail, and what each of them says.
 
-#include <nlohmann/json.hpp>
+#include <map>
 
 #include "controls/view.h"
 #include "database/recordset.h"
@@ -34,6 +34,76 @@ std::string SubjectOf(const Recordset& row) {
     return known == subjects.end() ? table : known->second;
 }
 
+// What people call the fields; one that is not here shows its own name.
+std::string WordOf(const std::string& field) {
+    static const std::map<std::string, std::string> words{{"fInvID", "内部号"},
+                                                          {"fInvNo", "单号"},
+                                                          {"fInvDate", "日期"},
+                                                          {"fInvType", "单据类型"},
+                                                          {"fInvHb", "货币"},
+                                                          {"fInvHbDl", "汇率"},
+                                                          {"fInvJE", "金额"},
+                                                          {"fInvMemo", "摘要"},
+                                                          {"fInvDLR", "登录人"},
+                                                          {"fInvJbr", "经办人"},
+                                                          {"fInvSHR", "审核人"},
+                                                          {"fHtNo", "订单号"},
+                                                          {"fKhID", "客户内部号"},
+                                                          {"fKhAdd", "送货地址"},
+                                                          {"fCkName", "仓库"},
+                                                          {"fCkName2", "仓库2"},
+                                                          {"fFlag", "停止"},
+                                                          {"fCpID", "产品内部号"},
+                                                          {"fCpCode", "编码"},
+                                                          {"fCpName", "品名"},
+                                                          {"fCpGG", "规格"},
+                                                          {"fCpUnit", "单位"},
+                                                          {"fCpBarCode", "参考码"},
+                                                          {"fCpPrice0", "成本价"},
+                                                          {"fCpPrice1", "批发价"},
+                                                          {"fCpPrice2", "代销价"},
+                                                          {"fCpPrice3", "零售价"},
+                                                          {"fCpSlMin", "库存下限"},
+                                                          {"fCpSlMax", "库存上限"},
+                                                          {"fCpCw", "限用仓位"},
+                                                          {"fCpZy", "产品类别"},
+                                                          {"fCpCd", "产品产地"},
+                                                          {"fKhName", "供应商"},
+                                                          {"fCpPicture", "产品图片"},
+                                                          {"fCpFlag", "停用"},
+                                                          {"fCkCode", "编号"},
+                                                          {"fCkMemo", "说明"},
+                                                          {"fCkType0", "总部仓库"},
+                                                          {"fCkType1", "零售仓库"},
+                                                          {"fCkType2", "代销仓库"},
+                                                          {"fCkType3", "生产仓库"},
+                                                          {"fCkFlag", "停用"},
+                                                          {"fTjCode", "模板编号"},
+                                                          {"fTjName", "模板名称"},
+                                                          {"fTjMemo", "说明"},
+                                                          {"fTjJe", "合计成本"},
+                                                          {"fUserName", "用户"},
+                                                          {"fPower", "权限"},
+                                                          {"fSupervisor", "负责人"},
+                                                          {"fPassword", "密码"},
+                                                          {"CompCode", "编号"},
+                                                          {"CompName", "公司名称"},
+                                                          {"MoneyCode", "货币"},
+                                                          {"MoneyRate", "汇率"},
+                                                          {"fSysDate", "本期年月"},
+                                                          {"fSysDay", "本期开始日"},
+                                                          {"fSysTaxWay", "计税方式"},
+                                                          {"fSysTaxRate", "税率"},
+                                                          {"fSysCostWay", "成本核算"},
+                                                          {"fSysDeciSl", "数量小数位"},
+                                                          {"fSysDeciDj", "单价小数位"},
+                                                          {"fSysMaxRow", "单据最大行"},
+                                                          {"fSetName", "单据类"},
+                                                          {"fSetAutoNo", "自动单号"}};
+    const auto known = words.find(field);
+    return known == words.end() ? field : known->second;
+}
+
 Json Fields(const std::string& text) {
     Json fields = text.empty() ? Json::object() : Json::parse(text, nullptr, false);
     return fields.is_object() ? fields : Json::object();
@@ -59,7 +129,7 @@ Json WithLinesApart(Json fields) {
 void AddField(Grid& grid, const std::string& field, const std::string& before, const std::string& after) {
     const int row = grid.RowCount() + 1;
     grid.SetRowCount(row);
-    grid.FillCell(row, 1, field);
+    grid.FillCell(row, 1, WordOf(field));
     grid.FillCell(row, 2, before);
     grid.FillCell(row, 3, after);
     if (before != after)

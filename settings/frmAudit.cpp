@@ -9,6 +9,7 @@ namespace jxc {
 
 frmAudit::frmAudit() : Screen("frmAudit"), list(Grid1, AuditColumns()), filters(AuditFilters(*this)) {
     title = "操作日志";
+    dtpDate.last.caption = "至";
     Grid1.onSelect = [this](int row) { ShowAuditRow(*this, row); };
     Grid1.onHeading = [this](int column) { GridSort(Grid1, column); };
     cmdQuery.onClick = [this] { QueryAudit(*this); };

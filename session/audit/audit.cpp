@@ -78,7 +78,7 @@ std::string SealOf(const std::string& before, const Recordset& row) {
 std::string JsonOf(const AuditedFields& fields) {
     Json json = Json::object();
     for (const auto& [name, value] : fields)
-        json[name] = EqualsNoCase(name, "fPassword") ? "***" : JsonValue(value);
+        json[name] = EqualsNoCase(name, "fPassword") && !value.AsText().empty() ? "***" : JsonValue(value);
     return JsonText(json);
 }
 

@@ -145,7 +145,7 @@ TEST_P(Trail, IsShownToTheSupervisor) {
         std::string shown;
         for (int row = 1; row <= s.Grid2.RowCount(); ++row)
             shown += s.Grid2.Text(row, 1) + "=" + s.Grid2.Text(row, 3) + ";";
-        EXPECT_NE(shown.find("fInvNo=20261105RK001;"), std::string::npos) << shown;
+        EXPECT_NE(shown.find("单号=20261105RK001;"), std::string::npos) << shown;
         EXPECT_NE(shown.find("第 1 行="), std::string::npos) << shown;
         EnterText(s, s.txtUser, "没有");
         Click(s, s.cmdQuery);
