@@ -9,6 +9,8 @@ namespace jxc {
 
 namespace {
 
+constexpr int kMostDecimals = 15; // that a number has
+
 bool IsBlank(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
@@ -183,7 +185,9 @@ double RoundDecimal(double number, int decimals, Halves halves) {
     return number < 0 ? -value : value;
 }
 
-std::string FormatFixed(double number, int decimals, bool thousands) {
+// Decimals may come from a table that anybody wrote.
+std::string FormatFixed(double number, int wanted, bool thousands) {
+    const int decimals = std::clamp(wanted, 0, kMostDecimals);
     const double rounded = RoundDecimal(number, decimals);
     char buffer[400];
     const auto [end, error] =

@@ -55,22 +55,6 @@ void AddColumn(Recordset& dictionary, const std::string& table, std::int64_t pla
     dictionary.Update();
 }
 
-// Columns that the dictionary does not have yet go behind those that it has.
-void CompleteDictionary(const std::string& table, const std::vector<Column>& shipped) {
-    Transaction transaction(Conn());
-    Recordset dictionary(Conn(), RowsOf(table), Access::Write);
-    std::set<std::string> known;
-    std::int64_t place = 0;
-    for (; !dictionary.AtEnd(); dictionary.MoveNext()) {
-        known.insert(LowerCase(dictionary["FieldName"].AsText()));
-        place = std::max(place, dictionary["fieldID"].AsLong());
-    }
-    for (const Column& column : shipped)
-        if (column.IsUsed() && !known.contains(LowerCase(column.field)))
-            AddColumn(dictionary, table, ++place, column);
-    transaction.Commit();
-}
-
 } // namespace
 
 std::string CaptionField() {
@@ -96,6 +80,8 @@ std::string SetupGridColumns(const std::string& table, Grid& grid, int firstColu
     std::vector<GridColumn> columns(static_cast<size_t>(firstColumn - 1));
     std::vector<std::string> fields;
     for (; !row.AtEnd(); row.MoveNext()) {
+        if (!Conn().HasColumn(table, row["FieldName"].AsText()))
+            continue; // a mistake in the dictionary shuts no screen
         columns.push_back(ColumnOf(row));
         fields.push_back(row["FieldName"].AsText());
     }
@@ -106,19 +92,39 @@ std::string SetupGridColumns(const std::string& table, Grid& grid, int firstColu
     return JoinedByCommas(fields);
 }
 
-void SaveGridColumnWidths(const std::string& table, const Grid& grid, int firstColumn) {
+void SaveGridColumnWidths(const std::string& table, const Grid& grid, int firstColumn,
+                          const std::string& fields) {
+    const std::vector<std::string> names = Split(fields, ',');
     Transaction transaction(Conn());
     Recordset row(Conn(),
                   "select * from rptListDetail Where fTable=" + InQuotes(table) +
                       " And FieldSelected=1 Order by fieldID",
                   Access::Write);
-    // The last column is the key's; another user may have chosen more columns meanwhile.
-    for (int column = firstColumn; !row.AtEnd() && column < grid.ColumnCount(); ++column, row.MoveNext()) {
-        row.Set("FieldGridWidth", grid.Column(column).width);
+    for (; !row.AtEnd(); row.MoveNext()) {
+        const auto place = std::ranges::find_if(
+            names, [&](const std::string& name) { return EqualsNoCase(name, row["FieldName"].AsText()); });
+        if (place == names.end())
+            continue; // another user has chosen it meanwhile
+        row.Set("FieldGridWidth", grid.Column(firstColumn + static_cast<int>(place - names.begin())).width);
         row.Update();
     }
     transaction.Commit();
     Inform(grid.screen.title, "栏目样式保存完毕！");
+}
+
+void CompleteDictionary(const std::string& table, const std::vector<Column>& shipped) {
+    Transaction transaction(Conn());
+    Recordset dictionary(Conn(), RowsOf(table), Access::Write);
+    std::set<std::string> known;
+    std::int64_t place = 0;
+    for (; !dictionary.AtEnd(); dictionary.MoveNext()) {
+        known.insert(LowerCase(dictionary["FieldName"].AsText()));
+        place = std::max(place, dictionary["fieldID"].AsLong());
+    }
+    for (const Column& column : shipped)
+        if (column.IsUsed() && !known.contains(LowerCase(column.field)))
+            AddColumn(dictionary, table, ++place, column);
+    transaction.Commit();
 }
 
 std::vector<Column> CompanysColumns(const std::string& table, std::vector<Column> shipped) {

@@ -30,8 +30,11 @@ std::string CaptionField();
 // a hidden one for the row's key, which the caller fills. The grid is emptied and locked. The result is the
 // columns' fields, "a,b,c"; "" when none is selected.
 std::string SetupGridColumns(const std::string& table, Grid& grid, int firstColumn);
-// Keeps the widths of the columns that SetupGridColumns made, for all users, and says so.
-void SaveGridColumnWidths(const std::string& table, const Grid& grid, int firstColumn);
+// Keeps the widths of the columns that SetupGridColumns made, for all users, and says so. `fields` is what it gave.
+void SaveGridColumnWidths(const std::string& table, const Grid& grid, int firstColumn,
+                          const std::string& fields);
+// Adds the columns that the dictionary does not have yet behind those that it has. Opens a transaction.
+void CompleteDictionary(const std::string& table, const std::vector<Column>& shipped);
 
 // A screen's columns as the company wants them: first those that its dictionary has, in its order and under its
 // captions, then the others; keys stay last.

@@ -19,6 +19,7 @@ namespace {
 void TakeProperties(frmCp& s) {
     s.picking = !s.CpCode.empty() || !s.CpName.empty() || !s.CpBarCode.empty();
     s.noEdit = s.CpNoEdit == 1;
+    s.CpSelect = 0;
     s.chkCpCode2.value = !s.CpCode.empty();
     s.txtCpCode2.text = s.CpCode;
     s.chkCpName2.value = s.CpCode.empty() && !s.CpName.empty();
@@ -39,23 +40,30 @@ void ShapeByCaller(frmCp& s) {
         command->visible = !s.noEdit;
 }
 
+void Select(frmCp& s) {
+    s.CpSelect = 1;
+    s.Close();
+}
+
 void TakeRow(frmCp& s) {
     if (s.picking)
-        return s.Close();
+        return Select(s);
     s.SSTab1.index = frmCp::kDetail;
 }
 
 void ShowRow(frmCp& s, int row) {
     const Value key = s.Grid1.Cell(row, s.Grid1.ColumnCount());
-    ShowProduct(s, "", static_cast<std::int32_t>(key.AsLong()));
+    ShowProduct(s, static_cast<std::int32_t>(key.AsLong()));
 }
 
-void RefreshSuppliers(const frmCp& s) {
+void RefreshSuppliers(frmCp& s) {
     LoadPeriodSettings(); // another user may have closed the month
     if (!session.PeriodStart)
         return Warn(s.title, "系统参数尚未设置，请先进行 [系统参数设置] ！");
-    if (RefreshSupplierAll(*session.PeriodStart))
-        Inform(s.title, "供应商刷新完毕！");
+    if (!RefreshSupplierAll(*session.PeriodStart))
+        return;
+    ShowProduct(s, session.SelectedProductID); // it may have another supplier now
+    Inform(s.title, "供应商刷新完毕！");
 }
 
 void Quit(frmCp& s) {
@@ -71,6 +79,7 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     AddTextProperty("CpName", CpName);
     AddTextProperty("CpBarCode", CpBarCode);
     AddNumberProperty("CpNoEdit", CpNoEdit);
+    AddNumberProperty("CpSelect", CpSelect);
     WireProductFields(*this);
     SuggestProductsIn(txtCpCode2, ProductPart::Code, false);
     SuggestProductsIn(txtCpName2, ProductPart::Name, false);
@@ -94,7 +103,7 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     cmdSave.onClick = [this] { SaveProduct(*this); };
     cmdCancel.onClick = [this] { LeaveProductMode(*this); };
     cmdCancel.dropsWork = true;
-    cmdSelect.onClick = [this] { Close(); };
+    cmdSelect.onClick = [this] { Select(*this); };
     cmdQuit.onClick = [this] { Quit(*this); };
     cmdSupplier.onClick = [this] { RefreshSuppliers(*this); };
     cmdStock.onClick = [] {
@@ -104,16 +113,16 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     };
     cmdPrint.onClick = [this] { PrintGrid(Grid1, "", "", ""); };
     cmdColumns.onClick = [this] { ChooseProductColumns(*this); };
-    cmdColumnSave.onClick = [this] { SaveGridColumnWidths("tJXC_Cp", Grid1, 1); };
+    cmdColumnSave.onClick = [this] { SaveGridColumnWidths("tJXC_Cp", Grid1, 1, columns); };
 }
 
 void frmCp::Open() {
+    ResetQuery(*this);
+    TakeProperties(*this);
     LoadPeriodSettings();
     SSTab1.index = kList;
     TakeCaptions(*this);
     OfferProductLists(*this);
-    ResetQuery(*this);
-    TakeProperties(*this);
     SetUpProductColumns(*this);
     EndProductMode(*this);
     ShapeByCaller(*this);

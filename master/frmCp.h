@@ -124,13 +124,16 @@ struct frmCp : Screen {
     // to take away what changes products. The product shown, and picked, is session.SelectedProductID.
     std::string CpCode, CpName, CpBarCode;
     std::uint8_t CpNoEdit = 0;
+    // Left behind: 1 when a product was selected; a screen left in another way has picked nothing.
+    std::uint8_t CpSelect = 0;
 
     ProductMode mode = ProductMode::Browse;
     bool picking = false;
     bool noEdit = false;
-    std::string columns;          // the fields of the list's columns, "a,b,c"
-    std::string oldCode, oldName; // of the product shown
-    std::string asBegun;          // what stood in the fields when the mode began
+    std::string columns;                                // the fields of the list's columns, "a,b,c"
+    std::string oldCode, oldName;                       // of the product shown
+    std::vector<std::pair<std::string, Value>> asShown; // what its fields held then
+    std::string asBegun;                                // what stood in the fields when the mode began
     Filters filters;
 
     bool IsTyping() const { return mode == ProductMode::Add || mode == ProductMode::Change; }
@@ -150,8 +153,10 @@ std::vector<Filter> ProductFilters(frmCp& s);
 // The captions that the company's dictionary has, one waiting for a server in all.
 void TakeCaptions(frmCp& s);
 void OfferProductLists(frmCp& s);
-// By the code, or by the id when it is empty; without such a product the fields are empty.
-void ShowProduct(frmCp& s, const std::string& code, std::int32_t id);
+// Without such a product the fields are empty, and none is in hand.
+void ShowProduct(frmCp& s, std::int32_t id);
+// What the fields hold, by the product's fields in the order in which they are written.
+std::vector<std::pair<std::string, Value>> ProductValues(const frmCp& s);
 void ClearProduct(frmCp& s);
 void ShowPicture(frmCp& s);
 // What happens when fields are left: figures take their form, limits follow each other, a new unit joins its list.

@@ -7,6 +7,7 @@
 #include "forms/edit_filter.h"
 #include "master/frmCp.h"
 #include "master/product_picture.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/lookups/find_by_text.h"
 #include "session/lookups/lists.h"
@@ -29,7 +30,8 @@ std::vector<FieldLabel*> Labels(frmCp& s) {
 }
 
 void TakeCaption(Control& control, const std::string& field) {
-    if (const std::string caption = GetFieldCaption("tJXC_Cp", field); caption != kNoCaption)
+    if (const std::string caption = GetFieldCaption("tJXC_Cp", field);
+        caption != kNoCaption && !Trim(caption).empty())
         control.caption = caption;
 }
 
@@ -114,8 +116,11 @@ void WireCodeList(frmCp& s, FieldLabel& label, CodeListField& field) {
     label.onRightClick = [&s, &label, &field] {
         if (!s.IsTyping() || !SetControlCaption(label, "tJXC_Cp"))
             return;
+        Transaction transaction(Conn());
+        WriteAudit({"改名", "Brief", field.codeList, label.caption, "", ""});
         Conn().Execute("Update brief Set BriefTypeName=" + InQuotes(label.caption) + " Where " +
                        LowerCaseOf("BriefType") + " = " + InQuotes(LowerCase(field.codeList)));
+        transaction.Commit();
         NameQuery(s);
     };
     field.onKeyPress = [&field](int& keyCode) { EditKeyFilter(field, keyCode, kListBytes, false); };
@@ -143,12 +148,12 @@ void OfferProductLists(frmCp& s) {
         field->Offer();
 }
 
-void ShowProduct(frmCp& s, const std::string& code, std::int32_t id) {
-    const Recordset row(Conn(),
-                        "select * from tJXC_Cp " + (code.empty() ? " where fCpID = " + std::to_string(id)
-                                                                 : " where fCpCode = " + InQuotes(code)));
-    if (row.AtEnd())
+void ShowProduct(frmCp& s, std::int32_t id) {
+    const Recordset row(Conn(), "select * from tJXC_Cp  where fCpID = " + std::to_string(id));
+    if (row.AtEnd()) {
+        session.SelectedProductID = 0; // what is gone is neither picked nor changed
         return ClearProduct(s);
+    }
     session.SelectedProductID = static_cast<std::int32_t>(row["fCpID"].AsLong());
     ShowTexts(s, row);
     for (size_t price = 0; price < std::size(s.txtCpPrice); ++price)
@@ -159,7 +164,29 @@ void ShowProduct(frmCp& s, const std::string& code, std::int32_t id) {
     s.chkCpFlag.value = row["fCpFlag"].AsLong() == 1;
     s.oldCode = s.txtCpCode.text;
     s.oldName = s.txtCpName.text;
+    s.asShown = ProductValues(s);
     ShowPicture(s);
+}
+
+std::vector<std::pair<std::string, Value>> ProductValues(const frmCp& s) {
+    std::vector<std::pair<std::string, Value>> values{{"fCpCode", s.txtCpCode.text},
+                                                      {"fCpName", s.txtCpName.text},
+                                                      {"fCpGG", s.txtCpGG.text},
+                                                      {"fCpUnit", s.cboCpUnit.text},
+                                                      {"fCpBarCode", s.txtCpBarCode.text}};
+    for (size_t price = 0; price < std::size(s.txtCpPrice); ++price)
+        values.emplace_back("fCpPrice" + std::to_string(price), Val(s.txtCpPrice[price].text));
+    values.insert(values.end(), {{"fCpSlMin", Val(s.txtCpSlMin.text)},
+                                 {"fCpSlMax", Val(s.txtCpSlMax.text)},
+                                 {"fCkName", s.cboCkName.text},
+                                 {"fCpCw", s.cboCpCw.text},
+                                 {"fCpZy", s.cboCpZy.text},
+                                 {"fCpCd", s.cboCpCd.text},
+                                 {"fKhName", s.cboKh.CompanyName()},
+                                 {"fKhID", s.cboKh.Id()},
+                                 {"fCpPicture", s.txtCpPicture.text},
+                                 {"fCpFlag", s.chkCpFlag.value ? 1 : 0}});
+    return values;
 }
 
 void ClearProduct(frmCp& s) {

@@ -5,6 +5,7 @@
 #include "database/recordset.h"
 #include "forms/column_dictionary.h"
 #include "master/frmCp.h"
+#include "session/lookups/find_by_text.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -27,6 +28,31 @@ std::string ListStatement(const frmCp& s, const std::string& where) {
            (where.empty() ? "" : " Where " + where) + " order by fCpCode";
 }
 
+// What tells products apart, where the company's dictionary has nothing.
+std::vector<Column> ShippedColumns() {
+    using enum Figure;
+    return {{"编码", "fCpCode", 10},
+            {"品名", "fCpName", 22},
+            {"规格", "fCpGG", 20},
+            {"单位", "fCpUnit", 6},
+            {"参考码", "fCpBarCode", 15},
+            {"零售价", "fCpPrice3", 10, Price},
+            {"停用（Ｘ）", "fCpFlag", 9, Tick}};
+}
+
+// Two parts with a comma between are looked for each, as they are where a product is typed.
+Filter NameFilter(frmCp& s) {
+    Filter filter(s.chkCpName2, s.txtCpName2, "");
+    filter.condition = [&s] {
+        std::string test;
+        for (const std::string& part :
+             s.chkCpName2.value ? NameParts(s.txtCpName2.text) : std::vector<std::string>{})
+            test += (test.empty() ? "" : " And ") + NameOrSpecTest(part);
+        return test;
+    };
+    return filter;
+}
+
 void ShowPlace(frmCp& s) {
     Grid& grid = s.Grid1;
     grid.selectedRow = 0;
@@ -38,12 +64,17 @@ void ShowPlace(frmCp& s) {
     const int found = shown == 0 ? 0 : RowOfKey(grid, shown);
     grid.selectedRow = found > 0 ? found : 1;
     const Value key = grid.Cell(grid.selectedRow, grid.ColumnCount());
-    ShowProduct(s, "", static_cast<std::int32_t>(key.AsLong()));
+    ShowProduct(s, static_cast<std::int32_t>(key.AsLong()));
 }
 
 } // namespace
 
+// A dictionary that shows nothing would leave no way to its own settings: it is completed then.
 void SetUpProductColumns(frmCp& s) {
+    s.columns = SetupGridColumns("tJXC_Cp", s.Grid1, 1);
+    if (!s.columns.empty())
+        return;
+    CompleteDictionary("tJXC_Cp", ShippedColumns());
     s.columns = SetupGridColumns("tJXC_Cp", s.Grid1, 1);
 }
 
@@ -86,7 +117,7 @@ void ChooseProductColumns(frmCp& s) {
 
 std::vector<Filter> ProductFilters(frmCp& s) {
     std::vector<Filter> filters{{s.chkCpCode2, s.txtCpCode2, "fCpCode Like {like}"},
-                                {s.chkCpName2, s.txtCpName2, "(fCpName Like {like} Or fCpGG Like {like})"},
+                                NameFilter(s),
                                 {s.chkCpBarCode2, s.txtCpBarCode2, "fCpBarCode Like {like}"},
                                 {s.chkCpCk2, s.txtCpck2, "fCkName Like {like}"},
                                 {s.chkCpCw2, s.txtCpCw2, "fCpCw Like {like}"},

@@ -29,10 +29,6 @@ std::string InHand() {
     return "fCpID=" + std::to_string(session.SelectedProductID);
 }
 
-bool IsTaken(const std::string& field, const std::string& text) {
-    return HasRows("tJXC_Cp", field + " = " + InQuotes(text));
-}
-
 MayRefuse RefuseTexts(frmCp& s) {
     const auto holds = [](const TextBox& box) { return box.text.find('\'') != std::string::npos; };
     return FirstRefusal(
@@ -42,8 +38,11 @@ MayRefuse RefuseTexts(frmCp& s) {
          {[&] { return holds(s.txtCpName); }, Named(s.lblCpName) + "不可含有引号!", &s.txtCpName}});
 }
 
+// One's own code is no other's, in whatever case it is written.
 MayRefuse RefuseCode(frmCp& s) {
-    if (!IsTaken("fCpCode", s.txtCpCode.text))
+    const std::string others =
+        s.mode == ProductMode::Change ? " And fCpID<>" + std::to_string(session.SelectedProductID) : "";
+    if (!HasRows("tJXC_Cp", "fCpCode = " + InQuotes(s.txtCpCode.text) + others))
         return std::nullopt;
     return Refusal{Named(s.lblCpCode) + "重复 !", &s.txtCpCode};
 }
@@ -59,28 +58,17 @@ bool Tell(frmCp& s, const MayRefuse& refusal) {
 
 // Two products may share a name, if the person says so.
 bool MayShareName(frmCp& s) {
-    return !IsTaken("fCpName", s.txtCpName.text) ||
+    return !HasRows("tJXC_Cp", "fCpName = " + InQuotes(s.txtCpName.text)) ||
            AskYesNo(s.title, Named(s.lblCpName) + "已有存在，继续 ?");
 }
 
-void WriteFields(frmCp& s, Recordset& row) {
-    row.Set("fCpCode", s.txtCpCode.text);
-    row.Set("fCpName", s.txtCpName.text);
-    row.Set("fCpGG", s.txtCpGG.text);
-    row.Set("fCpUnit", s.cboCpUnit.text);
-    row.Set("fCpBarCode", s.txtCpBarCode.text);
-    for (size_t price = 0; price < std::size(s.txtCpPrice); ++price)
-        row.Set("fCpPrice" + std::to_string(price), Val(s.txtCpPrice[price].text));
-    row.Set("fCpSlMin", Val(s.txtCpSlMin.text));
-    row.Set("fCpSlMax", Val(s.txtCpSlMax.text));
-    row.Set("fCkName", s.cboCkName.text);
-    row.Set("fCpCw", s.cboCpCw.text);
-    row.Set("fCpZy", s.cboCpZy.text);
-    row.Set("fCpCd", s.cboCpCd.text);
-    row.Set("fKhName", s.cboKh.CompanyName());
-    row.Set("fKhID", s.cboKh.Id());
-    row.Set("fCpPicture", s.txtCpPicture.text);
-    row.Set("fCpFlag", s.chkCpFlag.value ? 1 : 0);
+// Of a product that is changed only what the person changed: what approvals and other users wrote meanwhile stays, and so
+// do decimals that the fields do not show.
+void WriteFields(const frmCp& s, Recordset& row) {
+    const auto values = ProductValues(s);
+    for (size_t field = 0; field < values.size(); ++field)
+        if (s.mode == ProductMode::Add || values[field] != s.asShown.at(field))
+            row.Set(values[field].first, values[field].second);
 }
 
 // Nothing is asked while it is open: another user may have taken the code since the person was asked.
@@ -112,16 +100,20 @@ void Add(frmCp& s) {
     s.MoveFocus(&s.txtCpCode);
 }
 
+// Told beside the work: there is nothing to answer, and nothing was done.
+MayRefuse Gone() {
+    CurrentView().Signal("该产品已被其他用户删除，没有存盘。");
+    return std::nullopt;
+}
+
 MayRefuse StoreChanged(frmCp& s) {
     Transaction transaction(Conn());
     if (s.txtCpCode.text != s.oldCode)
         if (MayRefuse refusal = RefuseCode(s))
             return refusal;
     Recordset row(Conn(), "select * from tJXC_Cp where " + InHand(), Access::Write);
-    if (row.AtEnd()) {
-        CurrentView().Signal("该产品已被其他用户删除，没有存盘。");
-        return std::nullopt;
-    }
+    if (row.AtEnd())
+        return Gone();
     const std::string before = JsonOf(row);
     WriteFields(s, row);
     WriteAudit({"修改", "tJXC_Cp", row["fCpID"].AsText(), s.txtCpCode.text, before, JsonOf(row)});
@@ -157,30 +149,34 @@ constexpr ProductUse kUses[] = {
 std::string WhyInUse(const frmCp& s) {
     for (const ProductUse& use : kUses)
         if (HasRows(use.table, std::string(use.field) + "=" + std::to_string(session.SelectedProductID)))
-            return "[" + s.txtCpName.text + use.text;
+            return "[" + s.oldName + use.text;
+    return "";
+}
+
+// Why it stays after all: a document may have been saved while the person was asked.
+std::string DeleteRow(const frmCp& s) {
+    Transaction transaction(Conn());
+    const Recordset row(Conn(), "select * from tJXC_Cp where " + InHand());
+    if (row.AtEnd())
+        return "[" + s.oldName + "]：该产品已被其他用户删除。";
+    if (std::string use = WhyInUse(s); !use.empty())
+        return use;
+    WriteAudit({"删除", "tJXC_Cp", std::to_string(session.SelectedProductID), s.oldCode, JsonOf(row), ""});
+    Conn().Execute("Delete From tJXC_Cp Where fCpID = " + std::to_string(session.SelectedProductID));
+    transaction.Commit();
     return "";
 }
 
 void Delete(frmCp& s) {
     if (session.SelectedProductID == 0 || !AskOkCancel(s.title, GetResStr(kMsgDangerousDelete)))
         return;
-    std::string use = WhyInUse(s);
-    const std::string name = "[" + s.txtCpName.text + "]";
-    if (use.empty()) {
-        if (!AskOkCancel(s.title, "确定删除 " + name + " ?"))
-            return;
-        Transaction transaction(Conn());
-        use = WhyInUse(s); // a document may have been saved while the person was asked
-        if (use.empty()) {
-            const Recordset row(Conn(), "select * from tJXC_Cp where " + InHand());
-            WriteAudit({"删除", "tJXC_Cp", std::to_string(session.SelectedProductID), s.txtCpCode.text,
-                        JsonOf(row), ""});
-            Conn().Execute("Delete From tJXC_Cp Where fCpID = " + std::to_string(session.SelectedProductID));
-            transaction.Commit();
-        }
-    }
-    if (!use.empty())
+    const std::string name = "[" + s.oldName + "]";
+    if (const std::string use = WhyInUse(s); !use.empty())
         return Inform(s.title, use);
+    if (!AskOkCancel(s.title, "确定删除 " + name + " ?"))
+        return;
+    if (const std::string kept = DeleteRow(s); !kept.empty())
+        return Inform(s.title, kept);
     Inform(s.title, name + " 删除完毕!");
     session.SelectedProductID = 0;
     ClearProduct(s);
@@ -203,6 +199,11 @@ void SetMode(frmCp& s, ProductMode mode) {
 } // namespace
 
 void BeginProductMode(frmCp& s, ProductMode mode) {
+    if (mode != ProductMode::Add) {
+        ShowProduct(s, session.SelectedProductID); // as it is now
+        if (session.SelectedProductID == 0)
+            return Inform(s.title, "请先选定一个产品！");
+    }
     SetMode(s, mode);
     s.SSTab1.index = frmCp::kDetail;
     if (mode == ProductMode::Add)
@@ -226,6 +227,8 @@ void LeaveProductMode(frmCp& s) {
 }
 
 void SaveProduct(frmCp& s) {
+    for (TextBox* box : {&s.txtCpCode, &s.txtCpName})
+        box->text = Trim(box->text); // with a blank a code would be another
     if (Tell(s, RefuseTexts(s)))
         return;
     switch (s.mode) {

@@ -28,8 +28,8 @@ void SetLatestSuppliers() {
         if (product == done)
             continue;
         done = product;
-        Conn().Execute("UPDATE tJXC_Cp SET fKhID=" + row["fKhID"].AsText() + ",fKhName=" +
-                       InQuotes(row["compname"].AsText()) + " Where fCpID=" + row["fCpID"].AsText());
+        Conn().Execute("UPDATE tJXC_Cp SET fKhID=" + std::to_string(row["fKhID"].AsLong()) + ",fKhName=" +
+                       InQuotes(row["compname"].AsText()) + " Where fCpID=" + std::to_string(product));
     }
 }
 

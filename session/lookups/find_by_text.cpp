@@ -22,22 +22,6 @@ const std::string kProducts =
     " from tJXC_Cp "
     " Where fCpFlag<>1";
 
-std::string NameOrSpecClause(const std::string& typed) {
-    const std::string pattern = InQuotes(LikePattern(typed));
-    return " And (fCpName like " + pattern + " Or fCpGG like " + pattern + ")";
-}
-
-// The parts of a name typed with a comma of either form between; one part without a comma.
-std::vector<std::string> NameParts(const std::string& typed) {
-    std::string plain = typed;
-    const std::string wide = "，";
-    for (size_t at = plain.find(wide); at != std::string::npos; at = plain.find(wide))
-        plain.replace(at, wide.size(), ",");
-    std::vector<std::string> parts = Split(plain, ',');
-    parts.resize(std::min<size_t>(parts.size(), 2));
-    return parts;
-}
-
 // Lets the user pick among several hits; the statement of the product picked, nothing when none was.
 std::optional<std::string> PickProduct(const std::string& code, const std::string& name,
                                        const std::string& barCode = "") {
@@ -48,7 +32,8 @@ std::optional<std::string> PickProduct(const std::string& code, const std::strin
     picker.SetProperty("CpBarCode", barCode);
     picker.SetProperty("CpNoEdit", 1);
     ShowModal(picker);
-    if (session.SelectedProductID == 0)
+    const bool selected = !picker.HasProperty("CpSelect") || picker.GetProperty("CpSelect").AsLong() != 0;
+    if (session.SelectedProductID == 0 || !selected)
         return std::nullopt;
     return kProducts + " And fCpID = " + std::to_string(session.SelectedProductID) + " Order By fCpCode";
 }
@@ -98,7 +83,7 @@ std::optional<std::string> StatementByCode(const std::string& code, const ByCode
 std::optional<std::string> StatementByName(const std::string& name) {
     std::string statement = kProducts;
     for (const std::string& part : NameParts(name))
-        statement += NameOrSpecClause(part);
+        statement += " And " + NameOrSpecTest(part);
     statement += " Order By fCpCode";
     const size_t hits = Recordset(Conn(), statement).RecordCount();
     if (hits == 0)
@@ -107,6 +92,21 @@ std::optional<std::string> StatementByName(const std::string& name) {
 }
 
 } // namespace
+
+std::string NameOrSpecTest(const std::string& typed) {
+    const std::string pattern = InQuotes(LikePattern(typed));
+    return "(fCpName like " + pattern + " Or fCpGG like " + pattern + ")";
+}
+
+std::vector<std::string> NameParts(const std::string& typed) {
+    std::string plain = typed;
+    const std::string wide = "，";
+    for (size_t at = plain.find(wide); at != std::string::npos; at = plain.find(wide))
+        plain.replace(at, wide.size(), ",");
+    std::vector<std::string> parts = Split(plain, ',');
+    parts.resize(std::min<size_t>(parts.size(), 2));
+    return parts;
+}
 
 std::string PickProductCode(const std::string& typed, bool byName) {
     const bool asked = !typed.empty() && typed.find('\'') == std::string::npos; // no product's text has one

@@ -38,6 +38,11 @@ std::string PickProductCode(const std::string& typed, bool byName);
 [[nodiscard]] std::vector<Connection::Expected> ProductStatements(const std::string& code,
                                                                   const std::string& warehouse);
 
+// The parts of a name typed with a comma of either form between; one part without a comma. And the test of a product's
+// name or specification by one of them.
+[[nodiscard]] std::vector<std::string> NameParts(const std::string& typed);
+[[nodiscard]] std::string NameOrSpecTest(const std::string& typed);
+
 // A product as lines show it: specification and name.
 std::string NameAndSpec(const std::string& name, const std::string& spec);
 

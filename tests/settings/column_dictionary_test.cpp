@@ -96,7 +96,7 @@ TEST_P(Dictionary, KeepsTheWidthsOfColumns) {
     ASSERT_TRUE(fields.starts_with("fCpCode,fCpName,"));
     caller.Grid1.Column(2).width = 17;
     caller.Grid1.Column(3).width = 23.5;
-    SaveGridColumnWidths("tJXC_Cp", caller.Grid1, 2);
+    SaveGridColumnWidths("tJXC_Cp", caller.Grid1, 2, fields);
     EXPECT_EQ(clerk->view.boxes.back().title, "产品管理");
     EXPECT_EQ(clerk->view.boxes.back().text, "栏目样式保存完毕！");
     SetupGridColumns("tJXC_Cp", caller.Grid1, 1);
