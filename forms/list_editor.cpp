@@ -81,6 +81,22 @@ MayRefuse RefuseUsedKey(const ListEditor& s) {
     return Refusal{"[" + s.key.AsText() + "] 已经用于“" + name + "”，不可改名！"};
 }
 
+// One row alone has it.
+void TakeMarkFromOthers(const ListEditor& s) {
+    const std::string& table = s.table.name;
+    const std::string& field = s.mark->field;
+    Recordset other(Conn(), "select * from " + table + " Where " + field + "=1", Access::Write);
+    for (; !other.AtEnd(); other.MoveNext()) {
+        if (other[s.table.key] == s.key)
+            continue; // its own row is written whole
+        const std::string before = JsonOf(other);
+        other.Set(field, 0);
+        const std::string key = other[s.table.key].AsText();
+        WriteAudit({"修改", table, key, key, before, JsonOf(other)});
+        other.Update();
+    }
+}
+
 } // namespace
 
 ListEditor::ListEditor(std::string name, std::string title, EditedTable table)
@@ -160,12 +176,12 @@ void ListEditor::Store() {
         Conn().Execute("Delete From " + table.name + " Where " + table.key + "=" + Literal(key));
         return;
     }
+    const bool adds = mode == EditorMode::Add;
+    const std::string before = adds ? "" : JsonOf(RowInHand(*this, Access::Read));
     const bool marked = mark && (mark->value || CountOf(table.name) == "0");
     if (marked)
-        Conn().Execute("Update " + table.name + " Set " + mark->field + "=0 Where " + mark->field + "=1");
+        TakeMarkFromOthers(*this);
     Recordset row = RowInHand(*this, Access::Write);
-    const bool adds = mode == EditorMode::Add;
-    const std::string before = adds ? "" : JsonOf(row);
     if (adds)
         row.AddNew();
     WriteFields(*this, row);

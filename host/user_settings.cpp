@@ -43,12 +43,14 @@ void EnterFirstUser() {
 
 UserRights UserSettings(const std::string& user) {
     if (NoUsers())
-        return {true, AllRights(), user};
+        return {true, user, AllRights(), user};
     UserRights rights;
     const Recordset row(Conn(), "select * from tHostUser where fUserName=" + InQuotes(user));
     rights.known = !row.AtEnd();
-    if (rights.known)
+    if (rights.known) {
+        rights.user = row["fUserName"].AsText();
         rights.myPower = row["fPower"].AsText();
+    }
     const Recordset supervisor(Conn(), "select fUserName from tHostUser where fSupervisor=1");
     if (!supervisor.AtEnd())
         rights.ZgName = supervisor["fUserName"].AsText();

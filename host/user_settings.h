@@ -25,6 +25,7 @@ void EnterFirstUser();
 
 struct UserRights {
     bool known = false; // false: the company has users, and this is none of them
+    std::string user;   // as the company writes him
     std::string myPower = "0000";
     std::string ZgName; // the supervisor
 };

@@ -19,7 +19,6 @@ namespace {
 void TakeProperties(frmCp& s) {
     s.picking = !s.CpCode.empty() || !s.CpName.empty() || !s.CpBarCode.empty();
     s.noEdit = s.CpNoEdit == 1;
-    s.CpSelect = 0;
     s.chkCpCode2.value = !s.CpCode.empty();
     s.txtCpCode2.text = s.CpCode;
     s.chkCpName2.value = s.CpCode.empty() && !s.CpName.empty();
@@ -40,14 +39,9 @@ void ShapeByCaller(frmCp& s) {
         command->visible = !s.noEdit;
 }
 
-void Select(frmCp& s) {
-    s.CpSelect = 1;
-    s.Close();
-}
-
 void TakeRow(frmCp& s) {
     if (s.picking)
-        return Select(s);
+        return s.Close();
     s.SSTab1.index = frmCp::kDetail;
 }
 
@@ -79,7 +73,6 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     AddTextProperty("CpName", CpName);
     AddTextProperty("CpBarCode", CpBarCode);
     AddNumberProperty("CpNoEdit", CpNoEdit);
-    AddNumberProperty("CpSelect", CpSelect);
     WireProductFields(*this);
     SuggestProductsIn(txtCpCode2, ProductPart::Code, false);
     SuggestProductsIn(txtCpName2, ProductPart::Name, false);
@@ -103,7 +96,7 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     cmdSave.onClick = [this] { SaveProduct(*this); };
     cmdCancel.onClick = [this] { LeaveProductMode(*this); };
     cmdCancel.dropsWork = true;
-    cmdSelect.onClick = [this] { Select(*this); };
+    cmdSelect.onClick = [this] { Close(); };
     cmdQuit.onClick = [this] { Quit(*this); };
     cmdSupplier.onClick = [this] { RefreshSuppliers(*this); };
     cmdStock.onClick = [] {

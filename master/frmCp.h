@@ -124,8 +124,6 @@ struct frmCp : Screen {
     // to take away what changes products. The product shown, and picked, is session.SelectedProductID.
     std::string CpCode, CpName, CpBarCode;
     std::uint8_t CpNoEdit = 0;
-    // Left behind: 1 when a product was selected; a screen left in another way has picked nothing.
-    std::uint8_t CpSelect = 0;
 
     ProductMode mode = ProductMode::Browse;
     bool picking = false;

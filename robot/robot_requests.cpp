@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "controls/gestures.h"
+#include "controls/leave.h"
 
 namespace jxc {
 
@@ -257,7 +258,7 @@ const std::map<std::string, Gesture>& Gestures() {
         {"drop", DropOnNode},
         {"take", TakeOneSuggested},
         {"pick", PickForField},
-        {"close", [](Screen& screen, const json&) { screen.Close(); }},
+        {"close", [](Screen& screen, const json&) { Leave(screen); }},
     };
     return gestures;
 }

@@ -19,7 +19,7 @@ frmAudit::frmAudit() : Screen("frmAudit"), list(Grid1, AuditColumns()), filters(
 }
 
 void frmAudit::Open() {
-    if (!session.ZgName.empty() && !EqualsNoCase(session.ZgName, session.UserName))
+    if (session.UserName.empty() || !EqualsNoCase(session.ZgName, session.UserName))
         throw ScreenError("必须系统[负责人]才能够查看操作日志！");
     for (CheckBox* box : {&chkUser, &chkAction, &chkName, &chkDate})
         box->value = false;

@@ -46,7 +46,10 @@ void Confirm(frmRs_RptSet& s) {
         return;
     Transaction transaction(Conn());
     const AuditedFields after{{CaptionField(), s.txtName.text}, {"FieldBriefType", s.txtItemNo.text}};
-    WriteAudit({"修改", "rptListDetail", s.TabelName, s.Field, "", JsonOf(after)});
+    const Recordset before(Conn(), "Select " + CaptionField() +
+                                       ",FieldBriefType from rptListDetail where ftable=" +
+                                       InQuotes(s.TabelName) + " and FieldName=" + InQuotes(s.Field));
+    WriteAudit({"修改", "rptListDetail", s.TabelName, s.Field, JsonOf(before), JsonOf(after)});
     Conn().Execute("UpDate rptListDetail Set " + CaptionField() + "=" + InQuotes(s.txtName.text) +
                    ",FieldBriefType=" + InQuotes(s.txtItemNo.text) +
                    " where ftable=" + InQuotes(s.TabelName) + " and FieldName=" + InQuotes(s.Field));

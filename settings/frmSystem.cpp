@@ -2,7 +2,6 @@
 
 #include "controls/gestures.h"
 #include "forms/edit_filter.h"
-#include "forms/record_editor.h"
 
 namespace jxc {
 
@@ -24,10 +23,8 @@ void ShowPage(frmSystem& s) {
 
 void Confirm(frmSystem& s) {
     const bool saved = s.SSTab1.index == frmSystem::kTypes ? SaveTypeGrid(s) : SaveParameters(s);
-    if (!saved)
-        return;
-    s.cmdConfirm.enabled = false;
-    s.asLoaded = TypedWork(s);
+    if (saved)
+        s.cmdConfirm.enabled = false;
 }
 
 } // namespace
@@ -82,7 +79,6 @@ void frmSystem::Open() {
     LoadTypeGrid(*this);
     LoadParameters(*this);
     ShowPage(*this);
-    asLoaded = TypedWork(*this);
 }
 
 Arrangement frmSystem::Arrange() {
@@ -109,13 +105,17 @@ Arrangement frmSystem::Arrange() {
 }
 
 std::string frmSystem::UnsavedWork() const {
-    return TypedWork(*this) != asLoaded ? "设置尚未保存，放弃所作的修改？" : "";
+    return TypedParameters(*this) != asLoaded || TypedTypes(*this) != typesAsLoaded
+               ? "设置尚未保存，放弃所作的修改？"
+               : "";
 }
 
-// Whichever page is in front.
+// Of both pages what has changed, whichever is in front.
 void frmSystem::SaveWork() {
-    if (LeaveFocus(*this) && SaveParameters(*this) && (!HasChangedTypes(*this) || SaveTypeGrid(*this)))
-        asLoaded = TypedWork(*this);
+    if (!LeaveFocus(*this) || (TypedParameters(*this) != asLoaded && !SaveParameters(*this)))
+        return;
+    if (TypedTypes(*this) != typesAsLoaded)
+        static_cast<void>(SaveTypeGrid(*this));
 }
 
 Date frmSystem::Period() const {

@@ -73,7 +73,9 @@ struct frmSystem : Screen {
 
     std::string memoBefore[3]; // what a memo's box gets back when it is ticked again
     Columns types{Grid1};      // in the order of the table's columns from its second one on
-    std::string asLoaded;      // what both pages held when they were read or saved, to be compared
+    std::string typesAsLoaded; // what the types held when they were read or saved, to be compared
+    std::string asLoaded;      // what the first page held when it was read or saved, to be compared
+    std::string stored;        // the row of parameters then: another user or a close may change it
 
     Date Period() const;  // the first day of the month chosen
     int StartDay() const; // as fSysDay holds it
@@ -82,6 +84,7 @@ struct frmSystem : Screen {
 // -- system_parameters.cpp
 // From tJXC_InvSys; without its row the fields keep what the program begins with.
 void LoadParameters(frmSystem& s);
+std::string TypedParameters(const frmSystem& s);
 // After a question, in one transaction. False when the person thought better of it or something is wrong, which is told.
 [[nodiscard]] bool SaveParameters(frmSystem& s);
 // What follows from choosing the system's kind, the way of tax, and from ticking a memo.
@@ -95,7 +98,7 @@ void TurnMemo(frmSystem& s, size_t memo);
 void LoadTypeGrid(frmSystem& s);
 // Writes the rows changed since the screen was opened, after a question, in one transaction. False as above.
 [[nodiscard]] bool SaveTypeGrid(frmSystem& s);
-bool HasChangedTypes(const frmSystem& s);
+std::string TypedTypes(const frmSystem& s);
 // Marks the row; a number rule that cannot be used gives way to the one the type was shipped with.
 void OnCellChange(frmSystem& s, int column, int row);
 // Each type's shipped rule becomes its rule; a type without one takes its rule as the shipped one.

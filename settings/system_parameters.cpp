@@ -71,8 +71,39 @@ void ShowRow(frmSystem& s, const Recordset& row) {
     ShowMemos(s, row);
 }
 
+// Of a company without its row.
+void ShowDefaults(frmSystem& s) {
+    for (ListBox* list : {static_cast<ListBox*>(&s.cboTaxWay), static_cast<ListBox*>(&s.cboSysCost),
+                          static_cast<ListBox*>(&s.cboInvType)})
+        list->SetIndex(0);
+    s.txtTaxRate.text = FormatFixed(0, 4);
+    s.txtDeciLen[0].text = s.txtDeciLen[1].text = "2";
+    s.txtMaxRow.text = "0";
+    for (const Flag& flag : Flags(s))
+        flag.box.value = false;
+    for (const size_t memo : {1, 2}) {
+        s.memoBefore[memo].clear();
+        s.txtBz[memo].text.clear();
+        s.chkBz[memo].value = s.txtBz[memo].enabled = false;
+    }
+}
+
 int Digits(const TextBox& box) {
-    return static_cast<int>(std::max(0.0, Val(box.text)));
+    return static_cast<int>(std::clamp(Val(box.text), 0.0, box.maxBytes == 1 ? 9.0 : 999.0));
+}
+
+// A row that says what no item stands for, or that another program wrote, is not saved as something else.
+bool ChoicesAreMade(frmSystem& s) {
+    for (ListBox* list : {&s.comYear, &s.comMonth, static_cast<ListBox*>(&s.cboDayMonth), &s.cboDay,
+                          static_cast<ListBox*>(&s.cboTaxWay), static_cast<ListBox*>(&s.cboSysCost),
+                          static_cast<ListBox*>(&s.cboInvType)})
+        if (list->Index() < 0) {
+            Warn(s.title, "请选择[" + list->caption + "]！");
+            s.SSTab1.index = frmSystem::kParameters;
+            s.MoveFocus(list);
+            return false;
+        }
+    return true;
 }
 
 // The rate is a part of 1; 13 typed for 13 % would be thirteen times the amount.
@@ -115,35 +146,62 @@ void WriteRow(frmSystem& s, Recordset& row) {
     row.Set("fSysDay", s.StartDay());
 }
 
+// False when the row is not any more what was shown: the close of another user has moved the period, say.
+bool StoreParameters(frmSystem& s) {
+    Transaction transaction(Conn());
+    Recordset row(Conn(), ParametersStatement(), Access::Write);
+    const std::string before = JsonOf(row);
+    if (before != s.stored)
+        return false;
+    if (row.AtEnd())
+        row.AddNew();
+    WriteRow(s, row);
+    const std::string after = JsonOf(row);
+    WriteAudit({"修改", "tJXC_InvSys", "", s.SSTab1.captions[frmSystem::kParameters], before, after});
+    row.Update();
+    s.stored = JsonOf(Recordset(Conn(), ParametersStatement()));
+    transaction.Commit();
+    return true;
+}
+
 } // namespace
 
 void LoadParameters(frmSystem& s) {
     const Recordset row(Conn(), ParametersStatement());
+    s.stored = JsonOf(row);
     const bool any = !row.AtEnd();
     if (any)
         ShowRow(s, row);
+    else
+        ShowDefaults(s);
     ShowTaxMemo(s);
     const auto period = any ? ParseDate(row["fSysDate"].AsText()) : std::nullopt;
-    const int day = any ? static_cast<int>(row["fSysDay"].AsLong()) : 1;
+    const int day = any && !row["fSysDay"].IsNull() ? static_cast<int>(row["fSysDay"].AsLong()) : 1;
     OfferYears(s, period.value_or(Today()));
     s.cboDayMonth.SetIndex(day < 0 ? 0 : 1);
     s.cboDay.SetIndex(std::abs(day) - 1);
     s.cboSysType.Choose(session.myModel.size() > 2 && session.myModel[2] == '1' ? kPlain : kStandard);
+    s.asLoaded = TypedParameters(s);
+}
+
+std::string TypedParameters(const frmSystem& s) {
+    std::string typed;
+    for (const Control* control : s.Controls())
+        if (control->kind == ControlKind::Text || control->kind == ControlKind::List ||
+            control->kind == ControlKind::Check)
+            typed.append(control->Shown().AsText()).push_back('\x1f');
+    return typed;
 }
 
 bool SaveParameters(frmSystem& s) {
-    if (!RateIsSound(s) || !AskOkCancel(s.title, "确定：保存系统参数设置?"))
+    if (!ChoicesAreMade(s) || !RateIsSound(s) || !AskOkCancel(s.title, "确定：保存系统参数设置?"))
         return false;
-    Transaction transaction(Conn());
-    Recordset row(Conn(), ParametersStatement(), Access::Write);
-    const std::string before = JsonOf(row);
-    if (row.AtEnd())
-        row.AddNew();
-    WriteRow(s, row);
-    WriteAudit({"修改", "tJXC_InvSys", "", s.SSTab1.captions[frmSystem::kParameters], before, JsonOf(row)});
-    row.Update();
-    transaction.Commit();
+    if (!StoreParameters(s)) {
+        Warn(s.title, "系统参数已被其他用户修改（例如月末结帐），请退出后重新打开！");
+        return false;
+    }
     LoadPeriodSettings();
+    s.asLoaded = TypedParameters(s);
     return true;
 }
 

@@ -65,7 +65,7 @@ std::vector<Column> TypeColumns() {
             List("实收实付 (资金帐)", "fSetZjType", kCash),
             Check("退货 (红字)", "fSetDjBack_"),
             Check("参考 订单号", "fSetDjDd_"),
-            Typed("自动单号", "fSetAutoNo", 18, kNumberBytes),
+            Typed("自动单号", "fSetAutoNo", 18, 0), // too long a rule is told, not cut
             {.caption = "(模拟单号)", .field = "fSetTestNo", .width = 18},
             Typed("仓库1", "fSetCkName1", 12, 20),
             List("仓库类1", "fSetCkType1", kWarehouses),
@@ -167,25 +167,34 @@ std::string RuleOf(const frmSystem& s, int row) {
     return s.Grid1.Text(row, kAutoNo);
 }
 
-} // namespace
-
-void LoadTypeGrid(frmSystem& s) {
+void FillTypeGrid(frmSystem& s) {
     s.types.SetUp(TypeColumns());
     s.Grid1.Column(kNo).below = 32768;
     s.Grid1.Column(kNo).thousands = false;
     Recordset record(Conn(), "select * from tJXC_InvSet where fSetNoUse_<>1 Order by fRowID");
     if (record.AtEnd())
         return OfferBuiltInTypes(s);
+    s.Grid1.Column(kNo).locked = true; // another number would make another type, and leave this one
     s.Grid1.SetRowCount(static_cast<int>(record.RecordCount()));
     for (int row = 1; !record.AtEnd(); record.MoveNext(), ++row)
         FillRow(s, row, [&](size_t place) { return record[place]; });
 }
 
-bool HasChangedTypes(const frmSystem& s) {
+} // namespace
+
+void LoadTypeGrid(frmSystem& s) {
+    FillTypeGrid(s);
+    s.typesAsLoaded = TypedTypes(s);
+}
+
+// The numbers that a test has given are no work.
+std::string TypedTypes(const frmSystem& s) {
+    std::string typed;
     for (int row = 1; row <= s.Grid1.RowCount(); ++row)
-        if (IsMarked(s, row))
-            return true;
-    return false;
+        for (int column = kNo; column < kMark; ++column)
+            if (column != kTestNo)
+                typed.append(s.Grid1.Text(row, column)).push_back('\x1f');
+    return typed;
 }
 
 bool SaveTypeGrid(frmSystem& s) {
@@ -196,6 +205,7 @@ bool SaveTypeGrid(frmSystem& s) {
         if (IsMarked(s, row))
             WriteType(s, row);
     transaction.Commit();
+    s.typesAsLoaded = TypedTypes(s);
     Inform(s.title, "系统单据设置完毕！");
     return true;
 }

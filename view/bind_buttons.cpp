@@ -46,7 +46,7 @@ class LabelBinding : public Binding {
 
   private:
     // In the field that the label names.
-    void OfferKey(const char* key, std::function<void()> gesture) {
+    void OfferKey(const char* key, const std::function<void()>& gesture) {
         if (shown_.buddy())
             connect(new QShortcut(QKeySequence(key), shown_.buddy(), nullptr, nullptr,
                                   Qt::WidgetWithChildrenShortcut),

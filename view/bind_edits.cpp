@@ -76,7 +76,7 @@ class EditLine {
     }
 
     // Rows are suggested under the line. `enter` presses Enter once a row's text stands in it.
-    void SuggestRows(std::function<void()> enter) {
+    void SuggestRows(const std::function<void()>& enter) {
         if (!box_.onSuggest)
             return;
         const auto take = [this, enter](const SuggestedRow& taken) {

@@ -4,6 +4,7 @@
 #include <QUiLoader>
 
 #include "controls/gestures.h"
+#include "controls/leave.h"
 #include "session/session.h"
 #include "view/binding.h"
 #include "view/plain_form.h"
@@ -238,10 +239,7 @@ Binding* ScreenWindow::BindingOf(const QWidget* widget) const {
 }
 
 Command* ScreenWindow::LeaveCommand() const {
-    for (const char* name : {"cmdQuit", "cmdCancel", "CmdCancel", "cmdSeekCancel"})
-        if (auto* command = dynamic_cast<Command*>(screen_.Find(name)); command && command->IsUsable())
-            return command;
-    return nullptr;
+    return LeaveCommandOf(screen_);
 }
 
 void ScreenWindow::reject() {

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "forms/edit_filter.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
@@ -76,9 +77,13 @@ void frmHostCards::ShapeByMode() {
 // Products carry the name of their supplier; delivery addresses go with their card.
 void frmHostCards::StoreElsewhere() {
     const std::string id = key.AsText();
-    if (mode == EditorMode::Delete)
+    if (mode == EditorMode::Delete) {
+        for (Recordset address(Conn(), "select * from tJXC_KhAdd Where fKhID=" + id); !address.AtEnd();
+             address.MoveNext())
+            WriteAudit({"删除", "tJXC_KhAdd", id, RecordName(), JsonOf(address), ""});
         Conn().Execute("Delete From tJXC_KhAdd Where fKhID=" + id);
-    else if (mode == EditorMode::Change)
+    }
+    if (mode == EditorMode::Change)
         Conn().Execute("Update tJXC_Cp Set fKhName=" + InQuotes(Trim(txtCompName.text)) +
                        " Where fKhID=" + id);
 }

@@ -11,11 +11,9 @@
 #include "host/company_address.h"
 #include "host/embedding.h"
 #include "host/exit_status.h"
-#include "host/passwords.h"
 #include "host/program/words.h"
 #include "host/tour.h"
 #include "robot/robot.h"
-#include "session/session.h"
 #ifdef JXC_VIEW
 #include "host/window/window_program.h"
 #endif
@@ -32,28 +30,12 @@ int Create(const std::string& company, CompanyKind kind, bool createDatabase) {
     return 0;
 }
 
-// A script gives the pass word of the user as whom it works in the environment, where no list of programs shows it.
-void RequirePassword(const std::string& company) {
-    std::string kept;
-    try {
-        const OpenCompany open(company, OpenFor::Looking);
-        kept = KeptPassword(session.UserName);
-    } catch (const DatabaseError&) {
-        return; // each screen tells it
-    }
-    const char* given = std::getenv("JXC_PASSWORD");
-    if (!kept.empty() && !IsPassword(kept, given ? given : ""))
-        throw std::runtime_error("用户“" + session.UserName +
-                                 "”的密码不正确：请在环境变量 JXC_PASSWORD 中给出。");
-}
-
 int Drive(const std::string& company, const std::string& user, const PropertySettings& settings) {
     RegisterAllScreens();
     lzJxc control;
     UseCompany(control, company);
     control.UserName(user);
     SetProperties(control, settings);
-    RequirePassword(company);
     JsonLines lines(std::cin, std::cout);
     Robot(control, lines).Run();
     return 0;

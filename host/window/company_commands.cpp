@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "base/text.h"
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "host/company/backup.h"
@@ -65,6 +66,7 @@ CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string
     facts.rights = UserSettings(facts.user);
     if (!facts.rights.known)
         throw std::runtime_error("帐套中没有用户“" + facts.user + "”。");
+    facts.user = facts.rights.user;
     if (session.PeriodStart && session.PeriodEnd)
         facts.period = IsoText(*session.PeriodStart) + " 至 " + IsoText(*session.PeriodEnd);
     for (const auto& [property, fact] : {std::pair("CompName", &facts.name),
@@ -79,31 +81,39 @@ CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string
 
 bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& user) {
     const std::string passwordBefore = session.Password;
-    return Attempt(S(windowTitle()), [&] {
+    const auto stayWithTheOneBefore = [&] {
+        control_.Password(passwordBefore);
+        if (HasCompany())
+            UseCompany(control_, company_);
+    };
+    bool taken = false;
+    const bool told = !Attempt(S(windowTitle()), [&] {
         try {
-            TakeWithPassword(company, user);
+            taken = TakeWithPassword(company, user);
         } catch (...) {
-            control_.Password(passwordBefore);
-            if (HasCompany())
-                UseCompany(control_, company_); // the one before stays open
+            stayWithTheOneBefore();
             throw;
         }
     });
+    if (!taken && !told)
+        stayWithTheOneBefore(); // the person gave up signing in
+    return taken;
 }
 
-// A server that refuses the password is tried again as long as the person gives another.
-void MainWindow::TakeWithPassword(const std::string& company, const std::string& user) {
+// A server that refuses the password is tried again as long as the person gives another. False when he gives up signing in.
+bool MainWindow::TakeWithPassword(const std::string& company, const std::string& user) {
     for (;;) {
         try {
             CompanyFacts facts = ReadFacts(company, user);
-            const bool goesOn = company == company_ && facts.user == session.UserName;
+            const bool goesOn = company == company_ && EqualsNoCase(facts.user, session.UserName);
             if (!goesOn && facts.passwords.contains(facts.user)) {
                 const auto signedIn = SignIn(this, facts.users, facts.user, facts.passwords);
                 if (!signedIn)
-                    return;
+                    return false;
                 facts = ReadFacts(company, *signedIn);
             }
-            return TakeCompany(company, std::move(facts));
+            TakeCompany(company, std::move(facts));
+            return true;
         } catch (const LoginError&) {
             if (!AskPassword(company))
                 throw;

@@ -70,7 +70,7 @@ class MainWindow : public QMainWindow {
     bool WantsSample();
     CompanyFacts ReadFacts(const std::string& company, const std::string& user);
     void TakeCompany(const std::string& company, CompanyFacts facts);
-    void TakeWithPassword(const std::string& company, const std::string& user);
+    bool TakeWithPassword(const std::string& company, const std::string& user);
     bool AskPassword(const std::string& company);
     void ReopenCompany();
     void StartGuarded(const MenuEntry& entry);

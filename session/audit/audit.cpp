@@ -62,6 +62,13 @@ class Seal {
     crypto_generichash_state state_{};
 };
 
+// Of a pass word's hash: whether it is another one, and no more.
+std::string Veiled(const std::string& hash) {
+    Seal seal("");
+    seal.Cover(hash);
+    return "***" + seal.Text().substr(0, 4);
+}
+
 std::string LastRowStatement() {
     return "Select Top 1 fID,fHash From " + kTable + " Order By fID Desc";
 }
@@ -78,7 +85,8 @@ std::string SealOf(const std::string& before, const Recordset& row) {
 std::string JsonOf(const AuditedFields& fields) {
     Json json = Json::object();
     for (const auto& [name, value] : fields)
-        json[name] = EqualsNoCase(name, "fPassword") && !value.AsText().empty() ? "***" : JsonValue(value);
+        json[name] = EqualsNoCase(name, "fPassword") && !value.AsText().empty() ? Json(Veiled(value.AsText()))
+                                                                                : JsonValue(value);
     return JsonText(json);
 }
 

@@ -43,6 +43,8 @@ void AddHeaderIndexes(Connection& connection) {
 }
 
 void RaiseToVersion2(Connection& connection) {
+    connection.Execute(
+        "Update tJXC_InvSet Set fSetNoUse_=0 Where fSetNoUse_ is null"); // in use is what is not shut
     AddHeaderIndexes(connection);
     AddColumns(connection, kColumnsOfVersion2);
     for (const NotedTable& table : kNotedTables)

@@ -32,8 +32,7 @@ std::optional<std::string> PickProduct(const std::string& code, const std::strin
     picker.SetProperty("CpBarCode", barCode);
     picker.SetProperty("CpNoEdit", 1);
     ShowModal(picker);
-    const bool selected = !picker.HasProperty("CpSelect") || picker.GetProperty("CpSelect").AsLong() != 0;
-    if (session.SelectedProductID == 0 || !selected)
+    if (session.SelectedProductID == 0)
         return std::nullopt;
     return kProducts + " And fCpID = " + std::to_string(session.SelectedProductID) + " Order By fCpCode";
 }

@@ -120,7 +120,7 @@ TEST_P(Trail, KeepsMasterRowsAndNoPassword) {
     EXPECT_NE(One("select fBefore from tJXC_Audit where fID=2").find("机箱 办公型"), std::string::npos);
     EXPECT_NE(One("select fAfter from tJXC_Audit where fID=2").find("\"fCpName\":\"机箱\""),
               std::string::npos);
-    EXPECT_NE(One("select fAfter from tJXC_Audit where fID=3").find("\"fPassword\":\"***\""),
+    EXPECT_NE(One("select fAfter from tJXC_Audit where fID=3").find("\"fPassword\":\"***"),
               std::string::npos);
     EXPECT_EQ(One("select count(*) from tJXC_Audit where fAfter Like '%argon2%' Or fAfter Like '%秘密%'"),
               "0");
@@ -128,6 +128,25 @@ TEST_P(Trail, KeepsMasterRowsAndNoPassword) {
     EXPECT_FALSE(IsPassword(KeptPassword("小王"), "秘密 "));
     EXPECT_EQ(KeptPassword(session.UserName), "");
     EXPECT_EQ(HashOfPassword(""), "");
+}
+
+// The mark that one row takes from another is recorded for both, as they were before.
+TEST_P(Trail, KeepsWhoLostTheMark) {
+    clerk->view.OnScreen("frmHostMoneys", [&](Screen& screen) {
+        auto& s = dynamic_cast<frmHostMoneys&>(screen);
+        SelectRow(s, s.Grid1, 2);
+        Click(s, s.cmdChange);
+        SetToggle(s, *dynamic_cast<CheckBox*>(s.Find("chkMoneyType")), true);
+        EnterText(s, *dynamic_cast<TextBox*>(s.Find("txtMoneyRate")), "1");
+        Click(s, s.cmdSave);
+    });
+    ShowModal(ScreenNamed("frmHostMoneys"));
+    const Lines rows = RowsOf("select fName,fBefore,fAfter from tJXC_Audit Order By fID");
+    ASSERT_EQ(rows.size(), 2U);
+    EXPECT_EQ(rows[0], "人民币|{\"MoneyCode\":\"人民币\",\"MoneyType\":1,\"MoneyRate\":1.0}|"
+                       "{\"MoneyCode\":\"人民币\",\"MoneyType\":0,\"MoneyRate\":1.0}");
+    EXPECT_NE(rows[1].find("\"MoneyType\":0"), std::string::npos);
+    EXPECT_NE(rows[1].find("\"MoneyType\":1"), std::string::npos);
 }
 
 // The query shows each action with its fields before and after; only the supervisor sees it, and nobody changes it.

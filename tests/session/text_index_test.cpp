@@ -131,7 +131,7 @@ TEST(TextIndex, FindsWhatANaiveSearchFinds) {
     TextIndex index;
     NaiveSearch naive;
     for (int step = 0; step < 6000; ++step) {
-        const std::int64_t id = random() % 500;
+        const auto id = static_cast<std::int64_t>(random() % 500);
         if (random() % 5 == 0) {
             index.Remove(id);
             naive.things.erase(id);

@@ -57,6 +57,24 @@ TEST_F(SigningIn, TenWrongPasswordsOpenNothing) {
     EXPECT_EQ(Trail(), "0");
 }
 
+// Whoever gives up works on in the company that was open; a name in other letters opens no door.
+TEST_F(SigningIn, GivingUpStaysInTheCompanyBefore) {
+    const SampleCompany other(EngineKind::Sqlite);
+    ASSERT_TRUE(window.OpenCompanyOf(other.Address(), ""));
+    const std::string user = session.UserName;
+    person.Next([&] { person.Press(Qt::Key_Escape); });
+    EXPECT_FALSE(window.OpenCompanyOf(company.Address(), ""));
+    EXPECT_EQ(session.UserPath, other.Address());
+    EXPECT_EQ(session.UserName, user);
+    Add("Wang", "0", HashOfPassword("x"));
+    person.Next([&] {
+        EXPECT_EQ(S(person.Find<QComboBox>("cboUser").currentText()), "Wang");
+        person.Enter("x");
+    });
+    EXPECT_TRUE(window.OpenCompanyOf(company.Address(), "WANG"));
+    EXPECT_EQ(session.UserName, "Wang");
+}
+
 // The person who gives up stays who he was; a user without a pass word is not asked for one.
 TEST_F(SigningIn, ChangesTheUser) {
     ASSERT_TRUE(window.OpenCompanyOf(company.Address(), "小王"));
