@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "controls/screen.h"
+#include "database/database_error.h"
 #include "database/storable_text.h"
 #include "host/check.h"
 #include "host/company/backup.h"
