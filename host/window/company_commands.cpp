@@ -5,7 +5,6 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "host/company/backup.h"
-#include "host/company/create_company.h"
 #include "host/company_address.h"
 #include "host/passwords.h"
 #include "host/window/company_users.h"
@@ -78,14 +77,19 @@ CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string
 }
 
 bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& user) {
+    return OpenOrStay([&] { TakeWithPassword(company, user); });
+}
+
+// What goes wrong is told; the company before stays open then.
+bool MainWindow::OpenOrStay(const std::function<void()>& open) {
     const std::string passwordBefore = session.Password;
     return Attempt(S(windowTitle()), [&] {
         try {
-            TakeWithPassword(company, user);
+            open();
         } catch (...) {
             control_.Password(passwordBefore);
             if (HasCompany())
-                UseCompany(control_, company_); // the one before stays open
+                UseCompany(control_, company_);
             throw;
         }
     });
@@ -186,27 +190,6 @@ void MainWindow::ChooseCompany() {
     connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
     if (window.exec() == QDialog::Accepted && !address->text().trimmed().isEmpty())
         OpenCompanyOf(S(address->text().trimmed()), "");
-}
-
-void MainWindow::NewCompany() {
-    QString file =
-        QFileDialog::getSaveFileName(this, "新建帐套", QDir::homePath() + "/我的公司.db", "帐套 (*.db)");
-    if (file.isEmpty())
-        return;
-    if (QFileInfo(file).suffix().isEmpty())
-        file += ".db";
-    if (QFileInfo::exists(file))
-        throw std::runtime_error("文件已经存在，请另取名称：" + S(file));
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    try {
-        CreateCompany(0, S(file), CompanyKind::Default);
-    } catch (...) {
-        QApplication::restoreOverrideCursor();
-        throw;
-    }
-    QApplication::restoreOverrideCursor();
-    if (OpenCompanyOf(S(file), ""))
-        Inform(S(windowTitle()), "帐套已建立。请先在[资料]中输入公司、仓库、产品与客户。");
 }
 
 void MainWindow::BackUp() {

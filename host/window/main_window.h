@@ -4,6 +4,7 @@
 
 #include <map>
 
+#include <QDir>
 #include <QMainWindow>
 #include <QSettings>
 #include <QTimer>
@@ -44,6 +45,11 @@ class MainWindow : public QMainWindow {
     // Opens a company as `user`, "" for its first one. Failures are told in a box; false then, and the
     // company before stays open.
     bool OpenCompanyOf(const std::string& company, const std::string& user);
+    // Asks for what a new company needs, and for its file; makes it and opens it for its first user. Who goes back at the
+    // file, or whose file cannot be written, which is told, finds again what he typed.
+    void NewCompany();
+    // Where the file of a new company is offered; the person's home without it.
+    void OfferNewCompaniesIn(const QString& folder) { newCompanies_ = folder; }
     // Opens the company that the person worked on last. One that is gone is asked for; where none is opened the
     // person is asked whether he wants the sample, else the window stands without a company. Who has not worked on any
     // yet gets the sample.
@@ -83,7 +89,8 @@ class MainWindow : public QMainWindow {
     void OpenDocument(int type, std::int32_t key);
     void ShowRecent();
     void ChooseCompany();
-    void NewCompany();
+    bool OpenOrStay(const std::function<void()>& open);
+    QString FileOfNewCompany(const std::string& name);
     void BackUp();
     void ChangeUser();
     void About();
@@ -95,6 +102,7 @@ class MainWindow : public QMainWindow {
     PropertySettings settings_;
     std::string company_;
     bool leavesNoTrace_ = false;
+    QString newCompanies_ = QDir::homePath();
     std::vector<Subject> subjects_;
     QTreeWidget* tree_ = nullptr;
     QLabel* heading_ = nullptr;
