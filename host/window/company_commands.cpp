@@ -8,6 +8,7 @@
 #include "host/company_address.h"
 #include "host/passwords.h"
 #include "host/window/company_users.h"
+#include "host/window/first_steps_panel.h"
 #include "host/window/main_window.h"
 #include "host/window/recent_companies.h"
 #include "host/window/sign_in.h"
@@ -143,6 +144,10 @@ void MainWindow::TakeCompany(const std::string& company, CompanyFacts facts) {
         command->setEnabled(true);
     if (!leavesNoTrace_)
         RecentCompanies(memory_).Remember(company);
+    isAtWork_ = false;
+    ShowFirstSteps();
+    if (!isAtWork_)
+        firstSteps_->FocusNext();
 }
 
 // A user who was renamed or went away is followed by the company's first.

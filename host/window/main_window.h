@@ -21,7 +21,9 @@ class QHBoxLayout;
 
 namespace jxc {
 
+class FirstStepsPanel;
 class RecentDocuments;
+enum class FirstStep;
 
 // What the host reads of a company when it opens it for a user.
 struct CompanyFacts {
@@ -86,7 +88,11 @@ class MainWindow : public QMainWindow {
     void ShowItem();
     void ShowDocuments();
     void NewDocument();
-    void OpenDocument(int type, std::int32_t key);
+    // `action` as the entry screen knows it: 0 shows the document.
+    void OpenDocument(int type, std::int32_t key, int action = 0);
+    void ShowFirstSteps();
+    void Take(FirstStep step);
+    void SelectType(int type);
     void ShowRecent();
     void ChooseCompany();
     bool OpenOrStay(const std::function<void()>& open);
@@ -105,6 +111,8 @@ class MainWindow : public QMainWindow {
     QString newCompanies_ = QDir::homePath();
     std::vector<Subject> subjects_;
     QTreeWidget* tree_ = nullptr;
+    FirstStepsPanel* firstSteps_ = nullptr;
+    bool isAtWork_ = true; // the company needs no first steps any more, which it never does again
     QLabel* heading_ = nullptr;
     QLabel* purpose_ = nullptr;
     QHBoxLayout* commands_ = nullptr;

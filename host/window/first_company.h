@@ -1,0 +1,23 @@
+// A new user's way by keys alone, from nothing to the first approved document: a company, two products, a supplier and a
+// receipt of both. docs/first-company.md tells it.
+#pragma once
+
+#include <QString>
+
+namespace jxc {
+
+class MainWindow;
+
+// What is entered on the way.
+namespace FirstCompany {
+inline constexpr const char* kName = "远山商行";
+inline constexpr const char* kUser = "林远";
+inline constexpr const char* kPassword = "yuan2026";
+} // namespace FirstCompany
+
+// Plays it on the window, which is shown and stands without a company; the company's file is made in the folder that the
+// window offers. Into `pictures`, "" for none, go first-1.png, first-2.png ... Returns the number of keys pressed; a
+// window that does not do what it is told is a std::runtime_error.
+int PlayFirstCompany(MainWindow& window, const QString& pictures);
+
+} // namespace jxc
