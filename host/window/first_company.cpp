@@ -46,16 +46,25 @@ class Way {
         script_.Compose(text, static_cast<int>(QString(pinyin).size()) + 1);
         Enter();
     }
-    int Run() {
+    // Ends what has been done since the stage before.
+    void EndStage(const char* name) {
+        script_.Then([this, name] {
+            stages_.push_back({name, script_.Keys() - counted_});
+            counted_ = script_.Keys();
+        });
+    }
+    std::vector<FirstCompanyStage> Run() {
         script_.Run();
         if (!script_.Failure().empty())
             throw std::runtime_error(script_.Failure());
-        return script_.Keys();
+        return stages_;
     }
 
   private:
     QString pictures_;
     int taken_ = 0;
+    int counted_ = 0; // keys of the stages before
+    std::vector<FirstCompanyStage> stages_;
     WindowScript script_;
 };
 
@@ -139,15 +148,20 @@ void ApproveReceipt(Way& way) {
 
 } // namespace
 
-int PlayFirstCompany(MainWindow& window, const QString& pictures) {
+std::vector<FirstCompanyStage> PlayFirstCompany(MainWindow& window, const QString& pictures) {
     if (window.HasCompany())
         throw std::runtime_error("窗口中已有帐套。");
     Way way(pictures);
     MakeCompany(way);
+    way.EndStage("新建帐套");
     EnterProducts(way);
+    way.EndStage("产品");
     EnterSupplier(way);
+    way.EndStage("供应商");
     EnterReceipt(way);
+    way.EndStage("入库单");
     ApproveReceipt(way);
+    way.EndStage("审核");
     return way.Run();
 }
 
@@ -160,8 +174,12 @@ int TakeFirstPictures(const std::string& folder) {
     window.OfferNewCompaniesIn(place.path());
     window.show();
     std::cout << "图片存入 " << folder << "：" << std::endl;
-    const int keys = PlayFirstCompany(window, Q(folder));
-    std::cout << "按键 " << keys << " 次" << std::endl;
+    int keys = 0;
+    for (const FirstCompanyStage& stage : PlayFirstCompany(window, Q(folder))) {
+        std::cout << "  " << stage.name << "：按键 " << stage.keys << " 次" << std::endl;
+        keys += stage.keys;
+    }
+    std::cout << "  共 " << keys << " 次" << std::endl;
     return 0;
 }
 

@@ -2,6 +2,9 @@
 // receipt of both. docs/first-company.md tells it.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include <QString>
 
 namespace jxc {
@@ -15,9 +18,14 @@ inline constexpr const char* kUser = "林远";
 inline constexpr const char* kPassword = "yuan2026";
 } // namespace FirstCompany
 
+struct FirstCompanyStage {
+    std::string name;
+    int keys; // pressed in it
+};
+
 // Plays it on the window, which is shown and stands without a company; the company's file is made in the folder that the
-// window offers. Into `pictures`, "" for none, go first-1.png, first-2.png ... Returns the number of keys pressed; a
+// window offers. Into `pictures`, "" for none, go first-1.png, first-2.png ... Returns the keys of each stage; a
 // window that does not do what it is told is a std::runtime_error.
-int PlayFirstCompany(MainWindow& window, const QString& pictures);
+std::vector<FirstCompanyStage> PlayFirstCompany(MainWindow& window, const QString& pictures);
 
 } // namespace jxc
