@@ -14,6 +14,8 @@ namespace jxc {
 
 namespace {
 
+constexpr const char* kPassword = "yuan2026";
+
 class Way {
   public:
     explicit Way(const QString& pictures) : pictures_(pictures) {}
@@ -72,11 +74,11 @@ void MakeCompany(Way& way) {
     way.With(Qt::AltModifier, Qt::Key_F);
     way.Press(Qt::Key_N);
     way.Meet("新建帐套");
-    way.Compose(FirstCompany::kName, "yuanshanshanghang");
+    way.Compose("远山商行", "yuanshanshanghang");
     way.Enter(8); // period, decimals, currency, tax, cost and the warehouse stay as they are offered
-    way.Compose(FirstCompany::kUser, "linyuan");
-    way.Type(FirstCompany::kPassword);
-    way.Type(FirstCompany::kPassword);
+    way.Compose("林远", "linyuan");
+    way.Type(kPassword);
+    way.Type(kPassword);
     way.Picture();
     way.Press(Qt::Key_F9);
     way.Meet("新建帐套");

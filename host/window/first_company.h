@@ -11,13 +11,6 @@ namespace jxc {
 
 class MainWindow;
 
-// What is entered on the way.
-namespace FirstCompany {
-inline constexpr const char* kName = "远山商行";
-inline constexpr const char* kUser = "林远";
-inline constexpr const char* kPassword = "yuan2026";
-} // namespace FirstCompany
-
 struct FirstCompanyStage {
     std::string name;
     int keys; // pressed in it

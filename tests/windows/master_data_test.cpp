@@ -132,7 +132,7 @@ TEST_F(MasterData, AReceiptWithoutProductsAndCardsLeadsToThem) {
         person.ClickCell("Grid2", 1, 1);
         person.Enter("P1"); // told at the foot
         person.Next([&] {
-            EXPECT_EQ(S(person.Front().windowTitle()), "产品资料");
+            EXPECT_EQ(S(person.Front().windowTitle()), "产品管理");
             person.Press(Qt::Key_F2);
             person.EnterEach({"P1", "CUP"});
             person.Press(Qt::Key_F9);
