@@ -13,6 +13,7 @@ namespace {
 const std::string kMailPrefix = "mailTo:";
 const std::string kWebPrefix = "http://";
 constexpr int kLongestNumber = 39;
+constexpr const char* kCardsScreen = "frmHostCards"; // of the program; a host may have another
 
 } // namespace
 
@@ -61,6 +62,17 @@ void OpenSummaries(frmDj02& s) {
         return;
     ComponentsInUse().codeLists->Edit("", s.cboInvMemo.codeList, BriefKind::EditEntries);
     s.cboInvMemo.Offer();
+}
+
+bool HasCardsScreen() {
+    return FindScreen(kCardsScreen) != nullptr;
+}
+
+void OpenCards(frmDj02& s) {
+    if (ModuleRight("mnuCardAdd", 0) == 0)
+        return;
+    ShowModal(ScreenNamed(kCardsScreen));
+    s.MoveFocus(&s.txtKhSeek); // to find the card that was entered
 }
 
 } // namespace jxc

@@ -112,6 +112,8 @@ void OpenWeb(const frmDj02& s);
 void OpenProducts(frmDj02& s);
 void OpenWarehouses(frmDj02& s);
 void OpenSummaries(frmDj02& s);
+void OpenCards(frmDj02& s);
+bool HasCardsScreen();
 
 // -- column_widths.cpp: widths of the grid's columns, kept in the dictionary of printed documents
 std::string ColumnWidthsStatement();

@@ -82,6 +82,7 @@ struct frmDj02 : Screen {
     Button cmdCp{*this, "cmdCp", "产品(&R)"};
     Button cmdCk{*this, "cmdCk", "仓库(&H)"};
     Button cmdZy{*this, "cmdZy", "摘要(&Y)"};
+    Button cmdCards{*this, "cmdCards", "客户(&U)"}; // where the host keeps them
     Button cmdGridSave{*this, "cmdGridSave", "保存列宽"};
 
     // The foot.

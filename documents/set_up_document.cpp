@@ -63,6 +63,7 @@ void ShapeByType(frmDj02& s) {
     Show(type.fSetDjType1 != kNoChoice, {&s.lblSum2, &s.txtSum2});
     Show(type.fSetDjBack_, {&s.lblTh, &s.shpTh});
     Show(!type.IsStocktake(), {&s.chkTh});
+    Show(type.HasCustomer() && HasCardsScreen(), {&s.cmdCards});
     Show(OffersPayment(s, type), {&s.lblSsSf, &s.txtSsSf});
     s.chkTh.value = type.fSetDjBack_;
     if (!type.fSetDjDd_)
@@ -74,7 +75,7 @@ void AllowByAction(frmDj02& s) {
     s.fraHead.enabled = editing;
     s.cboInvType.enabled = s.InHand() == DocAction::New;
     s.picCpZj.enabled = editing;
-    for (Button* button : {&s.cmdAddRow, &s.cmdDeleteRow, &s.cmdCp, &s.cmdCk, &s.cmdZy})
+    for (Button* button : {&s.cmdAddRow, &s.cmdDeleteRow, &s.cmdCp, &s.cmdCk, &s.cmdZy, &s.cmdCards})
         button->enabled = editing;
     s.cmdGridSave.enabled = session.UserName == session.ZgName;
     s.cmdNew.visible = s.InHand() == DocAction::New;

@@ -13,6 +13,17 @@ TextField::TextField(Place place, std::string name, std::string caption, int max
     onLeave = [this] { return CheckNoQuote(text); };
 }
 
+DigitsField::DigitsField(Place place, std::string name, std::string caption, int digits)
+    : TextBox(place, std::move(name)) {
+    this->caption = std::move(caption);
+    maxBytes = digits;
+    onKeyPress = [this, digits](int& keyCode) {
+        EditKeyFilter(*this, keyCode, digits, true);
+        if (keyCode >= ' ' && (keyCode < '0' || keyCode > '9'))
+            keyCode = 0;
+    };
+}
+
 ListField::ListField(Place place, std::string name, bool editable)
     : ListBox(place, std::move(name), editable) {
     onLeave = [this] { return ComboIndexByText(*this, text) >= 0 || CheckNoQuote(text); };

@@ -14,6 +14,11 @@ struct TextField : TextBox {
     TextField(Place place, std::string name, std::string caption, int maxBytes, bool numeric = false);
 };
 
+// A whole number of at most so many digits, without a sign.
+struct DigitsField : TextBox {
+    DigitsField(Place place, std::string name, std::string caption, int digits);
+};
+
 // What a query's filter looks for: a part of a text, or a pattern.
 struct PatternField : TextField {
     PatternField(Place place, std::string name) : TextField(place, std::move(name), "", 50) {}

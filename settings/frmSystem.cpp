@@ -1,7 +1,6 @@
 #include "settings/frmSystem.h"
 
 #include "controls/gestures.h"
-#include "forms/edit_filter.h"
 
 namespace jxc {
 
@@ -43,20 +42,6 @@ frmSystem::frmSystem() : Screen("frmSystem") {
     cboDay.caption = "日";
     OfferNumbers(comMonth, 1, 12);
     OfferNumbers(cboDay, 1, 28);
-    txtDeciLen[0].caption = "数量小数位";
-    txtDeciLen[1].caption = "单价小数位";
-    txtMaxRow.caption = "单据最大行";
-    const auto digitsOnly = [](TextBox& box, int most) {
-        box.maxBytes = most;
-        box.onKeyPress = [&box, most](int& keyCode) {
-            EditKeyFilter(box, keyCode, most, true);
-            if (keyCode >= ' ' && (keyCode < '0' || keyCode > '9'))
-                keyCode = 0;
-        };
-    };
-    for (TextBox& box : txtDeciLen)
-        digitsOnly(box, 1);
-    digitsOnly(txtMaxRow, 3);
     memoBefore[0] = txtBz[0].text = "产品规格";
     fraMemo.enabled = false;
     SSTab1.onChange = [this] { ShowPage(*this); };

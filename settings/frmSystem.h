@@ -31,8 +31,9 @@ struct frmSystem : Screen {
     TextField txtTaxRate{*this, "txtTaxRate", "税率", 8, true}; // a fraction
     Label lblTaxMemo{*this, "lblTaxMemo"};
     FixedList cboSysCost{*this, "cboSysCost", "成本核算", {"0.加权平均法", "1.移动平均法", "2.整体移动法"}};
-    TextBox txtDeciLen[2]{{*this, "txtDeciLen(0)"}, {*this, "txtDeciLen(1)"}}; // quantities, unit prices
-    TextBox txtMaxRow{*this, "txtMaxRow"};                                     // 0 for no limit
+    DigitsField txtDeciLen[2]{{*this, "txtDeciLen(0)", "数量小数位", 1},
+                              {*this, "txtDeciLen(1)", "单价小数位", 1}};
+    DigitsField txtMaxRow{*this, "txtMaxRow", "单据最大行", 3}; // 0 for no limit
     CheckBox chkBz[3]{{*this, "chkBz(0)", "单据-产品规格", true},
                       {*this, "chkBz(1)", "单据-备注1"},
                       {*this, "chkBz(2)", "单据-备注2"}};

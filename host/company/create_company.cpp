@@ -13,15 +13,24 @@ namespace jxc {
 
 namespace {
 
-void Fill(Connection& connection, CompanyKind kind) {
+using FillTables = std::function<void(Connection&)>;
+using Observer = std::function<void(std::string_view)>;
+
+void FillOfKind(Connection& connection, CompanyKind kind) {
     static constexpr CompanyHeader kUnnamed = {.name = "新公司"};
-    Transaction transaction(connection);
     FillDefaultSettings(connection, kind == CompanyKind::Sample ? kSampleCompany : kUnnamed);
+    FillForeignCurrency(connection);
     FillColumnDictionary(connection);
     FillCodeLists(connection);
     if (kind == CompanyKind::Sample)
         FillSampleCompany(connection);
-    transaction.Commit();
+}
+
+void FillAsWished(Connection& connection, const NewCompany& wishes) {
+    FillDefaultSettings(connection, {.fullName = wishes.name, .name = wishes.name}, wishes.books);
+    FillColumnDictionary(connection, wishes.books.priceDecimals);
+    FillCodeLists(connection);
+    FillNewCompany(connection, wishes);
 }
 
 // The tables stand already when filling fails. What goes wrong here is not told: the caller hears of the
@@ -43,21 +52,35 @@ void RemoveCompany(int dialect, Connection& connection, const std::string& path)
     }
 }
 
-} // namespace
-
-void CreateCompany(int dialect, const std::string& path, CompanyKind kind,
-                   std::function<void(std::string_view)> observer) {
-    Connection connection;
-    CreateCompanyTables(dialect, connection, path);
-    if (kind == CompanyKind::Bare)
-        return;
+// All rows in one transaction.
+void FillNew(int dialect, Connection& connection, const std::string& path, Observer observer,
+             const FillTables& fill) {
     connection.SetObserver(std::move(observer));
     try {
-        Fill(connection, kind);
+        Transaction transaction(connection);
+        fill(connection);
+        transaction.Commit();
     } catch (...) {
         RemoveCompany(dialect, connection, path);
         throw;
     }
+}
+
+} // namespace
+
+void CreateCompany(int dialect, const std::string& path, CompanyKind kind, Observer observer) {
+    Connection connection;
+    CreateCompanyTables(dialect, connection, path);
+    if (kind != CompanyKind::Bare)
+        FillNew(dialect, connection, path, std::move(observer),
+                [kind](Connection& filled) { FillOfKind(filled, kind); });
+}
+
+void CreateCompany(int dialect, const std::string& path, const NewCompany& wishes, Observer observer) {
+    Connection connection;
+    CreateCompanyTables(dialect, connection, path);
+    FillNew(dialect, connection, path, std::move(observer),
+            [&wishes](Connection& filled) { FillAsWished(filled, wishes); });
 }
 
 } // namespace jxc

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/company/new_company.h"
+
 namespace jxc {
 
 enum class CompanyKind {
@@ -20,6 +22,11 @@ enum class CompanyKind {
 // transaction; `observer` is told of each statement that fills them (see Connection::SetObserver). Throws
 // DatabaseError; whatever fails, no file and no table of the company is left.
 void CreateCompany(int dialect, const std::string& path, CompanyKind kind,
+                   std::function<void(std::string_view)> observer = nullptr);
+
+// The same, but set up as a person wishes it: CompanyKind::Default with his own figures, first warehouse and first user, and
+// without a foreign currency. What the wishes hold is written as it is; frmHostNewCompany says what of it is refused.
+void CreateCompany(int dialect, const std::string& path, const NewCompany& wishes,
                    std::function<void(std::string_view)> observer = nullptr);
 
 } // namespace jxc

@@ -64,7 +64,7 @@ constexpr DocumentColumn kDocumentColumns[] = {
 
 } // namespace
 
-void FillColumnDictionary(Connection& connection) {
+void FillColumnDictionary(Connection& connection, int priceDecimals) {
     TableWriter list(connection, "rptListDetail");
     int fieldID = 0;
     for (const ProductColumn& column : kProductColumns)
@@ -75,7 +75,7 @@ void FillColumnDictionary(Connection& connection) {
                   {"FieldName_1", column.traditional},
                   {"FieldGridWidth", double(column.width)},
                   {"FieldDataType", column.type},
-                  {"FieldDataDeci", column.decimals},
+                  {"FieldDataDeci", column.field.starts_with("fCpPrice") ? priceDecimals : column.decimals},
                   {"FieldHAlign", column.alignment},
                   {"FieldSelected", column.shown ? 1 : 0},
                   {"FieldBriefType", column.codeList},

@@ -1,6 +1,5 @@
 #include "host/company/default_settings.h"
 
-#include "base/date.h"
 #include "host/company/table_writer.h"
 #include "settings/document_types.h"
 #include "settings/type_codes.h"
@@ -45,24 +44,37 @@ void FillDocumentTypes(Connection& connection) {
     }
 }
 
-// No tax, moving average cost, quantities and prices with two decimals, any number of lines, all modules in
-// use.
-void FillParameters(Connection& connection, const std::string& start) {
+// Any number of lines, all modules in use.
+void FillParameters(Connection& connection, const BooksStart& books) {
+    const std::string start = IsoText(books.firstDay);
     TableWriter(connection, "tJXC_InvSys")
-        .Add({{"fSysDate", start},   {"fSysDay", 1},    {"fSysTaxWay", 0}, {"fSysTaxRate", 0.0},
-              {"fSysCostWay", 1},    {"fSysDeciSl", 2}, {"fSysDeciDj", 2}, {"fSysMaxRow", 0},
-              {"fSysDjBz1", "备注"}, {"fSysDjBz2", ""}, {"fSysYjTj", 0},   {"fSysAuto1", 0},
-              {"fSysAuto2", 0},      {"fSysAuto3", 1},  {"fSysAuto4", 0},  {"fSysFun0", 1},
-              {"fSysFun1", 1},       {"fSysFun2", 1},   {"fSysFun3", 1},   {"fSysFun4", 1},
-              {"fSysFun5", 1},       {"fSysFun6", 1},   {"fSysFun7", 1},   {"fSysFun8", 1},
-              {"fSysFun9", 1},       {"fSysFun10", 1}});
+        .Add({{"fSysDate", start},
+              {"fSysDay", 1},
+              {"fSysTaxWay", static_cast<int>(books.taxWay)},
+              {"fSysTaxRate", books.taxRate},
+              {"fSysCostWay", static_cast<int>(books.costMethod)},
+              {"fSysDeciSl", books.quantityDecimals},
+              {"fSysDeciDj", books.priceDecimals},
+              {"fSysMaxRow", 0},
+              {"fSysDjBz1", "备注"},
+              {"fSysDjBz2", ""},
+              {"fSysYjTj", 0},
+              {"fSysAuto1", 0},
+              {"fSysAuto2", 0},
+              {"fSysAuto3", 1},
+              {"fSysAuto4", 0},
+              {"fSysFun0", 1},
+              {"fSysFun1", 1},
+              {"fSysFun2", 1},
+              {"fSysFun3", 1},
+              {"fSysFun4", 1},
+              {"fSysFun5", 1},
+              {"fSysFun6", 1},
+              {"fSysFun7", 1},
+              {"fSysFun8", 1},
+              {"fSysFun9", 1},
+              {"fSysFun10", 1}});
     TableWriter(connection, "SystemSets").Add({{"CompDate", start}});
-}
-
-void FillCurrencies(Connection& connection) {
-    TableWriter moneys(connection, "Moneys");
-    moneys.Add({{"MoneyCode", "人民币"}, {"MoneyType", 1}, {"MoneyRate", 1.0}});
-    moneys.Add({{"MoneyCode", "USD"}, {"MoneyType", 0}, {"MoneyRate", 7.1}});
 }
 
 void FillModules(Connection& connection) {
@@ -95,15 +107,24 @@ void FillHeader(Connection& connection, const CompanyHeader& header) {
 
 } // namespace
 
-void FillDefaultSettings(Connection& connection, const CompanyHeader& header) {
+Date FirstOfThisMonth() {
     const Date today = Today();
+    return MakeDate(YearOf(today), MonthOf(today), 1);
+}
+
+void FillDefaultSettings(Connection& connection, const CompanyHeader& header, const BooksStart& books) {
     FillDocumentTypes(connection);
-    FillParameters(connection, IsoText(MakeDate(YearOf(today), MonthOf(today), 1)));
-    FillCurrencies(connection);
+    FillParameters(connection, books);
+    TableWriter(connection, "Moneys")
+        .Add({{"MoneyCode", books.currency}, {"MoneyType", 1}, {"MoneyRate", 1.0}});
     FillModules(connection);
     FillHeader(connection, header);
     TableWriter(connection, "tAccounts")
         .Add({{"compname", "现金"}, {"compCode", std::to_string(kCashAccount)}});
+}
+
+void FillForeignCurrency(Connection& connection) {
+    TableWriter(connection, "Moneys").Add({{"MoneyCode", "USD"}, {"MoneyType", 0}, {"MoneyRate", 7.1}});
 }
 
 } // namespace jxc

@@ -4,6 +4,7 @@
 #include "host/editors/frmHostCards.h"
 #include "host/editors/frmHostCompany.h"
 #include "host/editors/frmHostMoneys.h"
+#include "host/editors/frmHostNewCompany.h"
 #include "host/editors/frmHostPassword.h"
 #include "host/editors/frmHostUsers.h"
 #include "session/screen_entries.h"
@@ -23,7 +24,9 @@ void AddEditor(const std::string& name, const MenuPlace& place, const std::strin
 
 } // namespace
 
+// What asks for a new company stands in no menu: it is no screen of the company that is open.
 void RegisterHostEditors() {
+    AddScreen({.name = "frmHostNewCompany", .make = [] { return std::make_unique<frmHostNewCompany>(); }});
     AddEditor<frmHostCards>("frmHostCards", {"资料(&D)", "客户资料", "供应商、销售商与代销商。"},
                             "mnuCardAdd");
     AddEditor<frmHostMoneys>("frmHostMoneys", {"资料(&D)", "货币", "货币与汇率。"});

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "controls/screen.h"
+#include "database/database_error.h"
 #include "database/storable_text.h"
 #include "host/check.h"
 #include "host/company/backup.h"
@@ -158,13 +159,19 @@ void Commands::AddTour() {
 #ifdef JXC_VIEW
         if (!pictures_.empty())
             return TakePictures(pictures_);
+        if (!firstPictures_.empty())
+            return TakeFirstPictures(firstPictures_);
 #endif
         return PlayTour(company_);
     });
     [[maybe_unused]] CLI::Option* company =
         AddCompany(tour, "样例公司（没有则建立）：文件，或 postgresql://... 地址");
 #ifdef JXC_VIEW
-    tour.add_option("--shots", pictures_, "驱动各窗口，把每个窗口的图片存入目录")->excludes(company);
+    CLI::Option* shots =
+        tour.add_option("--shots", pictures_, "驱动各窗口，把每个窗口的图片存入目录")->excludes(company);
+    tour.add_option("--first", firstPictures_, "演示新建帐套直到第一张单据审核，把图片存入目录")
+        ->excludes(company)
+        ->excludes(shots);
 #endif
 }
 

@@ -53,6 +53,7 @@ class Commands {
     std::vector<std::string> settings_; // PROPERTY=VALUE
     std::string copy_;                  // the file of a backup
     std::string pictures_;              // the folder for them
+    std::string firstPictures_;         // the same, of a new company
     bool sample_ = false;
     bool bare_ = false;
     bool createDatabase_ = false;

@@ -6,10 +6,10 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "host/company/backup.h"
-#include "host/company/create_company.h"
 #include "host/company_address.h"
 #include "host/passwords.h"
 #include "host/window/company_users.h"
+#include "host/window/first_steps_panel.h"
 #include "host/window/main_window.h"
 #include "host/window/recent_companies.h"
 #include "host/window/sign_in.h"
@@ -80,24 +80,20 @@ CompanyFacts MainWindow::ReadFacts(const std::string& company, const std::string
 }
 
 bool MainWindow::OpenCompanyOf(const std::string& company, const std::string& user) {
+    return OpenOrStay([&] { return TakeWithPassword(company, user); });
+}
+
+// `open` gives false when the person gives up. What goes wrong is told; the company before stays open then.
+bool MainWindow::OpenOrStay(const std::function<bool()>& open) {
     const std::string passwordBefore = session.Password;
-    const auto stayWithTheOneBefore = [&] {
-        control_.Password(passwordBefore);
-        if (HasCompany())
-            UseCompany(control_, company_);
-    };
     bool taken = false;
-    const bool told = !Attempt(S(windowTitle()), [&] {
-        try {
-            taken = TakeWithPassword(company, user);
-        } catch (...) {
-            stayWithTheOneBefore();
-            throw;
-        }
-    });
-    if (!taken && !told)
-        stayWithTheOneBefore(); // the person gave up signing in
-    return taken;
+    Attempt(S(windowTitle()), [&] { taken = open(); });
+    if (taken)
+        return true;
+    control_.Password(passwordBefore);
+    if (HasCompany())
+        UseCompany(control_, company_);
+    return false;
 }
 
 // A server that refuses the password is tried again as long as the person gives another. False when he gives up signing in.
@@ -149,6 +145,10 @@ void MainWindow::TakeCompany(const std::string& company, CompanyFacts facts) {
         command->setEnabled(true);
     if (!leavesNoTrace_)
         RecentCompanies(memory_).Remember(company);
+    isAtWork_ = false;
+    ShowFirstSteps();
+    if (!isAtWork_)
+        firstSteps_->FocusNext();
 }
 
 // A user who was renamed or went away is followed by the company's first.
@@ -196,27 +196,6 @@ void MainWindow::ChooseCompany() {
     connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
     if (window.exec() == QDialog::Accepted && !address->text().trimmed().isEmpty())
         OpenCompanyOf(S(address->text().trimmed()), "");
-}
-
-void MainWindow::NewCompany() {
-    QString file =
-        QFileDialog::getSaveFileName(this, "新建帐套", QDir::homePath() + "/我的公司.db", "帐套 (*.db)");
-    if (file.isEmpty())
-        return;
-    if (QFileInfo(file).suffix().isEmpty())
-        file += ".db";
-    if (QFileInfo::exists(file))
-        throw std::runtime_error("文件已经存在，请另取名称：" + S(file));
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    try {
-        CreateCompany(0, S(file), CompanyKind::Default);
-    } catch (...) {
-        QApplication::restoreOverrideCursor();
-        throw;
-    }
-    QApplication::restoreOverrideCursor();
-    if (OpenCompanyOf(S(file), ""))
-        Inform(S(windowTitle()), "帐套已建立。请先在[资料]中输入公司、仓库、产品与客户。");
 }
 
 void MainWindow::BackUp() {

@@ -1,6 +1,8 @@
 #include "host/window/main_window.h"
 
 #include "controls/view.h"
+#include "host/window/command_button.h"
+#include "host/window/first_steps_panel.h"
 #include "host/window/recent_documents.h"
 #include "session/screen_entries.h"
 #include "session/session.h"
@@ -13,20 +15,6 @@ namespace {
 constexpr std::int16_t kEntryScreen = 13;
 constexpr int kPatience = 150;      // milliseconds
 constexpr int kNode = Qt::UserRole; // subject * 1000 + item of a tree node
-
-// In a window that is no dialog Enter does not press buttons by itself.
-class CommandButton : public QPushButton {
-  public:
-    using QPushButton::QPushButton;
-
-  protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-            click();
-        else
-            QPushButton::keyPressEvent(event);
-    }
-};
 
 } // namespace
 
@@ -85,6 +73,9 @@ QWidget* MainWindow::CommandPage() {
     hint->setForegroundRole(QPalette::PlaceholderText);
     companyLine_ = new QLabel;
     companyLine_->setTextFormat(Qt::PlainText);
+    firstSteps_ = new FirstStepsPanel([this](FirstStep step) { Guard([&] { Take(step); }); });
+    layout->addWidget(firstSteps_);
+    layout->addSpacing(8);
     layout->addWidget(heading_);
     layout->addWidget(purpose_);
     layout->addSpacing(16);
@@ -216,10 +207,12 @@ void MainWindow::ShowDocuments() {
         Guard([&] { documents_->Show(item->entries.front().myType); });
 }
 
-void MainWindow::OpenDocument(int type, std::int32_t key) {
-    control_.Refresh(kEntryScreen,
-                     {{"Action", 0}, {"invType", type}, {"OldType", 0}, {"oldInvID", key}, {"JzState", 0}});
+void MainWindow::OpenDocument(int type, std::int32_t key, int action) {
+    control_.Refresh(
+        kEntryScreen,
+        {{"Action", action}, {"invType", type}, {"OldType", 0}, {"oldInvID", key}, {"JzState", 0}});
     ShowDocuments();
+    ShowFirstSteps();
 }
 
 void MainWindow::StartGuarded(const MenuEntry& entry) {
@@ -230,12 +223,13 @@ void MainWindow::Start(const MenuEntry& entry) {
     if (!entry.screen.empty()) {
         OpenByName(entry.screen);
         if (entry.screen == "frmHostCompany" || entry.screen == "frmHostUsers")
-            ReopenCompany();
-        return;
+            return ReopenCompany();
+        return ShowFirstSteps();
     }
     control_.myType(entry.myType);
     control_.Refresh(entry.action);
     ShowDocuments();
+    ShowFirstSteps();
 }
 
 void MainWindow::NewDocument() {

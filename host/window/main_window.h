@@ -4,6 +4,7 @@
 
 #include <map>
 
+#include <QDir>
 #include <QMainWindow>
 #include <QSettings>
 #include <QTimer>
@@ -20,7 +21,9 @@ class QHBoxLayout;
 
 namespace jxc {
 
+class FirstStepsPanel;
 class RecentDocuments;
+enum class FirstStep;
 
 // What the host reads of a company when it opens it for a user.
 struct CompanyFacts {
@@ -44,6 +47,11 @@ class MainWindow : public QMainWindow {
     // Opens a company as `user`, "" for its first one. Failures are told in a box; false then, and the
     // company before stays open.
     bool OpenCompanyOf(const std::string& company, const std::string& user);
+    // Asks for what a new company needs, and for its file; makes it and opens it for its first user. Who goes back at the
+    // file, or whose file cannot be written, which is told, finds again what he typed.
+    void NewCompany();
+    // Where the file of a new company is offered; the person's home without it.
+    void OfferNewCompaniesIn(const QString& folder) { newCompanies_ = folder; }
     // Opens the company that the person worked on last. One that is gone is asked for; where none is opened the
     // person is asked whether he wants the sample, else the window stands without a company. Who has not worked on any
     // yet gets the sample.
@@ -80,10 +88,15 @@ class MainWindow : public QMainWindow {
     void ShowItem();
     void ShowDocuments();
     void NewDocument();
-    void OpenDocument(int type, std::int32_t key);
+    // `action` as the entry screen knows it: 0 shows the document.
+    void OpenDocument(int type, std::int32_t key, int action = 0);
+    void ShowFirstSteps();
+    void Take(FirstStep step);
+    void SelectType(int type);
     void ShowRecent();
     void ChooseCompany();
-    void NewCompany();
+    bool OpenOrStay(const std::function<bool()>& open);
+    QString FileOfNewCompany(const std::string& name);
     void BackUp();
     void ChangeUser();
     void About();
@@ -95,8 +108,11 @@ class MainWindow : public QMainWindow {
     PropertySettings settings_;
     std::string company_;
     bool leavesNoTrace_ = false;
+    QString newCompanies_ = QDir::homePath();
     std::vector<Subject> subjects_;
     QTreeWidget* tree_ = nullptr;
+    FirstStepsPanel* firstSteps_ = nullptr;
+    bool isAtWork_ = true; // the company needs no first steps any more, which it never does again
     QLabel* heading_ = nullptr;
     QLabel* purpose_ = nullptr;
     QHBoxLayout* commands_ = nullptr;

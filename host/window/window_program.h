@@ -27,4 +27,8 @@ int RunWindows(const WindowStart& start);
 // it is told is a std::runtime_error.
 int TakePictures(const std::string& folder);
 
+// Plays a new user's way from nothing to the first approved document (host/window/first_company.h), leaves its pictures
+// in `folder` and tells how many keys it took. The company goes again. As above otherwise.
+int TakeFirstPictures(const std::string& folder);
+
 } // namespace jxc

@@ -4,27 +4,43 @@
 
 #include "view/qt_text.h"
 
+// How Qt's own library for tests sends keys: as the window system does, so that menus and shortcuts hear them too.
+Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key, Qt::KeyboardModifiers held,
+                                    const QString& text, bool repeated, ushort count);
+
 namespace jxc {
 
 namespace {
 
 constexpr int kPause = 40; // milliseconds for the windows to paint
 
-void Send(QWidget& to, int key, const QString& text) {
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QKeyEvent event(type, key, Qt::NoModifier, text);
-        QCoreApplication::sendEvent(&to, &event);
-    }
+constexpr int kTries = 25; // of having a window take the keyboard
+
+QWidget& KeyboardsWindow() {
+    QWidget* popup = QApplication::activePopupWidget();
+    QWidget* window = popup ? popup : WindowInFront();
+    if (!window || !window->windowHandle())
+        throw std::runtime_error("没有窗口。");
+    return *window;
 }
 
-QWidget& Focused() {
+// Without a desktop nothing hands the keyboard on when a window closes. True when the window in front has it.
+bool HasKeyboard() {
     QWidget* window = WindowInFront();
-    QWidget* focused = window ? window->focusWidget() : nullptr;
-    if (!focused)
-        focused = window;
-    if (!focused)
-        throw std::runtime_error("没有窗口。");
-    return *focused;
+    if (!window || window->isActiveWindow() || QApplication::activePopupWidget())
+        return true;
+    window->activateWindow();
+    return false;
+}
+
+// The key that types an ASCII character, and what a key types.
+int KeyOf(QChar character) {
+    return character.toUpper().unicode();
+}
+QString TextOf(int key) {
+    return key == Qt::Key_Return       ? QString("\r")
+           : key <= Qt::Key_AsciiTilde ? QString(QChar(key)).toLower()
+                                       : QString();
 }
 
 } // namespace
@@ -38,15 +54,34 @@ QWidget* WindowInFront() {
     return nullptr;
 }
 
-void WindowScript::Type(const QString& text) {
-    Then([text] {
-        for (const QChar character : text)
-            Send(Focused(), 0, character);
+void WindowScript::Send(int key, Qt::KeyboardModifiers held, const QString& text) {
+    ++keys_;
+    const QPointer<QWindow> window(KeyboardsWindow().windowHandle());
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+        if (window) // the key may have closed it
+            qt_handleKeyEvent(window, type, key, held, text, false, 1);
+}
+
+void WindowScript::Type(const QString& ascii) {
+    Then([this, ascii] {
+        for (const QChar character : ascii)
+            Send(KeyOf(character), character.isUpper() ? Qt::ShiftModifier : Qt::NoModifier, character);
     });
 }
 
-void WindowScript::Press(int key) {
-    Then([key] { Send(Focused(), key, key == Qt::Key_Return ? "\r" : ""); });
+void WindowScript::Compose(const QString& text, int keys) {
+    Then([this, text, keys] {
+        keys_ += keys;
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        if (QObject* focus = QApplication::focusObject())
+            QCoreApplication::sendEvent(focus, &event);
+    });
+}
+
+void WindowScript::Press(int key, Qt::KeyboardModifiers held, int times) {
+    for (int time = 0; time < times; ++time)
+        Then([this, key, held] { Send(key, held, TextOf(key)); });
 }
 
 void WindowScript::Click(const QString& name) {
@@ -62,8 +97,7 @@ void WindowScript::Click(const QString& name) {
 
 void WindowScript::Picture(const QString& file) {
     Then([file] {
-        QWidget* window = WindowInFront();
-        if (!window || !window->grab().save(file))
+        if (!KeyboardsWindow().grab().save(file))
             throw std::runtime_error("不能保存图片 " + S(file));
     });
 }
@@ -83,6 +117,9 @@ void WindowScript::Schedule() {
 void WindowScript::Next() {
     if (steps_.empty())
         return;
+    if (!HasKeyboard() && ++tries_ < kTries)
+        return Schedule();
+    tries_ = 0;
     auto step = std::move(steps_.front());
     steps_.pop_front();
     if (!steps_.empty())

@@ -21,7 +21,7 @@ namespace {
 using test::EngineKind;
 
 // Room for one company, on both engines.
-class NewCompany : public testing::TestWithParam<EngineKind> {
+class CreatedCompany : public testing::TestWithParam<EngineKind> {
   protected:
     void SetUp() override {
         if (const std::string reason = test::WhyUnavailable(GetParam()); !reason.empty())
@@ -39,6 +39,15 @@ class NewCompany : public testing::TestWithParam<EngineKind> {
         CreateCompany(Dialect(), path, kind);
         OpenConnection(Dialect(), connection, path, "", "", "");
     }
+    void Create(const NewCompany& wishes) {
+        CreateCompany(Dialect(), path, wishes);
+        OpenConnection(Dialect(), connection, path, "", "", "");
+    }
+    // The cells of the only row.
+    std::string Row(const std::string& sql) {
+        const test::Lines rows = test::LinesOf(connection.Query(sql));
+        return rows.size() == 1 ? rows[0] : std::to_string(rows.size()) + " rows";
+    }
     std::string Scalar(const std::string& sql) { return Recordset(connection, sql)[size_t{0}].AsText(); }
     int Count(const std::string& fromWhere) {
         return static_cast<int>(
@@ -50,9 +59,9 @@ class NewCompany : public testing::TestWithParam<EngineKind> {
     Connection connection;
 };
 
-ON_BOTH_ENGINES(NewCompany);
+ON_BOTH_ENGINES(CreatedCompany);
 
-TEST_P(NewCompany, HoldsTheDocumentTypes) {
+TEST_P(CreatedCompany, HoldsTheDocumentTypes) {
     Create(CompanyKind::Default);
     Recordset types(connection, "select * from tJXC_InvSet where fSetNoUse_<>1 Order by fRowID");
     ASSERT_EQ(types.RecordCount(), 22u);
@@ -85,7 +94,7 @@ TEST_P(NewCompany, HoldsTheDocumentTypes) {
               "52|内部资金帐|.|-1|-1|.|.|.|YYYYMMZJXXXXX||.|-1|-1|.|-1|-1|-1|0|.|0|0|YYYYMMZJXXXXX|0");
 }
 
-TEST_P(NewCompany, BeginsItsBooksOnTheFirstOfTheMonth) {
+TEST_P(CreatedCompany, BeginsItsBooksOnTheFirstOfTheMonth) {
     Create(CompanyKind::Default);
     const std::string first = IsoText(Today()).substr(0, 8) + "01";
     Recordset system(connection, "select * from tJXC_InvSys");
@@ -99,7 +108,7 @@ TEST_P(NewCompany, BeginsItsBooksOnTheFirstOfTheMonth) {
     EXPECT_EQ(Count("tJXC_Ck"), 0);
 }
 
-TEST_P(NewCompany, HasACaptionForEveryProductFieldShown) {
+TEST_P(CreatedCompany, HasACaptionForEveryProductFieldShown) {
     Create(CompanyKind::Default);
     const TableDef& products = *FindTable("tJXC_Cp");
     Recordset columns(connection, "select * from RptListDetail where ftable='tJxc_Cp' order by fieldID");
@@ -120,13 +129,13 @@ TEST_P(NewCompany, HasACaptionForEveryProductFieldShown) {
               "编码=fCpCode 品名规格=fCpName 单位=fCpUnit 帐面数=fInvSl2 实盘数=fInvSl9 盈亏数=fInvSl ");
 }
 
-TEST_P(NewCompany, BareHasTablesOnly) {
+TEST_P(CreatedCompany, BareHasTablesOnly) {
     Create(CompanyKind::Bare);
     for (const TableDef& table : AllTables())
         EXPECT_EQ(Count(std::string(table.name)), 0) << table.name;
 }
 
-TEST_P(NewCompany, SampleProductsFitTheirFields) {
+TEST_P(CreatedCompany, SampleProductsFitTheirFields) {
     Create(CompanyKind::Sample);
     Recordset products(connection, "select * from tJXC_Cp Order By fCpID");
     ASSERT_GE(products.RecordCount(), 60u);
@@ -170,7 +179,7 @@ TEST_P(NewCompany, SampleProductsFitTheirFields) {
     }
 }
 
-TEST_P(NewCompany, SampleHasAWarehouseOfEachKind) {
+TEST_P(CreatedCompany, SampleHasAWarehouseOfEachKind) {
     Create(CompanyKind::Sample);
     for (const char* kind : {"fCkType0", "fCkType1", "fCkType2", "fCkType3"})
         EXPECT_EQ(Count(std::string("tJXC_Ck Where fCkFlag<>1 And ") + kind + "=1"), 1) << kind;
@@ -185,7 +194,7 @@ TEST_P(NewCompany, SampleHasAWarehouseOfEachKind) {
     EXPECT_EQ(Count("cards Where fType0=3"), 3);
 }
 
-TEST_P(NewCompany, SampleSalespeopleFormOneTree) {
+TEST_P(CreatedCompany, SampleSalespeopleFormOneTree) {
     Create(CompanyKind::Sample);
     EXPECT_EQ(Count("tJXC_Yj_Jbr"), 8);
     EXPECT_EQ(Count("tJXC_Yj_Jbr Where fFloor=0"), 1);
@@ -196,7 +205,62 @@ TEST_P(NewCompany, SampleSalespeopleFormOneTree) {
     EXPECT_EQ(Count("tRsBasic Where fName in (Select fName From tJXC_Yj_Jbr)"), 8);
 }
 
-TEST_P(NewCompany, LeavesNothingWhenFillingFails) {
+NewCompany Harbour() {
+    NewCompany wishes;
+    wishes.name = "海港商贸";
+    wishes.books = {.firstDay = MakeDate(2026, 3, 1),
+                    .quantityDecimals = 0,
+                    .priceDecimals = 4,
+                    .currency = "港币",
+                    .taxWay = TaxWay::Contained,
+                    .taxRate = 0.13,
+                    .costMethod = CostMethod::WholeMoving};
+    wishes.warehouseCode = "A1";
+    wishes.warehouse = "码头仓";
+    wishes.user = "何海";
+    wishes.passwordHash = "$a hash$";
+    return wishes;
+}
+
+TEST_P(CreatedCompany, IsSetUpAsWished) {
+    Create(Harbour());
+    EXPECT_EQ(Row("select fSysDate,fSysDay,fSysDeciSl,fSysDeciDj,fSysTaxWay,fSysTaxRate,fSysCostWay,fSysFun10"
+                  " from tJXC_InvSys"),
+              "2026-03-01|1|0|4|2|0.13|2|1");
+    EXPECT_EQ(Row("select CompDate from SystemSets"), "2026-03-01");
+    EXPECT_EQ(Row("select MoneyCode,MoneyType,MoneyRate from Moneys"), "港币|1|1");
+    EXPECT_EQ(Row("select CompName,FullName from myCompany"), "海港商贸|海港商贸");
+    EXPECT_EQ(
+        Row("select fCkCode,fCkName,fCkType0,fCkType1,fCkType2,fCkType3,fCkFlag,fZhID,fKhID from tJXC_Ck"),
+        "A1|码头仓|1|0|0|0|0|0|0");
+    // Adding, changing and deleting, and the five modules.
+    EXPECT_EQ(Row("select fUserName,fPower,fSupervisor,fPassword from tHostUser"),
+              "何海|11111111|1|$a hash$");
+    // Prices have the wished decimals where they are listed, bounds of stock keep theirs.
+    EXPECT_EQ(Count("rptListDetail Where Left(FieldName,8)='fCpPrice' And FieldDataDeci=4"), 4);
+    EXPECT_EQ(Count("rptListDetail Where Left(FieldName,7)='fCpSlM' And FieldDataDeci<>2"), 0);
+    EXPECT_EQ(Count("tJXC_InvSet Where fSetNoUse_<>1"), 22);
+    EXPECT_EQ(Scalar("select compname from tAccounts"), "现金");
+    for (const char* empty : {"tJXC_Cp", "cards", "tJXC_CkDj01", "tJXC_Audit"})
+        EXPECT_EQ(Count(empty), 0) << empty;
+}
+
+TEST_P(CreatedCompany, LeavesNothingOfTheWishesWhenFillingFails) {
+    const auto failAtTheUser = [](std::string_view sql) {
+        if (sql.find("tHostUser") != std::string_view::npos)
+            throw DatabaseError("no space left");
+    };
+    EXPECT_THROW(CreateCompany(Dialect(), path, Harbour(), failAtTheUser), DatabaseError);
+    if (Dialect() == 0) {
+        EXPECT_FALSE(std::filesystem::exists(path));
+    }
+    Create(Harbour()); // the same place serves the next attempt
+    EXPECT_EQ(Count("tHostUser"), 1);
+    EXPECT_THROW(CreateCompany(Dialect(), path, Harbour()), DatabaseError);
+    EXPECT_EQ(Count("tHostUser"), 1);
+}
+
+TEST_P(CreatedCompany, LeavesNothingWhenFillingFails) {
     int statements = 0;
     const auto failAtTheLastTable = [&](std::string_view sql) {
         ++statements;
@@ -213,7 +277,7 @@ TEST_P(NewCompany, LeavesNothingWhenFillingFails) {
     EXPECT_EQ(Count("tJXC_InvSet"), 22);
 }
 
-TEST_P(NewCompany, RefusesAPlaceThatIsTaken) {
+TEST_P(CreatedCompany, RefusesAPlaceThatIsTaken) {
     Create(CompanyKind::Sample);
     EXPECT_THROW(CreateCompany(Dialect(), path, CompanyKind::Default), DatabaseError);
     EXPECT_EQ(Count("cards"), 20);

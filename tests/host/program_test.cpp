@@ -141,10 +141,13 @@ TEST_F(Program, TellsFindingsAndNotesOfTheBooksApart) {
 TEST_F(Program, TakesPicturesInACompanyOfItsOwn) {
     if (!HasWindows())
         GTEST_SKIP() << "built without windows";
-    const Ended both = Jxc("tour " + File("a.db") + " --shots " + File("pictures"));
-    ExpectEnd(both, 2, "不能同时使用");
-    EXPECT_NE(both.told.find("COMPANY"), std::string::npos) << both.told;
-    EXPECT_NE(both.told.find("--shots"), std::string::npos) << both.told;
+    for (const std::string option : {"--shots", "--first"}) {
+        const Ended both = Jxc("tour " + File("a.db") + " " + option + " " + File("pictures"));
+        ExpectEnd(both, 2, "不能同时使用");
+        EXPECT_NE(both.told.find("COMPANY"), std::string::npos) << both.told;
+        EXPECT_NE(both.told.find(option), std::string::npos) << both.told;
+    }
+    ExpectEnd(Jxc("tour --shots " + File("pictures") + " --first " + File("pictures")), 2, "不能同时使用");
     EXPECT_FALSE(std::filesystem::exists(File("a.db")));
     EXPECT_FALSE(std::filesystem::exists(File("pictures")));
 }

@@ -91,16 +91,33 @@ TEST_F(Main, TellsOfAMissingCompanyAndKeepsTheOneOpen) {
 
 TEST_F(Main, NewCompanyTakesItsFirstCard) {
     const QTemporaryDir folder;
-    const std::string file = S(folder.filePath("新公司.db"));
+    const std::string file = S(folder.filePath("远山商行.db"));
+    window.OfferNewCompaniesIn(folder.path());
     person.Next([&] {
         person.Next([&] {
-            person.Find<QLineEdit>("fileNameEdit").setText(Q(file));
-            person.Press(Qt::Key_Return);
+            person.Compose("远山/商行");
+            for (int i = 0; i < 9; ++i)
+                person.Press(Qt::Key_Return);
+            EXPECT_EQ(person.Focus(), "txtUserName");
+            person.Press(Qt::Key_F9);
+            EXPECT_EQ(person.Boxes(), Texts{"[用户]不能为空值！"});
+            EXPECT_EQ(person.Focus(), "txtUserName");
+            person.Compose("林远");
+            person.Next([&] {
+                auto& name = person.Find<QLineEdit>("fileNameEdit");
+                EXPECT_EQ(S(name.text()), "远山_商行.db"); // what no file is called gives way
+                name.setText(Q(file));
+                person.Press(Qt::Key_Return);
+            });
+            person.Press(Qt::Key_F9);
         });
         person.Press(Qt::Key_N);
     });
     person.Press(Qt::Key_F, Qt::AltModifier);
-    EXPECT_EQ(person.Boxes(), Texts{"帐套已建立。请先在[资料]中输入公司、仓库、产品与客户。"});
+    EXPECT_EQ(person.Boxes(), Texts{});
+    EXPECT_EQ(S(window.windowTitle()), "lzJxc 进销存 — 远山/商行");
+    EXPECT_EQ(session.UserName + session.ZgName, "林远林远"); // signed in, and asked for no pass word
+    EXPECT_EQ(person.Focus(), "stepProduct");
     window.SelectItem("客户资料");
     person.Next([&] {
         person.Press(Qt::Key_A, Qt::AltModifier);
@@ -127,6 +144,54 @@ TEST_F(Main, NewCompanyTakesItsFirstCard) {
     const jxc::Rows cards = QueryCompany(file, "select CompCode,CompName,fType0 from cards");
     ASSERT_EQ(cards.Count(), 1U);
     EXPECT_EQ(cards.At(0, 0).AsText() + cards.At(0, 1).AsText() + cards.At(0, 2).AsText(), "K001远山商行1");
+}
+
+// Each step back leads to what was typed, and nothing is left behind.
+TEST_F(Main, NewCompanyThatCannotBeWrittenIsNotLost) {
+    const QTemporaryDir folder;
+    QFile taken(folder.filePath("taken.db"));
+    ASSERT_TRUE(taken.open(QFile::WriteOnly));
+    taken.close();
+    const QString title = window.windowTitle();
+    window.OfferNewCompaniesIn(folder.path());
+    const auto fileNamed = [&](const QString& name) { // in the window that opens next
+        person.Next([&, name] {
+            person.Find<QLineEdit>("fileNameEdit").setText(name);
+            person.Press(Qt::Key_Return);
+        });
+    };
+    person.Next([&] {
+        person.Compose("远山");
+        person.Find("txtUserName").setFocus();
+        person.Compose("林远");
+        person.Press(Qt::Key_F9);
+    });
+    fileNamed(taken.fileName());
+    person.Next([&] { // the same again: another file
+        EXPECT_EQ(person.Boxes(), Texts{"文件已经存在，请另取名称：" + S(taken.fileName())});
+        EXPECT_EQ(person.Text("txtCompName") + person.Text("txtUserName"), "远山林远");
+        person.Press(Qt::Key_F9);
+    });
+    fileNamed("/proc/none.db");
+    person.Next([&] {
+        const Texts told = person.Boxes();
+        ASSERT_EQ(told.size(), 1U);
+        EXPECT_NE(told[0].find("/proc/none.db"), std::string::npos) << told[0];
+        EXPECT_EQ(person.Text("txtCompName") + person.Text("txtUserName"), "远山林远");
+        person.Press(Qt::Key_F9);
+    });
+    person.Next([&] { person.Press(Qt::Key_Escape); }); // no file after all
+    person.Next([&] {                                   // nor a company
+        EXPECT_EQ(person.Text("txtCompName"), "远山");
+        person.Answer(Qt::Key_D);
+        person.Click("cmdQuit");
+        EXPECT_EQ(person.Boxes(), Texts{"帐套尚未建立，放弃所作的填写？"});
+    });
+    window.NewCompany();
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"taken.db"});
+    EXPECT_EQ(QFileInfo(taken.fileName()).size(), 0);
+    EXPECT_EQ(window.windowTitle(), title);
+    EXPECT_EQ(session.UserPath, company.Address());
 }
 
 // A program that is started in another folder tomorrow must find the company again; what a tour opens is nobody's work.

@@ -109,6 +109,52 @@ TEST_F(MasterData, AListCellOfTheTypesIsChosenByKeys) {
     });
 }
 
+// A new company's first receipt: what is missing is entered on the way, and the receipt goes on.
+TEST_F(MasterData, AReceiptWithoutProductsAndCardsLeadsToThem) {
+    ExecuteOnCompany(company.Address(), "Delete From tJXC_Cp");
+    ExecuteOnCompany(company.Address(), "Delete From cards");
+    person.Next([&] {
+        person.Find("txtKhSeek").setFocus();
+        person.Enter("G1");
+        EXPECT_EQ(person.Boxes(), Texts{"未有符合条件的供应商资料！"});
+        person.Next([&] {
+            EXPECT_EQ(S(person.Front().windowTitle()), "客户资料");
+            person.Press(Qt::Key_F2);
+            person.EnterEach({"G1", "KILN"});
+            person.Press(Qt::Key_F9);
+            for (int times = 0; times < 4; ++times)
+                person.Press(Qt::Key_Escape);
+        });
+        person.Press(Qt::Key_U, Qt::AltModifier);
+        EXPECT_EQ(person.Focus(), "txtKhSeek");
+        person.Press(Qt::Key_Return);
+        EXPECT_EQ(S(person.Find<QComboBox>("cboKhList").currentText()), "KILN");
+        person.ClickCell("Grid2", 1, 1);
+        person.Enter("P1"); // told at the foot
+        person.Next([&] {
+            EXPECT_EQ(S(person.Front().windowTitle()), "产品管理");
+            person.Press(Qt::Key_F2);
+            person.EnterEach({"P1", "CUP"});
+            person.Press(Qt::Key_F9);
+            for (int times = 0; times < 4; ++times)
+                person.Press(Qt::Key_Escape);
+        });
+        person.Press(Qt::Key_R, Qt::AltModifier);
+        person.Boxes();
+        person.ClickCell("Grid2", 1, 1);
+        person.EnterEach({"P1", "2", "3"});
+        EXPECT_EQ(person.Text("txtSum"), "6.00");
+        person.Answer(Qt::Key_Return);
+        person.Answer(Qt::Key_Escape);
+        person.Press(Qt::Key_F9);
+        EXPECT_EQ(person.Boxes().size(), 2U);
+    });
+    control.myType(1);
+    control.Refresh(13);
+    EXPECT_EQ(Rows("select b.CompCode,a.fInvJE from tJXC_CkDj01 a Inner Join cards b On a.fKhID=b.fID"),
+              Texts{"G1|6"});
+}
+
 } // namespace
 
 } // namespace jxc::test
