@@ -53,6 +53,15 @@ Refusal Gone(frmCk& s) {
     return {"[" + session.OldName + "] 已不存在！", &s.cmdCancel};
 }
 
+// What another user has made of the warehouse since it was shown. `stored` is it as it is now.
+MayRefuse RefuseOthersWork(frmCk& s, const std::string& stored) {
+    if (stored.empty())
+        return Gone(s);
+    if (stored == s.asShown)
+        return std::nullopt;
+    return Refusal{"[" + session.OldName + "] 已被其他用户修改，请重新打开！", &s.cmdCancel};
+}
+
 void WriteFields(const frmCk& s, Recordset& row) {
     const auto tick = [](const CheckBox& box) { return Value(box.value ? 1 : 0); };
     row.Set("fCkCode", s.txtCkCode.text);
@@ -64,10 +73,6 @@ void WriteFields(const frmCk& s, Recordset& row) {
     row.Set("fZhID", s.chkCkType[1].value ? s.cboZhID.Id() : 0);
     row.Set("fKhID", s.chkCkType[2].value ? s.cboKhID.Id() : 0);
     row.Update();
-}
-
-std::string WarehouseJson(const std::string& name) {
-    return JsonOf(Recordset(Conn(), "select * from tJXC_Ck where fCkName=" + InQuotes(name)));
 }
 
 MayRefuse RefuseNew(frmCk& s) {
@@ -84,7 +89,8 @@ MayRefuse StoreNew(frmCk& s) {
                   Access::Write);
     row.AddNew();
     WriteFields(s, row);
-    WriteAudit({"新增", "tJXC_Ck", s.txtCkCode.text, s.txtCkName.text, "", WarehouseJson(s.txtCkName.text)});
+    WriteAudit(
+        {"新增", "tJXC_Ck", s.txtCkCode.text, s.txtCkName.text, "", StoredWarehouse(s.txtCkName.text)});
     transaction.Commit();
     return std::nullopt;
 }
@@ -130,13 +136,13 @@ MayRefuse StoreChange(frmCk& s, bool& followed) {
     Recordset row(Conn(),
                   "select * from tJXC_Ck where fCkName=" + InQuotes(session.OldName) + " order by fCkCode",
                   Access::Write);
-    if (row.AtEnd())
-        return Gone(s);
     const std::string before = JsonOf(row);
+    if (MayRefuse refusal = RefuseOthersWork(s, before))
+        return refusal;
     WriteFields(s, row);
     followed = !IsRenamed(s) || RenameWarehouseEverywhere(session.OldName, s.txtCkName.text);
     WriteAudit({IsRenamed(s) ? "改名" : "修改", "tJXC_Ck", s.txtCkCode.text, s.txtCkName.text, before,
-                WarehouseJson(s.txtCkName.text)});
+                StoredWarehouse(s.txtCkName.text)});
     transaction.Commit();
     return std::nullopt;
 }
@@ -157,16 +163,14 @@ void Change(frmCk& s) {
 MayRefuse RefuseDeletion(frmCk& s, const std::string& name) {
     if (HasRows("tJXC_CkDj01", "fCkName=" + InQuotes(session.OldName)))
         return Refusal{"[" + name + "]：该仓库已经投入使用，不可删除。请选择“仓库停用”！", &s.cmdCancel};
-    if (!HasRows("tJXC_Ck", "fCkName=" + InQuotes(session.OldName)))
-        return Gone(s);
-    return std::nullopt;
+    return RefuseOthersWork(s, StoredWarehouse(session.OldName));
 }
 
 MayRefuse StoreDeletion(frmCk& s, const std::string& name) {
     Transaction transaction(Conn());
     if (MayRefuse refusal = RefuseDeletion(s, name))
         return refusal;
-    WriteAudit({"删除", "tJXC_Ck", s.txtCkCode.text, name, WarehouseJson(name), ""});
+    WriteAudit({"删除", "tJXC_Ck", s.txtCkCode.text, name, s.asShown, ""});
     Conn().Execute("Delete From tJXC_Ck Where fCkName = " + InQuotes(name));
     transaction.Commit();
     return std::nullopt;
