@@ -130,6 +130,20 @@ TEST_P(Kits, OfAnOlderCompanyGainTheirNotes) {
     }
 }
 
+// What another user made of the cost since it was shown is what it was before.
+TEST_P(Kits, ChangeACostFromWhatIsStored) {
+    Visit([&](frmCpTj& s) {
+        Click(s, s.cmdChange);
+        Conn().Execute("Update tJXC_Cp Set fCpPrice0=1500.25 Where fCpCode='PC001'");
+        EnterText(s, s.txtCpPrice, "1600.5");
+        GoTo(s, s.txtTjCode);
+        EXPECT_EQ(s.txtCpPrice.text, "1600.50");
+    });
+    EXPECT_EQ(One("Select fCpPrice0 From tJXC_Cp Where fCpCode='PC001'"), "1600.5");
+    EXPECT_EQ(One("Select Top 1 fName,fBefore,fAfter From tJXC_Audit Order By fID Desc"),
+              R"(PC001|{"fCpPrice0":1500.25}|{"fCpPrice0":1600.5})");
+}
+
 // A paste of a long text, as a person makes it: cut to what the field holds.
 TEST_P(Kits, TakeNoMoreThanTheirFieldsHold) {
     Visit([&](frmCpTj& s) {
