@@ -49,6 +49,14 @@ MayRefuse RefuseTakenName(frmCk& s) {
     return Refusal{"[名称]已有存在 !", &s.txtCkName};
 }
 
+// What lies under the name still, of a warehouse that is gone.
+MayRefuse RefuseOthersStock(frmCk& s, const std::string& oldName) {
+    MayRefuse leftover = RefuseLeftoverStock(oldName, s.txtCkName.text);
+    if (leftover)
+        leftover->focus = &s.txtCkName;
+    return leftover;
+}
+
 Refusal Gone(frmCk& s) {
     return {"[" + session.OldName + "] 已不存在！", &s.cmdCancel};
 }
@@ -76,8 +84,11 @@ void WriteFields(const frmCk& s, Recordset& row) {
 }
 
 MayRefuse RefuseNew(frmCk& s) {
-    const MayRefuse code = RefuseTakenCode(s);
-    return code ? code : RefuseTakenName(s);
+    if (MayRefuse code = RefuseTakenCode(s))
+        return code;
+    if (MayRefuse name = RefuseTakenName(s))
+        return name;
+    return RefuseOthersStock(s, "");
 }
 
 // The checks are made again where nobody can come between them and the writing.
@@ -85,6 +96,7 @@ MayRefuse StoreNew(frmCk& s) {
     Transaction transaction(Conn());
     if (MayRefuse taken = RefuseNew(s))
         return taken;
+    DropLeftoverStock(s.txtCkName.text);
     Recordset row(Conn(), "select * from tJXC_Ck where fCkName = " + InQuotes(s.txtCkName.text),
                   Access::Write);
     row.AddNew();
@@ -122,10 +134,7 @@ MayRefuse RefuseChange(frmCk& s) {
     if (!EqualsNoCase(s.txtCkCode.text, s.oldCode))
         if (MayRefuse taken = RefuseTakenCode(s))
             return taken;
-    MayRefuse leftover = RefuseLeftoverStock(session.OldName, s.txtCkName.text);
-    if (leftover)
-        leftover->focus = &s.txtCkName;
-    return leftover;
+    return RefuseOthersStock(s, session.OldName);
 }
 
 // `followed` is false when documents, stock and products could not be renamed with the warehouse.
