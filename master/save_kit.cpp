@@ -12,6 +12,7 @@
 #include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
+#include "session/messages.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -166,6 +167,9 @@ bool Stored(frmCpTj& s, const std::function<MayRefuse()>& work) {
         if (refusal)
             TellRefusal(s, *refusal);
         return !refusal;
+    } catch (const CommitUnknown& error) {
+        WarnOfFailure(s.title, CommitUnknownText(s.txtTjName.text, "存盘"), CauseOf(error));
+        return false;
     } catch (const DatabaseError& error) {
         WarnOfFailure(s.title, "系统存盘错误，操作已经取消！", CauseOf(error));
         return false;

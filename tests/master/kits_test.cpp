@@ -1,6 +1,7 @@
 // Saving a kit template is whole or not at all, whichever statement fails; what older companies lack is added once; and
 // whoever closes the picker without choosing has chosen nothing.
 #include "controls/gestures.h"
+#include "database/database_error.h"
 #include "database/engine.h"
 #include "master/frmCpTj.h"
 #include "session/session.h"
@@ -79,6 +80,24 @@ TEST_P(Kits, AreChangedWholeOrNotAtAll) {
 TEST_P(Kits, AreDeletedWholeOrNotAtAll) {
     FailAtEveryStatement([](frmCpTj& s) { Click(s, s.cmdDelete); });
     EXPECT_EQ(One("Select count(*) From tJXC_CpTj02 Where fTjID=2"), "0");
+}
+
+// Nobody can say that it was cancelled, nor that it was done; what was typed stays.
+TEST_P(Kits, SayThatNobodyKnowsWhenTheLineIsLostWithTheCommit) {
+    Visit([&](frmCpTj& s) {
+        Click(s, s.cmdChange);
+        TypeCell(s, s.Grid2, 1, part::kQuantity, "2");
+        Conn().SetObserver([](std::string_view sql) {
+            if (sql == "commit")
+                throw CommitUnknown("lost");
+        });
+        Click(s, s.cmdSave);
+        Conn().SetObserver(nullptr);
+        EXPECT_EQ(clerk->LastBox(), "与服务器的连接在存盘的最后一步中断，" + s.txtTjName.text +
+                                        " 可能已经存盘，也可能没有。请查询确认后再继续。");
+        EXPECT_EQ(s.mode, EditorMode::Change);
+        EXPECT_EQ(s.Grid2.Number(1, part::kQuantity), 2);
+    });
 }
 
 TEST_P(Kits, AskNothingWhileOthersWait) {
