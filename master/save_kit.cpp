@@ -34,13 +34,21 @@ MayRefuse RefuseFields(frmCpTj& s) {
          {[&] { return s.Grid2.RowCount() == 0; }, "请输入模板的配件信息！", &s.Grid2}});
 }
 
+// Rows without a product or a quantity are no parts; a person who typed something in them is told that they go.
+void RemoveRowsWithoutPart(frmCpTj& s) {
+    const std::string rows = HalfBlankRows(s.Grid2, part::kQuantity);
+    RemoveBlankRows(s.Grid2, part::kQuantity);
+    RefreshTotal(s);
+    std::string told = rows.empty() ? "" : "以下各行不计入模板：" + rows + "。";
+    if (s.Grid2.RowCount() == 0)
+        told += "模板没有配件，再次打开时将被删除。";
+    if (!told.empty() && s.IsTyping())
+        CurrentView().Signal(told);
+}
+
 void CutToTheirLimits(frmCpTj& s) {
     for (TextBox* box : std::initializer_list<TextBox*>{&s.txtTjCode, &s.txtTjName, &s.txtTjMemo})
         box->text = TruncateToBytes(box->text, box->maxBytes);
-    if (const std::string rows = HalfBlankRows(s.Grid2, part::kQuantity); !rows.empty() && s.IsTyping())
-        CurrentView().Signal("以下各行不计入模板：" + rows + "。");
-    RemoveBlankRows(s.Grid2, part::kQuantity);
-    RefreshTotal(s);
 }
 
 bool IsTaken(const std::string& field, const TextBox& box) {
@@ -226,6 +234,7 @@ void SaveKit(frmCpTj& s) {
     if (const MayRefuse refusal = RefuseFields(s))
         return TellRefusal(s, *refusal);
     CutToTheirLimits(s);
+    RemoveRowsWithoutPart(s);
     if (s.mode == EditorMode::Add)
         Add(s);
     else if (s.mode == EditorMode::Change)
