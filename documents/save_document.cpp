@@ -14,6 +14,7 @@
 #include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
+#include "session/messages.h"
 #include "session/session.h"
 
 namespace jxc {

@@ -61,6 +61,7 @@ struct frmCk : Screen {
     EditorMode mode = EditorMode::Browse;
     // The code of the warehouse in hand as it is stored; its name as stored is session.OldName.
     std::string oldCode;
+    std::string asShown; // the warehouse in hand as StoredWarehouse gave it
     std::string asBegun; // TypedWork when the mode began
 
     Filters filters;
@@ -84,6 +85,8 @@ std::string WarehouseOf(const frmCk& s, int node);
 // The fields of the warehouse of that name, which is the one in hand then; none without a row.
 void ShowWarehouse(frmCk& s, const std::string& name);
 void ClearWarehouse(frmCk& s);
+// The warehouse of that name as it is stored, as JSON for the trail and to be compared; "" when it is not there.
+std::string StoredWarehouse(const std::string& name);
 // The kinds that exclude each other.
 void TickKind(frmCk& s, size_t kind);
 void SeekConsignee(frmCk& s);

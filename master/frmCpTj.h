@@ -75,6 +75,7 @@ struct frmCpTj : Screen {
 
     EditorMode mode = EditorMode::Browse;
     std::string oldCode, oldName; // of the template shown, as stored
+    std::string asShown;          // the whole template shown, as StoredKit gave it
     std::string asBegun;          // TypedWork when the mode began
 
     Columns list;
@@ -107,6 +108,8 @@ std::vector<Column> PartColumns();
 // has no parts is told and deleted, in a transaction of its own.
 void ShowKit(frmCpTj& s, const std::string& code, std::int32_t id);
 void ClearKit(frmCpTj& s);
+// Header and parts as they are stored, as JSON for the trail and to be compared; "" when the template is not there.
+std::string StoredKit(std::int32_t id);
 // The stock column by the warehouse chosen; without one all of them count.
 void RefreshPartStock(frmCpTj& s);
 void RefreshTotal(frmCpTj& s);

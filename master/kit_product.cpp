@@ -3,10 +3,10 @@
 #include "base/text.h"
 #include "controls/bounds.h"
 #include "controls/view.h"
+#include "database/recordset.h"
 #include "forms/edit_filter.h"
 #include "master/frmCpTj.h"
 #include "session/audit/audit.h"
-#include "session/lookups/database_routines.h"
 #include "session/lookups/find_by_text.h"
 #include "session/rights.h"
 #include "session/session.h"
@@ -85,6 +85,21 @@ bool MayChangeCost(frmCpTj& s) {
                                     "）的参考成本价？");
 }
 
+// In a transaction of its own; false when the product is gone by then.
+bool StoreCost(const std::string& code, double cost) {
+    const std::string product = std::to_string(session.SelectedProductID);
+    Transaction transaction(Conn());
+    Recordset row(Conn(), "Select fCpPrice0 From tJXC_Cp Where fCpID=" + product, Access::Write);
+    if (row.AtEnd())
+        return false;
+    const std::string before = JsonOf(row);
+    row.Set("fCpPrice0", cost);
+    WriteAudit({"修改", "tJXC_Cp", product, code, before, JsonOf(row)});
+    row.Update();
+    transaction.Commit();
+    return true;
+}
+
 // Written at once, whatever becomes of the template.
 void ChangeCost(frmCpTj& s) {
     TextBox& price = s.txtCpPrice;
@@ -95,15 +110,9 @@ void ChangeCost(frmCpTj& s) {
         return;
     }
     const std::string text = FormatFixed(Val(price.text), session.DeciDj);
-    const std::string product = "fCpID=" + std::to_string(session.SelectedProductID);
     price.text = price.tag; // until it is stored
-    if (!HasRows("tJXC_Cp", product))
+    if (!StoreCost(s.txtCpCode.text, Val(text)))
         return Warn(s.title, "该套件产品资料已不存在！");
-    Transaction transaction(Conn());
-    WriteAudit({"修改", "tJXC_Cp", std::to_string(session.SelectedProductID), s.txtCpCode.text,
-                JsonOf({{"fCpPrice0", Val(price.tag)}}), JsonOf({{"fCpPrice0", Val(text)}})});
-    Conn().Execute("Update tJXC_Cp Set fCpPrice0=" + NumberText(Val(text)) + " Where " + product);
-    transaction.Commit();
     price.text = price.tag = text;
 }
 

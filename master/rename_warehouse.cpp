@@ -42,7 +42,7 @@ void RenameIn(const std::string& table, const std::string& field, const std::str
 
 void RenameEverywhere(const std::string& oldName, const std::string& newName) {
     if (!EqualsNoCase(oldName, newName)) // names are compared without case: these would be its own rows
-        Conn().Execute("Delete From " + StockOf(newName));
+        DropLeftoverStock(newName);
     RenameIn("tJXC_CkDj02", "fCkName", oldName, newName);
     RenameIn("tJXC_CkDj01", "fCkName", oldName, newName);
     RenameIn("tJXC_CkDj01", "fCkName2", oldName, newName);
@@ -61,6 +61,10 @@ MayRefuse RefuseLeftoverStock(const std::string& oldName, const std::string& new
         return std::nullopt;
     return Refusal{"[" + newName + "] 名下还有 " + std::to_string(left) +
                    " 种产品的库存统计，不可改用该名称！"};
+}
+
+void DropLeftoverStock(const std::string& name) {
+    Conn().Execute("Delete From " + StockOf(name));
 }
 
 bool RenameWarehouseEverywhere(const std::string& oldName, const std::string& newName) {

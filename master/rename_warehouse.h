@@ -15,7 +15,11 @@ namespace jxc {
 [[nodiscard]] bool RenameWarehouseEverywhere(const std::string& oldName, const std::string& newName);
 
 // Stock of a warehouse that is gone may have stayed under the new name, and would become this one's: refused unless it
-// is zero.
+// is zero. `oldName` is "" for a warehouse that is new.
 [[nodiscard]] MayRefuse RefuseLeftoverStock(const std::string& oldName, const std::string& newName);
+
+// Takes away the stock rows under a name that no warehouse has, once they are known to be zero. In the caller's
+// transaction.
+void DropLeftoverStock(const std::string& name);
 
 } // namespace jxc

@@ -9,10 +9,10 @@
 #include "forms/guard.h"
 #include "master/frmCpTj.h"
 #include "session/audit/audit.h"
-#include "session/audit/audit_json.h"
 #include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
+#include "session/messages.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -34,13 +34,21 @@ MayRefuse RefuseFields(frmCpTj& s) {
          {[&] { return s.Grid2.RowCount() == 0; }, "请输入模板的配件信息！", &s.Grid2}});
 }
 
+// Rows without a product or a quantity are no parts; a person who typed something in them is told that they go.
+void RemoveRowsWithoutPart(frmCpTj& s) {
+    const std::string rows = HalfBlankRows(s.Grid2, part::kQuantity);
+    RemoveBlankRows(s.Grid2, part::kQuantity);
+    RefreshTotal(s);
+    std::string told = rows.empty() ? "" : "以下各行不计入模板：" + rows + "。";
+    if (s.Grid2.RowCount() == 0)
+        told += "模板没有配件，再次打开时将被删除。";
+    if (!told.empty() && s.IsTyping())
+        CurrentView().Signal(told);
+}
+
 void CutToTheirLimits(frmCpTj& s) {
     for (TextBox* box : std::initializer_list<TextBox*>{&s.txtTjCode, &s.txtTjName, &s.txtTjMemo})
         box->text = TruncateToBytes(box->text, box->maxBytes);
-    if (const std::string rows = HalfBlankRows(s.Grid2, part::kQuantity); !rows.empty() && s.IsTyping())
-        CurrentView().Signal("以下各行不计入模板：" + rows + "。");
-    RemoveBlankRows(s.Grid2, part::kQuantity);
-    RefreshTotal(s);
 }
 
 bool IsTaken(const std::string& field, const TextBox& box) {
@@ -58,12 +66,11 @@ MayRefuse RefuseTaken(frmCpTj& s) {
     return std::nullopt;
 }
 
-// What another user has made of the template since it was shown.
-MayRefuse RefuseOthersWork(frmCpTj& s) {
-    const Recordset row(Conn(), "select fTjCode,fTjName from tJXC_CpTj01 Where " + ThisKit(s.TjID));
-    if (row.AtEnd())
+// What another user has made of the template, or of one of its parts, since it was shown. `stored` is it as it is now.
+MayRefuse RefuseOthersWork(frmCpTj& s, const std::string& stored) {
+    if (stored.empty())
         return Refusal{"该套件模板已不存在！", &s.cmdCancel};
-    if (row["fTjCode"].AsText() != s.oldCode || row["fTjName"].AsText() != s.oldName)
+    if (stored != s.asShown)
         return Refusal{"该套件模板已被其他用户修改，请重新打开！", &s.cmdCancel};
     return std::nullopt;
 }
@@ -114,21 +121,6 @@ void WriteParts(const frmCpTj& s, std::int32_t id) {
     }
 }
 
-// Header and parts as they are stored, for the trail; "" when the template is not there.
-std::string StoredKit(std::int32_t id) {
-    const Recordset header(Conn(), "select * from tJXC_CpTj01 Where " + ThisKit(id));
-    if (header.AtEnd())
-        return "";
-    Json kit = Json::parse(JsonOf(header));
-    Json& parts = kit["lines"] = Json::array();
-    Recordset part(Conn(), "select fCpPjID,fCpPjSL,fCpPjMemo from tJXC_CpTj02 Where " + ThisKit(id) +
-                               " Order By fRowID");
-    for (; !part.AtEnd(); part.MoveNext())
-        parts.push_back(Json::array(
-            {JsonValue(part["fCpPjID"]), JsonValue(part["fCpPjSL"]), JsonValue(part["fCpPjMemo"])}));
-    return JsonText(kit);
-}
-
 void AuditKit(const frmCpTj& s, const std::string& action, std::int32_t id, const std::string& before) {
     WriteAudit({action, "tJXC_CpTj01", std::to_string(id), s.txtTjCode.text, before, StoredKit(id)});
 }
@@ -146,13 +138,13 @@ MayRefuse StoreNew(frmCpTj& s, std::int32_t& id) {
 }
 
 MayRefuse StoreChanged(frmCpTj& s) {
-    if (MayRefuse refusal = RefuseOthersWork(s))
+    const std::string before = StoredKit(s.TjID);
+    if (MayRefuse refusal = RefuseOthersWork(s, before))
         return refusal;
     if (MayRefuse taken = RefuseTaken(s))
         return taken;
     if (MayRefuse gone = RefuseGoneProducts(s))
         return gone;
-    const std::string before = StoredKit(s.TjID);
     WriteHeader(s, s.TjID);
     Conn().Execute("Delete From tJXC_CpTj02 Where " + ThisKit(s.TjID));
     WriteParts(s, s.TjID);
@@ -161,9 +153,9 @@ MayRefuse StoreChanged(frmCpTj& s) {
 }
 
 MayRefuse Remove(frmCpTj& s) {
-    if (MayRefuse refusal = RefuseOthersWork(s))
-        return refusal;
     const std::string before = StoredKit(s.TjID);
+    if (MayRefuse refusal = RefuseOthersWork(s, before))
+        return refusal;
     if (!DeleteDocumentRows("tJXC_CpTj", ThisKit(s.TjID)))
         throw DatabaseError("不能删除套件模板。");
     AuditKit(s, "删除", s.TjID, before);
@@ -183,6 +175,9 @@ bool Stored(frmCpTj& s, const std::function<MayRefuse()>& work) {
         if (refusal)
             TellRefusal(s, *refusal);
         return !refusal;
+    } catch (const CommitUnknown& error) {
+        WarnOfFailure(s.title, CommitUnknownText(s.txtTjName.text, "存盘"), CauseOf(error));
+        return false;
     } catch (const DatabaseError& error) {
         WarnOfFailure(s.title, "系统存盘错误，操作已经取消！", CauseOf(error));
         return false;
@@ -239,6 +234,7 @@ void SaveKit(frmCpTj& s) {
     if (const MayRefuse refusal = RefuseFields(s))
         return TellRefusal(s, *refusal);
     CutToTheirLimits(s);
+    RemoveRowsWithoutPart(s);
     if (s.mode == EditorMode::Add)
         Add(s);
     else if (s.mode == EditorMode::Change)

@@ -49,8 +49,25 @@ MayRefuse RefuseTakenName(frmCk& s) {
     return Refusal{"[名称]已有存在 !", &s.txtCkName};
 }
 
+// What lies under the name still, of a warehouse that is gone.
+MayRefuse RefuseOthersStock(frmCk& s, const std::string& oldName) {
+    MayRefuse leftover = RefuseLeftoverStock(oldName, s.txtCkName.text);
+    if (leftover)
+        leftover->focus = &s.txtCkName;
+    return leftover;
+}
+
 Refusal Gone(frmCk& s) {
     return {"[" + session.OldName + "] 已不存在！", &s.cmdCancel};
+}
+
+// What another user has made of the warehouse since it was shown. `stored` is it as it is now.
+MayRefuse RefuseOthersWork(frmCk& s, const std::string& stored) {
+    if (stored.empty())
+        return Gone(s);
+    if (stored == s.asShown)
+        return std::nullopt;
+    return Refusal{"[" + session.OldName + "] 已被其他用户修改，请重新打开！", &s.cmdCancel};
 }
 
 void WriteFields(const frmCk& s, Recordset& row) {
@@ -66,13 +83,12 @@ void WriteFields(const frmCk& s, Recordset& row) {
     row.Update();
 }
 
-std::string WarehouseJson(const std::string& name) {
-    return JsonOf(Recordset(Conn(), "select * from tJXC_Ck where fCkName=" + InQuotes(name)));
-}
-
 MayRefuse RefuseNew(frmCk& s) {
-    const MayRefuse code = RefuseTakenCode(s);
-    return code ? code : RefuseTakenName(s);
+    if (MayRefuse code = RefuseTakenCode(s))
+        return code;
+    if (MayRefuse name = RefuseTakenName(s))
+        return name;
+    return RefuseOthersStock(s, "");
 }
 
 // The checks are made again where nobody can come between them and the writing.
@@ -80,11 +96,13 @@ MayRefuse StoreNew(frmCk& s) {
     Transaction transaction(Conn());
     if (MayRefuse taken = RefuseNew(s))
         return taken;
+    DropLeftoverStock(s.txtCkName.text);
     Recordset row(Conn(), "select * from tJXC_Ck where fCkName = " + InQuotes(s.txtCkName.text),
                   Access::Write);
     row.AddNew();
     WriteFields(s, row);
-    WriteAudit({"新增", "tJXC_Ck", s.txtCkCode.text, s.txtCkName.text, "", WarehouseJson(s.txtCkName.text)});
+    WriteAudit(
+        {"新增", "tJXC_Ck", s.txtCkCode.text, s.txtCkName.text, "", StoredWarehouse(s.txtCkName.text)});
     transaction.Commit();
     return std::nullopt;
 }
@@ -116,10 +134,7 @@ MayRefuse RefuseChange(frmCk& s) {
     if (!EqualsNoCase(s.txtCkCode.text, s.oldCode))
         if (MayRefuse taken = RefuseTakenCode(s))
             return taken;
-    MayRefuse leftover = RefuseLeftoverStock(session.OldName, s.txtCkName.text);
-    if (leftover)
-        leftover->focus = &s.txtCkName;
-    return leftover;
+    return RefuseOthersStock(s, session.OldName);
 }
 
 // `followed` is false when documents, stock and products could not be renamed with the warehouse.
@@ -130,13 +145,13 @@ MayRefuse StoreChange(frmCk& s, bool& followed) {
     Recordset row(Conn(),
                   "select * from tJXC_Ck where fCkName=" + InQuotes(session.OldName) + " order by fCkCode",
                   Access::Write);
-    if (row.AtEnd())
-        return Gone(s);
     const std::string before = JsonOf(row);
+    if (MayRefuse refusal = RefuseOthersWork(s, before))
+        return refusal;
     WriteFields(s, row);
     followed = !IsRenamed(s) || RenameWarehouseEverywhere(session.OldName, s.txtCkName.text);
     WriteAudit({IsRenamed(s) ? "改名" : "修改", "tJXC_Ck", s.txtCkCode.text, s.txtCkName.text, before,
-                WarehouseJson(s.txtCkName.text)});
+                StoredWarehouse(s.txtCkName.text)});
     transaction.Commit();
     return std::nullopt;
 }
@@ -157,16 +172,14 @@ void Change(frmCk& s) {
 MayRefuse RefuseDeletion(frmCk& s, const std::string& name) {
     if (HasRows("tJXC_CkDj01", "fCkName=" + InQuotes(session.OldName)))
         return Refusal{"[" + name + "]：该仓库已经投入使用，不可删除。请选择“仓库停用”！", &s.cmdCancel};
-    if (!HasRows("tJXC_Ck", "fCkName=" + InQuotes(session.OldName)))
-        return Gone(s);
-    return std::nullopt;
+    return RefuseOthersWork(s, StoredWarehouse(session.OldName));
 }
 
 MayRefuse StoreDeletion(frmCk& s, const std::string& name) {
     Transaction transaction(Conn());
     if (MayRefuse refusal = RefuseDeletion(s, name))
         return refusal;
-    WriteAudit({"删除", "tJXC_Ck", s.txtCkCode.text, name, WarehouseJson(name), ""});
+    WriteAudit({"删除", "tJXC_Ck", s.txtCkCode.text, name, s.asShown, ""});
     Conn().Execute("Delete From tJXC_Ck Where fCkName = " + InQuotes(name));
     transaction.Commit();
     return std::nullopt;

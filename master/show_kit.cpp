@@ -6,6 +6,7 @@
 #include "database/recordset.h"
 #include "master/frmCpTj.h"
 #include "session/audit/audit.h"
+#include "session/audit/audit_json.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/lookups/find_by_text.h"
@@ -93,11 +94,27 @@ std::vector<Column> PartColumns() {
             {"fCpPjID", "fCpPjID", 0, Key}};
 }
 
+std::string StoredKit(std::int32_t id) {
+    const std::string test = "fTjID=" + std::to_string(id);
+    const Recordset header(Conn(), "select * from tJXC_CpTj01 Where " + test);
+    if (header.AtEnd())
+        return "";
+    Json kit = Json::parse(JsonOf(header));
+    Json& parts = kit["lines"] = Json::array();
+    Recordset part(Conn(),
+                   "select fCpPjID,fCpPjSL,fCpPjMemo from tJXC_CpTj02 Where " + test + " Order By fRowID");
+    for (; !part.AtEnd(); part.MoveNext())
+        parts.push_back(Json::array(
+            {JsonValue(part["fCpPjID"]), JsonValue(part["fCpPjSL"]), JsonValue(part["fCpPjMemo"])}));
+    return JsonText(kit);
+}
+
 void ClearKit(frmCpTj& s) {
     s.TjID = 0;
     session.SelectedProductID = 0;
     s.oldCode.clear();
     s.oldName.clear();
+    s.asShown.clear();
     for (TextBox* box :
          std::initializer_list<TextBox*>{&s.txtTjCode, &s.txtTjName, &s.txtTjMemo, &s.txtCpCode, &s.txtCpName,
                                          &s.txtCpPrice, &s.txtTjPrice}) {
@@ -121,6 +138,7 @@ void ShowKit(frmCpTj& s, const std::string& code, std::int32_t id) {
         return Warn(s.title, kGone);
     }
     ShowHeader(s, row);
+    s.asShown = StoredKit(s.TjID); // before its parts: what changes from here on is another user's work
     if (ShowParts(s) > 0)
         return;
     Warn(s.title, s.oldName + ": " + kGone);

@@ -5,6 +5,7 @@
 #include "database/recordset.h"
 #include "forms/edit_filter.h"
 #include "master/frmCk.h"
+#include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
@@ -33,7 +34,15 @@ void ShowConsignee(frmCk& s, std::int64_t card) {
         s.cboKhID.Show(row[size_t{0}].AsText(), card);
 }
 
+std::string WarehouseStatement(const std::string& name) {
+    return "select * from tJXC_Ck where fCkName=" + InQuotes(name) + " order by fCkCode";
+}
+
 } // namespace
+
+std::string StoredWarehouse(const std::string& name) {
+    return JsonOf(Recordset(Conn(), WarehouseStatement(name)));
+}
 
 void ClearWarehouse(frmCk& s) {
     for (TextBox* box : {&s.txtCkCode, &s.txtCkName, &s.txtCkMemo, &s.txtKhSeek})
@@ -44,12 +53,13 @@ void ClearWarehouse(frmCk& s) {
     s.cboZhID.SetIndex(-1);
     s.cboKhID.Clear();
     s.oldCode.clear();
+    s.asShown.clear();
     session.OldName.clear();
 }
 
 void ShowWarehouse(frmCk& s, const std::string& name) {
-    const Recordset row(Conn(), "select * from tJXC_Ck " +
-                                    (name.empty() ? "" : " where fCkName = " + InQuotes(name)));
+    const Recordset row(Conn(), WarehouseStatement(name));
+    s.asShown = JsonOf(row);
     if (row.AtEnd())
         return ClearWarehouse(s);
     s.txtCkCode.text = s.oldCode = row["fCkCode"].AsText();

@@ -114,4 +114,9 @@ std::string GetResStr(int id) {
     return Texts().at(session.Language * kSetDistance + id);
 }
 
+std::string CommitUnknownText(const std::string& what, const std::string& verb) {
+    return "与服务器的连接在" + verb + "的最后一步中断，" + what + " 可能已经" + verb +
+           "，也可能没有。请查询确认后再继续。";
+}
+
 } // namespace jxc

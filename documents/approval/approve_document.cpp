@@ -10,6 +10,7 @@
 #include "master/supplier_history.h"
 #include "session/audit/audit.h"
 #include "session/dialect.h"
+#include "session/messages.h"
 #include "session/session.h"
 #include "settings/document_numbers.h"
 
@@ -213,11 +214,6 @@ ApprovalResult Post(const DocumentData& document, const StoredDocument& asLoaded
 
 std::string ApprovalVerb(bool reversal) {
     return reversal ? "反审核" : "审核";
-}
-
-std::string CommitUnknownText(const std::string& number, const std::string& verb) {
-    return "与服务器的连接在" + verb + "的最后一步中断，" + number + " 可能已经" + verb +
-           "，也可能没有。请查询确认后再继续。";
 }
 
 std::string ReversalRefusal(const DocumentData& document) {

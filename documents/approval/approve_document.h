@@ -39,8 +39,5 @@ using ApprovalProgress = std::function<void(const std::string& stage, int at, in
 
 // "审核" or "反审核".
 std::string ApprovalVerb(bool reversal);
-// What is told when a server was lost while `verb` (存盘, 审核 or 反审核) was on its way to be made lasting. To do it
-// again is safe: a number that is taken and a document that is approved are refused.
-std::string CommitUnknownText(const std::string& number, const std::string& verb);
 
 } // namespace jxc

@@ -1,6 +1,7 @@
 // Saving a kit template is whole or not at all, whichever statement fails; what older companies lack is added once; and
 // whoever closes the picker without choosing has chosen nothing.
 #include "controls/gestures.h"
+#include "database/database_error.h"
 #include "database/engine.h"
 #include "master/frmCpTj.h"
 #include "session/session.h"
@@ -81,6 +82,24 @@ TEST_P(Kits, AreDeletedWholeOrNotAtAll) {
     EXPECT_EQ(One("Select count(*) From tJXC_CpTj02 Where fTjID=2"), "0");
 }
 
+// Nobody can say that it was cancelled, nor that it was done; what was typed stays.
+TEST_P(Kits, SayThatNobodyKnowsWhenTheLineIsLostWithTheCommit) {
+    Visit([&](frmCpTj& s) {
+        Click(s, s.cmdChange);
+        TypeCell(s, s.Grid2, 1, part::kQuantity, "2");
+        Conn().SetObserver([](std::string_view sql) {
+            if (sql == "commit")
+                throw CommitUnknown("lost");
+        });
+        Click(s, s.cmdSave);
+        Conn().SetObserver(nullptr);
+        EXPECT_EQ(clerk->LastBox(), "与服务器的连接在存盘的最后一步中断，" + s.txtTjName.text +
+                                        " 可能已经存盘，也可能没有。请查询确认后再继续。");
+        EXPECT_EQ(s.mode, EditorMode::Change);
+        EXPECT_EQ(s.Grid2.Number(1, part::kQuantity), 2);
+    });
+}
+
 TEST_P(Kits, AskNothingWhileOthersWait) {
     Visit([&](frmCpTj& s) {
         Click(s, s.cmdChange);
@@ -128,6 +147,20 @@ TEST_P(Kits, OfAnOlderCompanyGainTheirNotes) {
         Visit([](frmCpTj& s) { EXPECT_EQ(s.Grid2.RowCount(), 9); });
         EXPECT_EQ(std::ranges::count(recorder.sent, added), first ? 1 : 0);
     }
+}
+
+// What another user made of the cost since it was shown is what it was before.
+TEST_P(Kits, ChangeACostFromWhatIsStored) {
+    Visit([&](frmCpTj& s) {
+        Click(s, s.cmdChange);
+        Conn().Execute("Update tJXC_Cp Set fCpPrice0=1500.25 Where fCpCode='PC001'");
+        EnterText(s, s.txtCpPrice, "1600.5");
+        GoTo(s, s.txtTjCode);
+        EXPECT_EQ(s.txtCpPrice.text, "1600.50");
+    });
+    EXPECT_EQ(One("Select fCpPrice0 From tJXC_Cp Where fCpCode='PC001'"), "1600.5");
+    EXPECT_EQ(One("Select Top 1 fName,fBefore,fAfter From tJXC_Audit Order By fID Desc"),
+              R"(PC001|{"fCpPrice0":1500.25}|{"fCpPrice0":1600.5})");
 }
 
 // A paste of a long text, as a person makes it: cut to what the field holds.
