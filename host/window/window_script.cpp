@@ -4,16 +4,17 @@
 
 #include "view/qt_text.h"
 
+// NOLINTBEGIN(readability-identifier-naming): Qt's name.
 // How Qt's own library for tests sends keys: as the window system does, so that menus and shortcuts hear them too.
 Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key, Qt::KeyboardModifiers held,
                                     const QString& text, bool repeated, ushort count);
+// NOLINTEND(readability-identifier-naming)
 
 namespace jxc {
 
 namespace {
 
 constexpr int kPause = 40; // milliseconds for the windows to paint
-
 constexpr int kTries = 25; // of having a window take the keyboard
 
 QWidget& KeyboardsWindow() {
