@@ -81,14 +81,6 @@ class Lines {
     RowInserter rows_;
 };
 
-// Where fInvSL2 of a line comes from; null for nowhere: a stocktake keeps the book quantity, a new order's balance is its
-// full quantity, a changed order's what is still to come of it.
-double DocumentLine::*SecondQuantity(const DocumentData& document, bool isNew, bool second) {
-    if (document.type.fSetJy_ && !second)
-        return isNew ? &DocumentLine::quantity : &DocumentLine::balance;
-    return document.type.IsStocktake() ? &DocumentLine::bookQuantity : nullptr;
-}
-
 void WriteOrdinaryLines(const DocumentData& document, bool isNew, bool second) {
     Lines lines(document, second ? 1 : 0);
     lines.Set(kKhID, document.type.HasCustomer() ? document.customer : 0);
@@ -112,15 +104,10 @@ void WriteParts(const DocumentData& document) {
     }
 }
 
-// The finished product on the second; its price is what the parts of one piece come to.
+// The finished product on the second.
 void WriteFinishedProduct(const DocumentData& document) {
-    const double total = TotalOf(document.lines);
     Lines lines(document, 1);
-    lines.SetFigures(1, {.product = document.finishedProduct,
-                         .quantity = document.kitQuantity,
-                         .price = total / document.kitQuantity,
-                         .amount = total,
-                         .memo1 = "产品套件"});
+    lines.SetFigures(1, FinishedProductLine(document));
     lines.Insert();
 }
 
@@ -177,6 +164,21 @@ std::string MayStillBeWritten(const DocumentData& document, const StoredDocument
 }
 
 } // namespace
+
+DocumentLine FinishedProductLine(const DocumentData& document) {
+    const double total = TotalOf(document.lines);
+    return {.product = document.finishedProduct,
+            .quantity = document.kitQuantity,
+            .price = total / document.kitQuantity,
+            .amount = total,
+            .memo1 = "产品套件"};
+}
+
+double DocumentLine::*SecondQuantity(const DocumentData& document, bool isNew, bool second) {
+    if (document.type.fSetJy_ && !second)
+        return isNew ? &DocumentLine::quantity : &DocumentLine::balance;
+    return document.type.IsStocktake() ? &DocumentLine::bookQuantity : nullptr;
+}
 
 std::vector<std::pair<std::string, Value>> HeaderFields(const DocumentData& document) {
     const TypeRow& type = document.type;

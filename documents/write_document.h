@@ -13,6 +13,12 @@ namespace jxc {
 // What a header says of its document, by field; its key apart. It is not approved then.
 std::vector<std::pair<std::string, Value>> HeaderFields(const DocumentData& document);
 
+// The further row of a kit document: its price is what the parts of one piece come to.
+DocumentLine FinishedProductLine(const DocumentData& document);
+// Where fInvSL2 of a line comes from; null for nowhere: a stocktake keeps the book quantity, a new order's balance is its
+// full quantity, a changed order's what is still to come of it.
+double DocumentLine::*SecondQuantity(const DocumentData& document, bool isNew, bool second);
+
 // Writes a new document under the book's next key, which it puts into `document` with the total of the lines. Refused are
 // figures out of bounds, a date before the period and a number that is taken. It is not approved then. That number,
 // warehouses, customer and lines are given as the type wants them is for the caller to see to.

@@ -29,6 +29,13 @@ ListField::ListField(Place place, std::string name, bool editable)
     onLeave = [this] { return ComboIndexByText(*this, text) >= 0 || CheckNoQuote(text); };
 }
 
+FixedList::FixedList(Place place, std::string name, std::string caption, std::vector<std::string> choices)
+    : ListBox(place, std::move(name)) {
+    this->caption = std::move(caption);
+    items = std::move(choices);
+    SetIndex(0);
+}
+
 std::string DateRange::Test(const std::string& column) const {
     const std::optional<Date> from = first.date ? first.date : last.date;
     if (!from)

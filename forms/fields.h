@@ -29,6 +29,11 @@ struct ListField : ListBox {
     ListField(Place place, std::string name, bool editable = false);
 };
 
+// A list whose items are those of the program, chosen by their places from 0.
+struct FixedList : ListBox {
+    FixedList(Place place, std::string name, std::string caption, std::vector<std::string> choices);
+};
+
 // Two days, either of which may be left out. `name`(0) is the first, `name`(1) the last.
 struct DateRange {
     DateRange(Place place, const std::string& name) : first(place, name + "(0)"), last(place, name + "(1)") {}

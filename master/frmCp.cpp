@@ -90,9 +90,9 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     };
     Grid1.onHeading = [this](int column) { GridSort(Grid1, column); };
     cmdQuery.onClick = [this] { QueryProducts(*this); };
-    cmdAdd.onClick = [this] { BeginProductMode(*this, ProductMode::Add); };
-    cmdChange.onClick = [this] { BeginProductMode(*this, ProductMode::Change); };
-    cmdDelete.onClick = [this] { BeginProductMode(*this, ProductMode::Delete); };
+    cmdAdd.onClick = [this] { BeginProductMode(*this, EditorMode::Add); };
+    cmdChange.onClick = [this] { BeginProductMode(*this, EditorMode::Change); };
+    cmdDelete.onClick = [this] { BeginProductMode(*this, EditorMode::Delete); };
     cmdSave.onClick = [this] { SaveProduct(*this); };
     cmdCancel.onClick = [this] { LeaveProductMode(*this); };
     cmdCancel.dropsWork = true;

@@ -8,10 +8,9 @@
 #include "forms/columns.h"
 #include "forms/filters.h"
 #include "forms/lookup_fields.h"
+#include "forms/record_editor.h"
 
 namespace jxc {
-
-enum class ProductMode { Browse = 0, Add = 1, Change = 2, Delete = 3 };
 
 // What names a field of the product; the company's dictionary may call it otherwise.
 struct FieldLabel : Label {
@@ -125,7 +124,7 @@ struct frmCp : Screen {
     std::string CpCode, CpName, CpBarCode;
     std::uint8_t CpNoEdit = 0;
 
-    ProductMode mode = ProductMode::Browse;
+    EditorMode mode = EditorMode::Browse;
     bool picking = false;
     bool noEdit = false;
     std::string columns;                                // the fields of the list's columns, "a,b,c"
@@ -134,7 +133,7 @@ struct frmCp : Screen {
     std::string asBegun;                                // what stood in the fields when the mode began
     Filters filters;
 
-    bool IsTyping() const { return mode == ProductMode::Add || mode == ProductMode::Change; }
+    bool IsTyping() const { return mode == EditorMode::Add || mode == EditorMode::Change; }
 };
 
 // -- product_list.cpp
@@ -161,7 +160,7 @@ void ShowPicture(frmCp& s);
 void WireProductFields(frmCp& s);
 
 // -- save_product.cpp
-void BeginProductMode(frmCp& s, ProductMode mode);
+void BeginProductMode(frmCp& s, EditorMode mode);
 // Back to the list, which is read anew by the query page.
 void LeaveProductMode(frmCp& s);
 void EndProductMode(frmCp& s); // without reading it

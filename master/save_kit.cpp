@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "base/json_value.h"
 #include "base/text.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"

@@ -41,19 +41,16 @@ MayRefuse RefuseTexts(frmCp& s) {
 // One's own code is no other's, in whatever case it is written.
 MayRefuse RefuseCode(frmCp& s) {
     const std::string others =
-        s.mode == ProductMode::Change ? " And fCpID<>" + std::to_string(session.SelectedProductID) : "";
+        s.mode == EditorMode::Change ? " And fCpID<>" + std::to_string(session.SelectedProductID) : "";
     if (!HasRows("tJXC_Cp", "fCpCode = " + InQuotes(s.txtCpCode.text) + others))
         return std::nullopt;
     return Refusal{Named(s.lblCpCode) + "重复 !", &s.txtCpCode};
 }
 
 bool Tell(frmCp& s, const MayRefuse& refusal) {
-    if (!refusal)
-        return false;
-    Warn(s.title, refusal->text);
-    if (refusal->focus)
-        s.MoveFocus(refusal->focus);
-    return true;
+    if (refusal)
+        TellRefusal(s, *refusal);
+    return refusal.has_value();
 }
 
 // Two products may share a name, if the person says so.
@@ -67,7 +64,7 @@ bool MayShareName(frmCp& s) {
 void WriteFields(const frmCp& s, Recordset& row) {
     const auto values = ProductValues(s);
     for (size_t field = 0; field < values.size(); ++field)
-        if (s.mode == ProductMode::Add || values[field] != s.asShown.at(field))
+        if (s.mode == EditorMode::Add || values[field] != s.asShown.at(field))
             row.Set(values[field].first, values[field].second);
 }
 
@@ -183,11 +180,11 @@ void Delete(frmCp& s) {
     LeaveProductMode(s);
 }
 
-void SetMode(frmCp& s, ProductMode mode) {
+void SetMode(frmCp& s, EditorMode mode) {
     s.mode = mode;
-    const bool browsing = mode == ProductMode::Browse;
+    const bool browsing = mode == EditorMode::Browse;
     s.cmdSave.visible = s.cmdCancel.visible = !browsing;
-    s.cmdSave.caption = mode == ProductMode::Delete ? "确认删除(&S)" : "保存(&S)";
+    s.cmdSave.caption = mode == EditorMode::Delete ? "确认删除(&S)" : "保存(&S)";
     for (Frame& frame : s.fraCp)
         frame.enabled = !browsing;
     for (Button* command : {&s.cmdAdd, &s.cmdChange, &s.cmdDelete, &s.cmdSupplier, &s.cmdStock, &s.cmdPrint,
@@ -198,25 +195,25 @@ void SetMode(frmCp& s, ProductMode mode) {
 
 } // namespace
 
-void BeginProductMode(frmCp& s, ProductMode mode) {
-    if (mode != ProductMode::Add) {
+void BeginProductMode(frmCp& s, EditorMode mode) {
+    if (mode != EditorMode::Add) {
         ShowProduct(s, session.SelectedProductID); // as it is now
         if (session.SelectedProductID == 0)
             return Inform(s.title, "请先选定一个产品！");
     }
     SetMode(s, mode);
     s.SSTab1.index = frmCp::kDetail;
-    if (mode == ProductMode::Add)
+    if (mode == EditorMode::Add)
         ClearProduct(s);
     s.asBegun = TypedWork(s);
-    if (mode == ProductMode::Delete)
+    if (mode == EditorMode::Delete)
         s.MoveFocus(&s.cmdSave);
     else
         s.MoveFocus(&s.txtCpCode);
 }
 
 void EndProductMode(frmCp& s) {
-    SetMode(s, ProductMode::Browse);
+    SetMode(s, EditorMode::Browse);
     s.SSTab1.index = frmCp::kList;
     s.MoveFocus(&s.Grid1);
 }
@@ -232,13 +229,13 @@ void SaveProduct(frmCp& s) {
     if (Tell(s, RefuseTexts(s)))
         return;
     switch (s.mode) {
-    case ProductMode::Add:
+    case EditorMode::Add:
         return Add(s);
-    case ProductMode::Change:
+    case EditorMode::Change:
         return Change(s);
-    case ProductMode::Delete:
+    case EditorMode::Delete:
         return Delete(s);
-    case ProductMode::Browse:
+    case EditorMode::Browse:
         break;
     }
 }

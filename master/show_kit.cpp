@@ -1,12 +1,12 @@
 // A stored kit template on the screen: its header, its parts with their stock and what they cost today.
 
+#include "base/json_value.h"
 #include "base/text.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "master/frmCpTj.h"
 #include "session/audit/audit.h"
-#include "session/audit/audit_json.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/lookups/find_by_text.h"

@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 
+#include "base/json_value.h"
 #include "base/text.h"
 #include "controls/gestures.h"
 #include "controls/leave.h"
@@ -13,20 +14,10 @@ using nlohmann::json;
 
 namespace {
 
-json AsJson(const Value& value) {
-    if (value.IsNull())
-        return nullptr;
-    if (value.IsLong())
-        return value.AsLong();
-    if (value.IsDouble())
-        return value.AsDouble();
-    return value.AsText();
-}
-
 json ShownValue(const Control& control) {
     if (control.kind == ControlKind::Check || control.kind == ControlKind::Option)
         return control.Shown().AsLong() != 0;
-    return AsJson(control.Shown());
+    return JsonValue(control.Shown());
 }
 
 json ListControls(const Screen& screen) {
@@ -53,7 +44,7 @@ json GridAsJson(const Grid& grid) {
         for (int column = 1; column <= grid.ColumnCount(); ++column) {
             texts.push_back(grid.ShownText(row, column));
             const Value& cell = grid.Cell(row, column);
-            cells.push_back(cell.IsNull() ? json("") : AsJson(cell));
+            cells.push_back(cell.IsNull() ? json("") : json(JsonValue(cell)));
         }
         rows.push_back(std::move(texts));
         values.push_back(std::move(cells));

@@ -2,10 +2,10 @@
 
 #include <map>
 
+#include "base/json_value.h"
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "session/audit/audit.h"
-#include "session/audit/audit_json.h"
 #include "session/dialect.h"
 #include "session/session.h"
 #include "settings/frmAudit.h"

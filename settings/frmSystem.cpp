@@ -28,13 +28,6 @@ void Confirm(frmSystem& s) {
 
 } // namespace
 
-FixedList::FixedList(Place place, std::string name, std::string caption, std::vector<std::string> choices)
-    : ListBox(place, std::move(name)) {
-    this->caption = std::move(caption);
-    items = std::move(choices);
-    SetIndex(0);
-}
-
 frmSystem::frmSystem() : Screen("frmSystem") {
     title = "系统参数设置";
     comYear.caption = "本期年月";

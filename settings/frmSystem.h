@@ -5,13 +5,9 @@
 #include "controls/screen.h"
 #include "forms/columns.h"
 #include "forms/fields.h"
+#include "settings/parameter_fields.h"
 
 namespace jxc {
-
-// A list whose items are those of the program, chosen by their places from 0.
-struct FixedList : ListBox {
-    FixedList(Place place, std::string name, std::string caption, std::vector<std::string> choices);
-};
 
 struct frmSystem : Screen {
     frmSystem();
@@ -27,10 +23,10 @@ struct frmSystem : Screen {
     ListBox comMonth{*this, "comMonth"};
     FixedList cboDayMonth{*this, "cboDayMonth", "本期开始日", {"上月", "本月"}};
     ListBox cboDay{*this, "cboDay"};
-    FixedList cboTaxWay{*this, "cboTaxWay", "计税方式", {"0.不计税", "1.营业税", "2.增值税"}};
-    TextField txtTaxRate{*this, "txtTaxRate", "税率", 8, true}; // a fraction
+    TaxWayField cboTaxWay{*this, "cboTaxWay"};
+    TaxRateField txtTaxRate{*this, "txtTaxRate"};
     Label lblTaxMemo{*this, "lblTaxMemo"};
-    FixedList cboSysCost{*this, "cboSysCost", "成本核算", {"0.加权平均法", "1.移动平均法", "2.整体移动法"}};
+    CostMethodField cboSysCost{*this, "cboSysCost"};
     DigitsField txtDeciLen[2]{{*this, "txtDeciLen(0)", "数量小数位", 1},
                               {*this, "txtDeciLen(1)", "单价小数位", 1}};
     DigitsField txtMaxRow{*this, "txtMaxRow", "单据最大行", 3}; // 0 for no limit

@@ -93,27 +93,14 @@ int Digits(const TextBox& box) {
 }
 
 // A row that says what no item stands for, or that another program wrote, is not saved as something else.
-bool ChoicesAreMade(frmSystem& s) {
+std::vector<Guard> Guards(frmSystem& s) {
+    std::vector<Guard> guards;
     for (ListBox* list : {&s.comYear, &s.comMonth, static_cast<ListBox*>(&s.cboDayMonth), &s.cboDay,
                           static_cast<ListBox*>(&s.cboTaxWay), static_cast<ListBox*>(&s.cboSysCost),
                           static_cast<ListBox*>(&s.cboInvType)})
-        if (list->Index() < 0) {
-            Warn(s.title, "请选择[" + list->caption + "]！");
-            s.SSTab1.index = frmSystem::kParameters;
-            s.MoveFocus(list);
-            return false;
-        }
-    return true;
-}
-
-// The rate is a part of 1; 13 typed for 13 % would be thirteen times the amount.
-bool RateIsSound(frmSystem& s) {
-    if (const double rate = Val(s.txtTaxRate.text); rate >= 0 && rate < 1)
-        return true;
-    Warn(s.title, "[税率]须为 0 至 1 之间的小数，例如 13% 请输入 0.13！");
-    s.SSTab1.index = frmSystem::kParameters;
-    s.MoveFocus(&s.txtTaxRate);
-    return false;
+        guards.push_back({[list] { return list->Index() < 0; }, "请选择[" + list->caption + "]！", list});
+    guards.push_back(s.txtTaxRate.MustBeAFraction());
+    return guards;
 }
 
 // New decimals of prices reach the price columns of the product list at once.
@@ -194,7 +181,12 @@ std::string TypedParameters(const frmSystem& s) {
 }
 
 bool SaveParameters(frmSystem& s) {
-    if (!ChoicesAreMade(s) || !RateIsSound(s) || !AskOkCancel(s.title, "确定：保存系统参数设置?"))
+    if (const MayRefuse refusal = FirstRefusal(Guards(s))) {
+        s.SSTab1.index = frmSystem::kParameters;
+        TellRefusal(s, *refusal);
+        return false;
+    }
+    if (!AskOkCancel(s.title, "确定：保存系统参数设置?"))
         return false;
     if (!StoreParameters(s)) {
         Warn(s.title, "系统参数已被其他用户修改（例如月末结帐），请退出后重新打开！");
@@ -220,7 +212,7 @@ void ShowTaxMemo(frmSystem& s) {
 
 void TakeTaxWay(frmSystem& s) {
     ShowTaxMemo(s);
-    s.txtTaxRate.text = static_cast<TaxWay>(s.cboTaxWay.Index()) == TaxWay::None ? "0.00" : "0.17";
+    s.txtTaxRate.text = s.cboTaxWay.Way() == TaxWay::None ? "0.00" : "0.17";
 }
 
 void TurnMemo(frmSystem& s, size_t memo) {

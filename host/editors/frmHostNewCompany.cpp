@@ -21,15 +21,11 @@ void OfferPeriods(ListBox& list) {
     list.SetIndex(static_cast<int>(list.items.size()) - 1);
 }
 
-TaxWay WayOfTax(const frmHostNewCompany& s) {
-    return static_cast<TaxWay>(s.cboTaxWay.Index());
-}
-
 void TakeTaxWay(frmHostNewCompany& s) {
-    s.txtTaxRate.enabled = WayOfTax(s) != TaxWay::None;
-    s.txtTaxRate.text = WayOfTax(s) == TaxWay::None    ? "0"
-                        : WayOfTax(s) == TaxWay::OnTop ? kBusinessTax
-                                                       : kValueAddedTax;
+    s.txtTaxRate.enabled = s.cboTaxWay.Way() != TaxWay::None;
+    s.txtTaxRate.text = s.cboTaxWay.Way() == TaxWay::None    ? "0"
+                        : s.cboTaxWay.Way() == TaxWay::OnTop ? kBusinessTax
+                                                             : kValueAddedTax;
 }
 
 std::vector<TextField*> Required(frmHostNewCompany& s) {
@@ -56,11 +52,7 @@ std::vector<Guard> Guards(frmHostNewCompany& s) {
     for (DigitsField& box : s.txtDeciLen)
         guards.push_back({[&box] { return box.text.size() != 1 || box.text < "0" || box.text > "9"; },
                           "[" + box.caption + "]须为 0 至 9 的一位数字！", &box});
-    guards.push_back({[&s] {
-                          const double rate = Val(s.txtTaxRate.text);
-                          return !IsNumericText(s.txtTaxRate.text) || rate < 0 || rate >= 1;
-                      },
-                      "[税率]须为 0 至 1 之间的小数，例如 13% 请输入 0.13！", &s.txtTaxRate});
+    guards.push_back(s.txtTaxRate.MustBeAFraction());
     GuardText(guards, s.txtPassword);
     guards.push_back({[&s] { return s.txtPassword.text != s.txtPassword2.text; }, "两次输入的密码不一致！",
                       &s.txtPassword2});
@@ -75,9 +67,9 @@ NewCompany Wishes(const frmHostNewCompany& s) {
                     .quantityDecimals = digit(s.txtDeciLen[0]),
                     .priceDecimals = digit(s.txtDeciLen[1]),
                     .currency = Trim(s.txtMoneyCode.text),
-                    .taxWay = WayOfTax(s),
-                    .taxRate = WayOfTax(s) == TaxWay::None ? 0 : Val(s.txtTaxRate.text),
-                    .costMethod = static_cast<CostMethod>(s.cboSysCost.Index())};
+                    .taxWay = s.cboTaxWay.Way(),
+                    .taxRate = s.cboTaxWay.Way() == TaxWay::None ? 0 : Val(s.txtTaxRate.text),
+                    .costMethod = s.cboSysCost.Method()};
     wishes.warehouseCode = Trim(s.txtCkCode.text);
     wishes.warehouse = Trim(s.txtCkName.text);
     wishes.user = Trim(s.txtUserName.text);

@@ -4,10 +4,11 @@
 
 #include <optional>
 
+#include "controls/screen.h"
 #include "forms/fields.h"
 #include "host/company/new_company.h"
 #include "host/passwords.h"
-#include "settings/frmSystem.h"
+#include "settings/parameter_fields.h"
 
 namespace jxc {
 
@@ -23,9 +24,9 @@ struct frmHostNewCompany : Screen {
     DigitsField txtDeciLen[2]{{*this, "txtDeciLen(0)", "数量小数位", 1},
                               {*this, "txtDeciLen(1)", "单价小数位", 1}};
     TextField txtMoneyCode{*this, "txtMoneyCode", "本位币", 10};
-    FixedList cboTaxWay{*this, "cboTaxWay", "计税方式", {"0.不计税", "1.营业税", "2.增值税"}};
-    TextField txtTaxRate{*this, "txtTaxRate", "税率", 8, true}; // a fraction
-    FixedList cboSysCost{*this, "cboSysCost", "成本核算", {"0.加权平均法", "1.移动平均法", "2.整体移动法"}};
+    TaxWayField cboTaxWay{*this, "cboTaxWay"};
+    TaxRateField txtTaxRate{*this, "txtTaxRate"};
+    CostMethodField cboSysCost{*this, "cboSysCost"};
     TextField txtCkCode{*this, "txtCkCode", "仓库编号", 12};
     TextField txtCkName{*this, "txtCkName", "首个仓库", 20};
     TextField txtUserName{*this, "txtUserName", "用户", 20};

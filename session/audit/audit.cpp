@@ -1,16 +1,18 @@
 #include "session/audit/audit.h"
 
 #include <array>
+#include <map>
 #include <unistd.h>
 
 #include <sodium.h>
 
 #include "base/date.h"
+#include "base/json_value.h"
 #include "base/text.h"
 #include "database/engine.h"
 #include "database/recordset.h"
 #include "database/row_inserter.h"
-#include "session/audit/audit_json.h"
+#include "database/schema.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -81,6 +83,18 @@ std::string SealOf(const std::string& before, const Recordset& row) {
 }
 
 } // namespace
+
+std::string FieldNameOf(const std::string& told) {
+    static const std::map<std::string, std::string> names = [] {
+        std::map<std::string, std::string> all;
+        for (const TableDef& table : AllTables())
+            for (const FieldDef& field : table.fields)
+                all.emplace(LowerCase(field.name), field.name);
+        return all;
+    }();
+    const auto known = names.find(LowerCase(told));
+    return known == names.end() ? told : known->second;
+}
 
 std::string JsonOf(const AuditedFields& fields) {
     Json json = Json::object();

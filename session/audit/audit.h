@@ -15,6 +15,9 @@
 
 namespace jxc {
 
+// The field as the system writes it: a server tells names in lower case.
+std::string FieldNameOf(const std::string& told);
+
 // Fields and what they hold, as the trail keeps it: a JSON object, in their order. A pass word is not kept.
 using AuditedFields = std::vector<std::pair<std::string, Value>>;
 std::string JsonOf(const AuditedFields& fields);

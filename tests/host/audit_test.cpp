@@ -1,6 +1,8 @@
 // The trail: every action leaves one row in its own transaction or none at all, and a row that was tampered with shows.
 #include "session/audit/audit.h"
 
+#include <nlohmann/json.hpp>
+
 #include "controls/gestures.h"
 #include "host/check.h"
 #include "host/editors/frmHostMoneys.h"
@@ -56,6 +58,24 @@ TEST_P(Trail, KeepsADocumentsLife) {
         EXPECT_EQ(One("select count(*) from tJXC_Audit where fServerUser=''"), "0");
     }
     EXPECT_EQ(Faults(), Lines{});
+}
+
+// A document changed into itself is alike before and after, whatever its shape: one side, two sides, parts and product, book
+// quantities, balances.
+TEST_P(Trail, LaysBeforeAndAfterSideBySide) {
+    int rows = 0;
+    for (const int type : AllTypes()) {
+        const int key = clerk->Save(TypicalDocument(type));
+        ASSERT_GT(key, 0) << type;
+        ++rows;
+        clerk->Open(DocAction::Change, type, key, [&](frmDj02& s) { ClickSave(*clerk, s); });
+        ++rows;
+        const std::string row = " from tJXC_Audit where fID=" + std::to_string(rows);
+        ASSERT_EQ(One("select fAction" + row), "修改") << type;
+        EXPECT_EQ(nlohmann::json::parse(One("select fBefore" + row)),
+                  nlohmann::json::parse(One("select fAfter" + row)))
+            << type;
+    }
 }
 
 // A save whose any statement fails leaves neither document nor row, and what cannot be recorded is not done.

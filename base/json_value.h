@@ -1,4 +1,4 @@
-// Values as JSON, as the trail keeps them.
+// Values as JSON, for the robot's replies and for what is kept of actions.
 #pragma once
 
 #include <string>
@@ -12,8 +12,7 @@ namespace jxc {
 using Json = nlohmann::ordered_json;
 
 Json JsonValue(const Value& value);
-// The field as the system writes it: a server tells names in lower case.
-std::string FieldNameOf(const std::string& told);
+// On one line; what is no UTF-8 is replaced.
 std::string JsonText(const Json& json);
 
 } // namespace jxc
