@@ -76,11 +76,6 @@ void TurnReturnMark(frmDj02& s); // by a person: without the mark nothing is ret
 // The warehouse whose stock the lines show; "" when the document has none.
 std::string StockWarehouse(const frmDj02& s);
 
-// -- suggest_lines.cpp
-// The products suggested for a text being typed into a line's column; nothing for columns that name none.
-Suggestions SuggestProduct(const frmDj02& s, int column, const std::string& typed);
-std::optional<SuggestedRow> PickProductOfLine(int column, const std::string& typed);
-
 // -- paste_lines.cpp
 // Lines from a spreadsheet, in the order code, quantity, price, memo; a block as wide as the grid is its own, column by
 // column. One column elsewhere goes down the lines that are there. Existing lines are never overwritten, and the

@@ -147,6 +147,11 @@ std::string PriceField(int priceKind) {
     return isProducts ? "fCpPrice" + std::to_string(priceKind - PriceKind::Cost) : "";
 }
 
+std::string LinePriceField(const TypeRow& type) {
+    const std::string price = PriceField(type.fSetDjType2);
+    return price.empty() ? PriceField(type.fSetDjType1) : price;
+}
+
 std::string CustomerCaption(const TypeRow& type) {
     return type.fSetKhType == Partner::Supplier ? "供应商"
            : type.fSetKhType == Partner::Dealer ? "销售商"

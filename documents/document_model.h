@@ -52,6 +52,8 @@ int DirectionOfSecondRow(const TypeRow& type);
 
 // "fCpPrice0" to "fCpPrice3" of the price kinds that are a product's, "" of others.
 std::string PriceField(int priceKind);
+// Of the type's lines: that of the price that a line gets, or else of the one shown beside it.
+std::string LinePriceField(const TypeRow& type);
 
 // Captions that follow from the type.
 std::string CustomerCaption(const TypeRow& type); // "供应商", "销售商" or "客户"

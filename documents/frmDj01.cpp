@@ -92,7 +92,7 @@ void WireFilters(frmDj01& s) {
         };
     s.chkInvType.onChange = [&s] { ApplyTickedType(s); };
     s.cboInvType.onChoose = [&s] { ApplyTickedType(s); };
-    SuggestCardsIn(s.txtKh, true);
+    SuggestCardsIn(s.txtKh);
     SuggestItemsIn(s.cboCk[0]);
     SuggestProductsIn(s.txtCp[0], ProductPart::Code);
     SuggestProductsIn(s.txtCp[1], ProductPart::Name);

@@ -35,7 +35,7 @@ void WireHead(frmDj02& s) {
         if (key == "Enter" && CheckNoQuote(s.txtKhSeek.text))
             SeekCustomer(s);
     };
-    SuggestCardsIn(s.txtKhSeek);
+    SuggestCardsFor(s.txtKhSeek, s.cboKhList, [&s] { RefreshCustomer(s); });
     s.txtKhSeek.onPick = [&s](const std::string&) -> std::optional<SuggestedRow> {
         if (CheckNoQuote(s.txtKhSeek.text)) // a card is picked from those that its search lists
             SeekCustomer(s);
@@ -76,12 +76,10 @@ void WireLinesAndFoot(frmDj02& s) {
     s.Grid2.onEnter = [&s] { EnterGrid(s); };
     s.Grid2.onEnterKey = [&s] { AppendLine(s); };
     s.Grid2.onCellLeave = [&s](int row, int column) { LeaveCell(s, row, column); };
-    s.Grid2.onSuggest = [&s](int, int column, const std::string& typed) {
-        return SuggestProduct(s, column, typed);
-    };
-    s.Grid2.onPick = [](int, int column, const std::string& typed) {
-        return PickProductOfLine(column, typed);
-    };
+    SuggestProductsIn(s.Grid2, {.code = line::kCode,
+                                .name = line::kName,
+                                .warehouse = [&s] { return StockWarehouse(s); },
+                                .priceField = [&s] { return LinePriceField(s.type); }});
     s.Grid2.onPaste = [&s](const CellBlock& block) { PasteLines(s, block); };
     s.cmdAddRow.onClick = [&s] { InsertLine(s); };
     s.cmdDeleteRow.onClick = [&s] { DeleteLine(s); };

@@ -1,6 +1,7 @@
 #include "forms/lookup_fields.h"
 
 #include "base/text.h"
+#include "controls/screen.h"
 #include "forms/edit_filter.h"
 #include "forms/suggest.h"
 #include "session/lookups/find_by_text.h"
@@ -70,6 +71,16 @@ std::int64_t CardField::Id() const {
 
 std::string CardField::CompanyName() const {
     return CustomerNameOf(Chosen());
+}
+
+void SuggestCardsFor(EditBox& box, CardField& list, std::function<void()> shown) {
+    SuggestCardsIn(box, CardPart::Row);
+    box.onTake = [&box, &list, shown = std::move(shown)](const std::string& row) {
+        box.text = CustomerNameOf(row);
+        list.Show(box.text, CustomerIdOf(row));
+        box.screen.MoveFocus(&list);
+        shown();
+    };
 }
 
 AccountField::AccountField(Place place, std::string name) : ListBox(place, std::move(name)) {

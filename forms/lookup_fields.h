@@ -55,6 +55,10 @@ struct CardField : ListBox {
     std::string CompanyName() const;
 };
 
+// Has a field suggest the cards that its list may show. Taking one shows exactly that card, however many are named like
+// it; `shown` goes on from there.
+void SuggestCardsFor(EditBox& box, CardField& list, std::function<void()> shown);
+
 // The company's internal accounts by name; what is stored is the number of the account's code.
 struct AccountField : ListBox {
     AccountField(Place place, std::string name);

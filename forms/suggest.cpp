@@ -2,6 +2,7 @@
 
 #include "base/folding.h"
 #include "base/text.h"
+#include "database/recordset.h"
 #include "session/lookups/card_index.h"
 #include "session/lookups/find_by_text.h"
 #include "session/lookups/pinyin.h"
@@ -43,16 +44,41 @@ Suggestions ItemRows(const ListBox& list, const std::string& typed) {
     return found;
 }
 
-Suggestions CardRows(const std::string& typed, bool byName) {
+Suggestions CardRows(const std::string& typed, CardPart part) {
     Suggestions shown{.columns = {{"编号"}, {"名称"}, {"联系人"}}, .rows = {}};
     if (!MaySearch(typed))
         return shown;
     const CardSuggestions found = SuggestCards(typed);
     shown.more = found.more;
     for (const SuggestedCard& card : found.rows)
-        shown.rows.push_back(
-            {{card.code, card.name, card.contact}, byName || card.code.empty() ? card.name : card.code});
+        shown.rows.push_back({{card.code, card.name, card.contact},
+                              part == CardPart::Row ? CustomerRow(card.name, card.id) : card.name});
     return shown;
+}
+
+// There are so few that each key reads them.
+Suggestions WarehouseRows(const std::string& typed, WarehousePart part) {
+    Suggestions shown{.columns = {{"编码"}, {"名称"}}, .rows = {}};
+    const std::string sought = Trim(FoldText(typed));
+    if (sought.empty() || !MaySearch(typed))
+        return shown;
+    for (Recordset row(Conn(), "Select fCkCode,fCkName from tJXC_Ck Order By fCkCode"); !row.AtEnd();
+         row.MoveNext()) {
+        const std::string code = row[size_t{0}].AsText(), name = row[1].AsText();
+        if (!Holds(FoldText(code), sought) && !Holds(FoldText(name), sought))
+            continue;
+        shown.more = shown.rows.size() == kMostItems;
+        if (shown.more)
+            break;
+        shown.rows.push_back({{code, name}, part == WarehousePart::Code ? code : name});
+    }
+    return shown;
+}
+
+const std::string& TextOf(const SuggestedProduct& product, ProductPart part) {
+    return part == ProductPart::Code   ? product.code
+           : part == ProductPart::Name ? product.name
+                                       : product.barCode;
 }
 
 } // namespace
@@ -69,7 +95,9 @@ Suggestions ProductRows(const std::string& typed, ProductPart part, const std::s
         shown.rows.push_back({{product.code, NameAndSpec(product.name, product.spec),
                                FormatFixed(product.stock, session.DeciSl, true) + product.unit,
                                FormatFixed(product.price, session.DeciDj, true)},
-                              part == ProductPart::Code ? product.code : product.name});
+                              TextOf(product, part)});
+    if (part == ProductPart::BarCode)
+        std::erase_if(shown.rows, [](const SuggestedRow& row) { return row.text.empty(); });
     return shown;
 }
 
@@ -84,8 +112,29 @@ void SuggestProductsIn(EditBox& box, ProductPart part, bool picks) {
         box.onPick = [](const std::string& typed) { return PickProduct(typed, false); };
 }
 
-void SuggestCardsIn(EditBox& box, bool byName) {
-    box.onSuggest = [byName](const std::string& typed) { return CardRows(typed, byName); };
+void SuggestProductsIn(Grid& grid, const ProductColumns& columns) {
+    const auto namesProduct = [columns](int column) {
+        return column == columns.code || column == columns.name;
+    };
+    grid.onSuggest = [columns, namesProduct](int, int column, const std::string& typed) {
+        if (!namesProduct(column))
+            return Suggestions();
+        Suggestions found = ProductRows(typed, ProductPart::Code, columns.warehouse(), columns.priceField());
+        for (SuggestedRow& row : found.rows)
+            row.column = columns.code;
+        return found;
+    };
+    grid.onPick = [columns, namesProduct](int, int column, const std::string& typed) {
+        return namesProduct(column) ? PickProduct(typed, column == columns.name, columns.code) : std::nullopt;
+    };
+}
+
+void SuggestCardsIn(EditBox& box, CardPart part) {
+    box.onSuggest = [part](const std::string& typed) { return CardRows(typed, part); };
+}
+
+void SuggestWarehousesIn(EditBox& box, WarehousePart part) {
+    box.onSuggest = [part](const std::string& typed) { return WarehouseRows(typed, part); };
 }
 
 void SuggestItemsIn(ListBox& list) {

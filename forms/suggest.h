@@ -4,12 +4,12 @@
 #include <optional>
 #include <string>
 
-#include "controls/control.h"
+#include "controls/grid.h"
 
 namespace jxc {
 
 // What taking a suggested product puts into a field.
-enum class ProductPart { Code, Name };
+enum class ProductPart { Code, Name, BarCode };
 
 // The products that the text finds, with code, name and specification, stock and price. `warehouse` is whose stock is
 // shown, "" for all together; `priceField` the price, "" for the retail price.
@@ -19,10 +19,25 @@ enum class ProductPart { Code, Name };
 // One product picked with the picker, found by code or by name; nothing when none was. Its code goes into the column.
 std::optional<SuggestedRow> PickProduct(const std::string& typed, bool byName, int column = 0);
 
-// Has a field suggest products while it is typed into and, but for the picker's own fields, pick one with the picker.
+// Has a field suggest products while it is typed into and, but for the fields of a query, pick one with the picker.
 void SuggestProductsIn(EditBox& box, ProductPart part, bool picks = true);
-// Has it suggest cards; taking one puts in its code, or its name where it has none or with `byName`.
-void SuggestCardsIn(EditBox& box, bool byName = false);
+
+// The columns of a grid in which products are typed, and whose stock and which price are shown beside them.
+struct ProductColumns {
+    int code, name;
+    std::function<std::string()> warehouse, priceField;
+};
+// Has a grid suggest products there, and pick one with the picker. Either way a code is put in, also for a name: many
+// products may have it.
+void SuggestProductsIn(Grid& grid, const ProductColumns& columns);
+
+// Has a field suggest cards; taking one puts in its name, or what CustomerRow makes of it, which tells exactly which.
+enum class CardPart { Name, Row };
+void SuggestCardsIn(EditBox& box, CardPart part = CardPart::Name);
+
+// Has a field suggest warehouses, also those no longer in use.
+enum class WarehousePart { Code, Name };
+void SuggestWarehousesIn(EditBox& box, WarehousePart part);
 // Has an editable list suggest those of its items that the text finds.
 void SuggestItemsIn(ListBox& list);
 

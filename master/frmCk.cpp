@@ -114,7 +114,9 @@ void WireFields(frmCk& s) {
             ShapeByMode(s);
         };
     s.txtKhSeek.onLeave = [&s] { return CheckNoQuote(s.txtKhSeek.text); };
-    SuggestCardsIn(s.txtKhSeek);
+    SuggestCardsFor(s.txtKhSeek, s.cboKhID, [&s] { ChooseConsignee(s); });
+    SuggestWarehousesIn(s.txtCode2, WarehousePart::Code);
+    SuggestWarehousesIn(s.txtName2, WarehousePart::Name);
     s.txtKhSeek.onKey = [&s](const std::string& pressed) {
         if (pressed == "Enter" && CheckNoQuote(s.txtKhSeek.text))
             SeekConsignee(s);

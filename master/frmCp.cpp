@@ -1,5 +1,6 @@
 #include "master/frmCp.h"
 
+#include "base/text.h"
 #include "controls/gestures.h"
 #include "controls/grid_routines.h"
 #include "controls/view.h"
@@ -7,6 +8,8 @@
 #include "forms/record_editor.h"
 #include "forms/suggest.h"
 #include "master/supplier_history.h"
+#include "session/dialect.h"
+#include "session/lookups/database_routines.h"
 #include "session/period.h"
 #include "session/printing/print_grid.h"
 #include "session/session.h"
@@ -17,7 +20,11 @@ namespace {
 
 // What the caller wanted, taken once: the next caller who says nothing wants the whole screen.
 void TakeProperties(frmCp& s) {
-    s.picking = !s.CpCode.empty() || !s.CpName.empty() || !s.CpBarCode.empty();
+    s.listedFirst.clear();
+    for (const std::string& key : Split(s.CpIDs, ','))
+        if (const auto id = static_cast<std::int64_t>(Val(key)); id > 0)
+            s.listedFirst.push_back(id);
+    s.picking = !s.CpCode.empty() || !s.CpName.empty() || !s.CpBarCode.empty() || !s.listedFirst.empty();
     s.noEdit = s.CpNoEdit == 1;
     s.chkCpCode2.value = !s.CpCode.empty();
     s.txtCpCode2.text = s.CpCode;
@@ -28,6 +35,7 @@ void TakeProperties(frmCp& s) {
     s.CpCode.clear();
     s.CpName.clear();
     s.CpBarCode.clear();
+    s.CpIDs.clear();
     s.CpNoEdit = 0;
 }
 
@@ -72,12 +80,15 @@ frmCp::frmCp() : Screen("frmCp"), filters(ProductFilters(*this)) {
     AddTextProperty("CpCode", CpCode);
     AddTextProperty("CpName", CpName);
     AddTextProperty("CpBarCode", CpBarCode);
+    AddTextProperty("CpIDs", CpIDs);
     AddNumberProperty("CpNoEdit", CpNoEdit);
     WireProductFields(*this);
     SuggestProductsIn(txtCpCode2, ProductPart::Code, false);
     SuggestProductsIn(txtCpName2, ProductPart::Name, false);
-    SuggestCardsIn(txtCpGYS2, true);
-    SuggestCardsIn(txtKhSeek);
+    SuggestProductsIn(txtCpBarCode2, ProductPart::BarCode, false);
+    SuggestWarehousesIn(txtCpck2, WarehousePart::Name);
+    SuggestCardsIn(txtCpGYS2);
+    SuggestCardsFor(txtKhSeek, cboKh, [] {});
     SSTab1.onChange = [this] {
         if (SSTab1.index != kDetail)
             MoveFocus(SSTab1.index == kList ? static_cast<Control*>(&Grid1) : &txtCpCode2);
@@ -119,7 +130,9 @@ void frmCp::Open() {
     SetUpProductColumns(*this);
     EndProductMode(*this);
     ShapeByCaller(*this);
-    if (picking)
+    if (!listedFirst.empty())
+        ListProducts(*this, "fCpID" + InKeys(listedFirst));
+    else if (picking)
         QueryProducts(*this);
     else
         ListProducts(*this, "");

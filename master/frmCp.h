@@ -121,12 +121,14 @@ struct frmCp : Screen {
 
     // Set by the opener and good for one opening: what the list is limited to at first, which makes it a picker; and 1
     // to take away what changes products. The product shown, and picked, is session.SelectedProductID.
-    std::string CpCode, CpName, CpBarCode;
+    // CpIDs "1,2,3" lists these products at first.
+    std::string CpCode, CpName, CpBarCode, CpIDs;
     std::uint8_t CpNoEdit = 0;
 
     EditorMode mode = EditorMode::Browse;
     bool picking = false;
     bool noEdit = false;
+    std::vector<std::int64_t> listedFirst;              // products, of CpIDs
     std::string columns;                                // the fields of the list's columns, "a,b,c"
     std::string oldCode, oldName;                       // of the product shown
     std::vector<std::pair<std::string, Value>> asShown; // what its fields held then

@@ -4,6 +4,7 @@
 #include "controls/gestures.h"
 #include "controls/grid_routines.h"
 #include "forms/edit_filter.h"
+#include "forms/suggest.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
 #include "session/period.h"
@@ -92,6 +93,10 @@ frmCpTj::frmCpTj()
         return CheckNoQuote(txtTjCode.text);
     };
     WireList(*this);
+    for (const int product : {1, 2}) { // made by the template, and its parts
+        SuggestProductsIn(txtCode[product], ProductPart::Code, false);
+        SuggestProductsIn(txtName[product], ProductPart::Name, false);
+    }
     WireKitProduct(*this);
     WireParts(*this);
     cmdQuery.onClick = [this] { QueryKits(*this); };

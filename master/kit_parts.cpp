@@ -4,6 +4,7 @@
 #include "controls/grid_routines.h"
 #include "controls/view.h"
 #include "forms/edit_filter.h"
+#include "forms/suggest.h"
 #include "master/frmCpTj.h"
 #include "session/lookups/find_by_text.h"
 #include "session/session.h"
@@ -11,18 +12,6 @@
 namespace jxc {
 
 namespace {
-
-// Whatever a picker leaves behind, the kit's own product stays in hand.
-class KitProductStays {
-  public:
-    KitProductStays() = default;
-    ~KitProductStays() { session.SelectedProductID = kit_; }
-    KitProductStays(const KitProductStays&) = delete;
-    KitProductStays& operator=(const KitProductStays&) = delete;
-
-  private:
-    std::int32_t kit_ = session.SelectedProductID;
-};
 
 // Quantity and note of the row stay: another part may take its place.
 void EmptyPart(Grid& grid, int row) {
@@ -60,7 +49,7 @@ void LeaveProductCell(frmCpTj& s, int row, int column) {
     (column == part::kCode ? sought.code : sought.name) = typed;
     std::int32_t id = 0;
     {
-        const KitProductStays stays;
+        const SelectedProductStays kit;
         id = FindProduct(sought);
     }
     if (id == 0) {
@@ -116,6 +105,10 @@ void WireParts(frmCpTj& s) {
             RefreshTotal(s);
     };
     s.Grid2.onEnterKey = [&s] { AppendPart(s); };
+    SuggestProductsIn(s.Grid2, {.code = part::kCode,
+                                .name = part::kName,
+                                .warehouse = [&s] { return s.cboCk.Chosen(); },
+                                .priceField = [] { return "fCpPrice0"; }});
     s.cmdAddRow.onClick = [&s] {
         GridAppendRow(s.Grid2, 1);
         s.Grid2.selectedColumn = part::kCode;

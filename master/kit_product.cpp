@@ -5,6 +5,7 @@
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "forms/edit_filter.h"
+#include "forms/suggest.h"
 #include "master/frmCpTj.h"
 #include "session/audit/audit.h"
 #include "session/lookups/find_by_text.h"
@@ -124,8 +125,16 @@ void WireKitProduct(frmCpTj& s) {
     FilterKeys(s.txtCpPrice, kPriceBytes, true);
     for (TextBox* box : {&s.txtCpCode, &s.txtCpName, &s.txtCpPrice})
         box->onEnter = [box] { box->tag = box->text; };
-    for (TextBox* box : {&s.txtCpCode, &s.txtCpName})
+    for (TextBox* box : {&s.txtCpCode, &s.txtCpName}) {
         box->onLeave = [&s, box] { return Seek(s, *box); };
+        SuggestProductsIn(*box, ProductPart::Code);
+        box->onTake = [&s, box](const std::string& code) { // many products may have that name
+            box->text = box->tag;
+            s.txtCpCode.text = code;
+            Seek(s, s.txtCpCode);
+        };
+    }
+    s.txtCpName.onPick = [](const std::string& typed) { return PickProduct(typed, true); };
     s.txtCpPrice.onLeave = [&s] {
         ChangeCost(s);
         return true;

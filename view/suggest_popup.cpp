@@ -158,7 +158,7 @@ void SuggestPopup::BuildList() {
     rows_->horizontalHeader()->setSectionsClickable(false);
     rows_->horizontalHeader()->setStretchLastSection(true);
     connect(rows_, &QTableWidget::cellClicked, this, [this](int row) { Take(row); });
-    more_ = new QLabel("还有更多：继续输入，或按 F3 选取", list_);
+    more_ = new QLabel(source_.pick ? "还有更多：继续输入，或按 F3 选取" : "还有更多：继续输入", list_);
     more_->setContentsMargins(4, 2, 4, 2);
     layout->addWidget(rows_);
     layout->addWidget(more_);

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "forms/edit_filter.h"
+#include "forms/suggest.h"
 #include "session/audit/audit.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
@@ -42,6 +43,7 @@ frmHostCards::frmHostCards()
         if (pressed == "Enter" && CheckNoQuote(txtSeek.text))
             Load();
     };
+    SuggestCardsIn(txtSeek);
     cmdSeek.onClick = [this] { Load(); };
 }
 

@@ -7,6 +7,7 @@
 #include "database/recordset.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
+#include "session/lookups/product_index.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -16,20 +17,28 @@ namespace {
 constexpr int kNameWidth = 80;  // of a customer list's row
 constexpr int kMostCards = 101; // listed by one search
 
+constexpr size_t kMostPicked = 500;     // listed of what is suggested
 constexpr const char* kEveryCode = "*"; // the pattern
 const std::string kProducts =
     "select fCpID,fCpCode,fCpName,fCpGG,fCpUnit,fCpBarCode,fCpPrice0,fCpPrice1,fCpPrice2,fCpPrice3 "
     " from tJXC_Cp "
     " Where fCpFlag<>1";
 
+// What the picker shows at first.
+struct Listed {
+    std::string code = {}, name = {}, barCode = {}; // patterns; the first one given counts
+    std::string keys = {};                          // "1,2,3": these products, where no pattern is given
+};
+
 // Lets the user pick among several hits; the statement of the product picked, nothing when none was.
-std::optional<std::string> PickProduct(const std::string& code, const std::string& name,
-                                       const std::string& barCode = "") {
+std::optional<std::string> PickProduct(const Listed& listed) {
     session.SelectedProductID = 0;
     Screen& picker = ScreenNamed("frmCp");
-    picker.SetProperty("CpCode", code);
-    picker.SetProperty("CpName", name);
-    picker.SetProperty("CpBarCode", barCode);
+    picker.SetProperty("CpCode", listed.code);
+    picker.SetProperty("CpName", listed.name);
+    picker.SetProperty("CpBarCode", listed.barCode);
+    if (picker.HasProperty("CpIDs"))
+        picker.SetProperty("CpIDs", listed.keys);
     picker.SetProperty("CpNoEdit", 1);
     ShowModal(picker);
     if (session.SelectedProductID == 0)
@@ -62,7 +71,7 @@ std::optional<std::string> StatementByBarCode(const std::string& code, const std
     const size_t hits = Recordset(Conn(), statement).RecordCount();
     if (hits == 0)
         return std::nullopt;
-    return hits == 1 ? std::optional(statement) : PickProduct("", "", code);
+    return hits == 1 ? std::optional(statement) : PickProduct({.barCode = code});
 }
 
 std::optional<std::string> StatementByCode(const std::string& code, const ByCode& statements,
@@ -76,18 +85,33 @@ std::optional<std::string> StatementByCode(const std::string& code, const ByCode
         return StatementByBarCode(code, statements.barCode);
     if (hits == 1)
         return kProducts + " And fCpCode like " + InQuotes(LikePattern(code));
-    return PickProduct(code, "");
+    return PickProduct({.code = code});
+}
+
+std::string NameTests(const std::string& name) {
+    std::string tests;
+    for (const std::string& part : NameParts(name))
+        tests += " And " + NameOrSpecTest(part);
+    return tests;
+}
+
+// What is suggested for a text that no code, or no name, is like: "1,2,3", "" when the picker's own search finds some.
+std::string KeysSuggested(const std::string& typed, bool byName) {
+    const std::string tests = byName ? NameTests(typed) : " And fCpCode like " + InQuotes(LikePattern(typed));
+    if (HasRows("tJXC_Cp", "fCpFlag<>1" + tests))
+        return "";
+    std::string keys;
+    for (const SuggestedProduct& product : SuggestProducts(typed, "", "", kMostPicked).rows)
+        keys += (keys.empty() ? "" : ",") + std::to_string(product.id);
+    return keys;
 }
 
 std::optional<std::string> StatementByName(const std::string& name) {
-    std::string statement = kProducts;
-    for (const std::string& part : NameParts(name))
-        statement += " And " + NameOrSpecTest(part);
-    statement += " Order By fCpCode";
+    const std::string statement = kProducts + NameTests(name) + " Order By fCpCode";
     const size_t hits = Recordset(Conn(), statement).RecordCount();
     if (hits == 0)
         return std::nullopt;
-    return hits == 1 ? std::optional(statement) : PickProduct("", name);
+    return hits == 1 ? std::optional(statement) : PickProduct({.name = name});
 }
 
 } // namespace
@@ -107,12 +131,21 @@ std::vector<std::string> NameParts(const std::string& typed) {
     return parts;
 }
 
+SelectedProductStays::SelectedProductStays() : selected_(session.SelectedProductID) {}
+
+SelectedProductStays::~SelectedProductStays() {
+    session.SelectedProductID = selected_;
+}
+
 std::string PickProductCode(const std::string& typed, bool byName) {
+    const SelectedProductStays elsewhere;
     const bool asked = !typed.empty() && typed.find('\'') == std::string::npos; // no product's text has one
-    const auto statement = PickProduct(!asked   ? kEveryCode
-                                       : byName ? ""
-                                                : typed,
-                                       asked && byName ? typed : "");
+    Listed listed;
+    if (!asked)
+        listed.code = kEveryCode;
+    else if (listed.keys = KeysSuggested(typed, byName); listed.keys.empty())
+        (byName ? listed.name : listed.code) = typed;
+    const auto statement = PickProduct(listed);
     if (!statement)
         return "";
     const Recordset row(Conn(), *statement);

@@ -30,8 +30,21 @@ struct ProductSought {
 // stopped product is never found.
 std::int32_t FindProduct(ProductSought& sought);
 
+// Whatever a picker leaves behind, session.SelectedProductID is afterwards what it was: a screen may hold its own there.
+class SelectedProductStays {
+  public:
+    SelectedProductStays();
+    ~SelectedProductStays();
+    SelectedProductStays(const SelectedProductStays&) = delete;
+    SelectedProductStays& operator=(const SelectedProductStays&) = delete;
+
+  private:
+    std::int32_t selected_;
+};
+
 // Lets the user pick a product in the product picker, which shows those that the text finds, by code or, with `byName`,
-// by name, or all of them when nothing is typed; the code of the one picked, "" for none.
+// by name; those that are suggested for it when it finds none so; or all of them when nothing is typed. The code of the
+// one picked, "" for none. What a screen has selected stays so.
 std::string PickProductCode(const std::string& typed, bool byName);
 
 // The statements with which it finds an exact code and its stock, to be read ahead for many codes.

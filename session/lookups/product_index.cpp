@@ -27,7 +27,7 @@ ProductSuggestions SuggestProducts(const std::string& typed, const std::string& 
     if (hits.ids.empty())
         return found;
     const std::string price = priceField.empty() ? "0" : priceField;
-    const std::string statement = "Select fCpID,fCpCode,fCpName,fCpGG,fCpUnit," + price +
+    const std::string statement = "Select fCpID,fCpCode,fCpName,fCpGG,fCpUnit,fCpBarCode," + price +
                                   " From tJXC_Cp Where fCpID" + InKeys(hits.ids);
     const ReadAhead ahead(Conn(), {{statement}, {StockQtysStatement(warehouse, hits.ids)}});
     const Rows rows = Conn().Query(statement);
@@ -41,8 +41,8 @@ ProductSuggestions SuggestProducts(const std::string& typed, const std::string& 
             continue;
         const auto text = [&](size_t column) { return rows.At(known->second, column).AsText(); };
         const auto lies = stock.find(id);
-        found.rows.push_back({id, text(1), text(2), text(3), text(4), lies == stock.end() ? 0 : lies->second,
-                              rows.At(known->second, 5).AsDouble()});
+        found.rows.push_back({id, text(1), text(2), text(3), text(4), text(5),
+                              lies == stock.end() ? 0 : lies->second, rows.At(known->second, 6).AsDouble()});
     }
     return found;
 }

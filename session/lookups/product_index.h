@@ -9,7 +9,7 @@ namespace jxc {
 
 struct SuggestedProduct {
     std::int64_t id = 0;
-    std::string code, name, spec, unit;
+    std::string code, name, spec, unit, barCode;
     double stock = 0, price = 0;
 };
 struct ProductSuggestions {
