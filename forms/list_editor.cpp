@@ -87,7 +87,7 @@ void TakeMarkFromOthers(const ListEditor& s) {
     const std::string& field = s.mark->field;
     Recordset other(Conn(), "select * from " + table + " Where " + field + "=1", Access::Write);
     for (; !other.AtEnd(); other.MoveNext()) {
-        if (other[s.table.key] == s.key)
+        if (s.mode != EditorMode::Add && other[s.table.key] == s.key)
             continue; // its own row is written whole
         const std::string before = JsonOf(other);
         other.Set(field, 0);

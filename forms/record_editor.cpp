@@ -92,6 +92,9 @@ void BeginMode(RecordEditor& s, EditorMode mode) {
     if (mode == EditorMode::Add)
         s.Clear();
     s.asBegun = TypedWork(s);
+    s.asShown.clear();
+    for (const RecordField* field : s.fields)
+        s.asShown.push_back(field->ToStore());
     s.MoveFocus(mode == EditorMode::Delete ? &s.cmdSave : &s.fields.front()->control);
 }
 
@@ -131,8 +134,10 @@ void ShowFields(RecordEditor& s, const Recordset& row) {
 }
 
 void WriteFields(const RecordEditor& s, Recordset& row) {
-    for (const RecordField* field : s.fields)
-        row.Set(field->field, field->ToStore());
+    for (size_t at = 0; at < s.fields.size(); ++at)
+        if (s.mode == EditorMode::Add || at >= s.asShown.size() ||
+            !(s.fields[at]->ToStore() == s.asShown[at]))
+            row.Set(s.fields[at]->field, s.fields[at]->ToStore());
 }
 
 MayRefuse RefuseEmptyField(const RecordEditor& s) {

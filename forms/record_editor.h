@@ -32,6 +32,7 @@ struct RecordEditor : Screen {
     std::vector<Guard>
         guards;          // of a record added or changed, behind those that follow from the fields' rules
     std::string asBegun; // TypedWork when adding or changing began
+    std::vector<Value> asShown; // what the fields would have stored then
 
     bool IsTyping() const { return mode == EditorMode::Add || mode == EditorMode::Change; }
 

@@ -129,8 +129,16 @@ void SuggestProductsIn(Grid& grid, const ProductColumns& columns) {
     };
 }
 
+// A query's field may be shorter than a name, and asks for all that begin so.
 void SuggestCardsIn(EditBox& box, CardPart part) {
-    box.onSuggest = [part](const std::string& typed) { return CardRows(typed, part); };
+    box.onSuggest = [&box, part](const std::string& typed) {
+        Suggestions found = CardRows(typed, part);
+        if (const auto* line = dynamic_cast<const TextBox*>(&box);
+            line && line->maxBytes > 0 && part == CardPart::Name)
+            for (SuggestedRow& row : found.rows)
+                row.text = TruncateToBytes(row.text, line->maxBytes);
+        return found;
+    };
 }
 
 void SuggestWarehousesIn(EditBox& box, WarehousePart part) {

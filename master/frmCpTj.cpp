@@ -75,6 +75,19 @@ void WireList(frmCpTj& s) {
     s.Grid1.onHeading = [&s](int column) { GridSort(s.Grid1, column); };
 }
 
+// What saving would store. The cost of the product is written at once, and the warehouse only shows its stock.
+std::string TypedKit(const frmCpTj& s) {
+    std::string typed;
+    const auto add = [&](const std::string& text) { typed.append(text).push_back('\x1f'); };
+    for (const TextBox* box : std::initializer_list<const TextBox*>{&s.txtTjCode, &s.txtTjName, &s.txtTjMemo,
+                                                                    &s.txtCpCode, &s.txtCpName})
+        add(box->text);
+    for (int row = 1; row <= s.Grid2.RowCount(); ++row)
+        for (const int column : {part::kCode, part::kName, part::kQuantity, part::kMemo})
+            add(s.Grid2.Text(row, column));
+    return typed;
+}
+
 } // namespace
 
 frmCpTj::frmCpTj()
@@ -147,7 +160,7 @@ Arrangement frmCpTj::Arrange() {
 }
 
 std::string frmCpTj::UnsavedWork() const {
-    return IsTyping() && TypedWork(*this) != asBegun ? "资料尚未保存，放弃所输入的内容？" : "";
+    return IsTyping() && TypedKit(*this) != asBegun ? "资料尚未保存，放弃所输入的内容？" : "";
 }
 
 void frmCpTj::SaveWork() {
@@ -162,7 +175,7 @@ void BeginMode(frmCpTj& s, EditorMode mode) {
         s.Grid2.InsertRow(1);
         s.Grid2.selectedRow = 1;
     }
-    s.asBegun = TypedWork(s);
+    s.asBegun = TypedKit(s);
     s.MoveFocus(mode == EditorMode::Delete ? static_cast<Control*>(&s.cmdSave) : &s.txtTjCode);
 }
 

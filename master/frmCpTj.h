@@ -76,7 +76,7 @@ struct frmCpTj : Screen {
     EditorMode mode = EditorMode::Browse;
     std::string oldCode, oldName; // of the template shown, as stored
     std::string asShown;          // the whole template shown, as StoredKit gave it
-    std::string asBegun;          // TypedWork when the mode began
+    std::string asBegun;          // what it would have stored when the mode began
 
     Columns list;
     Columns parts;

@@ -128,6 +128,11 @@ void ShowKit(frmCpTj& s, const std::string& code, std::int32_t id) {
     if (code.empty() && id == 0)
         return;
     const std::string test = code.empty() ? "fTjID = " + std::to_string(id) : "fTjCode = " + InQuotes(code);
+    // Before the rest: what changes from here on is another user's work.
+    const std::string stored = StoredKit(
+        id > 0 && code.empty()
+            ? id
+            : static_cast<std::int32_t>(Val(DbScalar("select fTjID from tJXC_CpTj01 where " + test))));
     const Recordset row(Conn(), "select a.*,b.fCpCode,b.fCpName,b.fCpGG,b.fCpUnit,b.fCpPrice0,b.fCpPrice3 "
                                 " from tJXC_CpTj01 a Left Join tJXC_Cp b On a.fCpID=b.fCpID "
                                 " where a." +
@@ -138,7 +143,7 @@ void ShowKit(frmCpTj& s, const std::string& code, std::int32_t id) {
         return Warn(s.title, kGone);
     }
     ShowHeader(s, row);
-    s.asShown = StoredKit(s.TjID); // before its parts: what changes from here on is another user's work
+    s.asShown = stored;
     if (ShowParts(s) > 0)
         return;
     Warn(s.title, s.oldName + ": " + kGone);

@@ -22,6 +22,14 @@ std::string EntriesOf(const frmBrief& s) {
     return " from briefDetail where briefType=" + InQuotes(s.code);
 }
 
+// The entries stored, by code.
+std::string StoredEntries(const frmBrief& s) {
+    AuditedFields fields;
+    for (Recordset entry(Conn(), "select *" + EntriesOf(s)); !entry.AtEnd(); entry.MoveNext())
+        fields.emplace_back(entry["BriefCode"].AsText(), entry["BriefName"]);
+    return JsonOf(fields);
+}
+
 // The grid with these columns of the rows that `tail` names.
 void Fill(frmBrief& s, const std::string& title, std::vector<Column> columns, const std::string& tail) {
     s.title = title;
@@ -41,6 +49,7 @@ void FillEntries(frmBrief& s) {
          {{.caption = "编号", .field = "BriefCode", .width = 12, .maxBytes = 20, .typed = true},
           {.caption = "名称", .field = "BriefName", .width = 24, .maxBytes = 50, .typed = true}},
          EntriesOf(s) + " Order By BriefCode");
+    s.stored = StoredEntries(s);
 }
 
 void FillColumns(frmBrief& s) {
@@ -79,17 +88,12 @@ bool EntriesAreSound(frmBrief& s) {
     return true;
 }
 
-// The entries stored, by code.
-std::string StoredEntries(const frmBrief& s) {
-    AuditedFields fields;
-    for (Recordset entry(Conn(), "select *" + EntriesOf(s)); !entry.AtEnd(); entry.MoveNext())
-        fields.emplace_back(entry["BriefCode"].AsText(), entry["BriefName"]);
-    return JsonOf(fields);
-}
-
-void SaveEntries(const frmBrief& s) {
+// False when the entries are not any more those that were shown.
+bool SaveEntries(const frmBrief& s) {
     Transaction transaction(Conn());
     const std::string before = StoredEntries(s);
+    if (before != s.stored)
+        return false;
     Conn().Execute("Delete" + EntriesOf(s));
     Recordset entries(Conn(), "select *" + EntriesOf(s), Access::Write);
     for (int row = 1; row <= s.Grid1.RowCount(); ++row) {
@@ -101,6 +105,7 @@ void SaveEntries(const frmBrief& s) {
     }
     WriteAudit({"修改", "briefDetail", s.code, s.title, before, StoredEntries(s)});
     transaction.Commit();
+    return true;
 }
 
 void SaveColumns(const frmBrief& s) {
@@ -116,7 +121,8 @@ void Confirm(frmBrief& s) {
     if (s.Is(BriefKind::EditEntries)) {
         if (!EntriesAreSound(s))
             return;
-        SaveEntries(s);
+        if (!SaveEntries(s))
+            return Warn(s.title, "代码表已被其他用户修改，请退出后重新打开。");
     } else if (s.Is(BriefKind::SelectColumns)) {
         if (SumGridColumn(s.Grid1, 1) == 0)
             return Warn(s.title, "请至少选择一个栏目！");

@@ -34,6 +34,7 @@ struct frmBrief : Screen {
 
     Columns list{Grid1};
     std::string asOpened; // what the rows were, to be compared
+    std::string stored;   // the entries that stood then
 
     bool Is(BriefKind wanted) const { return kind == static_cast<std::int16_t>(wanted); }
 };

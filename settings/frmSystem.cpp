@@ -12,14 +12,6 @@ void OfferNumbers(ListBox& list, int first, int last) {
         list.items.push_back(std::to_string(number));
 }
 
-// Each page has its commands; the last one is only read.
-void ShowPage(frmSystem& s) {
-    Control* const first[] = {&s.comYear, &s.Grid1, &s.cboSysType};
-    s.MoveFocus(first[s.SSTab1.index]);
-    s.cmdDefault.visible = s.cmdTest.visible = s.SSTab1.index == frmSystem::kTypes;
-    s.cmdConfirm.enabled = s.SSTab1.index != frmSystem::kModules;
-}
-
 void Confirm(frmSystem& s) {
     const bool saved = s.SSTab1.index == frmSystem::kTypes ? SaveTypeGrid(s) : SaveParameters(s);
     if (saved)
@@ -27,6 +19,13 @@ void Confirm(frmSystem& s) {
 }
 
 } // namespace
+
+void ShowPage(frmSystem& s) {
+    Control* const first[] = {&s.comYear, &s.Grid1, &s.cboSysType};
+    s.MoveFocus(first[s.SSTab1.index]);
+    s.cmdDefault.visible = s.cmdTest.visible = s.SSTab1.index == frmSystem::kTypes;
+    s.cmdConfirm.enabled = s.SSTab1.index != frmSystem::kModules;
+}
 
 frmSystem::frmSystem() : Screen("frmSystem") {
     title = "系统参数设置";

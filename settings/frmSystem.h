@@ -78,6 +78,10 @@ struct frmSystem : Screen {
     int StartDay() const; // as fSysDay holds it
 };
 
+// -- frmSystem.cpp
+// What belongs to the page in front: each has its commands, and the last one is only read.
+void ShowPage(frmSystem& s);
+
 // -- system_parameters.cpp
 // From tJXC_InvSys; without its row the fields keep what the program begins with.
 void LoadParameters(frmSystem& s);

@@ -146,8 +146,9 @@ bool StoreParameters(frmSystem& s) {
     const std::string after = JsonOf(row);
     WriteAudit({"修改", "tJXC_InvSys", "", s.SSTab1.captions[frmSystem::kParameters], before, after});
     row.Update();
-    s.stored = JsonOf(Recordset(Conn(), ParametersStatement()));
+    const std::string stored = JsonOf(Recordset(Conn(), ParametersStatement()));
     transaction.Commit();
+    s.stored = stored; // not before it is so: the save may be tried again
     return true;
 }
 
@@ -183,6 +184,7 @@ std::string TypedParameters(const frmSystem& s) {
 bool SaveParameters(frmSystem& s) {
     if (const MayRefuse refusal = FirstRefusal(Guards(s))) {
         s.SSTab1.index = frmSystem::kParameters;
+        ShowPage(s);
         TellRefusal(s, *refusal);
         return false;
     }

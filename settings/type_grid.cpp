@@ -205,6 +205,7 @@ bool SaveTypeGrid(frmSystem& s) {
         if (IsMarked(s, row))
             WriteType(s, row);
     transaction.Commit();
+    s.Grid1.Column(kNo).locked = true; // they stand now
     s.typesAsLoaded = TypedTypes(s);
     Inform(s.title, "系统单据设置完毕！");
     return true;
@@ -213,13 +214,13 @@ bool SaveTypeGrid(frmSystem& s) {
 void OnCellChange(frmSystem& s, int column, int row) {
     Grid& grid = s.Grid1;
     grid.FillCell(row, kMark, 1);
+    if (column == kAutoNo && !CheckNumberRule(RuleOf(s, row)))
+        return grid.FillCell(row, kAutoNo, grid.Cell(row, kDefaultNo));
     if (TypeOfColumn(s, column) == CellType::Text && !CheckNoQuote(grid.Text(row, column))) {
         std::string text = grid.Text(row, column);
         std::erase(text, '\'');
         grid.FillCell(row, column, text);
     }
-    if (column == kAutoNo && !CheckNumberRule(RuleOf(s, row)))
-        grid.FillCell(row, kAutoNo, grid.Cell(row, kDefaultNo));
 }
 
 void TakeDefaultRules(frmSystem& s) {

@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "controls/screen.h"
+#include "controls/view.h"
 #include "database/recordset.h"
 #include "session/dialect.h"
 #include "session/lookups/database_routines.h"
@@ -33,14 +34,14 @@ struct Listed {
 // Lets the user pick among several hits; the statement of the product picked, nothing when none was.
 std::optional<std::string> PickProduct(const Listed& listed) {
     session.SelectedProductID = 0;
-    Screen& picker = ScreenNamed("frmCp");
-    picker.SetProperty("CpCode", listed.code);
-    picker.SetProperty("CpName", listed.name);
-    picker.SetProperty("CpBarCode", listed.barCode);
-    if (picker.HasProperty("CpIDs"))
-        picker.SetProperty("CpIDs", listed.keys);
-    picker.SetProperty("CpNoEdit", 1);
-    ShowModal(picker);
+    const ScreenToShow picker("frmCp"); // it may itself be below
+    picker->SetProperty("CpCode", listed.code);
+    picker->SetProperty("CpName", listed.name);
+    picker->SetProperty("CpBarCode", listed.barCode);
+    if (picker->HasProperty("CpIDs")) // a host's own picker may not know it
+        picker->SetProperty("CpIDs", listed.keys);
+    picker->SetProperty("CpNoEdit", 1);
+    ShowModal(*picker);
     if (session.SelectedProductID == 0)
         return std::nullopt;
     return kProducts + " And fCpID = " + std::to_string(session.SelectedProductID) + " Order By fCpCode";
@@ -101,7 +102,11 @@ std::string KeysSuggested(const std::string& typed, bool byName) {
     if (HasRows("tJXC_Cp", "fCpFlag<>1" + tests))
         return "";
     std::string keys;
-    for (const SuggestedProduct& product : SuggestProducts(typed, "", "", kMostPicked).rows)
+    const ProductSuggestions found = SuggestProducts(typed, "", "", kMostPicked);
+    if (found.more)
+        CurrentView().Signal("找到的产品太多，只列出其中 " + std::to_string(kMostPicked) +
+                             " 种，请输入得更详细些。");
+    for (const SuggestedProduct& product : found.rows)
         keys += (keys.empty() ? "" : ",") + std::to_string(product.id);
     return keys;
 }
