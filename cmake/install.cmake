@@ -18,7 +18,7 @@ jxc_install_library(lzjxc_core core lzJxcCore)
 install(FILES cmake/Findutf8proc.cmake cmake/Findsodium.cmake DESTINATION ${package_folder})
 if(JXC_VIEW)
   jxc_install_library(lzjxc_qt qt lzJxcQt)
-  install(FILES cmake/Findxlsxwriter.cmake DESTINATION ${package_folder})
+  install(FILES cmake/Findxlsxwriter.cmake cmake/Findzint.cmake DESTINATION ${package_folder})
 endif()
 
 write_basic_package_version_file(lzJxcConfigVersion.cmake COMPATIBILITY SameMinorVersion)

@@ -2,6 +2,7 @@
 # Both have their own precompiled header, because the toolkit's flags differ from the core's.
 find_package(Qt6 REQUIRED COMPONENTS Widgets UiTools PrintSupport)
 find_package(xlsxwriter REQUIRED)
+find_package(zint REQUIRED)
 
 # The .ui files go into the library under :/ui; the view brings them into use (Q_INIT_RESOURCE).
 file(GLOB forms CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/view/ui/*.ui)
@@ -18,7 +19,7 @@ add_library(lzJxc::qt ALIAS lzjxc_qt)
 target_sources(lzjxc_qt PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${view_headers})
 target_precompile_headers(lzjxc_qt PRIVATE ${PROJECT_SOURCE_DIR}/view/qt_headers.h)
 target_link_libraries(lzjxc_qt PUBLIC lzjxc_core Qt6::Widgets PRIVATE Qt6::UiTools Qt6::PrintSupport
-                                                                      xlsxwriter::xlsxwriter)
+                                                                      xlsxwriter::xlsxwriter zint::zint)
 
 file(GLOB window_sources CONFIGURE_DEPENDS host/window/*.cpp)
 add_library(jxc_window STATIC ${window_sources})

@@ -127,5 +127,7 @@ void ReverseApproval(frmDj02& s, const DocumentData& document);
 DocumentData DataOf(const frmDj02& s);
 // -- print_document.cpp
 void PrintDocument(frmDj02& s);
+// The stored document by its designed template; see PrintTemplate.
+void PrintDesigned(frmDj02& s);
 
 } // namespace jxc

@@ -96,6 +96,8 @@ void WireLinesAndFoot(frmDj02& s) {
     s.cmdNew.onClick = [&s] { ResetDocument(s); };
     for (Button* button : {&s.cmdPrevious, &s.cmdNext, &s.cmdNew, &s.cmdQuit})
         button->dropsWork = true;
+    s.cmdPrint1.onClick = [&s] { PrintDocument(s); };
+    s.cmdPrint2.onClick = [&s] { PrintDesigned(s); };
     s.cmdSave.onClick = [&s] { SaveDocument(s); };
     s.cmdQuit.onClick = [&s] { s.Close(); };
 }

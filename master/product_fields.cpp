@@ -6,8 +6,8 @@
 #include "forms/column_dictionary.h"
 #include "forms/edit_filter.h"
 #include "master/frmCp.h"
-#include "master/product_picture.h"
 #include "session/audit/audit.h"
+#include "session/company/picture_file.h"
 #include "session/dialect.h"
 #include "session/lookups/find_by_text.h"
 #include "session/lookups/lists.h"
@@ -208,7 +208,7 @@ void ClearProduct(frmCp& s) {
 
 // A picture that cannot be shown is told beside the field: the text is kept whatever becomes of the file.
 void ShowPicture(frmCp& s) {
-    const ProductPicture picture = FindProductPicture(s.txtCpPicture.text);
+    const PictureFile picture = FindPicture(s.txtCpPicture.text);
     s.imgPicture.file = picture.file;
     s.lblNoPicture.caption = picture.why;
 }

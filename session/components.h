@@ -40,8 +40,10 @@ struct GridPrintJob {
 
 struct TemplatePrintJob {
     FieldList fields;
+    FieldList further;                                        // what a template may name beside them
     std::vector<std::pair<std::string, std::string>> columns; // "<<caption>>" and the field it stands for
     std::vector<std::vector<std::string>> lines;              // one text per column
+    std::string layout; // the template's text: session/printing/paper_template.h
     std::string typeName;
     int type = 0;
     int mode = 1; // 3 lets the user change the template

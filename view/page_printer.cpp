@@ -5,11 +5,11 @@
 #include <QPdfWriter>
 #include <QPrinter>
 
-#include "session/printing/html_pages.h"
+#include "session/company/picture_file.h"
+#include "view/band_paper.h"
 #include "view/grid_paper.h"
 #include "view/paper_preview.h"
 #include "view/qt_text.h"
-#include "view/text_paper.h"
 
 namespace jxc {
 
@@ -51,7 +51,7 @@ void PreviewPrinter::Print(const GridPrintJob& job) {
 }
 
 void PreviewPrinter::Print(const TemplatePrintJob& job) {
-    PreviewPaper(TextPaper(Q(TemplatePage(job))), job.typeName, QApplication::activeWindow());
+    PreviewPaper(BandPaper(job, Q(CompanyLogo())), job.typeName, QApplication::activeWindow());
 }
 
 } // namespace jxc

@@ -10,7 +10,7 @@ namespace jxc {
 
 // A grid with its title, the company's header and the amount below; hidden columns are left out.
 [[nodiscard]] std::string GridPage(const GridPrintJob& job);
-// A document: its fields and its lines.
+// A document by its template. A TemplateError when that cannot be printed.
 [[nodiscard]] std::string TemplatePage(const TemplatePrintJob& job);
 
 } // namespace jxc

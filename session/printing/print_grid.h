@@ -18,6 +18,8 @@ void PrintGrid(const Grid& grid, const std::string& title, const std::string& ty
 // What stands before the amount below a grid.
 inline constexpr const char* kAmountCaption = "金额合计";
 
+// A key without the "<" and ">" around it.
+[[nodiscard]] std::string PlainKey(const std::string& key);
 // The header's pairs as paper shows them: those without a value are left out, and the "<" and ">" around
 // keys, which are for templates only.
 [[nodiscard]] std::vector<std::pair<std::string, std::string>> ShownHeader(const FieldList& header);

@@ -1,91 +1,17 @@
-// What stands on paper: every text with its place, as a printer is given it.
+// Grids on paper, and the preview.
 #include <set>
 
-#include <QPaintEngine>
 #include <QPrinter>
 
+#include "tests/windows/recorded_paper.h"
 #include "tests/windows/window_fixture.h"
 #include "view/grid_paper.h"
 #include "view/page_printer.h"
 #include "view/paper_preview.h"
-#include "view/text_paper.h"
 
 namespace jxc::test {
 
 namespace {
-
-struct Printed {
-    std::string text;
-    QRectF place; // in points, from the corner of the printable area
-};
-
-constexpr int kDots = 10;   // a point
-constexpr double kHigh = 4; // of a text above its baseline, about
-
-class RecordingEngine : public QPaintEngine {
-  public:
-    RecordingEngine() : QPaintEngine(AllFeatures) {}
-    bool begin(QPaintDevice*) override { return true; }
-    bool end() override { return true; }
-    void updateState(const QPaintEngineState&) override {}
-    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
-    void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
-    void drawPath(const QPainterPath&) override {}
-    // A text comes in parts, one a script: those that touch are put together again.
-    void drawTextItem(const QPointF& at, const QTextItem& item) override {
-        const QRectF place(at.x() / kDots, at.y() / kDots - kHigh, item.width() / kDots, kHigh);
-        const bool goesOn = !printed.empty() && std::abs(printed.back().place.top() - place.top()) < 0.01 &&
-                            std::abs(printed.back().place.right() - place.left()) < 0.3;
-        if (!goesOn)
-            return printed.push_back({S(item.text()), place});
-        printed.back().text += S(item.text());
-        printed.back().place.setRight(place.right());
-    }
-    Type type() const override { return User; }
-    std::vector<Printed> printed;
-};
-
-class RecordingPaper : public QPaintDevice {
-  public:
-    QPaintEngine* paintEngine() const override { return &engine; }
-    mutable RecordingEngine engine;
-
-  protected:
-    int metric(PaintDeviceMetric metric) const override {
-        switch (metric) {
-        case PdmWidth:
-        case PdmHeight:
-            return 20'000;
-        case PdmDevicePixelRatio:
-        case PdmNumColors:
-            return 1;
-        case PdmDevicePixelRatioScaled:
-            return 1 << 16;
-        case PdmDepth:
-            return 32;
-        default:
-            return 72 * kDots; // an inch
-        }
-    }
-};
-
-std::vector<Printed> PageOf(const Paper& paper, int page) {
-    RecordingPaper device;
-    QPainter painter(&device);
-    paper.DrawPage(painter, page);
-    painter.end();
-    return device.engine.printed;
-}
-
-const Printed* Find(const std::vector<Printed>& page, const std::string& text) {
-    const auto found =
-        std::find_if(page.begin(), page.end(), [&](const Printed& part) { return part.text == text; });
-    return found == page.end() ? nullptr : &*found;
-}
-
-bool Holds(const std::vector<Printed>& page, const std::string& text) {
-    return Find(page, text) != nullptr;
-}
 
 // A list as long and as wide as is asked for: a number, a code, a long name, and amounts.
 struct LongList : Screen {
@@ -189,32 +115,6 @@ TEST(PaperOfGrid, KeepsWidthsInProportionAndFillsThePage) {
     EXPECT_NEAR(Find(page, "1.50")->place.right(), width, 6);
     const double code = Find(page, "编码")->place.center().x() * 2; // the first column's width
     EXPECT_NEAR(code / width, 10.0 / (10 + 30 + 4 + 8), 0.03);
-}
-
-TEST(PaperOfText, LosesNoLineAndNoTotal) {
-    QString html = "<table width='100%'>";
-    for (int line = 1; line <= 150; ++line)
-        html += QString("<tr><td>L%1;</td><td>%2</td></tr>").arg(line).arg(QString(160, 'x'));
-    const TextPaper paper(html + "</table><p>T77;</p>");
-    std::string texts;
-    for (int page = 1; page <= paper.PageCount(); ++page) {
-        const QSizeF area = paper.Layout().paintRect(QPageLayout::Point).size();
-        QImage image(area.toSize(), QImage::Format_RGB32);
-        image.setDotsPerMeterX(2835); // a pixel a point
-        image.setDotsPerMeterY(2835);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        paper.DrawPage(painter, page);
-        painter.end();
-        for (int y = 0; y < image.height(); ++y)
-            EXPECT_EQ(image.pixelColor(image.width() - 1, y),
-                      QColor(Qt::white)); // nothing runs out of the page
-        for (const Printed& part : PageOf(paper, page))
-            texts += part.text;
-    }
-    for (int line = 1; line <= 150; ++line)
-        EXPECT_NE(texts.find("L" + std::to_string(line) + ";"), std::string::npos) << line;
-    EXPECT_NE(texts.find("T77;"), std::string::npos);
 }
 
 class Preview : public Windows {};

@@ -1,4 +1,4 @@
-#include "master/product_picture.h"
+#include "session/company/picture_file.h"
 
 #include <array>
 #include <filesystem>
@@ -29,7 +29,7 @@ bool IsPicture(const fs::path& file) {
 
 } // namespace
 
-ProductPicture FindProductPicture(const std::string& name) {
+PictureFile FindPicture(const std::string& name) {
     const std::string typed = Trim(name);
     if (typed.empty())
         return {};
@@ -43,6 +43,13 @@ ProductPicture FindProductPicture(const std::string& name) {
     if (!IsPicture(file))
         return {"", "不是 PNG 或 JPEG 图片。"};
     return {file.string(), ""};
+}
+
+std::string CompanyLogo() {
+    for (const char* name : {"logo.png", "logo.jpg"})
+        if (const PictureFile logo = FindPicture(name); !logo.file.empty())
+            return logo.file;
+    return "";
 }
 
 } // namespace jxc
