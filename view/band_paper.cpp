@@ -81,6 +81,10 @@ QString Now() {
     return QDateTime::currentDateTime().toString("yyyy-MM-dd HH:mm");
 }
 
+bool IsBlank(const std::string& html) {
+    return html.find_first_not_of(" \t\r\n") == std::string::npos;
+}
+
 // Without a picture of the company nothing stands in its place.
 void RemoveMissingLogo(QTextDocument& document) {
     for (QTextCursor& image : ImagesOf(document))
@@ -134,7 +138,7 @@ std::unique_ptr<QTextDocument> BandPaper::LaidOut(Band band, const TemplateData:
 }
 
 double BandPaper::HeightOf(Band band, const TemplateData::Page& page, size_t line) const {
-    if (template_.Of(band).find_first_not_of(" \t\r\n") == std::string::npos)
+    if (IsBlank(template_.Of(band)))
         return 0;
     return LaidOut(band, page, line)->size().height() / kUnitsPerPoint;
 }
@@ -191,7 +195,7 @@ void BandPaper::PutOnRoll() {
 // Gives where the next one begins.
 double BandPaper::Draw(QPainter& painter, double top, Band band, const TemplateData::Page& page,
                        size_t line) const {
-    if (HeightOf(band, page, line) == 0)
+    if (IsBlank(template_.Of(band)))
         return top;
     const auto document = LaidOut(band, page, line);
     const double scale = painter.device()->logicalDpiY() / double{kUnitsPerInch};
