@@ -194,7 +194,8 @@ void Grid::SetRowColor(int row, int fromColumn, Color color) {
 Color Grid::BackColor(int row, int column) const {
     CheckPlace(row, column);
     const Row& held = rows_[static_cast<size_t>(row - 1)];
-    return column >= held.colorFrom ? held.color : kNormalColor;
+    const Color ofRow = column >= held.colorFrom ? held.color : kNormalColor;
+    return ofRow == kNormalColor ? Column(column).backColor : ofRow;
 }
 
 void Grid::SetRowTextColor(int row, Color color) {

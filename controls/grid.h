@@ -36,7 +36,8 @@ struct GridColumn {
     Alignment alignment = Alignment::Left;
     std::vector<std::string> items = {}; // of a List
     Color textColor = kNormalColor;
-    int maxBytes = 0;     // typed text is cut to this many bytes, 0 for no limit
+    Color backColor = kNormalColor; // of its cells, where their row has none
+    int maxBytes = 0;               // typed text is cut to this many bytes, 0 for no limit
     double below = 0;     // what is typed may not make a figure of the column this large, 0 for no bound
     bool rounded = false; // the formula's result has the column's decimals, as it is shown
 };

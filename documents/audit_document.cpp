@@ -26,9 +26,9 @@ void AddLines(Json& lines, const DocumentData& document, bool isNew, bool second
                                   : document.type.HasFirstWarehouse() ? document.warehouse
                                                                       : "";
     const auto secondQuantity = document.type.IsKit() ? nullptr : SecondQuantity(document, isNew, second);
-    int at = 0;
+    int at = document.firstRow;
     for (const DocumentLine& line : document.lines)
-        lines.push_back(LineCells(line, second ? 1 : 0, ++at, warehouse, secondQuantity));
+        lines.push_back(LineCells(line, second ? 1 : 0, at++, warehouse, secondQuantity));
 }
 
 std::string JsonOf(const DocumentData& document, bool isNew) {

@@ -58,6 +58,7 @@ struct DocumentData {
     double kitQuantity = 1;
 
     std::vector<DocumentLine> lines;
+    int firstRow = 1; // fRowID of the first line: the orders of a plan are numbered through
     // What the header says, which an approval posts; TotalOf the lines when it is written.
     double total = 0;
 

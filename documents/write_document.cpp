@@ -85,9 +85,9 @@ void WriteOrdinaryLines(const DocumentData& document, bool isNew, bool second) {
     Lines lines(document, second ? 1 : 0);
     lines.Set(kKhID, document.type.HasCustomer() ? document.customer : 0);
     const auto secondQuantity = SecondQuantity(document, isNew, second);
-    int at = 0;
+    int at = document.firstRow;
     for (const DocumentLine& line : document.lines) {
-        lines.SetFigures(++at, line);
+        lines.SetFigures(at++, line);
         if (secondQuantity)
             lines.Set(kInvSL2, line.*secondQuantity);
         lines.Insert();
@@ -220,11 +220,15 @@ std::string WriteNewDocument(DocumentData& document) {
     if (!refusal.empty())
         return refusal;
     document.key = DbMax(stem + "01", "fInvID") + 1;
+    WriteUnderItsKey(document);
+    return "";
+}
+
+void WriteUnderItsKey(DocumentData& document) {
     document.total = TotalOf(document.lines);
     InsertHeader(document);
     WriteLines(document, true);
     AuditWritten(document);
-    return "";
 }
 
 std::string WriteChangedDocument(const DocumentData& document, const StoredDocument& asLoaded,

@@ -23,7 +23,9 @@ double DocumentLine::*SecondQuantity(const DocumentData& document, bool isNew, b
 // figures out of bounds, a date before the period and a number that is taken. It is not approved then. That number,
 // warehouses, customer and lines are given as the type wants them is for the caller to see to.
 [[nodiscard]] std::string WriteNewDocument(DocumentData& document);
-// What that reads, to be read ahead.
+// The same for a document whose key, number, date and figures the caller has seen to, as of orders that share a number.
+void WriteUnderItsKey(DocumentData& document);
+// What WriteNewDocument reads, to be read ahead.
 std::vector<Connection::Expected> NewDocumentReads(const DocumentData& document);
 
 // Writes a stored document anew, header and lines. Refused like a new one, and when it is not any more what

@@ -4,6 +4,7 @@
 #include "host/editors/host_editors.h"
 #include "host/planned_screens.h"
 #include "master/master_screens.h"
+#include "plans/frmJh02.h"
 #include "settings/frmRs_RptSet.h"
 #include "stock/frmCkKc.h"
 
@@ -14,6 +15,7 @@ void RegisterAllScreens() {
     RegisterMasterScreens();
     RegisterStockScreens();
     RegisterDocumentScreens();
+    RegisterPlanScreens();
     RegisterPlannedScreens();
     RegisterHostEditors();
 }

@@ -29,7 +29,6 @@ void PlanPeriods() {
     AddScreen({.name = "frmJz_unStep",
                .calls = {{7, nullptr, IsReverseClose}},
                .menu = {{"系统(&T)", "反结帐", "取消上月的结帐。", 7, 0}}});
-    AddScreen({.name = "frmJh02", .calls = {{14, StateOfType}}});
 }
 
 void PlanAnalyses() {

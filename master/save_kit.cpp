@@ -100,6 +100,7 @@ void WriteHeader(const frmCpTj& s, std::int32_t id) {
     if (row.AtEnd()) {
         row.AddNew();
         row.Set("fTjID", id);
+        row.Set("fTjFlag", 0); // plans count it
     }
     row.Set("fTjCode", s.txtTjCode.text);
     row.Set("fTjName", s.txtTjName.text);

@@ -151,6 +151,19 @@ void Queries(PictureBook& book) {
     }
 }
 
+void Plans(PictureBook& book) {
+    WindowScript& script = book.Script();
+    book.Open("采购计划", "打开");
+    book.Take("purchase-plan");
+    script.Click("cmdQuit");
+    book.Open("生产计划", "打开");
+    script.Press(Qt::Key_Return); // no kit is on order
+    book.Choose("cboType", "库存限额-库存数");
+    script.Click("cmdQuery");
+    book.Take("production-plan");
+    script.Click("cmdQuit");
+}
+
 void MasterData(PictureBook& book) {
     WindowScript& script = book.Script();
     book.Open("系统参数", "打开");
@@ -223,6 +236,7 @@ int TakePictures(const std::string& folder) {
     OtherDocuments(book);
     Lists(book);
     Queries(book);
+    Plans(book);
     MasterData(book);
     Editors(book);
     book.Script().Run();

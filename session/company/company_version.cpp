@@ -51,6 +51,10 @@ void RaiseToVersion2(Connection& connection) {
         connection.EngineInUse().ExecuteScript(connection.EngineInUse().NotingScript(table));
 }
 
+void RaiseToVersion3(Connection& connection) {
+    connection.Execute("Update tJXC_CpTj01 Set fTjFlag=0 Where fTjFlag is null"); // plans count 0 and below
+}
+
 } // namespace
 
 void RequireKnownVersion(Connection& connection) {
@@ -73,6 +77,7 @@ void RaiseCompany(Connection& connection) {
             connection.ForgetCatalogue();
             RaiseToVersion1(connection);
             RaiseToVersion2(connection);
+            RaiseToVersion3(connection);
             connection.EngineInUse().SetVersion(kCompanyVersion);
             transaction.Commit();
         }

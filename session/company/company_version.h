@@ -6,8 +6,8 @@
 namespace jxc {
 
 // 1: late columns and tables are there. 2: changes of products and cards are noted, there
-// is a trail, users have pass words.
-inline constexpr int kCompanyVersion = 2;
+// is a trail, users have pass words. 3: kit templates say that plans count them.
+inline constexpr int kCompanyVersion = 3;
 
 // A DatabaseError for a company that a newer program has written, and for another program's database.
 void RequireKnownVersion(Connection& connection);

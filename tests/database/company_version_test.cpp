@@ -50,6 +50,18 @@ TEST_P(CompanyVersion, AnOlderOneIsRaisedAllOrNothing) {
     EXPECT_THROW(open->Execute("Insert Into tHostUser (fUserName) Values ('wang')"), DatabaseError);
 }
 
+// Kit templates that people entered said nothing; plans count those that say 0.
+TEST_P(CompanyVersion, KitsOfAnOlderOneAreCountedByPlans) {
+    Do("Insert Into tJXC_CpTj01 (fTjID,fCpID) Values (2,7)");
+    Do("Insert Into tJXC_CpTj01 (fTjID,fCpID,fTjFlag) Values (3,8,1)");
+    Conn().EngineInUse().SetVersion(2);
+    const auto open = std::make_unique<Connection>();
+    company->Open(*open);
+    EXPECT_EQ(open->EngineInUse().Version(), kCompanyVersion);
+    EXPECT_EQ(LinesOf(open->Query("Select fTjID,fTjFlag From tJXC_CpTj01 Order By fTjID")),
+              (Lines{"2|0", "3|1"}));
+}
+
 } // namespace
 
 } // namespace jxc::test

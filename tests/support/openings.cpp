@@ -12,6 +12,7 @@ std::vector<Opening> Openings(int receipt) {
     const std::map<std::string, std::vector<ScreenProperties>> several{
         {"frmCpTj", {{{"CpTjSelect", 0}}, {{"CpTjSelect", 1}, {"TjID", 3}}}},
         {"frmCkKc", {{{"myState", 0}}, {{"myState", 1}}, {{"myState", 2}}}},
+        {"frmJh02", {{{"myState", 0}}, {{"myState", 1}}}},
         {"frmDj01", {{{"invType", 1}}, {{"invType", 99}}, {{"invType", 224}}}},
         {"frmDj02",
          {{{"Action", 1}, {"invType", 1}},

@@ -95,7 +95,11 @@ TEST(PlainForms, LeadFromFieldToFieldAndThenToTheCommands) {
         {"frmBrief", "Grid1 cmdOk cmdAdd cmdDelete cmdUp cmdDown cmdRename cmdCancel"},
         {"frmCkKc",
          "cboCk txtCpCode txtCpName DTPicker1 chkCk chkCpCode chkCpName chkKcBj chkNeg chkDetail chkDate "
-         "optPrice(0) optPrice(1) optPrice(2) optPrice(3) cmdQuery cmdRefresh cmdPrint Grid1 cmdQuit"}};
+         "optPrice(0) optPrice(1) optPrice(2) optPrice(3) cmdQuery cmdRefresh cmdPrint Grid1 cmdQuit"},
+        {"frmJh02", "cboType cboKcType cboCk txtCpCode txtCpName cboCpZy2 cboCpCd2 txtKhSeek cboKhList "
+                    "chkPrice chkDetail "
+                    "chkCk chkCpCode chkCpName chkCpZy2 chkCpCd2 chkKhAll cmdQuery cmdSupplier cmdExecute "
+                    "cmdPrint Grid1 cmdQuit"}};
     for (const auto& [name, order] : orders) {
         Screen& screen = *FindScreen(name);
         const std::unique_ptr<QWidget> form = FormOf(screen);
