@@ -98,19 +98,7 @@ void LoadLine(frmDj02& s, int row, const Recordset& stored) {
     }
 }
 
-// Stock and reference prices are today's; the book quantity of a stocktake stays the stored one.
-void CompleteLine(frmDj02& s, int row, const LineFigures& figures) {
-    Grid& grid = s.Grid2;
-    const double price = grid.Number(row, line::kPrice);
-    const Value book = grid.Cell(row, line::kStock);
-    ShowRowFigures(s, row, figures);
-    if (s.type.IsStocktake())
-        grid.FillCell(row, line::kStock, book);
-    if (IsEditing(s.InHand()) && s.type.fSetDjType2 == PriceKind::Discounted)
-        grid.FillCell(row, line::kDiscount, DiscountOf(s, price, grid.Number(row, line::kReference)));
-}
-
-void LoadLines(frmDj02& s, const std::string& stem, std::int32_t key) {
+void ShowStoredLines(frmDj02& s, const std::string& stem, std::int32_t key) {
     Grid& grid = s.Grid2;
     Recordset stored(Conn(), LinesStatement(stem, key, 0));
     grid.SetRowCount(0);
@@ -145,6 +133,17 @@ void StartFromSource(frmDj02& s) {
 
 } // namespace
 
+void CompleteLine(frmDj02& s, int row, const LineFigures& figures) {
+    Grid& grid = s.Grid2;
+    const double price = grid.Number(row, line::kPrice);
+    const Value book = grid.Cell(row, line::kStock);
+    ShowRowFigures(s, row, figures);
+    if (s.type.IsStocktake())
+        grid.FillCell(row, line::kStock, book);
+    if (IsEditing(s.InHand()) && s.type.fSetDjType2 == PriceKind::Discounted)
+        grid.FillCell(row, line::kDiscount, DiscountOf(s, price, grid.Number(row, line::kReference)));
+}
+
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
     const std::string stem = BookStem(sourceType, s.JzState == 1);
     s.txtSsSf.text = "0.00";
@@ -167,7 +166,7 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
             s.txtZkl.text = s.txtZkl.tag =
                 "0.00"; // a discount typed for the document before is not this one's
         LoadHeader(s, sourceType, header);
-        LoadLines(s, stem, key);
+        ShowStoredLines(s, stem, key);
         if (s.type.IsKit() && s.InHand() != DocAction::New)
             LoadFinishedProduct(s, stem, key);
         s.oldInvID = key;
