@@ -27,6 +27,7 @@ struct Source {
 bool PickNumber(int type, TextBox& number, bool& closed) {
     const ScreenToShow list("frmDj01");
     list->SetProperty("invType", type + kPickerMode);
+    list->SetProperty("DjCode", ""); // of a choice before
     ShowModal(*list);
     const std::string picked = list->GetProperty("DjCode").AsText();
     if (picked.empty())
