@@ -1,9 +1,12 @@
 // A stored document into the entry screen.
 
+#include <algorithm>
+
 #include "base/text.h"
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "documents/document_entry.h"
+#include "documents/load_lines.h"
 #include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
@@ -79,7 +82,7 @@ void LoadLine(frmDj02& s, int row, const Recordset& stored) {
     const auto fill = [&](int column, const char* field) { grid.FillCell(row, column, stored[field]); };
     fill(line::kProduct, "fCpID");
     fill(line::kCode, "fCpCode");
-    // The line of a product that is gone is still a line of its document; a new document takes none of it.
+    // The line of a product that is gone is still a line of its document.
     if (s.InHand() != DocAction::New && stored["fCpCode"].AsText().empty() && stored["fCpID"].AsLong() > 0)
         grid.FillCell(row, line::kCode, "(" + stored["fCpID"].AsText() + ") - Error");
     grid.FillCell(row, line::kName, NameAndSpec(stored["fCpName"].AsText(), stored["fCpGG"].AsText()));
@@ -115,6 +118,22 @@ void ShowStoredLines(frmDj02& s, const std::string& stem, std::int32_t key) {
         s.txtSum.text = FormatFixed(s.storedTotal, kAmountDecimals);
 }
 
+// The lines of products that are gone: a new document has none of them, and the person is told.
+void LeaveOutGone(frmDj02& s) {
+    std::vector<std::string> gone;
+    for (int row = 1; row <= s.Grid2.RowCount();) {
+        if (!s.Grid2.Text(row, line::kCode).empty()) {
+            ++row;
+            continue;
+        }
+        const std::string product = GoneProduct(s.Grid2.Cell(row, line::kProduct).AsLong());
+        if (std::ranges::find(gone, product) == gone.end())
+            gone.push_back(product);
+        s.Grid2.RemoveRow(row);
+    }
+    TellLeftOut(s, gone);
+}
+
 // A new document from a source: today's, under a number of its own, not approved, not stopped.
 void StartFromSource(frmDj02& s) {
     s.txtNo.text.clear();
@@ -125,6 +144,7 @@ void StartFromSource(frmDj02& s) {
     ShowApprover(s, "");
     if (s.cboCkName2.items.size() == 1)
         s.cboCkName2.SetIndex(0);
+    LeaveOutGone(s);
     CutToMaxRows(s);
     if (s.chkTh.value)
         SetReturnSign(s);

@@ -56,7 +56,7 @@ LineToLoad ReadLine(const frmDj02& s, const Recordset& row) {
 std::string WhyLeftOut(const Recordset& row) {
     const std::string code = row["fCpCode"].AsText();
     if (code.empty())
-        return "产品 (" + row["fCpID"].AsText() + ") 已不存在";
+        return GoneProduct(row["fCpID"].AsLong());
     return row["fCpFlag"].AsLong() == 1 ? "产品“" + code + "”已停用" : "";
 }
 
@@ -73,13 +73,6 @@ LinesToLoad ReadLines(const frmDj02& s, const std::string& sql) {
             read.leftOut.push_back(why);
     }
     return read;
-}
-
-void TellLeftOut(const frmDj02& s, const LinesToLoad& read) {
-    std::string text = "有 " + std::to_string(read.leftOut.size()) + " 种产品未调入：\n";
-    for (size_t i = 0; i < std::min(read.leftOut.size(), kProductsTold); ++i)
-        text += "\n" + read.leftOut[i];
-    Warn(s.title, text + (read.leftOut.size() > kProductsTold ? "\n……" : ""));
 }
 
 // How many of the rows stay: all but a blank one at the end, or none; nothing when the person rather loads nothing.
@@ -214,6 +207,19 @@ bool LoadsWhole(const frmDj02& s, const std::function<bool()>& work) {
     }
 }
 
+std::string GoneProduct(std::int64_t product) {
+    return "产品 (" + std::to_string(product) + ") 已不存在";
+}
+
+void TellLeftOut(const frmDj02& s, const std::vector<std::string>& products) {
+    if (products.empty())
+        return;
+    std::string text = "有 " + std::to_string(products.size()) + " 种产品未调入：\n";
+    for (size_t i = 0; i < std::min(products.size(), kProductsTold); ++i)
+        text += "\n" + products[i];
+    Warn(s.title, text + (products.size() > kProductsTold ? "\n……" : ""));
+}
+
 bool MayHoldLines(const frmDj02& s, int lines) {
     const int most = s.parameters.maxRows;
     if (most == 0 || lines <= most)
@@ -232,7 +238,7 @@ bool LoadLines(frmDj02& s, const std::string& sql) {
         if (read.leftOut.empty())
             Warn(s.title, "没有可调入的产品记录！");
         else
-            TellLeftOut(s, read);
+            TellLeftOut(s, read.leftOut);
         return false;
     }
     const std::vector<int> rows = RowsFor(s.Grid2, read.lines, *staying);
@@ -243,8 +249,7 @@ bool LoadLines(frmDj02& s, const std::string& sql) {
     s.Grid2.selectedRow = rows.front();
     s.Grid2.selectedColumn = s.type.IsStocktake() ? line::kCounted : line::kQuantity;
     RefreshTotals(s);
-    if (!read.leftOut.empty())
-        TellLeftOut(s, read);
+    TellLeftOut(s, read.leftOut);
     return true;
 }
 

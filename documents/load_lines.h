@@ -3,8 +3,10 @@
 // whole or not at all: whatever fails or is refused, lines and customer stay as they were and a message has told why.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "documents/frmDj02.h"
 
@@ -32,6 +34,9 @@ bool LoadFromOrder(
 bool LoadLines(frmDj02& s, const std::string& sql);
 // Runs `work`, and tells a DatabaseError as one that changed nothing; false then.
 bool LoadsWhole(const frmDj02& s, const std::function<bool()>& work);
+// Names the products that were left out, each with its reason; nothing where there are none.
+void TellLeftOut(const frmDj02& s, const std::vector<std::string>& products);
+std::string GoneProduct(std::int64_t product); // that reason
 // Whether a document may have so many lines; tells it when not.
 bool MayHoldLines(const frmDj02& s, int lines);
 
