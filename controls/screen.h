@@ -40,6 +40,9 @@ struct Screen {
     // Saves it, with the questions of saving. Work that is still unsaved afterwards was not.
     virtual void SaveWork() {}
 
+    // The command that closes the panel in which the control stands, as Esc there does; null when it stands in none.
+    virtual Command* PanelCommand(const Control& /*inIt*/) { return nullptr; }
+
     bool IsOpen() const { return open_; }
     void Close() { open_ = false; }
 
@@ -51,7 +54,13 @@ struct Screen {
 
     // The control that has the focus; null when none has. Screens move it by MoveFocus, which fires no event.
     Control* Focus() const { return focus_; }
-    void MoveFocus(Control* control) { focus_ = control; }
+    void MoveFocus(Control* control) {
+        focus_ = control;
+        if (control && control->kind != ControlKind::Button && control->kind != ControlKind::Menu)
+            lastField_ = control;
+    }
+    // The field or grid that had the focus last, also while a command has it; null when none had.
+    Control* LastField() const { return lastField_; }
 
     // Public properties, for openers and scripts.
     template <typename Number>
@@ -85,6 +94,7 @@ struct Screen {
     std::vector<Control*> controls_;
     std::map<std::string, Property, std::less<>> properties_;
     Control* focus_ = nullptr;
+    Control* lastField_ = nullptr;
     bool open_ = false;
 };
 

@@ -31,12 +31,19 @@ std::string CardStatement(std::int64_t id) {
            std::to_string(id);
 }
 
-void FillAddresses(frmDj02& s, std::int64_t id) {
-    const std::string shown = s.cboKhAdd.text;
-    s.cboKhAdd.Clear();
+std::vector<std::string> ReadAddresses(std::int64_t id) {
+    std::vector<std::string> addresses;
     if (id > 0)
         for (Recordset row(Conn(), AddressesStatement(id)); !row.AtEnd(); row.MoveNext())
-            s.cboKhAdd.items.push_back(row["fKhAdd"].AsText());
+            addresses.push_back(row["fKhAdd"].AsText());
+    return addresses;
+}
+
+// What is typed stays.
+void OfferAddresses(frmDj02& s, std::vector<std::string> addresses) {
+    const std::string shown = s.cboKhAdd.text;
+    s.cboKhAdd.Clear();
+    s.cboKhAdd.items = std::move(addresses);
     s.cboKhAdd.text = shown;
 }
 
@@ -86,7 +93,7 @@ void SeekCustomer(frmDj02& s) {
     if (s.cboKhList.Seek(s.txtKhSeek.text) == 0) {
         Warn(s.title, "未有符合条件的" + s.lblKh.caption + "资料！");
         ClearCardFields(s);
-        FillAddresses(s, 0);
+        OfferAddresses(s, {});
         return;
     }
     RefreshCustomer(s);
@@ -99,7 +106,7 @@ void RefreshCustomer(frmDj02& s) {
     const ReadAhead ahead(Conn(), {{CardStatement(id)}, {AddressesStatement(id)}});
     const Recordset card = CardOf(id);
     FillCardFields(s, card);
-    FillAddresses(s, id);
+    OfferAddresses(s, ReadAddresses(id));
     if (card.AtEnd())
         return;
     const std::int64_t kind = card["fType0"].AsLong();
@@ -110,25 +117,31 @@ void RefreshCustomer(frmDj02& s) {
     }
 }
 
-void ShowCustomer(frmDj02& s, std::int64_t id) {
+void ClearCustomer(frmDj02& s) {
     s.cboKhList.Clear();
     s.cboKhAdd.Clear();
     s.txtKhSeek.text.clear();
     s.txtKhSeek.tag.clear();
     ClearCardFields(s);
+}
+
+// All is read before anything is shown: a failure leaves the customer as it was.
+void ShowCustomer(frmDj02& s, std::int64_t id) {
     if (id <= 0)
-        return;
+        return ClearCustomer(s);
     const std::string sql = "select fID,CompCode,compname from cards Where fID = " + std::to_string(id);
     const ReadAhead ahead(Conn(), {{sql}, {CardStatement(id)}, {AddressesStatement(id)}});
-    const Recordset row(Conn(), sql);
+    const Recordset row(Conn(), sql), card = CardOf(id);
+    std::vector<std::string> addresses = ReadAddresses(id);
+    ClearCustomer(s);
     if (row.AtEnd()) {
         s.txtKhSeek.tag = std::to_string(id);
         s.txtKhSeek.text = "(" + std::to_string(id) + ") - Error";
         return;
     }
     s.cboKhList.Show(row["compname"].AsText(), id);
-    FillCardFields(s, CardOf(id));
-    FillAddresses(s, id);
+    FillCardFields(s, card);
+    OfferAddresses(s, std::move(addresses));
 }
 
 void SaveAddress(frmDj02& s) {

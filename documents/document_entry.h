@@ -9,6 +9,7 @@
 #include "database/connection.h"
 #include "documents/document_data.h"
 #include "documents/frmDj02.h"
+#include "session/lookups/find_by_text.h"
 
 namespace jxc {
 
@@ -35,6 +36,10 @@ std::string TypedWork(const frmDj02& s);
 // -- load_document.cpp: a stored document into the screen
 // Shows "该[单号]已不存在!" when it is gone, "系统数据错误，操作已经取消！" on any error; false then.
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key);
+struct LineFigures;
+// What a line that came from elsewhere has of today: stock, reference price and, in a new or changed document priced at a
+// discount, the discount that follows from its price. The book quantity of a stocktake stays.
+void CompleteLine(frmDj02& s, int row, const LineFigures& figures);
 // The document before or after the one shown; no hit disables that direction.
 void StepToDocument(frmDj02& s, bool next);
 
@@ -54,6 +59,8 @@ bool EndsBlank(const Grid& grid);
 // that holds all the rows it may, into a cell that takes no typing.
 void GoBelowTheLines(frmDj02& s);
 void CutToMaxRows(frmDj02& s); // after loading; the user is told
+// A row of a product that was read, with its stock, prices and the rates of the head, as a typed one becomes.
+void FillProduct(frmDj02& s, int row, const ProductSought& found, std::int32_t id);
 void InsertLine(frmDj02& s);
 void DeleteLine(frmDj02& s);
 void EnterGrid(frmDj02& s);
@@ -64,6 +71,8 @@ struct LineFigures {
     std::map<std::int64_t, double> stock, reference;
 };
 LineFigures ReadLineFigures(const frmDj02& s);
+LineFigures ReadFiguresOf(const frmDj02& s,
+                          const std::vector<std::int64_t>& products); // the same of other rows
 void ShowRowFigures(frmDj02& s, int row, const LineFigures& figures);
 void RefreshTotals(frmDj02& s);
 void SetReturnSign(frmDj02& s);  // as chkTh says

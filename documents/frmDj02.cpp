@@ -5,6 +5,7 @@
 #include "controls/view.h"
 #include "documents/document_entry.h"
 #include "documents/frmDj01.h"
+#include "documents/load_lines.h"
 #include "forms/edit_filter.h"
 #include "forms/suggest.h"
 #include "settings/document_numbers.h"
@@ -113,6 +114,7 @@ frmDj02::frmDj02() : Screen("frmDj02") {
     WireHead(*this);
     WireCardLinks(*this);
     WireKitPanel(*this);
+    WireLoading(*this);
     WireLinesAndFoot(*this);
 }
 
@@ -148,6 +150,13 @@ std::string frmDj02::UnsavedWork() const {
 void frmDj02::SaveWork() {
     if (LeaveFocus(*this)) // what stands in the field in hand counts
         SaveDocument(*this);
+}
+
+Command* frmDj02::PanelCommand(const Control& inIt) {
+    return inIt.frame == &fraLoad      ? &cmdLoad
+           : inIt.frame == &fraLoadInv ? &cmdCpZj
+           : inIt.frame == &fraPdTj    ? &cmdPdTj
+                                       : nullptr;
 }
 
 std::int64_t frmDj02::CustomerId() const {

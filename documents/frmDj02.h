@@ -20,6 +20,7 @@ struct frmDj02 : Screen {
     void Open() override;
     std::string UnsavedWork() const override;
     void SaveWork() override;
+    Command* PanelCommand(const Control& inIt) override;
 
     // The upper panel: the document's header.
     Frame fraHead{*this, "fraHead"};
@@ -84,6 +85,31 @@ struct frmDj02 : Screen {
     Button cmdZy{*this, "cmdZy", "摘要(&Y)"};
     Button cmdCards{*this, "cmdCards", "客户(&U)"}; // where the host keeps them
     Button cmdGridSave{*this, "cmdGridSave", "保存列宽"};
+
+    // Lines from elsewhere (load_lines.h): from a document, from the balance of an order, from a kit template, or from the
+    // stock for a stocktake. One panel stands open at a time.
+    Button cmdLoad{*this, "cmdLoad", "单据调入(&L)", "F2"};
+    Button cmdLoadDd2{*this, "cmdLoadDd2", "订单调入(余数)", "F11"};
+    Button cmdCpZj{*this, "cmdCpZj", "套件调入", "F5"};
+    Button cmdPdTj{*this, "cmdPdTj", "帐面盘点统计", "F12"};
+    Frame fraLoad{*this, "fraLoad", "单据调入"};
+    DocumentTypeField cboInvType2{fraLoad, "cboInvType2"};
+    TextBox txtNo2{fraLoad, "txtNo2"}; // of the document; empty picks one from the list
+    Button cmdLoadDj2{fraLoad, "cmdLoadDj2", "调入(&G)"};
+    Frame fraLoadInv{*this, "fraLoadInv", "套件调入"};
+    TextBox txtTjCode{fraLoadInv, "txtTjCode"};      // of the template; empty picks one
+    TextBox txtInvSL2{fraLoadInv, "txtInvSL2", "1"}; // of how many kits
+    Button cmdLoadTj2{fraLoadInv, "cmdLoadTj2", "调入(&O)"};
+    Frame fraPdTj{*this, "fraPdTj", "帐面盘点统计"};
+    OptionButton optPd[3]{{fraPdTj, "optPd(0)", "optPd", "统计所有产品；", true},
+                          {fraPdTj, "optPd(1)", "optPd", "统计该仓库目前的库存产品；"},
+                          {fraPdTj, "optPd(2)", "optPd", "统计[产品设置]中归入该仓库的产品。"}};
+    // The signs of the stock that enter; one of them at least.
+    CheckBox chkPd[3]{{fraPdTj, "chkPd(0)", "负库存", true},
+                      {fraPdTj, "chkPd(1)", "零库存", true},
+                      {fraPdTj, "chkPd(2)", "正库存", true}};
+    Button cmdPdTj2{fraPdTj, "cmdPdTj2", "统计(&T)"};
+    Control* beforePanel = nullptr; // where the person was, and goes back to
 
     // The foot.
     Label lblSum{*this, "lblSum", "金额合计"};

@@ -34,22 +34,6 @@ void SetRates(frmDj02& s, int row) {
     s.Grid2.SetCell(row, line::kTaxRate, Val(s.txtTaxRate.text));
 }
 
-void FillProduct(frmDj02& s, int row, const ProductSought& found, std::int32_t id) {
-    Grid& grid = s.Grid2;
-    SetRates(s, row);
-    grid.SetCell(row, line::kCode, found.code);
-    grid.SetCell(row, line::kName, NameAndSpec(found.name, found.spec));
-    grid.SetCell(row, line::kUnit, found.unit);
-    grid.SetCell(row, line::kStock, found.stock);
-    const auto show = [&](int column, int kind) {
-        if (!PriceField(kind).empty())
-            grid.SetCell(row, column, PriceAsShown(grid, column, found.price[kind - PriceKind::Cost]));
-    };
-    show(line::kReference, s.type.fSetDjType1);
-    show(line::kPrice, s.type.fSetDjType2);
-    grid.SetCell(row, line::kProduct, std::int64_t{id});
-}
-
 ProductSought SoughtHere(const frmDj02& s) {
     ProductSought sought;
     sought.warehouse = StockWarehouse(s);
@@ -177,6 +161,22 @@ bool MayAddLine(const frmDj02& s) {
 
 } // namespace
 
+void FillProduct(frmDj02& s, int row, const ProductSought& found, std::int32_t id) {
+    Grid& grid = s.Grid2;
+    SetRates(s, row);
+    grid.SetCell(row, line::kCode, found.code);
+    grid.SetCell(row, line::kName, NameAndSpec(found.name, found.spec));
+    grid.SetCell(row, line::kUnit, found.unit);
+    grid.SetCell(row, line::kStock, found.stock);
+    const auto show = [&](int column, int kind) {
+        if (!PriceField(kind).empty())
+            grid.SetCell(row, column, PriceAsShown(grid, column, found.price[kind - PriceKind::Cost]));
+    };
+    show(line::kReference, s.type.fSetDjType1);
+    show(line::kPrice, s.type.fSetDjType2);
+    grid.SetCell(row, line::kProduct, std::int64_t{id});
+}
+
 std::string StockWarehouse(const frmDj02& s) {
     return s.type.HasFirstWarehouse() ? s.cboCkName.Chosen() : "";
 }
@@ -267,6 +267,10 @@ LineFigures ReadLineFigures(const frmDj02& s) {
     for (int row = 1; row <= s.Grid2.RowCount(); ++row)
         if (const std::int64_t product = s.Grid2.Cell(row, line::kProduct).AsLong(); product != 0)
             products.push_back(product);
+    return ReadFiguresOf(s, products);
+}
+
+LineFigures ReadFiguresOf(const frmDj02& s, const std::vector<std::int64_t>& products) {
     LineFigures figures;
     if (products.empty())
         return figures;

@@ -1,9 +1,12 @@
 // A stored document into the entry screen.
 
+#include <algorithm>
+
 #include "base/text.h"
 #include "controls/view.h"
 #include "database/recordset.h"
 #include "documents/document_entry.h"
+#include "documents/load_lines.h"
 #include "session/dialect.h"
 #include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
@@ -79,7 +82,7 @@ void LoadLine(frmDj02& s, int row, const Recordset& stored) {
     const auto fill = [&](int column, const char* field) { grid.FillCell(row, column, stored[field]); };
     fill(line::kProduct, "fCpID");
     fill(line::kCode, "fCpCode");
-    // The line of a product that is gone is still a line of its document; a new document takes none of it.
+    // The line of a product that is gone is still a line of its document.
     if (s.InHand() != DocAction::New && stored["fCpCode"].AsText().empty() && stored["fCpID"].AsLong() > 0)
         grid.FillCell(row, line::kCode, "(" + stored["fCpID"].AsText() + ") - Error");
     grid.FillCell(row, line::kName, NameAndSpec(stored["fCpName"].AsText(), stored["fCpGG"].AsText()));
@@ -98,19 +101,7 @@ void LoadLine(frmDj02& s, int row, const Recordset& stored) {
     }
 }
 
-// Stock and reference prices are today's; the book quantity of a stocktake stays the stored one.
-void CompleteLine(frmDj02& s, int row, const LineFigures& figures) {
-    Grid& grid = s.Grid2;
-    const double price = grid.Number(row, line::kPrice);
-    const Value book = grid.Cell(row, line::kStock);
-    ShowRowFigures(s, row, figures);
-    if (s.type.IsStocktake())
-        grid.FillCell(row, line::kStock, book);
-    if (IsEditing(s.InHand()) && s.type.fSetDjType2 == PriceKind::Discounted)
-        grid.FillCell(row, line::kDiscount, DiscountOf(s, price, grid.Number(row, line::kReference)));
-}
-
-void LoadLines(frmDj02& s, const std::string& stem, std::int32_t key) {
+void ShowStoredLines(frmDj02& s, const std::string& stem, std::int32_t key) {
     Grid& grid = s.Grid2;
     Recordset stored(Conn(), LinesStatement(stem, key, 0));
     grid.SetRowCount(0);
@@ -127,6 +118,22 @@ void LoadLines(frmDj02& s, const std::string& stem, std::int32_t key) {
         s.txtSum.text = FormatFixed(s.storedTotal, kAmountDecimals);
 }
 
+// The lines of products that are gone: a new document has none of them, and the person is told.
+void LeaveOutGone(frmDj02& s) {
+    std::vector<std::string> gone;
+    for (int row = 1; row <= s.Grid2.RowCount();) {
+        if (!s.Grid2.Text(row, line::kCode).empty()) {
+            ++row;
+            continue;
+        }
+        const std::string product = GoneProduct(s.Grid2.Cell(row, line::kProduct).AsLong());
+        if (std::ranges::find(gone, product) == gone.end())
+            gone.push_back(product);
+        s.Grid2.RemoveRow(row);
+    }
+    TellLeftOut(s, gone);
+}
+
 // A new document from a source: today's, under a number of its own, not approved, not stopped.
 void StartFromSource(frmDj02& s) {
     s.txtNo.text.clear();
@@ -137,6 +144,7 @@ void StartFromSource(frmDj02& s) {
     ShowApprover(s, "");
     if (s.cboCkName2.items.size() == 1)
         s.cboCkName2.SetIndex(0);
+    LeaveOutGone(s);
     CutToMaxRows(s);
     if (s.chkTh.value)
         SetReturnSign(s);
@@ -144,6 +152,17 @@ void StartFromSource(frmDj02& s) {
 }
 
 } // namespace
+
+void CompleteLine(frmDj02& s, int row, const LineFigures& figures) {
+    Grid& grid = s.Grid2;
+    const double price = grid.Number(row, line::kPrice);
+    const Value book = grid.Cell(row, line::kStock);
+    ShowRowFigures(s, row, figures);
+    if (s.type.IsStocktake())
+        grid.FillCell(row, line::kStock, book);
+    if (IsEditing(s.InHand()) && s.type.fSetDjType2 == PriceKind::Discounted)
+        grid.FillCell(row, line::kDiscount, DiscountOf(s, price, grid.Number(row, line::kReference)));
+}
 
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
     const std::string stem = BookStem(sourceType, s.JzState == 1);
@@ -167,7 +186,7 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
             s.txtZkl.text = s.txtZkl.tag =
                 "0.00"; // a discount typed for the document before is not this one's
         LoadHeader(s, sourceType, header);
-        LoadLines(s, stem, key);
+        ShowStoredLines(s, stem, key);
         if (s.type.IsKit() && s.InHand() != DocAction::New)
             LoadFinishedProduct(s, stem, key);
         s.oldInvID = key;

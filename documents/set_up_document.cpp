@@ -6,6 +6,7 @@
 #include "controls/grid_routines.h"
 #include "documents/approval/stages.h"
 #include "documents/document_entry.h"
+#include "documents/load_lines.h"
 #include "session/lookups/book.h"
 #include "session/lookups/lists.h"
 #include "session/period.h"
@@ -142,6 +143,7 @@ void SetUpDocument(frmDj02& s) {
     FillLists(s);
     ShapeByType(s);
     AllowByAction(s);
+    SetUpLoading(s);
     SetStartingValues(s);
     SetUpLineGrid(s.Grid2, s.type, s.parameters, s.InHand());
     LoadColumnWidths(s);
@@ -183,6 +185,7 @@ void ResetDocument(frmDj02& s) {
     s.txtSsSf.text = "0.00";
     s.finishedProduct.Clear();
     s.txtInvSL.text = s.txtInvSL.tag = "1";
+    ResetLoading(s);
     RefreshTotals(s);
     s.asLoaded = {};
     s.cmdSave.enabled = true;

@@ -25,8 +25,12 @@ bool MaySearch(const std::string& typed) {
 bool Holds(const std::string& folded, const std::string& sought) {
     if (folded.find(sought) != std::string::npos)
         return true;
-    const std::vector<std::string> initials = PinyinInitials(folded);
-    return std::ranges::any_of(initials, [&](const std::string& text) { return text.starts_with(sought); });
+    const auto beginsWithIt = [&](const std::string& initials) { return initials.starts_with(sought); };
+    if (std::ranges::any_of(PinyinInitials(folded), beginsWithIt))
+        return true;
+    const size_t name = folded.find_first_not_of("-0123456789 "); // a type's stands behind its number
+    return name != std::string::npos &&
+           std::ranges::any_of(PinyinInitials(folded.substr(name)), beginsWithIt);
 }
 
 Suggestions ItemRows(const ListBox& list, const std::string& typed) {

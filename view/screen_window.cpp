@@ -243,6 +243,11 @@ Command* ScreenWindow::LeaveCommand() const {
 }
 
 void ScreenWindow::reject() {
+    const Binding* here = BindingOf(focusWidget());
+    if (Command* closes = here ? screen_.PanelCommand(here->control) : nullptr) {
+        Do([&] { Click(screen_, *closes); });
+        return;
+    }
     Command* leave = LeaveCommand();
     Binding* button = leave ? BindingOf(*leave) : nullptr;
     if (button && BindingOf(focusWidget()) != button)

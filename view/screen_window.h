@@ -54,7 +54,7 @@ class ScreenWindow : public QDialog {
     Binding* BindingOf(const Control& control) const;
     Binding* BindingOf(const QWidget* widget) const;
 
-    void reject() override; // Esc goes to the leave button; once there, it leaves
+    void reject() override; // Esc closes the panel in hand, or goes to the leave button and leaves from there
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
 

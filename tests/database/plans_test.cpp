@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "controls/gestures.h"
 #include "database/engine.h"
+#include "documents/load_lines.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 #include "tests/support/openings.h"
@@ -16,7 +17,7 @@ namespace jxc::test {
 
 namespace {
 
-// 20000 documents of two lines in the stock book and the orders, 20000 account entries, 20000 products in two
+// 20000 documents of two lines in the stock book, the closed book and the orders, 20000 account entries, 20000 products in two
 // warehouses, all under keys that the sample company does not use.
 std::string FillingScript(bool postgres) {
     const std::string numbers =
@@ -27,7 +28,7 @@ std::string FillingScript(bool postgres) {
     const std::string date = postgres ? "timestamp '2003-01-01' + i % 200 * interval '1 day'"
                                       : "date('2003-01-01', (i % 200) || ' days')";
     std::string script;
-    for (const std::string book : {"tJXC_CkDj", "tJXC_CkHt"}) {
+    for (const std::string book : {"tJXC_CkDj", "tJXC_CkDj_Bak", "tJXC_CkHt"}) {
         script += "insert into " + book +
                   "01 (fInvID, fInvType, fInvNo, fInvDate, fInvSHR) select i, i % 7, 'R' || " + text + ", " +
                   date + ", 'x' from " + numbers + ";";
@@ -51,9 +52,9 @@ std::string FillingScript(bool postgres) {
     return script;
 }
 
-const std::set<std::string> kGrowing{"tjxc_ckdj01",    "tjxc_ckdj02", "tjxc_ckht01",   "tjxc_ckht02",
-                                     "taccountdetail", "tjxc_cktj",   "tjxc_cktj_tmp", "tjxc_cp",
-                                     "tjxc_cpgys",     "cards"};
+const std::set<std::string> kGrowing{"tjxc_ckdj01",    "tjxc_ckdj02", "tjxc_ckht01",     "tjxc_ckht02",
+                                     "taccountdetail", "tjxc_cktj",   "tjxc_cktj_tmp",   "tjxc_cp",
+                                     "tjxc_cpgys",     "cards",       "tjxc_ckdj_bak01", "tjxc_ckdj_bak02"};
 
 class Plans : public OnOpenCompany {
   protected:
@@ -144,6 +145,33 @@ TEST_P(Plans, OfOneDocumentWalkThroughNoTable) {
             ExpectNoWalk(sql);
     Analyze();
     for (const std::string& sql : sent)
+        ExpectNoWalk(sql);
+}
+
+// Neither does loading its lines from another document, open or closed, from an order or from a kit template.
+TEST_P(Plans, OfALoadWalkThroughNoTable) {
+    Fill();
+    for (const int type : {DocType::Receipt, DocType::PurchaseOrder}) {
+        DocumentInput source = TypicalDocument(type);
+        source.number = "SRC" + std::to_string(type);
+        ASSERT_NE(clerk->Save(source), 0);
+    }
+    Conn().Execute(
+        "Update tJXC_CkDj01 Set fInvNo='GONE' Where fInvID=100007"); // the closed book has its number
+    const Recorder recorder;
+    clerk->view.AnswerWith([](const MessageBox&) { return BoxButton::No; });
+    clerk->Enter({.type = DocType::Receipt, .warehouse = "总部仓"}, [&](frmDj02& s) {
+        s.txtNo2.text = "SRC1";
+        EXPECT_TRUE(PickDocumentLines(s, false, DocType::Receipt, "", s.txtNo2)) << clerk->LastBox();
+        s.txtNo2.text = "R100007";
+        EXPECT_TRUE(PickDocumentLines(s, false, 100007 % 7, "", s.txtNo2)) << clerk->LastBox();
+        s.txtHtNo.text = "SRC23";
+        EXPECT_TRUE(LoadFromOrder(s)) << clerk->LastBox();
+        s.txtTjCode.text = "ZZ001";
+        EXPECT_TRUE(LoadFromKit(s)) << clerk->LastBox();
+    });
+    Analyze();
+    for (const std::string& sql : Planned(recorder))
         ExpectNoWalk(sql);
 }
 
