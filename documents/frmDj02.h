@@ -124,8 +124,8 @@ struct frmDj02 : Screen {
     Button cmdPrevious{*this, "cmdPrevious", "上一张(&P)", "F3"};
     Button cmdNext{*this, "cmdNext", "下一张(&N)", "F4"};
     Button cmdNew{*this, "cmdNew", "新单(&W)", "F8"};
-    Button cmdPrint1{*this, "cmdPrint1", "表格打印(&T)", "Ctrl+P"};
-    Button cmdPrint2{*this, "cmdPrint2", "样式打印(&L)", "Ctrl+Shift+P"};
+    Button cmdPrint1{*this, "cmdPrint1", "表格打印(&E)", "Ctrl+P"};
+    Button cmdPrint2{*this, "cmdPrint2", "样式打印(&F)", "Ctrl+Shift+P"};
     Button cmdSave{*this, "cmdSave", "存盘(&S)", "F9"};
     Button cmdQuit{*this, "cmdQuit", "退出(&Q)"};
 
