@@ -14,7 +14,19 @@ Date MakeDate(int year, int month, int day) {
                 std::chrono::day{static_cast<unsigned>(day)}};
 }
 
+namespace {
+
+std::optional<Date> fixedDay;
+
+} // namespace
+
+void FixToday(std::optional<Date> day) {
+    fixedDay = day;
+}
+
 Date Today() {
+    if (fixedDay)
+        return *fixedDay;
     if (const char* fixed = std::getenv("JXC_TODAY"))
         if (const auto date = ParseDate(fixed))
             return *date;

@@ -13,6 +13,8 @@ using Date = std::chrono::year_month_day;
 [[nodiscard]] Date MakeDate(int year, int month, int day);
 // Today in local time; JXC_TODAY=yyyy-mm-dd in the environment fixes it for scripts and tests.
 [[nodiscard]] Date Today();
+// From now on it is this day, whatever the environment says; nothing ends that. For scripts that play more than a day.
+void FixToday(std::optional<Date> day);
 // This moment in local time, "yyyy-mm-dd hh:mm:ss", on the day that Today gives.
 [[nodiscard]] std::string NowText();
 // "yyyy-mm-dd", a time behind it is ignored; nothing when it is no date of the calendar.

@@ -1,6 +1,6 @@
 # lzJxc::core: everything but the windows, the one library that a host links. Its folders, lowest floor first; a folder
 # includes from the folders before it in this list only.
-set(floors base database controls session forms settings master documents stock plans robot host)
+set(floors base database controls session forms settings master documents close stock plans robot host)
 
 find_package(SQLite3 REQUIRED)
 find_package(PostgreSQL REQUIRED)

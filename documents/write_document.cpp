@@ -202,10 +202,11 @@ std::vector<std::pair<std::string, Value>> HeaderFields(const DocumentData& docu
 
 std::vector<Connection::Expected> NewDocumentReads(const DocumentData& document) {
     const std::string stem = StemOf(document);
-    return {{ParametersStatement()},
-            {NumberStatement(stem, document.number)},
-            {MaxStatement(stem + "01", "fInvID")},
-            AuditRead()};
+    std::vector<Connection::Expected> reads{
+        {ParametersStatement()}, {NumberStatement(stem, document.number)}, AuditRead()};
+    for (const std::string& keys : LargestKeyReads(stem))
+        reads.push_back({keys});
+    return reads;
 }
 
 // Key and number are taken inside the transaction, where no other user can come between.
@@ -219,7 +220,7 @@ std::string WriteNewDocument(DocumentData& document) {
         refusal = NumberRefusal(stem, document.number, false);
     if (!refusal.empty())
         return refusal;
-    document.key = DbMax(stem + "01", "fInvID") + 1;
+    document.key = LargestKey(stem) + 1;
     WriteUnderItsKey(document);
     return "";
 }

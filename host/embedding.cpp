@@ -1,5 +1,6 @@
 #include "host/embedding.h"
 
+#include "close/frmJz_Step.h"
 #include "documents/document_screens.h"
 #include "host/editors/host_editors.h"
 #include "host/planned_screens.h"
@@ -17,6 +18,7 @@ void RegisterAllScreens() {
     RegisterDocumentScreens();
     RegisterPlanScreens();
     RegisterPlannedScreens();
+    RegisterCloseScreens();
     RegisterHostEditors();
 }
 

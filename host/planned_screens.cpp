@@ -9,26 +9,11 @@ namespace jxc {
 
 namespace {
 
-bool IsClose() {
-    return session.myType == 1;
-}
-bool IsReverseClose() {
-    return session.myType != 1;
-}
 bool IsTree() {
     return session.myType == 0;
 }
 bool IsList() {
     return session.myType != 0;
-}
-
-void PlanPeriods() {
-    AddScreen({.name = "frmJz_Step",
-               .calls = {{7, nullptr, IsClose}},
-               .menu = {{"系统(&T)", "月末结帐", "结束本月，进入下一会计期间。", 7, 1}}});
-    AddScreen({.name = "frmJz_unStep",
-               .calls = {{7, nullptr, IsReverseClose}},
-               .menu = {{"系统(&T)", "反结帐", "取消上月的结帐。", 7, 0}}});
 }
 
 void PlanAnalyses() {
@@ -59,7 +44,6 @@ void PlanPerformance() {
 void RegisterPlannedScreens() {
     PlanAnalyses();
     PlanPerformance();
-    PlanPeriods();
 }
 
 } // namespace jxc

@@ -10,6 +10,7 @@
 #include "documents/figure_bounds.h"
 #include "documents/write_document.h"
 #include "session/dialect.h"
+#include "session/lookups/book.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
 #include "settings/document_numbers.h"
@@ -102,7 +103,7 @@ std::string RefusalOf(const std::vector<DocumentData>& orders) {
 
 // Each under the next key, but never one under which lines without a header stand.
 void WriteUnderNextKeys(std::vector<DocumentData>& orders) {
-    std::int32_t key = DbMax("tJXC_CkHt01", "fInvID");
+    std::int32_t key = LargestKey("tJXC_CkHt");
     const std::set<std::int64_t> taken =
         KeysOf("Select Distinct fInvID From tJXC_CkHt02 Where fInvID>" + std::to_string(key));
     for (DocumentData& order : orders) {

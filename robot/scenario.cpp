@@ -311,23 +311,15 @@ std::optional<json> Scenario::Next() {
 
 const std::map<std::string, Scenario::Step>& Scenario::Steps() {
     static const std::map<std::string, Step> steps{
-        {"refused", &Scenario::ExpectRefusal},
-        {"signal", &Scenario::ExpectSignal},
-        {"box", &Scenario::AnswerBox},
-        {"value", &Scenario::AskControl},
-        {"caption", &Scenario::AskControl},
-        {"enabled", &Scenario::AskControl},
-        {"visible", &Scenario::AskControl},
-        {"grid", &Scenario::AskControl},
-        {"table", &Scenario::AskControl},
-        {"keep", &Scenario::AskControl},
-        {"tree", &Scenario::AskControl},
-        {"screen", &Scenario::ExpectScreen},
-        {"host", &Scenario::ExpectScreen},
-        {"rows", &Scenario::ExpectRows},
-        {"let", &Scenario::KeepFigure},
-        {"do", &Scenario::RunStatement},
-        {"say", &Scenario::Tell},
+        {"refused", &Scenario::ExpectRefusal},  {"signal", &Scenario::ExpectSignal},
+        {"box", &Scenario::AnswerBox},          {"value", &Scenario::AskControl},
+        {"caption", &Scenario::AskControl},     {"enabled", &Scenario::AskControl},
+        {"visible", &Scenario::AskControl},     {"grid", &Scenario::AskControl},
+        {"table", &Scenario::AskControl},       {"keep", &Scenario::AskControl},
+        {"tree", &Scenario::AskControl},        {"screen", &Scenario::ExpectScreen},
+        {"host", &Scenario::ExpectScreen},      {"rows", &Scenario::ExpectRows},
+        {"let", &Scenario::KeepFigure},         {"do", &Scenario::RunStatement},
+        {"today", &Scenario::SetToday},         {"say", &Scenario::Tell},
         {"suggest", &Scenario::AskSuggestions},
     };
     return steps;
@@ -362,6 +354,14 @@ std::optional<json> Scenario::Perform(const Line& line) {
 
 std::optional<json> Scenario::Tell(const Words&, const std::string& rest) {
     tell_(rest);
+    return std::nullopt;
+}
+
+std::optional<json> Scenario::SetToday(const Words& words, const std::string&) {
+    const auto day = ParseDate(WordAt(words, 1));
+    if (!day)
+        throw ScenarioError("须为日期 yyyy-mm-dd");
+    FixToday(day);
     return std::nullopt;
 }
 

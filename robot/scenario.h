@@ -25,6 +25,7 @@
 //     rows select a,b from t             expects the rows of a statement, as the lines below; numbers to 1e-9
 //     say text | table Grid1             tells the reader what happens, shows a grid
 //     do update t set ...                runs a statement beside the screens, as another program would
+//     today 2026-12-01                   another day has come
 //     let name select ... | keep name txtNo
 //                                        keeps a figure of the database or a control's value; ${name} stands for it
 //
@@ -38,6 +39,7 @@
 #include <string>
 #include <vector>
 
+#include "base/date.h"
 #include "database/connection.h"
 #include "robot/robot.h"
 #include "robot/scenario_verbs.h"
@@ -54,6 +56,9 @@ class Scenario : public RequestSource {
     // table write, `verbs` are more words of the language.
     Scenario(const std::string& name, const std::string& text, Query query, Execute execute, Teller tell,
              const ScenarioVerbs& verbs = {});
+    ~Scenario() override { FixToday(std::nullopt); }
+    Scenario(const Scenario&) = delete;
+    Scenario& operator=(const Scenario&) = delete;
 
     // The verbs of the language itself, beside those that are defined as lines of others.
     static std::vector<std::string> Verbs();
@@ -82,6 +87,7 @@ class Scenario : public RequestSource {
     std::optional<nlohmann::json> AnswerBox(const Words& words, const std::string& rest);
     std::optional<nlohmann::json> KeepFigure(const Words& words, const std::string& rest);
     std::optional<nlohmann::json> RunStatement(const Words& words, const std::string& rest);
+    std::optional<nlohmann::json> SetToday(const Words& words, const std::string& rest);
     std::optional<nlohmann::json> Tell(const Words& words, const std::string& rest);
     std::optional<nlohmann::json> ExpectScreen(const Words& words, const std::string& rest);
     std::optional<nlohmann::json> ExpectRows(const Words& words, const std::string& rest);

@@ -41,7 +41,7 @@ class NoticeOfView : public NoticeWindow {
 
 Components& ComponentsInUse() {
     static Components components{std::make_unique<CodeListScreen>(), std::make_unique<HtmlPrinter>(),
-                                 std::make_unique<TreeAsNotice>(), std::make_unique<NoticeOfView>()};
+                                 std::make_unique<TreeAsNotice>(), std::make_unique<NoticeOfView>(), nullptr};
     return components;
 }
 

@@ -1,5 +1,5 @@
-// Four services that the host suite's own components give: a code list editor, a printer of grids and
-// templates, a printer of trees and a notice window. A host puts its own in their place; the ones built in
+// Services that the host suite's own components give: a code list editor, a printer of grids and templates, a printer of
+// trees, a notice window, and copies of the company. A host puts its own in their place; the ones built in
 // work without a window.
 #pragma once
 
@@ -69,11 +69,20 @@ class NoticeWindow {
     virtual void Show(const std::string& report) = 0;
 };
 
+class BackupKeeper {
+  public:
+    virtual ~BackupKeeper() = default;
+    // Writes a copy of the company that is open, makes sure that it can be read back, and returns its place as people find
+    // it. A DatabaseError when there is no sound copy.
+    virtual std::string BackUp() = 0;
+};
+
 struct Components {
     std::unique_ptr<CodeListEditor> codeLists;
     std::unique_ptr<Printer> printer;
     std::unique_ptr<TreePrinter> treePrinter;
     std::unique_ptr<NoticeWindow> notice;
+    std::unique_ptr<BackupKeeper> backups; // null: the host has its own way, and none is offered
 };
 
 // Those in use; the built-in ones until a host replaces them.

@@ -24,6 +24,7 @@ void ResetOptions(frmCkKc& s) {
     s.txtCpCode.text.clear();
     s.txtCpName.text.clear();
     s.optPrice[3].Choose();
+    s.leftOut.clear();
     s.cboCk.Offer();
     s.DTPicker1.date = session.PeriodEnd ? std::min(Today(), *session.PeriodEnd) : Today();
 }
@@ -67,7 +68,11 @@ frmCkKc::frmCkKc() : Screen("frmCkKc"), list(Grid1, StockColumns(*this)), filter
     AddNumberProperty("myState", myState);
     SuggestProductsIn(txtCpCode, ProductPart::Code);
     SuggestProductsIn(txtCpName, ProductPart::Name);
-    list.takes = [](const Recordset& row) { return !row["fCpCode"].IsNull(); }; // the product may be gone
+    list.takes = [this](const Recordset& row) {
+        if (const Value& month = row["fMonth"]; !month.IsNull())
+            stampedMonth = ParseDate(month.AsText());
+        return !row["fCpCode"].IsNull(); // the product may be gone
+    };
     chkDetail.onChange = [this] { list.ShowWanted(); };
     Grid1.onHeading = [this](int column) {
         GridSort(Grid1, column);
@@ -76,9 +81,7 @@ frmCkKc::frmCkKc() : Screen("frmCkKc"), list(Grid1, StockColumns(*this)), filter
     cmdQuery.onClick = [this] { QueryStock(*this); };
     cmdPrint.onClick = [this] { Print(*this); };
     cmdQuit.onClick = [this] { Close(); };
-    // Rebuilding the statistics from all documents belongs to the month-end close, which this version does
-    // not have yet.
-    cmdRefresh.onClick = [this] { Inform(title, "本版本尚未提供该功能（库存成本刷新）。"); };
+    cmdRefresh.onClick = [this] { RefreshStatistics(*this); };
 }
 
 void frmCkKc::Open() {
@@ -96,7 +99,8 @@ Arrangement frmCkKc::Arrange() {
     return {
         .above = {{&chkCk, &cboCk, &chkCpCode, &txtCpCode, &chkCpName, &txtCpName, &chkKcBj, &chkNeg,
                    &chkDetail},
-                  {&chkDate, &DTPicker1, &lblPrice, &optPrice[0], &optPrice[1], &optPrice[2], &optPrice[3]}},
+                  {&chkDate, &DTPicker1, &lblPrice, &optPrice[0], &optPrice[1], &optPrice[2], &optPrice[3]},
+                  {&lblStatistics}},
         .grid = &Grid1,
         .commands = {&cmdQuery, &cmdRefresh, &cmdPrint},
         .closingCommands = {&cmdQuit},

@@ -2,6 +2,10 @@
 // cost. It reads the running counters, never the documents.
 #pragma once
 
+#include <optional>
+#include <string>
+
+#include "base/date.h"
 #include "controls/screen.h"
 #include "forms/columns.h"
 #include "forms/filters.h"
@@ -36,6 +40,8 @@ struct frmCkKc : Screen {
     CheckBox chkDate{*this, "chkDate", "截止日期"};
     DateBox DTPicker1{*this, "DTPicker1"};
 
+    Label lblStatistics{*this, "lblStatistics"}; // what the figures are not: of this month, or whole
+
     Grid Grid1{*this, "Grid1"};
 
     Button cmdQuery{*this, "cmdQuery", "查询(&Q)", "F5"};
@@ -47,6 +53,8 @@ struct frmCkKc : Screen {
 
     Columns list;
     Filters filters;
+    std::optional<Date> stampedMonth; // that a row listed carries since its close
+    std::string leftOut;              // by the last refresh
 
     StockQuery Question() const { return static_cast<StockQuery>(myState); }
     size_t ChosenPrice() const; // the place of its option
@@ -59,6 +67,13 @@ std::vector<Filter> StockFilters(frmCkKc& s);
 void QueryStock(frmCkKc& s);
 // The alarm's row colours from stock and limits.
 void ColorRows(frmCkKc& s);
+
+// -- refresh_statistics.cpp
+// Asks, rebuilds the statistics up to the chosen date and queries again; what documents they are without is told beside
+// the rows.
+void RefreshStatistics(frmCkKc& s);
+// Says below the filters when the rows listed are of another month, or without documents.
+void TellOfStatistics(frmCkKc& s);
 
 void RegisterStockScreens();
 

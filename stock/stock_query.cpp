@@ -70,7 +70,9 @@ std::vector<Filter> StockFilters(frmCkKc& s) {
 
 void QueryStock(frmCkKc& s) {
     Recordset rows(Conn(), StockStatement(s));
+    s.stampedMonth.reset();
     const int filled = s.list.Fill(rows);
+    TellOfStatistics(s);
     ColorRows(s);
     if (filled == 0)
         Warn(s.title, s.chkKcBj.value ? "未有符合条件的产品库存报警记录！" : "未有符合条件的产品库存记录！");

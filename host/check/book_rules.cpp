@@ -48,7 +48,9 @@ std::vector<Rule> BookRules(const Book& book) {
         {"Select min(fInvNo),fRowID,count(*) From {L} Where fRowID is not null Group By "
          "fInvID,fInv1,fRowID{M} Having count(*)>1",
          "单据 {1}：第 {2} 行重复 {3} 次；请反审核后重新存盘，核对库存。"},
-        {"Select min(fInvNo),count(*) From {L} Where fRowID is null Group By fInvID{M}",
+        // Of opening documents the close numbers no lines.
+        {"Select b.fInvNo,count(*) From {L} b Inner Join {H} a On {ON} Where b.fRowID is null And "
+         "a.fInvType<>0 Group By b.fInvID,b.fInvNo",
          "单据 {1}：有 {2} 行没有行号；请反审核后重新存盘。"},
         {"Select b.fInvNo,b.fRowID From {L} b Where b.fInvSL is null Or b.fCpID is null" +
              FiguresAbsurd(

@@ -1,5 +1,8 @@
 #include "session/lookups/book.h"
 
+#include <algorithm>
+
+#include "session/lookups/database_routines.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -28,6 +31,32 @@ std::string BookStem(int type, bool closed) {
     default:
         return "";
     }
+}
+
+namespace {
+
+// The tables whose keys a new document of the book must not have.
+std::vector<std::string> KeyTables(const std::string& stem) {
+    std::vector<std::string> tables{stem + "01"};
+    if (stem == "tJXC_CkDj")
+        tables.emplace_back("tJXC_CkDj_Bak01");
+    return tables;
+}
+
+} // namespace
+
+std::int32_t LargestKey(const std::string& stem) {
+    std::int32_t largest = 1;
+    for (const std::string& table : KeyTables(stem))
+        largest = std::max(largest, DbMax(table, "fInvID"));
+    return largest;
+}
+
+std::vector<std::string> LargestKeyReads(const std::string& stem) {
+    std::vector<std::string> reads;
+    for (const std::string& table : KeyTables(stem))
+        reads.push_back(MaxStatement(table, "fInvID"));
+    return reads;
 }
 
 bool DeleteDocumentRows(const std::string& stem, const std::string& where) {

@@ -10,7 +10,7 @@ namespace {
 TEST(Floors, IncludeDownwardsOnly) {
     const std::vector<std::string> floors{
         "base",  "database", "controls", "session",     "forms",    "settings", "master", "documents",
-        "stock", "plans",    "close",    "performance", "analysis", "view",     "robot",  "host"};
+        "close", "stock",    "plans",    "performance", "analysis", "view",     "robot",  "host"};
     const std::filesystem::path root(JXC_ROOT);
     int files = 0;
     for (size_t floor = 0; floor < floors.size(); ++floor) {

@@ -183,7 +183,7 @@ TEST(Docs, NameNoFileThatIsGone) {
 std::string Sources() {
     std::string sources;
     for (const char* folder : {"base", "controls", "database", "session", "forms", "settings", "master",
-                               "documents", "stock", "plans", "robot", "host", "view"})
+                               "documents", "close", "stock", "plans", "robot", "host", "view"})
         for (const auto& entry :
              std::filesystem::recursive_directory_iterator(JXC_ROOT "/" + std::string(folder)))
             if (entry.path().extension() == ".cpp" || entry.path().extension() == ".h")
