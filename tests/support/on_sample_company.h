@@ -16,6 +16,8 @@ class SampleCompany {
 
     // As the command line and lzJxc's UserPath name it.
     const std::string& Address() const { return place_.Address(); }
+    // The database's name on the server; "" of a file.
+    std::string Database() const { return place_.Database(); }
     // A control that points at the company, signed in as a clerk who is also the supervisor, with every
     // right.
     lzJxc SignedIn() const;
