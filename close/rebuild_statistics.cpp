@@ -41,21 +41,28 @@ std::string Selection(Date dateLimit) {
 }
 
 // 0.1 + 0.2 - 0.3 leaves a few binary digits in the last place. What people read as nothing has to be nothing, because the
-// cost price asks whether there are goods. Sums of many lines leave more of them than sums of few.
-const std::string kNothing = "0.000000001";
-const std::string kLastPlaces = "0.000000000001"; // of what was added up
-
-std::string Residue(const std::string& sum, const std::vector<std::string>& parts) {
+// cost price asks whether there are goods. Sums of much leave more of them than sums of little. `otherwise` is what stands
+// where there is something.
+std::string ClearOfResidue(const std::string& sum, const std::vector<std::string>& parts,
+                           const std::string& nothing, const std::string& otherwise) {
     std::string added;
     for (const std::string& part : parts)
         added += (added.empty() ? "abs(" : "+abs(") + part + ")";
-    return sum + "<>0 And abs(" + sum + ")<" + kNothing +
-           (added.empty() ? "" : "+" + kLastPlaces + "*(" + added + ")");
+    const std::string limit = "0.000000001" + (added.empty() ? "" : "+0.000000000001*(" + added + ")");
+    return OneOf("abs(" + sum + ")<" + limit, nothing, otherwise);
+}
+std::string ClearOfResidue(const std::string& sum, const std::vector<std::string>& parts = {}) {
+    return ClearOfResidue(sum, parts, "0", sum);
 }
 
-void ClearResidue(const std::string& table, const std::string& field,
-                  const std::vector<std::string>& parts = {}) {
-    Conn().Execute("Update " + table + " Set " + field + "=0 Where " + Residue(field, parts));
+// The selection's rows; what was received is clear of residue together with what the period began with.
+std::string ClearedSelection(Date dateLimit) {
+    return "select q.fCpID,q.fCkName," + ClearOfResidue("q.fQcSl") + " as fQcSl,q.fQcJe," +
+           ClearOfResidue("q.fQcSl+q.fRkSl", {"q.fQcSl"}, "-" + ClearOfResidue("q.fQcSl"),
+                          ClearOfResidue("q.fRkSl")) +
+           " as fRkSl,q.fRkJe," + ClearOfResidue("q.fCkSl") + " as fCkSl,q.fCkJe,q.fCkCb," +
+           ClearOfResidue("q.fDkSl") + " as fDkSl," + ClearOfResidue("q.fPdSl") + " as fPdSl from (" +
+           Selection(dateLimit) + ") q";
 }
 
 // Where there are no goods to divide a value by, the product's reference cost serves.
@@ -72,13 +79,10 @@ void FillStockStatistics(Date dateLimit) {
     Conn().Execute("Delete From tJXC_CkTj");
     Conn().Execute(
         "Insert Into tJXC_CkTj (fCpID,fCkName,fQcSl,fQcJe,fRkSl,fRkJe,fCkSl,fCkJe,fCkCb,fDkSl,fPdSl) " +
-        Selection(dateLimit));
-    const std::vector<std::string> quantities = {"fQcSl", "fRkSl", "fCkSl", "fDkSl", "fPdSl"};
-    for (const std::string& quantity : quantities)
-        ClearResidue("tJXC_CkTj", quantity);
-    Conn().Execute("Update tJXC_CkTj Set fRkSl=-fQcSl Where " + Residue("(fQcSl+fRkSl)", {"fQcSl", "fRkSl"}));
-    Conn().Execute("Update tJXC_CkTj Set fKcSl=fQcSl+fRkSl-fCkSl+fDkSl+fPdSl");
-    ClearResidue("tJXC_CkTj", "fKcSl", quantities);
+        ClearedSelection(dateLimit));
+    Conn().Execute(
+        "Update tJXC_CkTj Set fKcSl=" +
+        ClearOfResidue("fQcSl+fRkSl-fCkSl+fDkSl+fPdSl", {"fQcSl", "fRkSl", "fCkSl", "fDkSl", "fPdSl"}));
     Conn().Execute("Update tJXC_CkTj Set fKcDj=(fQcJe+fRkJe)/(fQcSl+fRkSl) Where fQcSl + fRkSl <> 0");
     TakeReferenceCost("tJXC_CkTj", "a.fQcSl + a.fRkSl");
     Conn().Execute("Update tJXC_CkTj Set fKcJe=fKcSl*fKcDj");
@@ -87,10 +91,12 @@ void FillStockStatistics(Date dateLimit) {
 void FillOverallCost() {
     Conn().Execute("Delete From tJXC_CkTj_tmp");
     Conn().Execute("Insert Into tJXC_CkTj_tmp (fCpID,fKcSl,fKcJe) "
+                   "select q.fCpID," +
+                   ClearOfResidue("q.fKcSl") +
+                   " as fKcSl,q.fKcJe from ("
                    "select b.fCpID,sum(b.fKcSl) as fKcSl,sum(b.fKcJe) as fKcJe from"
                    " (tJXC_CkTj b Left Join tJXC_Ck c On c.fCkName=b.fCkName)"
-                   " Where (c.fCkType2=0 Or c.fCkType2=1) Group By b.fCpID Order By b.fCpID");
-    ClearResidue("tJXC_CkTj_tmp", "fKcSl");
+                   " Where (c.fCkType2=0 Or c.fCkType2=1) Group By b.fCpID Order By b.fCpID) q");
     Conn().Execute("Update tJXC_CkTj_tmp Set fKcDj=fKcJe/fKcSl Where fKcSl<>0");
     TakeReferenceCost("tJXC_CkTj_tmp", "a.fKcSl");
 }

@@ -33,6 +33,8 @@ int WaitForWriter(void* waiting, int tries) {
 
 [[noreturn]] void Fail(sqlite3* db) {
     switch (sqlite3_errcode(db)) {
+    case SQLITE_INTERRUPT:
+        throw DatabaseError(kGaveUpWaiting);
     case SQLITE_BUSY:
         throw DatabaseError(std::exchange(gaveUp, false) ? kGaveUpWaiting
                                                          : "数据库正被其他用户写入，等待超时。");
@@ -177,6 +179,8 @@ SqliteEngine::SqliteEngine(const std::string& path, SqliteFile how) {
     else
         OpenFile(path, SQLITE_OPEN_READWRITE);
     sqlite3_busy_handler(db_.get(), WaitForWriter, &waiting);
+    constexpr int kSteps = 100'000; // of its virtual machine: some milliseconds
+    sqlite3_progress_handler(db_.get(), kSteps, WhileRunning, this);
     ExecuteScript(kSettings);
     if (how == SqliteFile::Read)
         ExecuteScript("pragma query_only = on");
@@ -214,11 +218,25 @@ std::unique_ptr<EngineStatement> SqliteEngine::Prepare(const std::string& sql,
     return std::make_unique<SqliteStatement>(db_.get(), sql);
 }
 
+// A statement over a whole year's lines takes its time: who waits is told every so often, as by a server.
+int SqliteEngine::WhileRunning(void* engine) {
+    constexpr std::chrono::milliseconds kBetween{100};
+    auto& self = *static_cast<SqliteEngine*>(engine);
+    const auto now = std::chrono::steady_clock::now();
+    if (now < self.tellNext_)
+        return 0;
+    self.tellNext_ = now + kBetween;
+    const auto waited = std::chrono::duration_cast<std::chrono::milliseconds>(now - self.begun_);
+    return self.waiting.GoOn(waited) ? 0 : 1;
+}
+
 void SqliteEngine::Execute(EngineStatement& statement, std::span<const Value> values) {
+    begun_ = std::chrono::steady_clock::now();
     Own(statement).Run(values);
 }
 
 Rows SqliteEngine::Query(EngineStatement& statement, std::span<const Value> values) {
+    begun_ = std::chrono::steady_clock::now();
     return Own(statement).Read(values);
 }
 
@@ -310,6 +328,7 @@ void SqliteEngine::RollbackTo(int depth) {
 }
 
 void SqliteEngine::ExecuteScript(const std::string& sql) {
+    begun_ = std::chrono::steady_clock::now();
     if (sqlite3_exec(db_.get(), sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
         Fail(db_.get());
 }

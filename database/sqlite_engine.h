@@ -2,6 +2,7 @@
 // up to 30 seconds for each other at BeginTrans. Statements run at once, nothing is held back.
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -74,7 +75,10 @@ class SqliteEngine : public Engine {
     Rows Ask(const std::string& sql);
     void Command(const std::string& sql); // of a transaction; each is prepared once
 
-    SqliteHandle db_; // behind it, what must go first
+    static int WhileRunning(void* engine);
+
+    std::chrono::steady_clock::time_point begun_{}, tellNext_{}; // the statement; who waits
+    SqliteHandle db_;                                            // behind it, what must go first
     std::unordered_map<std::string, std::unique_ptr<EngineStatement>> commands_;
 };
 

@@ -140,7 +140,7 @@ class WaitingWindow : public QDialog {
 
     // False when the person gave up.
     bool Show(int seconds) {
-        text_->setText(QString("正在等待数据库，可能有其他用户正在存盘：%1 秒").arg(seconds));
+        text_->setText(QString("正在等待数据库（数据很多，或其他用户正在存盘）：%1 秒").arg(seconds));
         QCoreApplication::processEvents();
         return !gaveUp_;
     }

@@ -166,6 +166,33 @@ TEST_P(Transactions, WaitingForAnotherWriterCanBeGivenUp) {
     EXPECT_EQ(told.size(), 2U);
 }
 
+// A statement over very many rows is waited for as other writers are, and what it has begun is taken back.
+TEST_P(Transactions, AStatementThatTakesLongCanBeGivenUp) {
+    constexpr int kRows = 400; // and 64 million pairs of pairs
+    {
+        Transaction transaction(Conn());
+        for (int row = 0; row < kRows; ++row)
+            Add(row);
+        transaction.Commit();
+    }
+    std::vector<int> told;
+    Conn().SetWaitObserver([&](int seconds) {
+        told.push_back(seconds);
+        return false;
+    });
+    const auto work = [] {
+        Transaction transaction(Conn());
+        Conn().Execute("Insert Into tJXC_KhAdd (fKhID) Select a.fKhID+b.fKhID From (tJXC_KhAdd a Inner Join "
+                       "tJXC_KhAdd b On a.fKhID<>b.fKhID) Inner Join tJXC_KhAdd c On c.fKhID<>b.fKhID");
+        transaction.Commit();
+    };
+    EXPECT_EQ(RefusalOf(work), "已取消等待，操作没有进行。");
+    Conn().SetWaitObserver(nullptr);
+    EXPECT_EQ(told, kAskedOnceAndEnded);
+    EXPECT_FALSE(Conn().InTransaction());
+    EXPECT_EQ(Ids().size(), static_cast<size_t>(kRows));
+}
+
 class LostLine : public Transactions {};
 ON_POSTGRES(LostLine);
 
