@@ -166,7 +166,7 @@ std::string AsUri(const std::string& path) {
 
 constexpr std::int64_t kApplicationId = 0x6c7a4a58; // "lzJX"
 constexpr const char* kSettings = "pragma synchronous = full;"
-                                  "pragma temp_store = memory;"
+                                  "pragma temp_store = file;"
                                   "pragma cache_size = -65536;";
 
 } // namespace
