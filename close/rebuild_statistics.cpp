@@ -40,44 +40,50 @@ std::string Selection(Date dateLimit) {
            " And b.fInvSHR<>'' Group by a.fCpID,a.fCkName Order by a.fCpID,a.fCkName";
 }
 
+// The selection's rows with the stock that follows from them, and the price and value of those that goods came into: to
+// write each row once is to do half the work.
+std::string RowsSelection(Date dateLimit) {
+    const std::string price = "(q.fQcJe+q.fRkJe)/(q.fQcSl+q.fRkSl)";
+    const std::string stock = "q.fQcSl+q.fRkSl-q.fCkSl+q.fDkSl+q.fPdSl";
+    const auto withGoods = [](const std::string& figure) {
+        return OneOf("q.fQcSl+q.fRkSl<>0", figure, "null");
+    };
+    return "select q.*," + stock + " as fKcSl," + withGoods(price) + " as fKcDj," +
+           withGoods("(" + stock + ")*(" + price + ")") + " as fKcJe from (" + Selection(dateLimit) + ") q";
+}
+
 // 0.1 + 0.2 - 0.3 leaves a few binary digits in the last place. What people read as nothing has to be nothing, because the
-// cost price asks whether there are goods. Sums of much leave more of them than sums of little. `otherwise` is what stands
-// where there is something.
-std::string ClearOfResidue(const std::string& sum, const std::vector<std::string>& parts,
-                           const std::string& nothing, const std::string& otherwise) {
+// cost price asks whether there are goods. Sums of much leave more of them than sums of little.
+std::string IsResidue(const std::string& sum, const std::vector<std::string>& parts = {}) {
     std::string added;
     for (const std::string& part : parts)
         added += (added.empty() ? "abs(" : "+abs(") + part + ")";
-    const std::string limit = "0.000000001" + (added.empty() ? "" : "+0.000000000001*(" + added + ")");
-    return OneOf("abs(" + sum + ")<" + limit, nothing, otherwise);
-}
-std::string ClearOfResidue(const std::string& sum, const std::vector<std::string>& parts = {}) {
-    return ClearOfResidue(sum, parts, "0", sum);
+    return "(" + sum + "<>0 And abs(" + sum + ")<0.000000001" +
+           (added.empty() ? "" : "+0.000000000001*(" + added + ")") + ")";
 }
 
-// The selection's rows; what was received is clear of residue together with what the period began with.
-std::string ClearedSelection(Date dateLimit) {
-    return "select q.fCpID,q.fCkName," + ClearOfResidue("q.fQcSl") + " as fQcSl,q.fQcJe," +
-           ClearOfResidue("q.fQcSl+q.fRkSl", {"q.fQcSl"}, "-" + ClearOfResidue("q.fQcSl"),
-                          ClearOfResidue("q.fRkSl")) +
-           " as fRkSl,q.fRkJe," + ClearOfResidue("q.fCkSl") + " as fCkSl,q.fCkJe,q.fCkCb," +
-           ClearOfResidue("q.fDkSl") + " as fDkSl," + ClearOfResidue("q.fPdSl") + " as fPdSl from (" +
-           Selection(dateLimit) + ") q";
+const std::vector<std::string> kQuantities = {"fQcSl", "fRkSl", "fCkSl", "fDkSl", "fPdSl"};
+const std::string kReceivedResidue = IsResidue("(fQcSl+fRkSl)", {"fQcSl", "fRkSl"});
+const std::string kStockResidue = IsResidue("fKcSl", kQuantities);
+
+bool HasResidue() {
+    std::string any = kReceivedResidue + " Or " + kStockResidue;
+    for (const std::string& quantity : kQuantities)
+        any += " Or " + IsResidue(quantity);
+    return !Recordset(Conn(), "Select Top 1 fCpID From tJXC_CkTj Where " + any).AtEnd();
 }
 
-// The rows with the stock that follows from them, and the price and value of those that goods came into: each row is written
-// once, which is most of the time that a rebuild takes.
-std::string RowsSelection(Date dateLimit) {
-    const std::string counters = "fCpID,fCkName,fQcSl,fQcJe,fRkSl,fRkJe,fCkSl,fCkJe,fCkCb,fDkSl,fPdSl";
-    const std::string price = "(s.fQcJe+s.fRkJe)/(s.fQcSl+s.fRkSl)";
-    const auto withGoods = [](const std::string& figure) {
-        return OneOf("s.fQcSl+s.fRkSl<>0", figure, "null");
+void ClearResidue() {
+    const auto clear = [](const std::string& field, const std::string& residue, const std::string& nothing) {
+        Conn().Execute("Update tJXC_CkTj Set " + field + "=" + nothing + " Where " + residue);
     };
-    return "select " + counters + ",fKcSl," + withGoods(price) + " as fKcDj," +
-           withGoods("s.fKcSl*(" + price + ")") + " as fKcJe from (select " + counters + "," +
-           ClearOfResidue("r.fQcSl+r.fRkSl-r.fCkSl+r.fDkSl+r.fPdSl",
-                          {"r.fQcSl", "r.fRkSl", "r.fCkSl", "r.fDkSl", "r.fPdSl"}) +
-           " as fKcSl from (" + ClearedSelection(dateLimit) + ") r) s";
+    for (const std::string& quantity : kQuantities)
+        clear(quantity, IsResidue(quantity), "0");
+    clear("fRkSl", kReceivedResidue, "-fQcSl");
+    Conn().Execute("Update tJXC_CkTj Set fKcSl=fQcSl+fRkSl-fCkSl+fDkSl+fPdSl");
+    clear("fKcSl", kStockResidue, "0");
+    Conn().Execute("Update tJXC_CkTj Set fKcDj=(fQcJe+fRkJe)/(fQcSl+fRkSl) Where fQcSl + fRkSl <> 0");
+    Conn().Execute("Update tJXC_CkTj Set fKcJe=fKcSl*fKcDj");
 }
 
 // Where there are no goods to divide a value by, the product's reference cost serves.
@@ -96,6 +102,8 @@ void FillStockStatistics(Date dateLimit) {
         "Insert Into tJXC_CkTj (fCpID,fCkName,fQcSl,fQcJe,fRkSl,fRkJe,fCkSl,fCkJe,fCkCb,fDkSl,fPdSl,"
         "fKcSl,fKcDj,fKcJe) " +
         RowsSelection(dateLimit));
+    if (HasResidue())
+        ClearResidue();
     TakeReferenceCost("tJXC_CkTj", "a.fQcSl + a.fRkSl");
     Conn().Execute("Update tJXC_CkTj Set fKcJe=fKcSl*fKcDj Where fQcSl + fRkSl = 0");
 }
@@ -103,12 +111,10 @@ void FillStockStatistics(Date dateLimit) {
 void FillOverallCost() {
     Conn().Execute("Delete From tJXC_CkTj_tmp");
     Conn().Execute("Insert Into tJXC_CkTj_tmp (fCpID,fKcSl,fKcJe) "
-                   "select q.fCpID," +
-                   ClearOfResidue("q.fKcSl") +
-                   " as fKcSl,q.fKcJe from ("
                    "select b.fCpID,sum(b.fKcSl) as fKcSl,sum(b.fKcJe) as fKcJe from"
                    " (tJXC_CkTj b Left Join tJXC_Ck c On c.fCkName=b.fCkName)"
-                   " Where (c.fCkType2=0 Or c.fCkType2=1) Group By b.fCpID Order By b.fCpID) q");
+                   " Where (c.fCkType2=0 Or c.fCkType2=1) Group By b.fCpID Order By b.fCpID");
+    Conn().Execute("Update tJXC_CkTj_tmp Set fKcSl=0 Where " + IsResidue("fKcSl"));
     Conn().Execute("Update tJXC_CkTj_tmp Set fKcDj=fKcJe/fKcSl Where fKcSl<>0");
     TakeReferenceCost("tJXC_CkTj_tmp", "a.fKcSl");
 }
