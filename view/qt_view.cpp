@@ -95,6 +95,9 @@ class ProgressWindow : public QDialog {
         auto* layout = new QVBoxLayout(this);
         layout->addWidget(step_);
         layout->addWidget(bar_);
+        layout->addWidget(stop_, 0, Qt::AlignRight);
+        stop_->hide();
+        connect(stop_, &QPushButton::clicked, this, [this] { stopped_ = true; });
         if (parent)
             setWindowTitle(parent->windowTitle());
         sinceBegin_.start();
@@ -110,10 +113,21 @@ class ProgressWindow : public QDialog {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
 
-    void reject() override {}
+    // Work that asks can be stopped: by the button, or Esc.
+    bool StopAsked() {
+        if (!isVisible())
+            return false;
+        stop_->show();
+        QCoreApplication::processEvents();
+        return stopped_;
+    }
+
+    void reject() override { stopped_ = true; }
     void closeEvent(QCloseEvent* event) override { event->ignore(); }
 
   private:
+    bool stopped_ = false;
+    QPushButton* stop_ = new QPushButton("停止");
     QLabel* step_ = new QLabel;
     QProgressBar* bar_ = new QProgressBar;
     QElapsedTimer sinceBegin_;
@@ -211,6 +225,10 @@ void QtView::ShowProgress(const std::string& step, int done, int total) {
     if (!progress_)
         progress_ = std::make_unique<ProgressWindow>(Front());
     progress_->Show(Q(step), done, total);
+}
+
+bool QtView::StopAsked() {
+    return progress_ && progress_->StopAsked();
 }
 
 void QtView::ShowNotice(const std::string& title, const std::string& text) {
