@@ -93,7 +93,7 @@ TEST_F(DocumentPaper, TheTemplateIsChangedBesideItsPagesByKeys) {
             EXPECT_NE(PageText().find("Checked"), std::string::npos);
             EXPECT_EQ(Fault(), "");
             // A fault leaves the pages and is told with its line.
-            person.Type("\n<Nowhere>");
+            person.Press(Qt::Key_Return);
             text.insertPlainText("<没有>");
             Wait(600);
             EXPECT_NE(PageText().find("Checked"), std::string::npos);
@@ -222,8 +222,8 @@ TEST_F(DocumentPaper, SelectedDocumentsOfTheListArePreviewedTogether) {
         EXPECT_EQ(marked(), (std::vector{1, 2, 3}));
         person.ClickHeading("Grid1", 2);
         EXPECT_EQ(marked(), (std::vector{1, 2, 3}));
-        person.Press(Qt::Key_Home, Qt::ControlModifier);
-        EXPECT_EQ(marked(), (std::vector{1}));
+        person.Press(Qt::Key_Down);
+        EXPECT_EQ(marked().size(), 1u);
         person.Press(Qt::Key_A, Qt::ControlModifier);
         Look("list");
         person.Next([&] {
