@@ -119,6 +119,53 @@ TEST_P(PrintBatch, NamesWhatCannotBePrintedAndPrintsTheRest) {
                                 "20261105RK002：未有可供打印的数据记录！");
 }
 
+// The closed book holds a document under a key that an open one has too.
+TEST_P(PrintBatch, DocumentsOfTheClosedBookAreReadThere) {
+    const int open = clerk->Save({.type = 1, .customer = "G001", .lines = {{"CPU001", 5, 400}}});
+    const std::string key = std::to_string(open);
+    Do("Insert Into tJXC_CkDj_Bak01 "
+       "(fInvID,fInvType,fInvNo,fInvDate,fKhID,fCkName,fInvHb,fInvHbDl,fInvJE,fInvSHR,"
+       "fMonth) Select fInvID,1,'20261020RK007'," +
+       Day("10/20/2026") + ",fKhID,fCkName,fInvHb,1,900,''," + Day("10/01/2026") +
+       " From tJXC_CkDj01 Where fInvID=" + key);
+    Do("Insert Into tJXC_CkDj_Bak02 "
+       "(fInvID,fInv1,fRowID,fInvInOut,fInvNo,fInvDate,fKhID,fCkName,fCpID,fInvSL,fInvDJ,"
+       "fInvJE,fInvHb,fInvHbDl,fMonth) Select fInvID,0,1,1,'20261020RK007'," +
+       Day("10/20/2026") + ",fKhID,fCkName,fCpID,2,450,900,fInvHb,1," + Day("10/01/2026") +
+       " From tJXC_CkDj02 Where fInvID=" + key);
+    List([&](frmDj01& s) {
+        SetToggle(s, s.chkJz, true);
+        Click(s, s.cmdList);
+        SelectRow(s, s.Grid1, 1);
+        Click(s, s.cmdPrintAll);
+        EXPECT_TRUE(clerk->view.boxes.empty()) << clerk->LastBox();
+    });
+    ASSERT_EQ(Numbers(), (Lines{"20261020RK007"}));
+    ASSERT_EQ(printed->jobs[0].lines.size(), 1u);
+    EXPECT_EQ(printed->jobs[0].lines[0][3], "2.00");
+}
+
+// Somebody who thinks better of it at the second document.
+class StoppingView : public ScriptedView {
+  public:
+    bool StopAsked() override { return ++asked == 2; }
+    int asked = 0;
+};
+
+TEST_P(PrintBatch, CanBeStopped) {
+    for (int i = 0; i < 3; ++i)
+        clerk->Save({.type = 1, .customer = "G001", .lines = {{"CPU001", 1.0 + i, 400}}});
+    List([&](frmDj01& s) {
+        SelectRows(s, s.Grid1, {1, 2, 3});
+        StoppingView view;
+        const ViewInUse inUse(view);
+        Click(s, s.cmdPrintAll);
+        ASSERT_EQ(view.boxes.size(), 1u);
+        EXPECT_EQ(view.boxes[0].text, "打印已停止，没有单据打印。");
+    });
+    EXPECT_EQ(Numbers(), Lines());
+}
+
 TEST_P(PrintBatch, MarkedRowsStayWithTheirRows) {
     for (int i = 0; i < 3; ++i)
         clerk->Save({.type = 1, .customer = "G001", .lines = {{"CPU001", 1.0 + i, 400}}});
