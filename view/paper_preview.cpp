@@ -3,6 +3,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include "controls/view.h"
 #include "view/page_printer.h"
 #include "view/print_queues.h"
 #include "view/qt_text.h"
@@ -62,7 +63,8 @@ void PreviewWindow::Print() {
     dialog.setMinMax(1, paper.PageCount());
     if (dialog.exec() != QDialog::Accepted)
         return;
-    PrintOn(printer, paper);
+    if (!Attempt(title_, [&] { PrintOn(printer, paper); }))
+        return;
     if (!subject_.isEmpty() && printer.outputFileName().isEmpty() && !printer.printerName().isEmpty())
         KeepLastPrinter(subject_, printer.printerName());
 }

@@ -85,7 +85,7 @@ constexpr int kPatience = 300; // milliseconds before a progress window shows
 } // namespace
 
 // The step that long work is at. The person can do nothing with it, not even close it: the work holds a
-// transaction.
+// transaction. Only work that asks whether it shall stop holds none, and can be stopped.
 class ProgressWindow : public QDialog {
   public:
     explicit ProgressWindow(QWidget* parent)
@@ -96,6 +96,7 @@ class ProgressWindow : public QDialog {
         layout->addWidget(step_);
         layout->addWidget(bar_);
         layout->addWidget(stop_, 0, Qt::AlignRight);
+        stop_->setObjectName("stop");
         stop_->hide();
         connect(stop_, &QPushButton::clicked, this, [this] { stopped_ = true; });
         if (parent)
@@ -115,8 +116,8 @@ class ProgressWindow : public QDialog {
 
     // Work that asks can be stopped: by the button, or Esc.
     bool StopAsked() {
-        if (!isVisible())
-            return false;
+        if (stopped_ || !isVisible())
+            return stopped_;
         stop_->show();
         QCoreApplication::processEvents();
         return stopped_;

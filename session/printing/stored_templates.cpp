@@ -34,13 +34,12 @@ bool KeepTemplate(int type, const std::string& name, const std::optional<std::st
     Recordset row(Conn(), Statement(type), Access::Write);
     if (TextOf(row) != expected)
         return false;
-    const std::string before = row.AtEnd() ? "" : JsonOf(row);
-    std::string after;
+    if (expected == text)
+        return true; // nothing to write, and nothing for the trail
     const bool isNew = row.AtEnd();
-    if (!text) {
-        if (!isNew)
-            row.Delete();
-    } else {
+    const std::string before = isNew ? "" : JsonOf(row);
+    std::string after;
+    if (text) {
         if (isNew) {
             row.AddNew();
             row.Set("fSetNo", type);
@@ -49,6 +48,8 @@ bool KeepTemplate(int type, const std::string& name, const std::optional<std::st
         row.Set("fText", *text);
         after = JsonOf(row);
         row.Update();
+    } else {
+        row.Delete();
     }
     WriteAudit({!text ? "删除" : isNew ? "新增" : "修改", kTable, std::to_string(type), name, before, after});
     transaction.Commit();

@@ -137,21 +137,27 @@ void TemplateDraft::TakePaper(const PaperChoice& paper) {
         text.replace(begin, end + kPaperEnds.size() - begin, PaperLine(paper));
 }
 
+// False when another user's text stays.
+bool TemplateDraft::KeepOrAsk(const std::optional<std::string>& wanted) const {
+    if (KeepTemplate(job_.type, job_.typeName, job_.own, wanted))
+        return true;
+    if (!AskYesNo(Title(), "该模板在您打开以后已被其他用户修改。\n\n要用您的覆盖吗？"))
+        return false;
+    if (KeepTemplate(job_.type, job_.typeName, StoredTemplate(job_.type), wanted))
+        return true;
+    Warn(Title(), "该模板刚刚又被其他用户修改，没有存盘。");
+    return false;
+}
+
 // Whoever may change templates is told to the printer by the job's mode; the right is the user's.
 bool TemplateDraft::Keep(const std::optional<std::string>& wanted) {
     if (!EqualsNoCase(session.UserName, session.ZgName)) {
         Warn(Title(), GetResStr(kMsgNoRight));
         return false;
     }
-    if (!KeepTemplate(job_.type, job_.typeName, job_.own, wanted)) {
-        if (!AskYesNo(Title(), "该模板在您打开以后已被其他用户修改。\n\n要用您的覆盖吗？"))
-            return false;
-        const auto theirs = StoredTemplate(job_.type);
-        if (!KeepTemplate(job_.type, job_.typeName, theirs, wanted)) {
-            Warn(Title(), "该模板刚刚又被其他用户修改，没有存盘。");
-            return false;
-        }
-    }
+    bool kept = false;
+    if (!Attempt(Title(), [&] { kept = KeepOrAsk(wanted); }) || !kept)
+        return false;
     job_.own = wanted;
     if (!wanted)
         text = job_.defaultOn(job_.defaultPaper);

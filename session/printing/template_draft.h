@@ -62,6 +62,7 @@ class TemplateDraft {
   private:
     std::string Title() const { return job_.typeName + "：打印模板"; }
     bool Keep(const std::optional<std::string>& wanted);
+    bool KeepOrAsk(const std::optional<std::string>& wanted) const;
     bool IsDefault() const;
 
     TemplatePrintJob job_;

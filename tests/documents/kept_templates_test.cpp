@@ -83,6 +83,7 @@ TEST_P(KeptTemplates, AreKeptChangedAndGivenUp) {
     EXPECT_FALSE(draft.IsChanged());
     EXPECT_EQ(Job().layout, shipped);
     EXPECT_EQ(One("Select Count(*) From tJXC_PrintTemplate"), "0");
+    EXPECT_TRUE(draft.Restore()); // nothing is kept any more, and nothing is written
     EXPECT_EQ(Trail(), (Lines{"新增|1|入库单", "修改|1|入库单", "删除|1|入库单"}));
     EXPECT_TRUE(AuditFaults(Conn()).empty());
     EXPECT_EQ(Changes(books, Books()), Lines());
@@ -165,6 +166,17 @@ TEST_P(KeptTemplates, OneThatBecameUnprintableIsToldAndCanBeGivenUp) {
     TemplateDraft draft(job);
     EXPECT_TRUE(draft.Restore());
     EXPECT_EQ(TemplateFault(Job(), Job().layout), "");
+}
+
+// What the database refuses is told, and the text stays.
+TEST_P(KeptTemplates, AFailureIsTold) {
+    TemplateDraft draft(Job());
+    draft.text = kOwn;
+    Conn().EngineInUse().ExecuteScript("drop table tJXC_PrintTemplate");
+    EXPECT_FALSE(draft.Save());
+    EXPECT_FALSE(clerk->view.boxes.empty());
+    EXPECT_EQ(draft.text, kOwn);
+    EXPECT_TRUE(draft.IsChanged());
 }
 
 TEST_P(KeptTemplates, ACompanyOfVersion3GainsTheirTable) {

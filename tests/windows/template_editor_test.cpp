@@ -149,6 +149,30 @@ TEST_F(DocumentPaper, UnsavedTextIsAskedAboutAndPaperIsChosenInTheEditor) {
     });
 }
 
+TEST_F(DocumentPaper, OthersThanTheSupervisorChangeNoTemplate) {
+    control.ZgName("另一人");
+    Preview([&] {
+        EXPECT_FALSE(person.Front().findChild<QPushButton*>("template"));
+        EXPECT_TRUE(person.Front().findChild<QComboBox*>("papers"));
+    });
+}
+
+TEST_F(DocumentPaper, WorkThatAsksCanBeStopped) {
+    int asked = 0;
+    bool stopped = false;
+    Enter(1, [&] {
+        person.Next([&] { person.Find<QPushButton>("stop").click(); });
+        const ProgressEnds ends;
+        for (; !stopped && asked < 500; ++asked) {
+            CurrentView().ShowProgress("正在排版", asked, 500);
+            stopped = CurrentView().StopAsked();
+            QThread::msleep(10);
+        }
+    });
+    EXPECT_TRUE(stopped);
+    EXPECT_GT(asked, 1);
+}
+
 TEST_F(DocumentPaper, IsRememberedForTheTypeOnThisMachine) {
     Preview([&] {
         auto& papers = person.Find<QComboBox>("papers");
