@@ -16,17 +16,36 @@ namespace jxc {
 
 namespace {
 
-const std::string kPaperBegins = "<!--paper", kPaperEnds = "-->";
+const std::string kOpen = "<!--", kPaper = "paper", kClose = "-->";
 
 std::string Millimetres(double length) {
     return FormatFixed(length, length == std::floor(length) ? 0 : 1);
 }
 
 std::string PaperLine(const PaperChoice& paper) {
-    std::string line = kPaperBegins + " " + paper.name + (paper.landscape ? " landscape" : "");
+    std::string line = kOpen + kPaper + " " + paper.name + (paper.landscape ? " landscape" : "");
     for (const double margin : paper.margins)
         line += " " + Millimetres(margin);
-    return line + kPaperEnds;
+    return line + kClose;
+}
+
+struct Place {
+    size_t begin = 0, end = 0;
+};
+
+// Where the text tells its paper: of several marks the last one counts.
+std::optional<Place> PaperMark(const std::string& text) {
+    std::optional<Place> mark;
+    for (size_t at = text.find(kOpen); at != std::string::npos;) {
+        const size_t end = text.find(kClose, at);
+        if (end == std::string::npos)
+            break;
+        const size_t inside = at + kOpen.size();
+        if (Trim(text.substr(inside, end - inside)).starts_with(kPaper + " "))
+            mark = Place{at, end + kClose.size()};
+        at = text.find(kOpen, end);
+    }
+    return mark;
 }
 
 // Of the fields that templates may name, those that they name: of two with one caption the first.
@@ -129,12 +148,10 @@ void TemplateDraft::TakePaper(const PaperChoice& paper) {
         text = job_.defaultOn(paper.name);
         return;
     }
-    const size_t begin = text.find(kPaperBegins);
-    const size_t end = begin == std::string::npos ? begin : text.find(kPaperEnds, begin);
-    if (end == std::string::npos)
-        text = PaperLine(paper) + "\n" + text;
+    if (const auto mark = PaperMark(text))
+        text.replace(mark->begin, mark->end - mark->begin, PaperLine(paper));
     else
-        text.replace(begin, end + kPaperEnds.size() - begin, PaperLine(paper));
+        text = PaperLine(paper) + "\n" + text;
 }
 
 // False when another user's text stays.

@@ -192,17 +192,19 @@ TEST_P(KeptTemplates, ACompanyOfVersion3GainsTheirTable) {
 
 TEST_P(KeptTemplates, PaperIsChosenByTheirFirstLine) {
     TemplateDraft draft(Job());
-    const std::string shipped = draft.text;
     EXPECT_EQ(draft.Paper(), (PaperChoice{"241x140", false, {8, 16, 6, 16}}));
     draft.TakePaper({"A4", false, {1, 2, 3, 4}}); // an untouched default becomes the paper's own
     EXPECT_EQ(draft.text, Job().defaultOn("A4"));
     draft.TakePaper({"A4", true, {5, 5.5, 5, 0}});
     EXPECT_EQ(draft.text.substr(0, draft.text.find('\n')), "<!--paper A4 landscape 5 5.5 5 0-->");
-    EXPECT_EQ(draft.text.substr(draft.text.find('\n')),
-              shipped.substr(0, 0) + Job().defaultOn("A4").substr(Job().defaultOn("A4").find('\n')));
+    const std::string upright = Job().defaultOn("A4");
+    EXPECT_EQ(draft.text.substr(draft.text.find('\n')), upright.substr(upright.find('\n')));
     draft.text = "x";
     draft.TakePaper({"A5", false, {1, 1, 1, 1}});
     EXPECT_EQ(draft.text, "<!--paper A5 1 1 1 1-->\nx");
+    draft.text = "<!--row-->x<!-- paper A4 -->y";
+    draft.TakePaper({"A5", false, {1, 1, 1, 1}});
+    EXPECT_EQ(draft.text, "<!--row-->x<!--paper A5 1 1 1 1-->y");
     EXPECT_EQ(LayoutOn(Job(), "A5"), Job().defaultOn("A5"));
     EXPECT_EQ(Saved(kOwn), "");
     EXPECT_EQ(LayoutOn(Job(), "A5"), kOwn);
