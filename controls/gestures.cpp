@@ -371,10 +371,22 @@ void SelectRow(Screen& screen, Grid& grid, int row) {
     if (!GoTo(screen, grid))
         return;
     grid.selectedRow = row;
+    if (grid.manyRows)
+        grid.MarkRows({});
     if (grid.refusedRow != row)
         grid.refusedRow = 0;
     if (grid.onSelect)
         Guarded(screen, [&] { grid.onSelect(row); });
+}
+
+void SelectRows(Screen& screen, Grid& grid, const std::vector<int>& rows) {
+    if (!grid.manyRows || rows.empty())
+        throw GestureRefused(grid.name + " 不能选择多行。");
+    for (const int row : rows)
+        RequireRow(grid, row);
+    SelectRow(screen, grid, rows.front());
+    if (screen.Focus() == &grid)
+        grid.MarkRows(rows);
 }
 
 void DoubleClickRow(Screen& screen, Grid& grid, int row) {

@@ -9,6 +9,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "controls/grid.h"
 #include "controls/screen.h"
@@ -82,6 +83,8 @@ Value TypedValue(const GridColumn& column, const std::string& text);
 // Pastes a block of cells into a grid that takes blocks.
 void PasteBlock(Screen& screen, Grid& grid, const CellBlock& block);
 void SelectRow(Screen& screen, Grid& grid, int row);
+// Several rows of a grid that takes them; the first comes in hand.
+void SelectRows(Screen& screen, Grid& grid, const std::vector<int>& rows);
 void DoubleClickRow(Screen& screen, Grid& grid, int row);
 void ClickHeading(Screen& screen, Grid& grid, int column);
 void SelectNode(Screen& screen, Tree& tree, int node);

@@ -176,6 +176,25 @@ void Grid::FillCell(int row, int column, Value value) {
     rows_[static_cast<size_t>(row - 1)].cells[static_cast<size_t>(column - 1)] = std::move(value);
 }
 
+void Grid::MarkRows(const std::vector<int>& rows) {
+    for (Row& row : rows_)
+        row.marked = false;
+    for (const int row : rows) {
+        CheckPlace(row, 1);
+        rows_[static_cast<size_t>(row - 1)].marked = true;
+    }
+}
+
+std::vector<int> Grid::SelectedRows() const {
+    std::vector<int> marked;
+    for (int row = 1; row <= RowCount(); ++row)
+        if (rows_[static_cast<size_t>(row - 1)].marked)
+            marked.push_back(row);
+    if (marked.empty() && selectedRow > 0)
+        marked.push_back(selectedRow);
+    return marked;
+}
+
 void Grid::SetCell(int row, int column, Value value) {
     if (Cell(row, column) == value)
         return;

@@ -92,6 +92,11 @@ struct Grid : Control {
 
     int selectedRow = 0; // 0 for none
     int selectedColumn = 1;
+    // A person may select several rows beside the one in hand. Marks stay with their rows; SelectedRows tells the marked
+    // ones from above, without any the one in hand.
+    bool manyRows = false;
+    void MarkRows(const std::vector<int>& rows); // and no other
+    std::vector<int> SelectedRows() const;
     // The columns that Enter leads through while rows are typed; empty for all that take typing.
     std::vector<int> enterColumns;
     bool readOnly = false; // no typing at all
@@ -122,6 +127,7 @@ struct Grid : Control {
         Color color = kNormalColor;
         int colorFrom = 1;
         Color textColor = kNormalColor;
+        bool marked = false;
     };
     struct Formula {
         int column;

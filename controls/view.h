@@ -34,6 +34,8 @@ class View {
     virtual BoxButton ShowBox(const MessageBox& box) = 0;
     // Long work reports its step; `total` 0 ends the report.
     virtual void ShowProgress(const std::string& step, int done, int total) = 0;
+    // Whether the person asked the work that is being reported to stop.
+    virtual bool StopAsked() { return false; }
     // A text to read, or a tree to print.
     virtual void ShowNotice(const std::string& title, const std::string& text) = 0;
     // A line beside the work and a sound; nothing waits for an answer, so the next key answers nothing.

@@ -235,6 +235,10 @@ void AddOwnTables(std::vector<TableDef>& tables) {
                        {"fHash", Text}},
                       {{"fID", true}, {"fTime"}},
                       true});
+    tables.push_back({"tJXC_PrintTemplate",
+                      {{"fSetNo", Short}, {"fLanguage", Short}, {"fText", Text}},
+                      {{"fSetNo,fLanguage", true}},
+                      true});
     AddSettings(tables);
     AddMasterData(tables);
     AddDocuments(tables);

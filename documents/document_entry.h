@@ -3,12 +3,14 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "database/connection.h"
 #include "documents/document_data.h"
 #include "documents/frmDj02.h"
+#include "session/components.h"
 #include "session/lookups/find_by_text.h"
 
 namespace jxc {
@@ -136,7 +138,10 @@ void ReverseApproval(frmDj02& s, const DocumentData& document);
 DocumentData DataOf(const frmDj02& s);
 // -- print_document.cpp
 void PrintDocument(frmDj02& s);
-// The stored document by its designed template; see PrintTemplate.
-void PrintDesigned(frmDj02& s);
+// The stored document by its designed template; `atOnce` on the printer that was used last. One without lines is told.
+void PrintDesigned(frmDj02& s, bool atOnce = false);
+// What it hands to the printer; nothing for a document without lines. From the closed book if it was loaded from there and
+// `closedToo` says so.
+std::optional<TemplatePrintJob> DesignedJob(frmDj02& s, bool closedToo);
 
 } // namespace jxc

@@ -60,5 +60,9 @@ void ShowRowMenu(frmDj01& s);
 
 // -- print_list.cpp
 void PrintList(frmDj01& s);
+// -- print_batch.cpp
+// The documents of the selected rows by their templates, one behind the other, stored as they are. What cannot be printed
+// is told at the end. Reads only.
+void PrintSelected(frmDj01& s);
 
 } // namespace jxc

@@ -33,7 +33,7 @@ void ShowTab(frmDj01& s) {
     if (s.Mode() == ListMode::OneType) {
         for (Button& command : s.CmdAction)
             command.visible = !filters;
-        s.cmdCpKc.visible = s.cmdPrint.visible = s.cmdQuit.visible = !filters;
+        s.cmdCpKc.visible = s.cmdPrint.visible = s.cmdPrintAll.visible = s.cmdQuit.visible = !filters;
     }
     ShowRowMenu(s);
     if (!filters)
@@ -78,7 +78,7 @@ void List(frmDj01& s) {
 void ShowAllCommands(frmDj01& s) {
     for (Button& command : s.CmdAction)
         command.visible = command.enabled = true;
-    s.cmdCpKc.visible = s.cmdPrint.visible = s.cmdQuit.visible = true;
+    s.cmdCpKc.visible = s.cmdPrint.visible = s.cmdPrintAll.visible = s.cmdQuit.visible = true;
     s.cmdSelect.visible = s.Mode() == ListMode::Picker;
 }
 
@@ -101,6 +101,7 @@ void WireFilters(frmDj01& s) {
 
 void WireGrids(frmDj01& s) {
     for (Grid* grid : {&s.Grid1, &s.Grid2}) {
+        grid->manyRows = true;
         grid->onHeading = [&s, grid](int column) {
             GridSort(*grid, column);
             ShowRowMenu(s);
@@ -125,6 +126,7 @@ void WireCommands(frmDj01& s) {
     s.mnuShCheck.onClick = [&s] { RunAction(s, DocAction::Approve); };
     s.mnuShUncheck.onClick = [&s] { RunAction(s, DocAction::Reverse); };
     s.cmdPrint.onClick = [&s] { PrintList(s); };
+    s.cmdPrintAll.onClick = [&s] { PrintSelected(s); };
     s.cmdCpKc.onClick = [] {
         Screen& stock = ScreenNamed("frmCkKc");
         stock.SetProperty("myState", 0);

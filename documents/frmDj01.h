@@ -106,6 +106,7 @@ struct frmDj01 : Screen {
                         {*this, "CmdAction(3)", "删除(&D)"},
                         {*this, "CmdAction(4)", "审核(&E)", "F9"}};
     Button cmdPrint{*this, "cmdPrint", "打印(&P)", "Ctrl+P"};
+    Button cmdPrintAll{*this, "cmdPrintAll", "批量打印(&B)", "Ctrl+Shift+P"}; // the selected documents
     Button cmdCpKc{*this, "cmdCpKc", "库存查询"};
     Button cmdColSet{*this, "cmdColSet", "选项设置"};
     Button cmdQuit{*this, "cmdQuit", "退出(&X)"};

@@ -99,6 +99,7 @@ void WireLinesAndFoot(frmDj02& s) {
         button->dropsWork = true;
     s.cmdPrint1.onClick = [&s] { PrintDocument(s); };
     s.cmdPrint2.onClick = [&s] { PrintDesigned(s); };
+    s.cmdPrint3.onClick = [&s] { PrintDesigned(s, true); };
     s.cmdSave.onClick = [&s] { SaveDocument(s); };
     s.cmdQuit.onClick = [&s] { s.Close(); };
 }

@@ -126,6 +126,7 @@ struct frmDj02 : Screen {
     Button cmdNew{*this, "cmdNew", "新单(&W)", "F8"};
     Button cmdPrint1{*this, "cmdPrint1", "表格打印(&E)", "Ctrl+P"};
     Button cmdPrint2{*this, "cmdPrint2", "样式打印(&F)", "Ctrl+Shift+P"};
+    Button cmdPrint3{*this, "cmdPrint3", "直接打印", "Ctrl+Alt+P"}; // on the printer that was used last
     Button cmdSave{*this, "cmdSave", "存盘(&S)", "F9"};
     Button cmdQuit{*this, "cmdQuit", "退出(&Q)"};
 

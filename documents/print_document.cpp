@@ -3,9 +3,11 @@
 #include <cmath>
 
 #include "base/text.h"
+#include "controls/view.h"
 #include "documents/document_entry.h"
 #include "documents/print_template.h"
 #include "session/company/company_fields.h"
+#include "session/messages.h"
 #include "session/printing/print_grid.h"
 #include "session/session.h"
 
@@ -109,24 +111,33 @@ void PrintDocument(frmDj02& s) {
               GridFields(s));
 }
 
-void PrintDesigned(frmDj02& s) {
+std::optional<TemplatePrintJob> DesignedJob(frmDj02& s, bool closedToo) {
     RefreshCompanyFields();
     FieldList fields = session.CompanyFieldList;
     const FieldList own = TemplateFields(s);
     fields.insert(fields.end(), own.begin(), own.end());
     const bool supervisor = EqualsNoCase(session.UserName, session.ZgName);
-    PrintTemplate({.mode = supervisor ? kTemplateToBeChanged : kTemplateForPrinting,
-                   .title = s.type.fSetName,
-                   .type = &s.type,
-                   .number = s.Number(),
-                   .key = s.oldInvID,
-                   .fields = std::move(fields),
-                   .further = FurtherFields(s),
-                   .captions = {.order = s.lblHtNo.caption,
-                                .total = s.lblSum.caption,
-                                .currency = s.lblInvHb.caption,
-                                .address = s.lblKhAdd.caption},
-                   .shape = &s.Grid2});
+    return TemplateJob({.mode = supervisor ? kTemplateToBeChanged : kTemplateForPrinting,
+                        .title = s.type.fSetName,
+                        .type = &s.type,
+                        .number = s.Number(),
+                        .closed = closedToo && s.JzState == 1,
+                        .key = s.oldInvID,
+                        .fields = std::move(fields),
+                        .further = FurtherFields(s),
+                        .captions = {.order = s.lblHtNo.caption,
+                                     .total = s.lblSum.caption,
+                                     .currency = s.lblInvHb.caption,
+                                     .address = s.lblKhAdd.caption},
+                        .shape = &s.Grid2});
+}
+
+void PrintDesigned(frmDj02& s, bool atOnce) {
+    auto job = DesignedJob(s, false);
+    if (!job)
+        return Warn(s.type.fSetName, GetResStr(kMsgNothingToPrint));
+    job->atOnce = atOnce;
+    ComponentsInUse().printer->Print(*job);
 }
 
 } // namespace jxc

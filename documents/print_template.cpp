@@ -4,12 +4,11 @@
 #include <map>
 
 #include "base/text.h"
-#include "controls/view.h"
 #include "database/recordset.h"
 #include "documents/document_data.h"
 #include "session/dialect.h"
 #include "session/lookups/book.h"
-#include "session/messages.h"
+#include "session/printing/stored_templates.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -31,7 +30,7 @@ std::string LinesStatement(const TemplateRequest& request) {
            "a.fInvTaxRate as fInvTaxRate,a.fInvTax as fInvTax,a.fInvOther1,a.fInvOther2,"
            " b.fCpCode,b.fCpName+'/'+b.fCpGG as fCpName,b.fCpUnit"
            " From " +
-           BookStem(request.type->fSetNo, false) + "02 a Left Join tJxc_Cp b On a.fCpID=b.fCpID" +
+           BookStem(request.type->fSetNo, request.closed) + "02 a Left Join tJxc_Cp b On a.fCpID=b.fCpID" +
            " Where a.fInvNo=" + InQuotes(request.number) +
            " And fInv1=0 And a.fInvID=" + std::to_string(request.key) + " Order By a.fRowID";
 }
@@ -91,9 +90,10 @@ std::vector<PrintedColumn> ShownColumns(const TemplateRequest& request, const Te
 
 } // namespace
 
-void PrintTemplate(TemplateRequest request) {
+std::optional<TemplatePrintJob> TemplateJob(TemplateRequest request) {
     TemplatePrintJob job;
     job.typeName = request.title;
+    job.number = request.number;
     job.type = request.type->fSetNo;
     job.mode = request.mode;
     std::vector<int> places; // of the entry grid
@@ -103,13 +103,18 @@ void PrintTemplate(TemplateRequest request) {
     }
     Recordset lines(Conn(), LinesStatement(request));
     if (lines.AtEnd())
-        return Warn(request.title, GetResStr(kMsgNothingToPrint));
+        return std::nullopt;
     job.lines = LinesOf(lines, job.columns);
-    job.layout = DefaultTemplate(*request.type, DefaultPaper(request.type->fSetNo), request.captions,
-                                 ShownColumns(request, job, places));
     job.fields = std::move(request.fields);
     job.further = std::move(request.further);
-    ComponentsInUse().printer->Print(job);
+    job.own = StoredTemplate(job.type);
+    job.defaultPaper = DefaultPaper(job.type);
+    job.defaultOn = [type = *request.type, captions = std::move(request.captions),
+                     columns = ShownColumns(request, job, places)](const std::string& paper) {
+        return DefaultTemplate(type, paper, captions, columns);
+    };
+    job.layout = job.own ? *job.own : job.defaultOn(job.defaultPaper);
+    return job;
 }
 
 } // namespace jxc

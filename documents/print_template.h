@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "controls/grid.h"
@@ -16,6 +17,7 @@ struct TemplateRequest {
     std::string title;
     const TypeRow* type = nullptr;
     std::string number;
+    bool closed = false;  // reads the closed book
     std::int32_t key = 0; // of several documents of one number, as a plan makes them, the one printed
     FieldList fields;     // of company and document, as templates name them
     FieldList further;
@@ -23,7 +25,8 @@ struct TemplateRequest {
     const Grid* shape = nullptr; // a grid of the type's lines: which columns people see, and how wide
 };
 
-// Hands the document to the printer. One without lines is told: nothing is printed. Reads only.
-void PrintTemplate(TemplateRequest request);
+// What the printer is handed: by the company's own template of the type, or else by the default. Nothing for a document
+// without lines. Reads only.
+std::optional<TemplatePrintJob> TemplateJob(TemplateRequest request);
 
 } // namespace jxc

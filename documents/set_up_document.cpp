@@ -80,7 +80,8 @@ void AllowByAction(frmDj02& s) {
         button->enabled = editing;
     s.cmdGridSave.enabled = session.UserName == session.ZgName;
     // Where only what is saved may be printed, saving prints it, and the next document begins unsaved.
-    s.cmdPrint1.enabled = s.cmdPrint2.enabled = s.InHand() != DocAction::New || !s.parameters.printOnSave;
+    s.cmdPrint1.enabled = s.cmdPrint2.enabled = s.cmdPrint3.enabled =
+        s.InHand() != DocAction::New || !s.parameters.printOnSave;
     s.cmdNew.visible = s.InHand() == DocAction::New;
     s.cmdPrevious.visible = s.cmdNext.visible = s.InHand() != DocAction::New;
     s.cmdPrevious.enabled = s.cmdNext.enabled = true;

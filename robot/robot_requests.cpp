@@ -139,7 +139,13 @@ void DropOnNode(Screen& screen, const json& request) {
 void SelectRowOrNode(Screen& screen, const json& request) {
     if (auto* tree = dynamic_cast<Tree*>(&ControlOf(screen, request)))
         return SelectNode(screen, *tree, tree->FindNode(TextOf(request, "node")));
-    SelectRow(screen, ControlOfKind<Grid>(screen, request, "表格"), PlaceOf(request, "row"));
+    auto& grid = ControlOfKind<Grid>(screen, request, "表格");
+    if (!request.contains("rows"))
+        return SelectRow(screen, grid, PlaceOf(request, "row"));
+    std::vector<int> rows;
+    for (const json& row : request["rows"])
+        rows.push_back(PlaceOf({{"row", row}}, "row"));
+    SelectRows(screen, grid, rows);
 }
 
 void DoubleClickControl(Screen& screen, const json& request) {

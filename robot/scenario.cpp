@@ -157,6 +157,16 @@ json OnRowOrNode(const Words& words) {
     return {{"control", words[1]}, {"node", which}};
 }
 
+// Several rows of a grid, or one of them.
+json OnRows(const Words& words) {
+    if (words.size() < 4)
+        return OnRowOrNode(words);
+    json rows = json::array();
+    for (size_t at = 2; at < words.size(); ++at)
+        rows.push_back(WholeNumberOf(words[at]));
+    return {{"control", words[1]}, {"rows", rows}};
+}
+
 // A text in double quotes keeps the blanks at its ends.
 std::string WithoutQuotes(const std::string& text) {
     const bool quoted = text.size() > 1 && text.front() == '"' && text.back() == '"';
@@ -226,7 +236,7 @@ const std::map<std::string, Gesture>& Gestures() {
          [](const Words& w) {
              return json{{"control", WordAt(w, 1)}, {"key", WordAt(w, 2)}};
          }},
-        {"select", OnRowOrNode},
+        {"select", OnRows},
         {"dblclick", [](const Words& w) { return w.size() > 2 ? OnRowOrNode(w) : OnControl(w); }},
         {"rightclick", OnControl},
         {"heading",

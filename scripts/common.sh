@@ -19,7 +19,7 @@ use_preset "${JXC_PRESET:-release}"
 packages=(g++ cmake ninja-build ccache pkg-config
     libsqlite3-dev libpq-dev libmuparser-dev nlohmann-json3-dev libutf8proc-dev libsodium-dev libzint-dev libcli11-dev
     qt6-base-dev qt6-tools-dev libqt6opengl6-dev qt6-translations-l10n fonts-wqy-zenhei libxlsxwriter-dev unzip locales
-    postgresql libgtest-dev libgmock-dev libbenchmark-dev)
+    postgresql libgtest-dev libgmock-dev libbenchmark-dev poppler-utils)
 
 say() { printf '== %s\n' "$*"; }
 fail() {

@@ -39,6 +39,12 @@ class NoticeOfView : public NoticeWindow {
 
 } // namespace
 
+std::vector<std::string> Printer::PrintAll(const std::vector<TemplatePrintJob>& jobs) {
+    for (const TemplatePrintJob& job : jobs)
+        Print(job);
+    return {};
+}
+
 Components& ComponentsInUse() {
     static Components components{std::make_unique<CodeListScreen>(), std::make_unique<HtmlPrinter>(),
                                  std::make_unique<TreeAsNotice>(), std::make_unique<NoticeOfView>(), nullptr};

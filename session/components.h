@@ -3,7 +3,9 @@
 // work without a window.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -45,8 +47,15 @@ struct TemplatePrintJob {
     std::vector<std::vector<std::string>> lines;              // one text per column
     std::string layout; // the template's text: session/printing/paper_template.h
     std::string typeName;
+    std::string number; // of the document
     int type = 0;
     int mode = 1; // 3 lets the user change the template
+    // The template that the company keeps for the type as it was read, nothing without one; the paper of the default, and
+    // the default's text on one of PaperSizes().
+    std::optional<std::string> own;
+    std::string defaultPaper;
+    std::function<std::string(const std::string& paper)> defaultOn;
+    bool atOnce = false; // on the printer that was used last for the type, without asking
 };
 
 class Printer {
@@ -55,6 +64,8 @@ class Printer {
     // Printing is finished when these return.
     virtual void Print(const GridPrintJob& job) = 0;
     virtual void Print(const TemplatePrintJob& job) = 0;
+    // Documents one behind the other, each with pages of its own count. What could not be printed and why, a text each.
+    virtual std::vector<std::string> PrintAll(const std::vector<TemplatePrintJob>& jobs);
 };
 
 class TreePrinter {

@@ -20,15 +20,23 @@ const Color kChanged = Rgb(255, 248, 200);
 
 // What people call the tables that actions are about.
 std::string SubjectOf(const Recordset& row) {
-    static const std::map<std::string, std::string> subjects{
-        {"tJXC_CkDj01", "仓库单据"}, {"tJXC_CkHt01", "合同订单"},
-        {"tJXC_CkJh01", "计划单"},   {"tJXC_CkXjBj01", "询价报价单"},
-        {"tJXC_Cp", "产品"},         {"tJXC_Ck", "仓库"},
-        {"tJXC_CpTj01", "套件模板"}, {"tJXC_InvSys", "系统参数"},
-        {"tJXC_InvSet", "系统单据"}, {"rptListDetail", "栏目"},
-        {"briefDetail", "代码表"},   {"cards", "客户"},
-        {"Moneys", "货币"},          {"tAccounts", "内部资金帐户"},
-        {"myCompany", "公司资料"},   {"tHostUser", "用户"}};
+    static const std::map<std::string, std::string> subjects{{"tJXC_CkDj01", "仓库单据"},
+                                                             {"tJXC_CkHt01", "合同订单"},
+                                                             {"tJXC_CkJh01", "计划单"},
+                                                             {"tJXC_CkXjBj01", "询价报价单"},
+                                                             {"tJXC_Cp", "产品"},
+                                                             {"tJXC_Ck", "仓库"},
+                                                             {"tJXC_CpTj01", "套件模板"},
+                                                             {"tJXC_InvSys", "系统参数"},
+                                                             {"tJXC_InvSet", "系统单据"},
+                                                             {"rptListDetail", "栏目"},
+                                                             {"briefDetail", "代码表"},
+                                                             {"cards", "客户"},
+                                                             {"Moneys", "货币"},
+                                                             {"tAccounts", "内部资金帐户"},
+                                                             {"myCompany", "公司资料"},
+                                                             {"tHostUser", "用户"},
+                                                             {"tJXC_PrintTemplate", "打印模板"}};
     const std::string table = row["fTable"].AsText();
     const auto known = subjects.find(table);
     return known == subjects.end() ? table : known->second;

@@ -67,7 +67,7 @@ class BandDocument : public QTextDocument {
     const QString logo_;
 };
 
-QPageLayout LayoutOf(const PaperTemplate& paper) {
+QPageLayout PageLayoutOf(const PaperTemplate& paper) {
     const PaperSize& size = paper.size;
     const double height = size.height > 0 ? size.height : kLongestRoll / kPointsPerMillimetre;
     const QPageSize page(QSizeF(size.width, height), QPageSize::Millimeter, Q(size.name),
@@ -103,7 +103,7 @@ BandPaper::BandPaper(const TemplatePrintJob& job, const QString& logo, const QSt
       template_(ParseTemplate(job.layout)), data_(job_, S(printed)) {
     data_.RequireKnownKeys(template_);
     if (!layout)
-        layout_ = LayoutOf(template_);
+        layout_ = PageLayoutOf(template_);
     if (template_.size.height > 0)
         Paginate();
     else

@@ -1,6 +1,8 @@
 // Grids: a table over the model itself, typed into cell by cell, walked with Enter and the arrow keys, copied
 // from and pasted into as spreadsheets do.
 
+#include <set>
+
 #include <QTimer>
 
 #include "base/text.h"
@@ -36,6 +38,9 @@ class GridBinding : public Binding {
         Watch(*table_.viewport());
         connect(table_.selectionModel(), &QItemSelectionModel::currentChanged, this,
                 [this](const QModelIndex& current) { TakeCurrent(current); });
+        if (grid_.manyRows)
+            connect(table_.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                    [this] { TakeMarks(); });
         connect(&table_, &QTableView::doubleClicked, this,
                 [this](const QModelIndex& at) { DoubleClick(at); });
         connect(&table_, &QTableView::clicked, this, [this](const QModelIndex& at) { TurnCheck(at); });
@@ -52,6 +57,7 @@ class GridBinding : public Binding {
         model_.Refresh();
         ShowColumns();
         ShowCurrent();
+        ShowMarks();
         --quiet_;
     }
 
@@ -230,8 +236,42 @@ class GridBinding : public Binding {
             return;
         const int row = current.row() + 1;
         grid_.selectedColumn = current.column() + 1;
-        if (row != grid_.selectedRow)
-            window_.Do([&] { SelectRow(window_.Shown(), grid_, row); });
+        if (row == grid_.selectedRow)
+            return;
+        moving_ = true;
+        window_.Do([&] { SelectRow(window_.Shown(), grid_, row); });
+        moving_ = false;
+        TakeMarks();
+    }
+
+    std::vector<int> RowsShownSelected() const {
+        std::set<int> rows;
+        for (const QItemSelectionRange& part : table_.selectionModel()->selection())
+            for (int row = part.top(); row <= part.bottom(); ++row)
+                rows.insert(row + 1);
+        return {rows.begin(), rows.end()};
+    }
+
+    // The table changes its selection behind each step of the person; the rows are then what it says.
+    void TakeMarks() {
+        if (quiet_ > 0 || moving_ || !grid_.manyRows)
+            return;
+        std::vector<int> rows = RowsShownSelected();
+        std::erase_if(rows, [&](int row) { return row > grid_.RowCount(); });
+        grid_.MarkRows(rows);
+    }
+
+    // What was sorted or filled anew.
+    void ShowMarks() {
+        if (!grid_.manyRows || moving_)
+            return;
+        const std::vector<int> rows = grid_.SelectedRows();
+        if (rows.size() < 2 || rows == RowsShownSelected())
+            return;
+        QItemSelection selection;
+        for (const int row : rows)
+            selection.select(model_.index(row - 1, 0), model_.index(row - 1, model_.columnCount() - 1));
+        table_.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     }
 
     bool TypesAt(const QModelIndex& at) const {
@@ -448,6 +488,7 @@ class GridBinding : public Binding {
     int spare_ = 0;         // the pixels that it has over its own
     int quiet_ = 0;         // what the table says meanwhile is our own doing
     bool committed_ = true; // the last typed cell was taken without a message
+    bool moving_ = false;   // between a step of the person and the selection behind it
 };
 
 } // namespace

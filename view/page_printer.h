@@ -13,13 +13,14 @@ namespace jxc {
 
 // A file that cannot be written is a std::runtime_error, and the one that stood there stays.
 void WritePdf(const Paper& paper, const QString& file);
-// The pages that the printer was set to, in its layout; all without a choice.
+// The pages that the printer was set to, in its layout; all without a choice. A std::runtime_error when it takes none.
 void PrintOn(QPrinter& printer, const Paper& paper);
 
 class PreviewPrinter : public Printer {
   public:
     void Print(const GridPrintJob& job) override;
     void Print(const TemplatePrintJob& job) override;
+    std::vector<std::string> PrintAll(const std::vector<TemplatePrintJob>& jobs) override;
 };
 
 } // namespace jxc

@@ -17,8 +17,9 @@ class Paper {
     explicit Paper(const QPageLayout& layout) : layout_(layout) {}
     virtual ~Paper() = default;
 
-    // The size, direction and margins of every page.
+    // The size, direction and margins of every page; of several papers together those of the first one's pages.
     const QPageLayout& Layout() const { return layout_; }
+    virtual const QPageLayout& LayoutOf(int /*page*/) const { return layout_; }
     virtual int PageCount() const = 0; // at least 1
     // Draws a page, counted from 1. The painter stands at the corner of the printable area and is not scaled:
     // the device's resolution tells how large a point is.

@@ -85,7 +85,7 @@ constexpr int kPatience = 300; // milliseconds before a progress window shows
 } // namespace
 
 // The step that long work is at. The person can do nothing with it, not even close it: the work holds a
-// transaction.
+// transaction. Only work that asks whether it shall stop holds none, and can be stopped.
 class ProgressWindow : public QDialog {
   public:
     explicit ProgressWindow(QWidget* parent)
@@ -95,6 +95,10 @@ class ProgressWindow : public QDialog {
         auto* layout = new QVBoxLayout(this);
         layout->addWidget(step_);
         layout->addWidget(bar_);
+        layout->addWidget(stop_, 0, Qt::AlignRight);
+        stop_->setObjectName("stop");
+        stop_->hide();
+        connect(stop_, &QPushButton::clicked, this, [this] { stopped_ = true; });
         if (parent)
             setWindowTitle(parent->windowTitle());
         sinceBegin_.start();
@@ -110,10 +114,21 @@ class ProgressWindow : public QDialog {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
 
-    void reject() override {}
+    // Work that asks can be stopped: by the button, or Esc.
+    bool StopAsked() {
+        if (stopped_ || !isVisible())
+            return stopped_;
+        stop_->show();
+        QCoreApplication::processEvents();
+        return stopped_;
+    }
+
+    void reject() override { stopped_ = true; }
     void closeEvent(QCloseEvent* event) override { event->ignore(); }
 
   private:
+    bool stopped_ = false;
+    QPushButton* stop_ = new QPushButton("停止");
     QLabel* step_ = new QLabel;
     QProgressBar* bar_ = new QProgressBar;
     QElapsedTimer sinceBegin_;
@@ -211,6 +226,10 @@ void QtView::ShowProgress(const std::string& step, int done, int total) {
     if (!progress_)
         progress_ = std::make_unique<ProgressWindow>(Front());
     progress_->Show(Q(step), done, total);
+}
+
+bool QtView::StopAsked() {
+    return progress_ && progress_->StopAsked();
 }
 
 void QtView::ShowNotice(const std::string& title, const std::string& text) {

@@ -21,6 +21,7 @@ class QtView : public View {
     void RunModal(Screen& screen) override;
     BoxButton ShowBox(const MessageBox& box) override;
     void ShowProgress(const std::string& step, int done, int total) override;
+    bool StopAsked() override;
     void ShowNotice(const std::string& title, const std::string& text) override;
     bool KeepWaiting(int seconds) override;
     void Signal(const std::string& text) override;

@@ -60,21 +60,31 @@ std::string GridPage(const GridPrintJob& job) {
     return html + kEnd;
 }
 
-// One long page, for programs that know no bands: whoever shows it has its own pages.
-std::string TemplatePage(const TemplatePrintJob& job) {
-    const PaperTemplate paper = ParseTemplate(job.layout);
-    const TemplateData data(job, NowText());
-    data.RequireKnownKeys(paper);
-    const TemplateData::Page whole{.first = 0, .end = data.LineCount()};
-    std::string html = "<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>" +
-                       EscapedHtml(job.typeName) + "</title>\n<style>" + paper.style +
-                       "</style></head>\n<body>\n";
-    html += data.Filled(paper, Band::Header, whole) + data.Filled(paper, Band::Headings, whole);
-    for (size_t line = 0; line < data.LineCount(); ++line)
-        html += data.Filled(paper, Band::Row, whole, line);
-    for (const Band band : {Band::Subtotal, Band::Total, Band::Footer})
-        html += data.Filled(paper, band, whole);
+// One long page a document, for programs that know no bands: whoever shows it has its own pages.
+std::string TemplatePages(const std::vector<TemplatePrintJob>& jobs) {
+    std::string html;
+    for (const TemplatePrintJob& job : jobs) {
+        const PaperTemplate paper = ParseTemplate(job.layout);
+        const TemplateData data(job, NowText());
+        data.RequireKnownKeys(paper);
+        const TemplateData::Page whole{.first = 0, .end = data.LineCount()};
+        if (html.empty())
+            html = "<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>" +
+                   EscapedHtml(job.typeName) + "</title>\n<style>" + paper.style +
+                   "</style></head>\n<body>\n";
+        else
+            html += "<div style=\"page-break-before: always\"></div>\n<style>" + paper.style + "</style>\n";
+        html += data.Filled(paper, Band::Header, whole) + data.Filled(paper, Band::Headings, whole);
+        for (size_t line = 0; line < data.LineCount(); ++line)
+            html += data.Filled(paper, Band::Row, whole, line);
+        for (const Band band : {Band::Subtotal, Band::Total, Band::Footer})
+            html += data.Filled(paper, band, whole);
+    }
     return html + kEnd;
+}
+
+std::string TemplatePage(const TemplatePrintJob& job) {
+    return TemplatePages({job});
 }
 
 } // namespace jxc

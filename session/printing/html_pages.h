@@ -12,5 +12,7 @@ namespace jxc {
 [[nodiscard]] std::string GridPage(const GridPrintJob& job);
 // A document by its template. A TemplateError when that cannot be printed.
 [[nodiscard]] std::string TemplatePage(const TemplatePrintJob& job);
+// Several documents, each from a new page on.
+[[nodiscard]] std::string TemplatePages(const std::vector<TemplatePrintJob>& jobs);
 
 } // namespace jxc

@@ -79,4 +79,9 @@ void HtmlPrinter::Print(const TemplatePrintJob& job) {
     WriteAndOpen("document", TemplatePage(job));
 }
 
+std::vector<std::string> HtmlPrinter::PrintAll(const std::vector<TemplatePrintJob>& jobs) {
+    WriteAndOpen("documents", TemplatePages(jobs));
+    return {};
+}
+
 } // namespace jxc

@@ -11,6 +11,7 @@ class HtmlPrinter : public Printer {
   public:
     void Print(const GridPrintJob& job) override;
     void Print(const TemplatePrintJob& job) override;
+    std::vector<std::string> PrintAll(const std::vector<TemplatePrintJob>& jobs) override;
 };
 
 } // namespace jxc

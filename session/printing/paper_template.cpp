@@ -106,10 +106,13 @@ bool BeginsTag(char c) {
 void Scan(const std::string& html, const KeyValue& known, const std::function<void(const std::string&)>& text,
           const std::function<void(const std::string& key, bool ofLine)>& key) {
     size_t from = 0;
+    std::array<bool, 2> endless{}; // what has no end has none further on
     for (size_t at = html.find('<'); at != std::string::npos; at = html.find('<', at)) {
         const bool ofLine = html.compare(at, 2, "<<") == 0;
         const size_t begin = at + (ofLine ? 2 : 1);
-        const size_t end = html.find(ofLine ? ">>" : ">", begin);
+        const size_t end =
+            endless[ofLine ? 1 : 0] ? std::string::npos : html.find(ofLine ? ">>" : ">", begin);
+        endless[ofLine ? 1 : 0] = end == std::string::npos;
         const std::string name = end == std::string::npos ? "" : html.substr(begin, end - begin);
         const bool isTag = !ofLine && begin < html.size() && BeginsTag(html[begin]) && !known(name);
         if (name.empty() || isTag) {

@@ -8,6 +8,7 @@
 #include "tests/windows/recorded_paper.h"
 #include "tests/windows/window_fixture.h"
 #include "view/band_paper.h"
+#include "view/page_printer.h"
 
 namespace jxc::test {
 
@@ -143,6 +144,47 @@ TEST_P(DesignedPaper, OfEveryTypeHoldsAllLinesUnderTheirHeadings) {
                 << at;
         EXPECT_NE(joined.find("20261105RK001"), std::string::npos);
         EXPECT_NE(joined.find("远帆商贸有限公司"), std::string::npos);
+    }
+}
+
+// The file as another program reads it.
+std::string TextOfPdf(const QString& file, int page) {
+    QProcess reader;
+    const QString number = QString::number(page);
+    reader.start("pdftotext", {"-f", number, "-l", number, "-layout", file, "-"});
+    reader.waitForFinished();
+    return reader.readAllStandardOutput().toStdString();
+}
+
+TEST(DesignedFile, OfEveryTypeOnItsOwnPaperIsReadWholeByAnotherProgram) {
+    if (QStandardPaths::findExecutable("pdftotext").isEmpty())
+        GTEST_SKIP() << "no pdftotext here (package poppler-utils)";
+    constexpr int kLines = 40;
+    const QTemporaryDir folder;
+    for (const DocumentTypeRow& shipped : DefaultDocumentTypes()) {
+        const TypeRow type = TypeRowOf(shipped);
+        SCOPED_TRACE(type.fSetName);
+        const std::string size = DefaultPaper(type.fSetNo);
+        const Sheet sheet(type, size, kLines);
+        const BandPaper paper(sheet.job, "", kTime, nullptr);
+        const QString file = folder.filePath(QString::number(type.fSetNo) + ".pdf");
+        WritePdf(paper, file);
+        const bool roll = size == "80";
+        std::string all;
+        for (int page = 1; page <= paper.PageCount(); ++page) {
+            const std::string text = TextOfPdf(file, page);
+            EXPECT_NE(text.find(roll ? "品名规格" : "编码"), std::string::npos)
+                << "headings of page " << page;
+            all += text;
+        }
+        EXPECT_EQ(TextOfPdf(file, paper.PageCount() + 1), "");
+        EXPECT_EQ(paper.PageCount() > 1, !roll);
+        EXPECT_NE(all.find("20261105RK001"), std::string::npos);
+        EXPECT_NE(all.find("2026-11-05 09:07"), std::string::npos);
+        for (int at = 1; at <= kLines; ++at) {
+            const std::string named = roll ? FormatFixed(1.5 * at, 2) : "L" + std::to_string(1000 + at);
+            EXPECT_NE(all.find(named), std::string::npos) << named;
+        }
     }
 }
 
