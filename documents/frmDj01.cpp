@@ -141,7 +141,9 @@ void WireCommands(frmDj01& s) {
 frmDj01::frmDj01() : Screen("frmDj01") {
     AddNumberProperty("invType", rawType);
     AddTextProperty("DjCode", DjCode);
+    AddNumberProperty("DjID", DjID);
     AddNumberProperty("DjJz", DjJz);
+    AddNumberProperty("DjBook", DjBook);
     AddConversions(*this);
     WireFilters(*this);
     WireGrids(*this);
@@ -152,6 +154,8 @@ void frmDj01::Open() {
     LoadPeriodSettings();
     const Parameters parameters = ReadParameters();
     DjCode.clear();
+    DjID = 0;
+    DjBook = 0;
     DjJz = 0;
     shown = {};
     if (Mode() == ListMode::Picker)

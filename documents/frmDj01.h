@@ -118,9 +118,12 @@ struct frmDj01 : Screen {
 
     // Set by the opener as invType: the type, or the mode.
     std::int16_t rawType = 0;
-    // What was picked: the document's number, "" for none, and whether it is in the closed book.
+    // What was picked: the document's number, "" for none, its key, whether the closed book is ticked, and whether the list
+    // in which it stood was of that book.
     std::string DjCode;
+    std::int32_t DjID = 0;
     std::uint8_t DjJz = 0;
+    std::uint8_t DjBook = 0;
 
     Columns documents{Grid1};
     Columns lines{Grid2};

@@ -143,9 +143,10 @@ struct frmDj02 : Screen {
     std::string accountRule; // by which an approval will number its account entry, "" for none
     // The stored document as it was loaded; approval, change and deletion go on only while it is still so.
     StoredDocument asLoaded;
-    double storedTotal = 0; // of the stored document, as its header has it
-    std::string asBegun;    // TypedWork() of the document as it was loaded or begun
-    std::string madeNumber; // the automatic number that the date or the type gave last
+    double storedTotal = 0;   // of the stored document, as its header has it
+    std::string asBegun;      // TypedWork() of the document as it was loaded or begun
+    std::string listedCounts; // of a stocktake as the stock was listed: what differs from it was typed
+    std::string madeNumber;   // the automatic number that the date or the type gave last
 
     DocAction InHand() const { return static_cast<DocAction>(Action); }
     std::string Number() const { return txtNo.text; }

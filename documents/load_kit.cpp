@@ -113,10 +113,14 @@ bool LoadFromKit(frmDj02& s) {
         if (!kits)
             return false;
         const KitProduct product = s.type.IsKit() ? ReadKitProduct(*kit) : KitProduct{};
-        if (!LoadLines(s, PartsStatement(s, *kit, *kits)))
+        const Loaded loaded = LoadLines(s, PartsStatement(s, *kit, *kits), true);
+        if (loaded == Loaded::Nothing)
             return false;
-        if (s.type.IsKit())
+        if (s.type
+                .IsKit()) { // what the lines stand for now: another number of pieces changes them from there
+            s.txtInvSL.tag = NumberText(loaded == Loaded::Added ? Val(s.txtInvSL.tag) + *kits : *kits);
             ShowKitProduct(s, product, *kits);
+        }
         return true;
     });
 }

@@ -32,6 +32,7 @@ struct LinesToLoad {
     std::vector<LineToLoad> lines;
     std::int64_t customer = 0;        // of the first row
     std::vector<std::string> leftOut; // products, and why
+    bool unpriced = false;
 };
 
 // A return takes positive figures, as when they are typed.
@@ -129,8 +130,17 @@ void AddToLine(frmDj02& s, int row, double quantity) {
     s.Grid2.FillCell(row, column, AddDecimal(s.Grid2.Number(row, column), quantity));
 }
 
-void FillLines(frmDj02& s, const std::vector<LineToLoad>& lines, const std::vector<int>& rows, int staying,
+// A line's figures, its discount from its price; of a thing given away there is none.
+void CompleteLoaded(frmDj02& s, int row, const LineFigures& figures, bool unpriced) {
+    const bool isFree = !unpriced && s.Grid2.Number(row, line::kPrice) == 0;
+    CompleteLine(s, row, figures);
+    if (isFree && s.type.fSetDjType2 == PriceKind::Discounted)
+        s.Grid2.FillCell(row, line::kDiscount, 0.0);
+}
+
+void FillLines(frmDj02& s, const LinesToLoad& read, const std::vector<int>& rows, int staying,
                const LineFigures& figures) {
+    const std::vector<LineToLoad>& lines = read.lines;
     Grid& grid = s.Grid2;
     grid.SetRowCount(staying);
     grid.SetRowCount(std::max(staying, *std::ranges::max_element(rows)));
@@ -142,7 +152,7 @@ void FillLines(frmDj02& s, const std::vector<LineToLoad>& lines, const std::vect
         }
         filled = rows[i];
         FillLine(s, filled, lines[i]);
-        CompleteLine(s, filled, figures);
+        CompleteLoaded(s, filled, figures, read.unpriced);
     }
     grid.Recalculate();
 }
@@ -181,7 +191,7 @@ bool FillWhole(frmDj02& s, const LinesToLoad& read, const std::vector<int>& rows
     KeptLines before(s.Grid2);
     std::string refusal;
     try {
-        FillLines(s, read.lines, rows, staying, figures);
+        FillLines(s, read, rows, staying, figures);
         refusal = FigureRefused(s.Grid2, rows);
         if (refusal.empty() && staying == 0)
             TakeCustomer(s, read.customer);
@@ -229,28 +239,29 @@ bool MayHoldLines(const frmDj02& s, int lines) {
     return false;
 }
 
-bool LoadLines(frmDj02& s, const std::string& sql) {
+Loaded LoadLines(frmDj02& s, const std::string& sql, bool unpriced) {
     const std::optional<int> staying = RowsThatStay(s);
     if (!staying)
-        return false;
-    const LinesToLoad read = ReadLines(s, sql);
+        return Loaded::Nothing;
+    LinesToLoad read = ReadLines(s, sql);
+    read.unpriced = unpriced;
     if (read.lines.empty()) {
         if (read.leftOut.empty())
             Warn(s.title, "没有可调入的产品记录！");
         else
             TellLeftOut(s, read.leftOut);
-        return false;
+        return Loaded::Nothing;
     }
     const std::vector<int> rows = RowsFor(s.Grid2, read.lines, *staying);
     if (!MayHoldLines(s, std::max(*staying, *std::ranges::max_element(rows))) ||
         !FillWhole(s, read, rows, *staying))
-        return false;
+        return Loaded::Nothing;
     TakeDiscount(s, rows);
     s.Grid2.selectedRow = rows.front();
     s.Grid2.selectedColumn = s.type.IsStocktake() ? line::kCounted : line::kQuantity;
     RefreshTotals(s);
     TellLeftOut(s, read.leftOut);
-    return true;
+    return *staying > 0 ? Loaded::Added : Loaded::InPlace;
 }
 
 } // namespace jxc

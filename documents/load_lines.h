@@ -30,8 +30,10 @@ bool LoadFromOrder(
 // The rows of a statement that gives fCpID, fCpCode, fCpName, fCpGG, fCpUnit, fCpFlag, fInvSL, fInvDJ, fInvTaxRate,
 // fInvOther1, fInvOther2, fInvSL2 and fKhID. They replace the lines, or, when there are any and the person wants it so, are
 // added to them: a product that has a line adds to its quantity. Products that are gone or stopped are left out and named.
-// False when nothing was loaded.
-bool LoadLines(frmDj02& s, const std::string& sql);
+// Prices are the source's own, also where it gives a thing away, unless it is `unpriced`: then those of a type with
+// discounts follow from the discount field.
+enum class Loaded { Nothing, InPlace, Added };
+Loaded LoadLines(frmDj02& s, const std::string& sql, bool unpriced = false);
 // Runs `work`, and tells a DatabaseError as one that changed nothing; false then.
 bool LoadsWhole(const frmDj02& s, const std::function<bool()>& work);
 // Names the products that were left out, each with its reason; nothing where there are none.

@@ -96,7 +96,9 @@ void PickDocument(frmDj01& s) {
     if (GridWithSelection(s) != &s.Grid1)
         return;
     s.DjCode = s.Grid1.Text(s.Grid1.selectedRow, s.documents.Place("fInvNo"));
+    s.DjID = static_cast<std::int32_t>(s.Grid1.Cell(s.Grid1.selectedRow, s.Grid1.ColumnCount()).AsLong());
     s.DjJz = s.chkJz.value ? 1 : 0;
+    s.DjBook = ShowsClosedBook(s) ? 1 : 0;
     s.Close();
 }
 

@@ -23,36 +23,62 @@ struct Source {
     std::int64_t key;
 };
 
-// Whether a document was picked; its number is in the field then. `closed`: it is one of the closed book.
-bool PickNumber(int type, TextBox& number, bool& closed) {
+// What the person picked in the list; nothing when he did not.
+struct Picked {
+    std::string number;
+    Source source;
+};
+
+std::optional<Picked> PickFromList(int type) {
     const ScreenToShow list("frmDj01");
     list->SetProperty("invType", type + kPickerMode);
     list->SetProperty("DjCode", ""); // of a choice before
     ShowModal(*list);
     const std::string picked = list->GetProperty("DjCode").AsText();
     if (picked.empty())
-        return false;
-    number.text = picked;
-    closed = list->GetProperty("DjJz").AsLong() == 1;
-    return true;
+        return std::nullopt;
+    const bool closed = list->GetProperty("DjBook").AsLong() == 1;
+    return Picked{picked, {BookStem(type, closed), list->GetProperty("DjID").AsLong()}};
 }
 
-std::optional<Source> FindIn(const std::string& stem, int type, const std::string& number) {
-    const Recordset found(Conn(), "Select fInvID From " + stem + "01 Where fInvNo = " + InQuotes(number) +
-                                      " And fInvType=" + std::to_string(type));
+// The document of the type and number; of several, as a plan's orders share a number, the one of the customer in hand.
+std::optional<Source> FindIn(const frmDj02& s, const std::string& stem, int type, const std::string& number) {
+    Recordset found(Conn(), "Select fInvID,fKhID From " + stem + "01 Where fInvNo = " + InQuotes(number) +
+                                " And fInvType=" + std::to_string(type) + " Order By fInvID");
     if (found.AtEnd())
         return std::nullopt;
-    return Source{stem, found[size_t{0}].AsLong()};
+    const Source first{stem, found["fInvID"].AsLong()};
+    for (; !found.AtEnd(); found.MoveNext())
+        if (found["fKhID"].AsLong() == s.CustomerId())
+            return Source{stem, found["fInvID"].AsLong()};
+    return first;
 }
 
-// Documents of closed periods can be copied too; one that was picked there is the one that is meant.
-std::optional<Source> FindSource(int type, const std::string& number, bool closed) {
-    const std::string open = BookStem(type, false), past = BookStem(type, true);
-    if (open != BookStem(DocType::Receipt, false))
-        return FindIn(open, type, number);
-    auto source = FindIn(closed ? past : open, type, number);
-    return source ? source : FindIn(closed ? open : past, type, number);
+// Documents of closed periods can be copied too.
+std::optional<Source> FindSource(const frmDj02& s, int type, const std::string& number) {
+    const std::string open = BookStem(type, false);
+    auto source = FindIn(s, open, type, number);
+    if (!source && open == BookStem(DocType::Receipt, false))
+        source = FindIn(s, BookStem(type, true), type, number);
+    return source;
 }
+
+// Of a document picked but not loaded nothing stays: an order's number would move that order's balance.
+class NumberStays {
+  public:
+    explicit NumberStays(TextBox& number) : number_(number), before_(number.text) {}
+    ~NumberStays() {
+        if (!loaded)
+            number_.text = before_;
+    }
+    NumberStays(const NumberStays&) = delete;
+    NumberStays& operator=(const NumberStays&) = delete;
+    bool loaded = false;
+
+  private:
+    TextBox& number_;
+    const std::string before_;
+};
 
 // All rows of the document, also the second ones of its lines.
 std::string SourceStatement(const Source& source, bool balance) {
@@ -63,16 +89,25 @@ std::string SourceStatement(const Source& source, bool balance) {
            " Order By a.fRowID,a.fInv1";
 }
 
+bool LoadSource(frmDj02& s, const Source& source, bool balance) {
+    return LoadLines(s, SourceStatement(source, balance)) != Loaded::Nothing;
+}
+
 } // namespace
 
 bool PickDocumentLines(frmDj02& s, bool balance, int type, const std::string& caption, TextBox& number) {
-    bool closed = false;
     number.text = TrimAnyBlanks(number.text);
-    if (number.text.empty() && !PickNumber(type, number, closed))
-        return false;
+    if (number.text.empty()) {
+        NumberStays stays(number);
+        const auto picked = PickFromList(type);
+        if (!picked)
+            return false;
+        number.text = picked->number;
+        return stays.loaded = LoadsWhole(s, [&] { return LoadSource(s, picked->source, balance); });
+    }
     return LoadsWhole(s, [&] {
-        if (const auto source = FindSource(type, number.text, closed))
-            return LoadLines(s, SourceStatement(*source, balance));
+        if (const auto source = FindSource(s, type, number.text))
+            return LoadSource(s, *source, balance);
         Warn(s.title, caption + "：单据单号 " + number.text + " 不存在 ！");
         number.SelectAll();
         s.MoveFocus(&number);

@@ -74,14 +74,32 @@ void ShowList(frmDj02& s, const std::vector<Listed>& list) {
     grid.selectedColumn = line::kCounted;
 }
 
+// The products and their counts, as one text.
+std::string Counts(const Grid& grid) {
+    std::string counts;
+    for (int row = 1; row <= grid.RowCount(); ++row)
+        if (const std::string code = grid.Text(row, line::kCode);
+            !code.empty() && !grid.Text(row, line::kCounted).empty())
+            counts += code + " " + NumberText(grid.Number(row, line::kCounted)) + "\n";
+    return counts;
+}
+
+// A list that is still as it was made goes without a question, what somebody has typed does not.
+bool MayReplaceCounts(const frmDj02& s) {
+    const std::string counts = Counts(s.Grid2);
+    return counts.empty() || counts == s.listedCounts ||
+           AskOkCancel(s.title, "表中已有输入的盘点数，重新统计将清空。继续？");
+}
+
 } // namespace
 
 bool StocktakeList(frmDj02& s, int option, const StockSigns& signs) {
     return LoadsWhole(s, [&] {
         const std::vector<Listed> list = ReadList(option, StockWarehouse(s), signs);
-        if (!MayHoldLines(s, static_cast<int>(list.size())))
+        if (!MayHoldLines(s, static_cast<int>(list.size())) || !MayReplaceCounts(s))
             return false;
         ShowList(s, list);
+        s.listedCounts = Counts(s.Grid2);
         RefreshTotals(s);
         return true;
     });

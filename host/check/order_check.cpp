@@ -54,16 +54,18 @@ void CheckBalances(const CheckedTypes& types, Findings& findings) {
         left + "<0.000001 then 0 else 1 end)=1");
     if (rows.Count() == 0)
         return;
-    const Rows doubles = findings.Ask("Select fInvNo From tJXC_CkHt01 Group By fInvNo Having count(*)>1");
-    std::set<std::string> shared;
+    const Rows doubles = findings.Ask(
+        "Select a.fInvNo,b.fCpID From tJXC_CkHt01 a Inner Join tJXC_CkHt02 b On b.fInvID=a.fInvID"
+        " Where b.fInv1=0 Group By a.fInvNo,b.fCpID Having min(a.fInvID)<>max(a.fInvID)");
+    std::set<OrderLine> shared;
     for (size_t row = 0; row < doubles.Count(); ++row)
-        shared.insert(LowerCase(doubles.At(row, 0).AsText()));
+        shared.insert({LowerCase(doubles.At(row, 0).AsText()), doubles.At(row, 1).AsLong()});
     const std::set<OrderLine> referredTo = LinesReferredTo(findings);
     for (size_t row = 0; row < rows.Count(); ++row) {
         const auto at = [&](size_t column) -> const Value& { return rows.At(row, column); };
         const std::string number = LowerCase(at(0).AsText());
-        if (shared.contains(number))
-            continue; // orders of one plan run: which of them was meant is not known
+        if (shared.contains({number, at(2).AsLong()}))
+            continue; // in two orders of one number: which of them was meant is not known
         const std::string line = "订单 " + at(0).AsText() + "：第 " + at(1).AsText() + " 行产品 " +
                                  at(6).AsText() + " 的结余为 " + (at(3).IsNull() ? "空" : at(3).AsText()) +
                                  "，按单据应为 " + NumberText(at(4).AsDouble()) +

@@ -114,7 +114,7 @@ TEST_P(Company, RefreshOpensTheScreenOfTheNumber) {
     control.myType(77);
     control.Refresh(13);
     EXPECT_EQ(view.boxes.back().text, "没有单据类型 77。");
-    EXPECT_EQ(view.screens.size(), 2U);
+    EXPECT_EQ(view.screens.size(), 4U);
 }
 
 // A host's button inside an open screen: the screen keeps its connection and goes on.
