@@ -15,7 +15,7 @@ namespace jxc {
 namespace {
 
 constexpr const char* kTrail = "tJXC_Audit";
-const Color kRed = Rgb(192, 0, 0);
+const Color kBlack = Rgb(0, 0, 0), kRed = Rgb(192, 0, 0);
 
 void ShowMonth(ClosingScreen& s) {
     s.lblNewMonth.caption = "本期年月为：" + (session.SysDate ? MonthName(*session.SysDate) : "");
@@ -56,7 +56,7 @@ void ClosingScreen::Open() {
     chkBackup.visible = lblBackup.visible = Backups() != nullptr;
     chkBackup.value = true;
     lblBackup.caption.clear();
-    lblNewMonth.color = kNormalColor;
+    lblNewMonth.color = kBlack;
     ShowMonth(*this);
     cmdStep.enabled = true;
     MoveFocus(&cmdStep);
@@ -64,7 +64,7 @@ void ClosingScreen::Open() {
 
 Arrangement ClosingScreen::Arrange() {
     Arrangement arrangement;
-    arrangement.fields = {{&DTPicker1, &lblNewMonth}};
+    arrangement.fields = {{&lblNewMonth}, {&lblDate, &DTPicker1}};
     for (CheckBox& step : Steps())
         arrangement.fields.push_back({&step});
     arrangement.fields.push_back({&chkBackup, &lblBackup});

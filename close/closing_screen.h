@@ -18,6 +18,7 @@ struct ClosingScreen : Screen {
     void Open() override;
     Arrangement Arrange() override;
 
+    Label lblDate{*this, "lblDate", "截止日期"};
     DateBox DTPicker1{*this, "DTPicker1"}; // shows until when; a change lets the person start again
     Label lblNewMonth{*this, "lblNewMonth"};
     CheckBox chkBackup{*this, "chkBackup", "先备份帐套，并检查备份可以恢复(&B)", true};

@@ -143,8 +143,11 @@ void Lists(PictureBook& book) {
 
 void Queries(PictureBook& book) {
     WindowScript& script = book.Script();
-    for (const auto& [item, name] :
-         {std::pair("库存统计", "stock"), {"库存报警", "alarm"}, {"成本核算统计", "cost"}}) {
+    for (const auto& [item, name] : {std::pair("库存统计", "stock"),
+                                     {"库存报警", "alarm"},
+                                     {"成本核算统计", "cost"},
+                                     {"月底结转", "month-close"},
+                                     {"反结转", "month-reversal"}}) {
         book.Open(item, "打开");
         book.Take(name);
         script.Click("cmdQuit");
