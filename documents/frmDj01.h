@@ -14,6 +14,7 @@
 #include "controls/screen.h"
 #include "forms/columns.h"
 #include "forms/filters.h"
+#include "forms/list_sums.h"
 #include "forms/lookup_fields.h"
 
 namespace jxc {
@@ -46,6 +47,8 @@ struct frmDj01 : Screen {
     Tabs SSTab1{*this, "SSTab1", {"单据列表", "明细列表", "查询条件"}};
     Grid Grid1{*this, "Grid1"}; // documents
     Grid Grid2{*this, "Grid2"}; // lines
+    // Below the grids: how many rows, how much and, in home currency, for what.
+    Label lblSums[2]{{*this, "lblSums(0)"}, {*this, "lblSums(1)"}};
 
     // What is listed: each box opens its tab. With both ticked a query gives documents.
     CheckBox chkDj{*this, "chkDj", "查询[单据]", true};
@@ -133,6 +136,8 @@ struct frmDj01 : Screen {
     // The document in hand and its approver.
     std::int32_t invID = 0;
     std::string approver;
+
+    ListSums sums; // of the rows that are being filled
 
     Columns& ListOf(bool ofLines) { return ofLines ? lines : documents; }
     ListMode Mode() const {

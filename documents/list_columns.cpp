@@ -1,7 +1,9 @@
 #include "documents/list_columns.h"
 
+#include "documents/document_data.h"
 #include "documents/document_list.h"
 #include "forms/column_dictionary.h"
+#include "session/session.h"
 
 namespace jxc {
 
@@ -57,6 +59,10 @@ std::vector<Column> ShippedColumns(bool lines, const Parameters& parameters) {
     return lines ? LineColumns(parameters) : DocumentColumns();
 }
 
+double AmountOf(const Recordset& row) {
+    return row["fInvJE"].AsDouble() * row["fInvHbDl"].AsDouble();
+}
+
 void ColorByApproval(Grid& grid, int at, const Recordset& row) {
     grid.SetRowColor(at, 1, row["fInvSHR"].AsText().empty() ? kNormalColor : kApproved);
 }
@@ -73,6 +79,11 @@ void SetUpGridOf(frmDj01& s, bool lines, const Parameters& parameters) {
 
 } // namespace
 
+ListSums SumsOfList(bool lines) {
+    const ListSums::Figure amount{"金额合计", kAmountDecimals};
+    return lines ? ListSums({{"数量合计", session.DeciSl}, amount}) : ListSums({amount});
+}
+
 std::string ListKey(bool lines) {
     return lines ? "lzJxc_Dj02" : "lzJxc_Dj01";
 }
@@ -80,8 +91,15 @@ std::string ListKey(bool lines) {
 void SetUpListGrids(frmDj01& s, const Parameters& parameters) {
     for (const bool lines : {false, true})
         SetUpGridOf(s, lines, parameters);
-    s.documents.onRow = [&s](int at, const Recordset& row) { ColorDocument(s.Grid1, at, row); };
-    s.lines.onRow = [&s](int at, const Recordset& row) { ColorByApproval(s.Grid2, at, row); };
+    s.documents.onRow = [&s](int at, const Recordset& row) {
+        ColorDocument(s.Grid1, at, row);
+        s.sums.Add(0, AmountOf(row));
+    };
+    s.lines.onRow = [&s](int at, const Recordset& row) {
+        ColorByApproval(s.Grid2, at, row);
+        s.sums.Add(0, row["fInvSL"].AsDouble());
+        s.sums.Add(1, AmountOf(row));
+    };
 }
 
 void ChooseListColumns(frmDj01& s) {

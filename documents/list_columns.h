@@ -14,6 +14,8 @@ std::string ListKey(bool lines);
 
 // The columns of both grids, with the company's decimals, captions and order; they have no rows then.
 void SetUpListGrids(frmDj01& s, const Parameters& parameters);
+// What a list adds up while it is filled: amounts in home currency, of lines the quantities before them.
+ListSums SumsOfList(bool lines);
 // Lets the user choose the columns of the list in front.
 void ChooseListColumns(frmDj01& s);
 

@@ -2,6 +2,7 @@
 
 #include "controls/grid_routines.h"
 #include "documents/document_list.h"
+#include "documents/list_columns.h"
 #include "session/session.h"
 
 namespace jxc {
@@ -13,7 +14,10 @@ size_t FillGrids(frmDj01& s, const ListQuery& query, bool empties) {
     Grid& other = s.ListOf(!query.lines).InGrid();
     other.Clear();
     ClearSortMark(other);
-    s.ListOf(query.lines).Fill(rows);
+    s.sums = SumsOfList(query.lines);
+    const int filled = s.ListOf(query.lines).Fill(rows);
+    s.lblSums[query.lines ? 1 : 0].caption = s.sums.Text(filled);
+    s.lblSums[query.lines ? 0 : 1].caption.clear();
     ShowRowMenu(s);
     return rows.RecordCount();
 }

@@ -245,6 +245,9 @@ Loaded LoadLines(frmDj02& s, const std::string& sql, bool unpriced) {
         return Loaded::Nothing;
     LinesToLoad read = ReadLines(s, sql);
     read.unpriced = unpriced;
+    if (unpriced) // a price of the product's card is taken as it is shown, as typing its code takes it
+        for (LineToLoad& from : read.lines)
+            from.price = RoundDecimal(from.price, session.DeciDj);
     if (read.lines.empty()) {
         if (read.leftOut.empty())
             Warn(s.title, "没有可调入的产品记录！");
