@@ -67,7 +67,7 @@ void AddSettings(std::vector<TableDef>& tables) {
         {"fSysAuto2", Short},   {"fSysAuto3", Short},   {"fSysAuto4", Short},   {"fSysFun0", Short},
         {"fSysFun1", Short},    {"fSysFun2", Short},    {"fSysFun3", Short},    {"fSysFun4", Short},
         {"fSysFun5", Short},    {"fSysFun6", Short},    {"fSysFun7", Short},    {"fSysFun8", Short},
-        {"fSysFun9", Short},    {"fSysFun10", Short}};
+        {"fSysFun9", Short},    {"fSysFun10", Short},   {"fSysWarnKc", Short}};
     tables.push_back({"tJXC_InvSys", std::move(system), {}});
     // Read and written by column position.
     tables.push_back(

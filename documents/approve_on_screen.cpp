@@ -37,6 +37,8 @@ void ShowApproval(frmDj02& s, const std::string& approver) {
 
 void RunApproval(frmDj02& s, const DocumentData& document, bool reversal, bool prompted) {
     const std::string verb = ApprovalVerb(reversal);
+    if (prompted && !reversal && !GoesOnWithNegativeStock(s, document))
+        return;
     if (prompted && !Agreed(document, verb))
         return;
     ApprovalResult result;

@@ -133,6 +133,10 @@ void SaveDocument(frmDj02& s);
 // A refusal or failure is told.
 void RunApproval(frmDj02& s, const DocumentData& document, bool reversal, bool prompted);
 void ReverseApproval(frmDj02& s, const DocumentData& document);
+// -- negative_stock.cpp
+// Where the company wants it, tells of products whose stock the document would make negative, and asks. True when there are
+// none or the person goes on. Reads the stock; not to be called in a transaction.
+[[nodiscard]] bool GoesOnWithNegativeStock(const frmDj02& s, const DocumentData& document);
 // -- data_of_screen.cpp
 // The document as it stands on the screen, read once for a command: texts become numbers here and nowhere else.
 DocumentData DataOf(const frmDj02& s);

@@ -268,7 +268,7 @@ bool FinishedProductGiven(frmDj02& s) {
 bool SaveNew(frmDj02& s, DocumentData& document) {
     if (!NumberIsFree(s, StemOf(document)))
         return false;
-    if (!FinishedProductGiven(s))
+    if (!FinishedProductGiven(s) || !GoesOnWithNegativeStock(s, document))
         return false;
     if (!AskOkCancel(s.title, s.title + "：" + s.Number() + "，确定？"))
         return false;
@@ -288,7 +288,7 @@ bool SaveNew(frmDj02& s, DocumentData& document) {
 
 bool SaveChange(frmDj02& s, const DocumentData& document) {
     const std::string number = s.txtNo.tag;
-    if (!FinishedProductGiven(s))
+    if (!FinishedProductGiven(s) || !GoesOnWithNegativeStock(s, document))
         return false;
     if (!AskOkCancel(s.title, s.title + "：" + number + "，确定？"))
         return false;

@@ -68,7 +68,8 @@ Arrangement frmSystem::Arrange() {
                    {&chkAutoCheck},
                    {&chkAutoKcTj},
                    {&chkInputRapic},
-                   {&chkInputOther}}};
+                   {&chkInputOther},
+                   {&chkWarnKc}}};
     const Arrangement typesPage{.above = {{&lblAutoNo}}, .grid = &Grid1, .commands = {&lblTypes}};
     Arrangement modules{.fields = {{&cboSysType, &Label4}}};
     for (CheckBox& box : chkMemo)

@@ -40,6 +40,7 @@ struct frmSystem : Screen {
     CheckBox chkAutoKcTj{*this, "chkAutoKcTj", "单据登录：单据新增完毕后，方可打印？"};
     CheckBox chkInputRapic{*this, "chkInputRapic", "单据登录：提供“实收、实付”快捷登录？"};
     CheckBox chkInputOther{*this, "chkInputOther", "单据登录：“其它应收、其它应付”快捷登录？"};
+    CheckBox chkWarnKc{*this, "chkWarnKc", "单据登录：出库将使库存为负数时提醒？"};
 
     Label lblAutoNo{*this, "lblAutoNo", "“YYYYMMDD”表示 YYYY年MM月DD日 ，“XXX”表示3位[自动计数位]。"};
     Grid Grid1{*this, "Grid1"};

@@ -22,6 +22,7 @@ Parameters ReadParameters() {
     read.approveOnSave = flag("fSysAuto1");
     read.printOnSave = flag("fSysAuto2");
     read.quickPayment = flag("fSysAuto3");
+    read.warnsOfNegativeStock = flag("fSysWarnKc");
     read.costMethod = static_cast<CostMethod>(row["fSysCostWay"].AsLong());
     read.periodStart = PeriodDate(*sysDate, static_cast<int>(row["fSysDay"].AsLong()));
     read.periodEnd = AddDays(AddMonths(read.periodStart, 1), -1);

@@ -11,9 +11,10 @@ enum class TaxWay { None = 0, OnTop = 1, Contained = 2 };
 enum class CostMethod { WeightedAverage = 0, MovingAverage = 1, WholeMoving = 2 };
 
 struct Parameters {
-    bool approveOnSave = false; // fSysAuto1
-    bool printOnSave = false;   // fSysAuto2
-    bool quickPayment = false;  // fSysAuto3
+    bool approveOnSave = false;        // fSysAuto1
+    bool printOnSave = false;          // fSysAuto2
+    bool quickPayment = false;         // fSysAuto3
+    bool warnsOfNegativeStock = false; // fSysWarnKc
     CostMethod costMethod = CostMethod::WeightedAverage;
     Date periodStart = MakeDate(1900, 1, 1);
     Date periodEnd = MakeDate(1900, 1, 31);

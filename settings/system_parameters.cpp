@@ -31,7 +31,8 @@ std::vector<Flag> Flags(frmSystem& s) {
     return {{s.chkAutoCheck, "fSysAuto1"},
             {s.chkAutoKcTj, "fSysAuto2"},
             {s.chkInputRapic, "fSysAuto3"},
-            {s.chkInputOther, "fSysAuto4"}};
+            {s.chkInputOther, "fSysAuto4"},
+            {s.chkWarnKc, "fSysWarnKc"}};
 }
 
 std::string ModuleField(int module) {

@@ -13,6 +13,7 @@ struct NewColumn {
 };
 constexpr NewColumn kColumnsOfVersion1[] = {{"tJXC_Ck", "fKhID"}, {"tJXC_CpTj02", "fCpPjMemo"}};
 constexpr NewColumn kColumnsOfVersion2[] = {{"tHostUser", "fPassword"}};
+constexpr NewColumn kColumnsOfVersion5[] = {{"tJXC_InvSys", "fSysWarnKc"}};
 
 void AddLateTables(Connection& connection) {
     Engine& engine = connection.EngineInUse();
@@ -55,6 +56,10 @@ void RaiseToVersion3(Connection& connection) {
     connection.Execute("Update tJXC_CpTj01 Set fTjFlag=0 Where fTjFlag is null"); // plans count 0 and below
 }
 
+void RaiseToVersion5(Connection& connection) {
+    AddColumns(connection, kColumnsOfVersion5);
+}
+
 } // namespace
 
 void RequireKnownVersion(Connection& connection) {
@@ -78,6 +83,7 @@ void RaiseCompany(Connection& connection) {
             RaiseToVersion1(connection);
             RaiseToVersion2(connection);
             RaiseToVersion3(connection);
+            RaiseToVersion5(connection);
             connection.EngineInUse().SetVersion(kCompanyVersion);
             transaction.Commit();
         }

@@ -31,6 +31,7 @@ TEST_P(CompanyVersion, AnOlderOneIsRaisedAllOrNothing) {
     Do("Insert Into tJXC_Ck (fCkName) Values ('A')");
     Script("alter table tJXC_Ck drop column fKhID");
     Script("alter table tJXC_CpTj02 drop column fCpPjMemo");
+    Script("alter table tJXC_InvSys drop column fSysWarnKc");
     Script("drop table tHostUser");
     Script("create index tHostUser_1 on tJXC_Cp (fCpName)"); // in the way of the table's own
     Conn().EngineInUse().SetVersion(0);
@@ -44,6 +45,7 @@ TEST_P(CompanyVersion, AnOlderOneIsRaisedAllOrNothing) {
     company->Open(*open);
     EXPECT_EQ(open->EngineInUse().Version(), kCompanyVersion);
     EXPECT_TRUE(open->Query("Select fKhID From tJXC_Ck").At(0, 0).IsNull());
+    open->Execute("Update tJXC_InvSys Set fSysWarnKc=1");
     open->Execute("Insert Into tJXC_CpTj02 (fTjID,fCpPjMemo) Values (1,'Left')");
     EXPECT_EQ(open->Query("Select fTjID From tJXC_CpTj02 Where fCpPjMemo='lEFT'").Count(), 1u);
     open->Execute("Insert Into tHostUser (fUserName) Values ('Wang')");
