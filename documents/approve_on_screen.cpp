@@ -31,6 +31,7 @@ void ShowApproval(frmDj02& s, const std::string& approver) {
     s.cmdSave.enabled = false;
     s.lblSHR.caption = approver;
     s.lblSHR.visible = s.shpSHR.visible = !approver.empty();
+    OfferNextActions(s);
 }
 
 } // namespace

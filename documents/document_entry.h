@@ -25,6 +25,16 @@ void ResetDocument(frmDj02& s);
 // Warehouses anew, the choice kept.
 void RefillWarehouses(frmDj02& s);
 
+// -- document_in_hand.cpp
+// Shows and enables the commands that take the stored document in hand further.
+void OfferNextActions(frmDj02& s);
+// Opens the document in hand for another action, read anew. Refused with the table's text when its state forbids that by
+// now; it is shown as it is then.
+void TurnTo(frmDj02& s, DocAction action);
+// A new document as the one in hand, which may stand in the closed book: of today, with a number of its own, without order,
+// approver and payment.
+void CopyDocument(frmDj02& s);
+
 // -- choose_type.cpp
 // Another type for the new document: its row is read, the screen stays as it is; title, sign and automatic number
 // follow. A type whose documents have another shape is refused, with a message that says where to begin one.

@@ -95,7 +95,12 @@ void WireLinesAndFoot(frmDj02& s) {
     s.cmdPrevious.onClick = [&s] { StepToDocument(s, false); };
     s.cmdNext.onClick = [&s] { StepToDocument(s, true); };
     s.cmdNew.onClick = [&s] { ResetDocument(s); };
-    for (Button* button : {&s.cmdPrevious, &s.cmdNext, &s.cmdNew, &s.cmdQuit})
+    s.cmdChange.onClick = [&s] { TurnTo(s, DocAction::Change); };
+    s.cmdCopy.onClick = [&s] { CopyDocument(s); };
+    s.cmdApprove.onClick = [&s] { TurnTo(s, DocAction::Approve); };
+    s.cmdReverse.onClick = [&s] { TurnTo(s, DocAction::Reverse); };
+    for (Button* button : {&s.cmdPrevious, &s.cmdNext, &s.cmdNew, &s.cmdChange, &s.cmdCopy, &s.cmdApprove,
+                           &s.cmdReverse, &s.cmdQuit})
         button->dropsWork = true;
     s.cmdPrint1.onClick = [&s] { PrintDocument(s); };
     s.cmdPrint2.onClick = [&s] { PrintDesigned(s); };
@@ -123,9 +128,10 @@ void frmDj02::Open() {
     if (Action < 0 || Action > 5)
         throw ScreenError("frmDj02 的 Action 须为 0 至 5。");
     SetUpDocument(*this);
-    const bool fromSource = InHand() == DocAction::New && OldType > 0 && oldInvID > 0;
+    const bool fromSource = InHand() == DocAction::New && OldType != 0 && oldInvID > 0;
     if (InHand() == DocAction::New && !fromSource) {
         oldInvID = 0;
+        OfferNextActions(*this);
         ResetDocument(*this);
         dtpInvDate.date = Today();
         asBegun = TypedWork(*this);
@@ -134,7 +140,7 @@ void frmDj02::Open() {
     if (oldInvID <= 0) {
         ResetDocument(*this); // nothing in hand: the save command asks for a document
         cmdSave.enabled = CanBeSaved(DocState::NotChosen, InHand());
-        return;
+        return OfferNextActions(*this);
     }
     if (!LoadDocument(*this, fromSource ? OldType : invType, oldInvID))
         return Close();

@@ -127,6 +127,11 @@ struct frmDj02 : Screen {
     Button cmdPrint1{*this, "cmdPrint1", "表格打印(&E)", "Ctrl+P"};
     Button cmdPrint2{*this, "cmdPrint2", "样式打印(&F)", "Ctrl+Shift+P"};
     Button cmdPrint3{*this, "cmdPrint3", "直接打印", "Ctrl+Alt+P"}; // on the printer that was used last
+    // The stored document that is shown, taken further.
+    Button cmdChange{*this, "cmdChange", "修改", "Ctrl+E"};
+    Button cmdCopy{*this, "cmdCopy", "复制", "Ctrl+D"}; // into a new one
+    Button cmdApprove{*this, "cmdApprove", "审核", "Ctrl+K"};
+    Button cmdReverse{*this, "cmdReverse", "反审核", "Ctrl+Shift+K"};
     Button cmdSave{*this, "cmdSave", "存盘(&S)", "F9"};
     Button cmdQuit{*this, "cmdQuit", "退出(&Q)"};
 

@@ -167,6 +167,7 @@ void CompleteLine(frmDj02& s, int row, const LineFigures& figures) {
 bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
     const std::string stem = BookStem(sourceType, s.JzState == 1);
     s.txtSsSf.text = "0.00";
+    s.txtMemo.text.clear(); // it is printed with its own document
     try {
         // Before the rest is read: a change in between is noticed.
         std::vector<Connection::Expected> together{{StoredHeaderStatement(stem, key)},
@@ -187,7 +188,7 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
                 "0.00"; // a discount typed for the document before is not this one's
         LoadHeader(s, sourceType, header);
         ShowStoredLines(s, stem, key);
-        if (s.type.IsKit() && s.InHand() != DocAction::New)
+        if (s.type.IsKit() && (s.InHand() != DocAction::New || sourceType == s.invType))
             LoadFinishedProduct(s, stem, key);
         s.oldInvID = key;
         s.cmdSave.enabled = CanBeSaved(StateByApprover(header["fInvSHR"].AsText()), s.InHand());
@@ -199,6 +200,7 @@ bool LoadDocument(frmDj02& s, int sourceType, std::int32_t key) {
             s.chkTh.value = s.type.fSetDjBack_; // nor is its mark
             SetReturnSign(s);
         }
+        OfferNextActions(s);
         s.asBegun = TypedWork(s);
         return true;
     } catch (const DatabaseError& error) {

@@ -76,7 +76,8 @@ void OpenDocument(frmDj01& s, DocAction action, int type, int fromType, int rowF
     entry->SetProperty("invType", type);
     entry->SetProperty("OldType", action == DocAction::New ? fromType : type);
     ShowModal(*entry);
-    if (action != DocAction::Query)
+    if (entry->GetProperty("Action").AsLong() !=
+        static_cast<int>(DocAction::Query)) // it may be taken further there
         RefreshList(s);
 }
 

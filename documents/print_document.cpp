@@ -135,7 +135,7 @@ std::optional<TemplatePrintJob> DesignedJob(frmDj02& s, bool closedToo) {
 void PrintDesigned(frmDj02& s, bool atOnce) {
     auto job = DesignedJob(s, false);
     if (!job)
-        return Warn(s.type.fSetName, GetResStr(kMsgNothingToPrint));
+        return Warn(s.title, GetResStr(kMsgNothingToPrint));
     job->atOnce = atOnce;
     ComponentsInUse().printer->Print(*job);
 }
