@@ -40,12 +40,16 @@ const std::vector<IndexDef> kHeaderIndexes = {
 const std::vector<IndexDef> kStockHeaderIndexes = {
     {"fInvID", true}, {"fInvNo"}, {"fInvType,fInvNo"}, {"fInvDate"}, {"fCkName"}};
 const std::vector<IndexDef> kLineIndexes = {{"fInvID,fInv1,fRowID"}, {"fInvNo"}};
+// What a product was bought or sold for last, from or to one customer or anybody, is asked for while a line is typed.
+const std::vector<IndexDef> kStockLineIndexes = {
+    {"fInvID,fInv1,fRowID"}, {"fInvNo"}, {"fCpID,fInvDate"}, {"fKhID,fCpID,fInvDate"}};
 // Order lines are also asked for by product: a delivery lowers its order's balance, a plan sums what is on
 // order.
 const std::vector<IndexDef> kOrderLineIndexes = {{"fInvID,fCpID"}, {"fInvNo"}, {"fCpID"}};
 // Closed months lie side by side and are replaced slice by slice; keys may repeat between them.
 const std::vector<IndexDef> kClosedHeaderIndexes = {{"fInvID"}, {"fInvNo"}, {"fInvDate"}, {"fMonth"}};
-const std::vector<IndexDef> kClosedLineIndexes = {{"fInvID"}, {"fInvNo"}, {"fMonth"}};
+const std::vector<IndexDef> kClosedLineIndexes = {
+    {"fInvID"}, {"fInvNo"}, {"fMonth"}, {"fCpID,fInvDate"}, {"fKhID,fCpID,fInvDate"}};
 
 Fields StockFields() {
     return {{"fCpID", Long},   {"fCkName", Text}, {"fQcSl", Double}, {"fQcJe", Double}, {"fRkSl", Double},
@@ -140,7 +144,7 @@ void AddMasterData(std::vector<TableDef>& tables) {
 
 void AddDocuments(std::vector<TableDef>& tables) {
     tables.push_back({"tJXC_CkDj01", HeaderFields(true), kStockHeaderIndexes});
-    tables.push_back({"tJXC_CkDj02", LineFields(true), kLineIndexes});
+    tables.push_back({"tJXC_CkDj02", LineFields(true), kStockLineIndexes});
     tables.push_back({"tJXC_CkHt01", HeaderFields(false), kHeaderIndexes});
     tables.push_back({"tJXC_CkHt02", LineFields(false), kOrderLineIndexes});
     tables.push_back({"tJXC_CkJh01", HeaderFields(false), kHeaderIndexes});

@@ -147,6 +147,9 @@ void ReverseApproval(frmDj02& s, const DocumentData& document);
 // Where the company wants it, tells of products whose stock the document would make negative, and asks. True when there are
 // none or the person goes on. Reads the stock; not to be called in a transaction.
 [[nodiscard]] bool GoesOnWithNegativeStock(const frmDj02& s, const DocumentData& document);
+// -- last_trades.cpp
+// Shows the last trades of the line's product; one that is taken gives the line its price.
+void ShowLastTrades(frmDj02& s);
 // -- data_of_screen.cpp
 // The document as it stands on the screen, read once for a command: texts become numbers here and nowhere else.
 DocumentData DataOf(const frmDj02& s);

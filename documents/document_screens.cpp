@@ -2,6 +2,7 @@
 
 #include "documents/frmDj01.h"
 #include "documents/frmDj02.h"
+#include "documents/frmDjTrades.h"
 #include "session/screen_entries.h"
 #include "session/session.h"
 
@@ -48,6 +49,7 @@ void RegisterDocumentScreens() {
     AddScreen({.name = "frmDj02",
                .make = [] { return std::make_unique<frmDj02>(); },
                .calls = {{13, NewDocument}}});
+    AddScreen({.name = "frmDjTrades", .make = [] { return std::make_unique<frmDjTrades>(); }});
 }
 
 } // namespace jxc

@@ -91,6 +91,7 @@ void WireLinesAndFoot(frmDj02& s) {
     s.cmdCk.onClick = [&s] { OpenWarehouses(s); };
     s.cmdZy.onClick = [&s] { OpenSummaries(s); };
     s.cmdCards.onClick = [&s] { OpenCards(s); };
+    s.cmdTrades.onClick = [&s] { ShowLastTrades(s); };
     s.cmdGridSave.onClick = [&s] { SaveColumnWidths(s); };
     s.cmdPrevious.onClick = [&s] { StepToDocument(s, false); };
     s.cmdNext.onClick = [&s] { StepToDocument(s, true); };

@@ -83,7 +83,8 @@ struct frmDj02 : Screen {
     Button cmdCp{*this, "cmdCp", "产品(&R)"};
     Button cmdCk{*this, "cmdCk", "仓库(&H)"};
     Button cmdZy{*this, "cmdZy", "摘要(&Y)"};
-    Button cmdCards{*this, "cmdCards", "客户(&U)"}; // where the host keeps them
+    Button cmdCards{*this, "cmdCards", "客户(&U)"};             // where the host keeps them
+    Button cmdTrades{*this, "cmdTrades", "最近交易", "Ctrl+T"}; // of the line's product
     Button cmdGridSave{*this, "cmdGridSave", "保存列宽"};
 
     // Lines from elsewhere (load_lines.h): from a document, from the balance of an order, from a kit template, or from the

@@ -65,6 +65,7 @@ void ShapeByType(frmDj02& s) {
     Show(type.fSetDjBack_, {&s.lblTh, &s.shpTh});
     Show(!type.IsStocktake(), {&s.chkTh});
     Show(type.HasCustomer() && HasCardsScreen(), {&s.cmdCards});
+    Show(type.HasCustomer(), {&s.cmdTrades});
     Show(OffersPayment(s, type), {&s.lblSsSf, &s.txtSsSf});
     s.chkTh.value = type.fSetDjBack_;
     if (!type.fSetDjDd_)

@@ -132,6 +132,15 @@ void Lists(PictureBook& book) {
     book.Take("filters");
     script.Click("cmdList");
     book.Take("list");
+    book.To("Grid1");
+    script.Press(Qt::Key_Down, Qt::NoModifier, 14);
+    script.Press(Qt::Key_F2);
+    book.Take("document");
+    book.To("Grid2");
+    script.Press(Qt::Key_T, Qt::ControlModifier);
+    book.Take("trades");
+    script.Press(Qt::Key_Escape);
+    script.Click("cmdQuit");
     script.Press(Qt::Key_Escape);
     script.Press(Qt::Key_Return);
     book.Open("出库单", "明细列表");

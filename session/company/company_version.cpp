@@ -35,18 +35,18 @@ void RaiseToVersion1(Connection& connection) {
     AddColumns(connection, kColumnsOfVersion1);
 }
 
-// Guards ask the headers of documents for their warehouse.
-void AddHeaderIndexes(Connection& connection) {
+// The indexes of the table that are not there yet.
+void AddIndexes(Connection& connection, const std::string& name) {
     Engine& engine = connection.EngineInUse();
-    const TableDef& headers = *FindTable("tJXC_CkDj01");
-    for (size_t place = 0; place < headers.indexes.size(); ++place)
-        engine.ExecuteScript(IndexScript(engine, headers, place, true));
+    const TableDef& table = *FindTable(name);
+    for (size_t place = 0; place < table.indexes.size(); ++place)
+        engine.ExecuteScript(IndexScript(engine, table, place, true));
 }
 
 void RaiseToVersion2(Connection& connection) {
     connection.Execute(
         "Update tJXC_InvSet Set fSetNoUse_=0 Where fSetNoUse_ is null"); // in use is what is not shut
-    AddHeaderIndexes(connection);
+    AddIndexes(connection, "tJXC_CkDj01"); // guards ask the headers of documents for their warehouse
     AddColumns(connection, kColumnsOfVersion2);
     for (const NotedTable& table : kNotedTables)
         connection.EngineInUse().ExecuteScript(connection.EngineInUse().NotingScript(table));
@@ -58,6 +58,12 @@ void RaiseToVersion3(Connection& connection) {
 
 void RaiseToVersion5(Connection& connection) {
     AddColumns(connection, kColumnsOfVersion5);
+}
+
+// The last trades of a product are asked for while a line is typed.
+void RaiseToVersion6(Connection& connection) {
+    AddIndexes(connection, "tJXC_CkDj02");
+    AddIndexes(connection, "tJXC_CkDj_Bak02");
 }
 
 } // namespace
@@ -84,6 +90,7 @@ void RaiseCompany(Connection& connection) {
             RaiseToVersion2(connection);
             RaiseToVersion3(connection);
             RaiseToVersion5(connection);
+            RaiseToVersion6(connection);
             connection.EngineInUse().SetVersion(kCompanyVersion);
             transaction.Commit();
         }

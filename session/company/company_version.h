@@ -8,7 +8,7 @@ namespace jxc {
 // 1: late columns and tables are there. 2: changes of products and cards are noted, there
 // is a trail, users have pass words. 3: kit templates say that plans count them. 4: templates of
 // printed documents are kept. 5: a company may be warned of negative stock.
-inline constexpr int kCompanyVersion = 5;
+inline constexpr int kCompanyVersion = 6;
 
 // A DatabaseError for a company that a newer program has written, and for another program's database.
 void RequireKnownVersion(Connection& connection);

@@ -32,6 +32,7 @@ TEST_P(CompanyVersion, AnOlderOneIsRaisedAllOrNothing) {
     Script("alter table tJXC_Ck drop column fKhID");
     Script("alter table tJXC_CpTj02 drop column fCpPjMemo");
     Script("alter table tJXC_InvSys drop column fSysWarnKc");
+    Script("drop index tJXC_CkDj02_4");
     Script("drop table tHostUser");
     Script("create index tHostUser_1 on tJXC_Cp (fCpName)"); // in the way of the table's own
     Conn().EngineInUse().SetVersion(0);
@@ -46,6 +47,7 @@ TEST_P(CompanyVersion, AnOlderOneIsRaisedAllOrNothing) {
     EXPECT_EQ(open->EngineInUse().Version(), kCompanyVersion);
     EXPECT_TRUE(open->Query("Select fKhID From tJXC_Ck").At(0, 0).IsNull());
     open->Execute("Update tJXC_InvSys Set fSysWarnKc=1");
+    EXPECT_NO_THROW(open->EngineInUse().ExecuteScript("drop index tJXC_CkDj02_4")) << "not made again";
     open->Execute("Insert Into tJXC_CpTj02 (fTjID,fCpPjMemo) Values (1,'Left')");
     EXPECT_EQ(open->Query("Select fTjID From tJXC_CpTj02 Where fCpPjMemo='lEFT'").Count(), 1u);
     open->Execute("Insert Into tHostUser (fUserName) Values ('Wang')");

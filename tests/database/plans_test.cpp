@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "controls/gestures.h"
 #include "database/engine.h"
+#include "documents/frmDjTrades.h"
 #include "documents/load_lines.h"
 #include "session/lookups/database_routines.h"
 #include "session/session.h"
@@ -144,6 +145,19 @@ TEST_P(Plans, OfOneDocumentWalkThroughNoTable) {
         if (sql.find(" In (") != std::string::npos)
             ExpectNoWalk(sql);
     Analyze();
+    for (const std::string& sql : sent)
+        ExpectNoWalk(sql);
+}
+
+// The prices of years are at hand in a line.
+TEST_P(Plans, OfLastTradesWalkThroughNoTable) {
+    Fill();
+    const Recorder recorder;
+    for (const bool sales : {false, true})
+        LastTrades({.product = 100007, .customer = 5, .sales = sales});
+    Analyze();
+    const std::set<std::string> sent = Planned(recorder);
+    EXPECT_EQ(sent.size(), 8u); // the customer's and anybody's, of either book
     for (const std::string& sql : sent)
         ExpectNoWalk(sql);
 }

@@ -58,6 +58,31 @@ TEST_F(LoadLines, ADocumentIsLoadedByKeys) {
     });
 }
 
+// What was paid last, without a hand from the keyboard; Esc leaves the line as it was.
+TEST_F(LoadLines, TheLastPriceComesByKeys) {
+    DocumentInput receipt = TypicalDocument(DocType::Receipt);
+    receipt.lines = {{"CPU002", 3, 590}};
+    ASSERT_NE(Save(receipt, true), 0);
+    Enter(DocType::Receipt, [&] {
+        person.Click("txtKhSeek");
+        person.Enter("G001");
+        person.Click("Grid2");
+        person.EnterEach({"CPU002", "2", "1"});
+        person.Press(Qt::Key_Up);
+        for (const bool takes : {false, true}) {
+            person.Next([&] {
+                EXPECT_EQ(person.Focus(), "Grid1");
+                EXPECT_EQ(person.Cell("Grid1", 1, 7), "590.00");
+                person.Press(takes ? Qt::Key_Return : Qt::Key_Escape);
+            });
+            person.Press(Qt::Key_T, Qt::ControlModifier);
+            EXPECT_EQ(person.Cell("Grid2", 1, line::kPrice), takes ? "590.00" : "1.00");
+        }
+        EXPECT_EQ(person.Cell("Grid2", 1, line::kAmount), "1,180.00");
+        person.Answer(Qt::Key_D);
+    });
+}
+
 TEST_F(LoadLines, ADocumentIsPickedByClicks) {
     SaveSource();
     Enter(DocType::Receipt, [&] {
