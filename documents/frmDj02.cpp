@@ -14,6 +14,8 @@ namespace jxc {
 
 namespace {
 
+constexpr int kPrintedMemoBytes = 500; // a longer one does not fit the foot of a small paper
+
 void WireHead(frmDj02& s) {
     FilterKeys(s.txtNo, kNumberBytes);
     FilterKeys(s.txtHtNo, kNumberBytes);
@@ -84,6 +86,7 @@ void WireLinesAndFoot(frmDj02& s) {
     s.Grid2.onPaste = [&s](const CellBlock& block) { PasteLines(s, block); };
     s.cmdAddRow.onClick = [&s] { InsertLine(s); };
     s.cmdDeleteRow.onClick = [&s] { DeleteLine(s); };
+    FilterKeys(s.txtMemo, kPrintedMemoBytes);
     s.txtSum.locked = true;
     s.txtSum2.locked = true;
     s.txtSsSf.onLeave = [&s] { return FormatPayment(s); };

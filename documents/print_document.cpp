@@ -116,7 +116,8 @@ std::optional<TemplatePrintJob> DesignedJob(frmDj02& s, bool closedToo) {
     FieldList fields = session.CompanyFieldList;
     const FieldList own = TemplateFields(s);
     fields.insert(fields.end(), own.begin(), own.end());
-    const bool supervisor = EqualsNoCase(session.UserName, session.ZgName);
+    const bool supervisor = !session.UserName.empty() &&
+                            EqualsNoCase(session.UserName, session.ZgName); // nobody is not the supervisor
     return TemplateJob({.mode = supervisor ? kTemplateToBeChanged : kTemplateForPrinting,
                         .title = s.type.fSetName,
                         .type = &s.type,

@@ -107,7 +107,7 @@ BandPaper::BandPaper(const TemplatePrintJob& job, const QString& logo, const QSt
     if (template_.size.height > 0)
         Paginate();
     else
-        PutOnRoll();
+        PutOnRoll(layout != nullptr);
 }
 
 BandPaper::~BandPaper() = default;
@@ -177,7 +177,8 @@ void BandPaper::Paginate() {
     }
 }
 
-void BandPaper::PutOnRoll() {
+// A printer that keeps its own paper gets the roll's bands on pages of that; so does a roll longer than any.
+void BandPaper::PutOnRoll(bool onPrintersPaper) {
     const TemplateData::Page all{.page = 1, .pages = 1, .first = 0, .end = data_.LineCount()};
     pages_ = {all};
     double height = 0;
@@ -186,7 +187,11 @@ void BandPaper::PutOnRoll() {
     for (size_t line = 0; line < data_.LineCount(); ++line)
         height += HeightOf(Band::Row, all, line);
     const QMarginsF margins = layout_.margins(QPageLayout::Point);
-    const double length = std::min(height + margins.top() + margins.bottom() + 1, kLongestRoll);
+    const double length = height + margins.top() + margins.bottom() + 1;
+    if (onPrintersPaper ? height > Area().height() : length > kLongestRoll)
+        return Paginate();
+    if (onPrintersPaper)
+        return;
     const QSizeF size(template_.size.width * kPointsPerMillimetre, length);
     layout_ = QPageLayout(QPageSize(size, QPageSize::Point, Q(template_.size.name), QPageSize::ExactMatch),
                           QPageLayout::Portrait, margins, QPageLayout::Point);

@@ -27,7 +27,7 @@ class BandPaper : public Paper {
     double HeightOf(Band band, const TemplateData::Page& page = {}, size_t line = 0) const; // in points
     double RoomForLines(bool first) const;
     void Paginate();
-    void PutOnRoll();
+    void PutOnRoll(bool onPrintersPaper);
     double Draw(QPainter& painter, double top, Band band, const TemplateData::Page& page,
                 size_t line = 0) const;
 

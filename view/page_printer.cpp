@@ -118,8 +118,10 @@ std::vector<std::string> PreviewPrinter::PrintAll(const std::vector<TemplatePrin
         const ProgressEnds ends;
         for (size_t at = 0; at < jobs.size(); ++at) {
             CurrentView().ShowProgress("正在排版", static_cast<int>(at), static_cast<int>(jobs.size()));
-            if (CurrentView().StopAsked())
-                return {"打印已停止，没有单据打印。"};
+            if (CurrentView().StopAsked()) {
+                Inform("批量打印", "打印已停止，没有单据打印。");
+                return {};
+            }
             try {
                 papers.push_back(PaperFor(OnLastPaper(jobs[at])));
             } catch (const TemplateError& error) {

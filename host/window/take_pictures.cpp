@@ -133,7 +133,7 @@ void Lists(PictureBook& book) {
     script.Click("cmdList");
     book.Take("list");
     book.To("Grid1");
-    script.Press(Qt::Key_Down, Qt::NoModifier, 14);
+    script.Press(Qt::Key_Down, Qt::NoModifier, 13);
     script.Press(Qt::Key_F2);
     book.Take("document");
     book.To("Grid2");

@@ -168,7 +168,7 @@ bool TemplateDraft::KeepOrAsk(const std::optional<std::string>& wanted) const {
 
 // Whoever may change templates is told to the printer by the job's mode; the right is the user's.
 bool TemplateDraft::Keep(const std::optional<std::string>& wanted) {
-    if (!EqualsNoCase(session.UserName, session.ZgName)) {
+    if (session.UserName.empty() || !EqualsNoCase(session.UserName, session.ZgName)) {
         Warn(Title(), GetResStr(kMsgNoRight));
         return false;
     }

@@ -223,6 +223,27 @@ TEST(DesignedSheet, AddsUpPagesAndAll) {
     EXPECT_NEAR(carried, 42, 0.001);
 }
 
+// Neither a printer that has sheets only nor a receipt longer than any roll.
+TEST(DesignedSheet, OfARollLosesNoLineOnOtherPaper) {
+    const QPageLayout a4(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(40, 40, 40, 40));
+    const Sheet brief(Shipped(5), "80", 3);
+    EXPECT_EQ(BandPaper(brief.job, "", kTime, &a4).PageCount(), 1);
+    constexpr int kLines = 700;
+    const Sheet sheet(Shipped(5), "80", kLines);
+    for (const QPageLayout* layout : {static_cast<const QPageLayout*>(nullptr), &a4}) {
+        const BandPaper paper(sheet.job, "", kTime, layout);
+        EXPECT_GT(paper.PageCount(), 1);
+        std::string all;
+        for (int page = 1; page <= paper.PageCount(); ++page) {
+            all += AllTexts(PageOf(paper, page));
+            ExpectCleanMargins(paper, page);
+        }
+        const std::string joined = Without(all, '\n');
+        for (int at = 1; at <= kLines; ++at)
+            EXPECT_NE(joined.find("八线程" + std::to_string(at)), std::string::npos) << at;
+    }
+}
+
 TEST(DesignedSheet, ShowsTextAsTextAndKeepsColumnsUnderTheirHeadings) {
     Sheet sheet(Shipped(2), "A4", 2);
     sheet.job.lines[0][1] = "<script>alert(1)</script><b>" + std::string(120, 'x');
