@@ -87,6 +87,12 @@ void ReceiptPictures(PictureBook& book) {
     book.Line("CPF004", "100", "6.5");
     script.Click("cmdLoadKh2");
     book.Take("receipt");
+    book.To("Grid2");
+    script.Press(Qt::Key_Up, Qt::NoModifier, 3);
+    script.Press(Qt::Key_T, Qt::ControlModifier);
+    book.Take("trades");
+    script.Press(Qt::Key_Escape);
+    script.Press(Qt::Key_Return);
     script.Click("cmdZy");
     book.Take("summaries");
     script.Press(Qt::Key_Escape);
@@ -136,10 +142,6 @@ void Lists(PictureBook& book) {
     script.Press(Qt::Key_Down, Qt::NoModifier, 13);
     script.Press(Qt::Key_F2);
     book.Take("document");
-    book.To("Grid2");
-    script.Press(Qt::Key_T, Qt::ControlModifier);
-    book.Take("trades");
-    script.Press(Qt::Key_Escape);
     script.Click("cmdQuit");
     script.Press(Qt::Key_Escape);
     script.Press(Qt::Key_Return);
