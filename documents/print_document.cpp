@@ -95,11 +95,13 @@ FieldList TemplateFields(const frmDj02& s) {
 // What people sign for, beside what templates always had.
 FieldList FurtherFields(const frmDj02& s) {
     const ProductFields& product = s.finishedProduct;
-    return {"经手人", s.cboInvJbr.text,
-            "审核人", s.lblSHR.caption,
-            "制单人", session.UserName,
-            "成品",   product.code.text + " " + product.name.text,
-            "套数",   s.txtInvSL.text + product.unit.text};
+    return {"经手人",   s.cboInvJbr.text,
+            "审核人",   s.lblSHR.caption,
+            "制单人",   session.UserName,
+            "客户邮编", s.txtPostcode.text, // the company has a postcode and an address of its own
+            "客户网址", s.txtHttp.text,
+            "成品",     product.code.text + " " + product.name.text,
+            "套数",     s.txtInvSL.text + product.unit.text};
 }
 
 } // namespace

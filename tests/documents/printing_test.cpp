@@ -103,6 +103,8 @@ TEST_P(Printing, ATemplateGetsLinesAndColumns) {
                                   "<客户手机>", "<客户传真>", "<电子邮件>", "<网址>", "备注"}));
     EXPECT_EQ(ValueOf(job.fields, "<货币>"), "人民币 (1.0000)");
     EXPECT_EQ(ValueOf(job.fields, "<金额合计>"), "2900.00");
+    EXPECT_EQ(ValueOf(job.further, "客户邮编"), "518031");
+    EXPECT_EQ(ValueOf(job.further, "客户网址"), "www.xinyuan.example");
     const std::vector<std::pair<std::string, std::string>> columns = {
         {"<<编码>>", "fCpCode"},     {"<<品名规格>>", "fCpName"}, {"<<单位>>", "fCpUnit"},
         {"<<数量>>", "fInvSl"},      {"<<单价>>", "fInvDj"},      {"<<金额>>", "fInvJe"},
@@ -116,6 +118,20 @@ TEST_P(Printing, ATemplateGetsLinesAndColumns) {
     EXPECT_EQ(job.mode, session.UserName == session.ZgName ? 3 : 1);
     EXPECT_NE(printed->page.find("处理器 双核/&lt;i&gt;"), std::string::npos);
     EXPECT_NE(printed->page.find("贰仟玖佰元整"), std::string::npos);
+}
+
+// What was typed to be printed with one document is not printed with the next one.
+TEST_P(Printing, AMemoStaysWithItsDocument) {
+    const int key = clerk->Save({.type = 1, .customer = "G001", .lines = {{"CPU001", 5, 400}}});
+    clerk->Save({.type = 1, .customer = "G001", .lines = {{"CPU001", 6, 400}}});
+    Show(1, key, [&](frmDj02& s) {
+        s.txtMemo.text = "急";
+        Click(s, s.cmdNext);
+        Click(s, s.cmdPrint2);
+    });
+    ASSERT_TRUE(printed->designed);
+    EXPECT_EQ(ValueOf(printed->designed->fields, "<金额合计>"), "2400.00");
+    EXPECT_EQ(ValueOf(printed->designed->fields, "备注"), "");
 }
 
 // A stocktake's lines hold what was counted: 3 in the book and 2 more.
