@@ -148,6 +148,24 @@ TEST_P(MonthClose, APeriodMovedByAnotherIsNotMovedTwice) {
     EXPECT_EQ(One("select count(*) from tJXC_CkDj_Bak01"), "0");
 }
 
+// Somebody else closes the month while a document is being typed: it is told, stays, and is saved with a later date.
+TEST_P(MonthClose, ADocumentBegunBeforeMeetsTheNewPeriod) {
+    const std::string address = company->Address();
+    DocumentInput begun = TypicalDocument(DocType::Receipt);
+    clerk->Enter(begun, [&](frmDj02& s) {
+        ExecuteOnCompany(address, "Update tJXC_InvSys Set fSysDate='2026-12-01'");
+        ClickSave(*clerk, s);
+        EXPECT_EQ(clerk->LastBox(), "单据日期：不能小于本期起始日期 2026-12-01！");
+        EXPECT_EQ(One("select count(*) from tJXC_CkDj01"), "0");
+        ASSERT_EQ(s.Grid2.Text(1, line::kCode), "CPU002"); // what was typed stays
+        ASSERT_EQ(s.Grid2.Number(2, line::kQuantity), 5);
+        s.dtpInvDate.date = MakeDate(2026, 12, 1);
+        ClickSave(*clerk, s);
+    });
+    EXPECT_EQ(LinesOf(Conn().Query("select fInvDate,fInvJE from tJXC_CkDj01")),
+              (Lines{"2026-12-01|2687.5"})); // 3 x 610 + 5 x 171.5
+}
+
 struct PeriodOfDay {
     const char* month;
     int day;
