@@ -8,6 +8,7 @@
 #include "host/company/backup.h"
 #include "host/company_address.h"
 #include "host/passwords.h"
+#include "host/window/company_backups.h"
 #include "host/window/company_users.h"
 #include "host/window/first_steps_panel.h"
 #include "host/window/main_window.h"
@@ -21,6 +22,8 @@
 namespace jxc {
 
 namespace {
+
+const std::string kBackedUp = "备份完毕，并已检查可以读出：\n";
 
 QString ShownName(const std::string& company) {
     return DialectOf(company) != 0 ? Q(WithoutPassword(company)) : QFileInfo(Q(company)).fileName();
@@ -131,6 +134,7 @@ void MainWindow::TakeCompany(const std::string& company, CompanyFacts facts) {
     company_ = company;
     ResetScreens();
     UseCompany(control_, company);
+    ComponentsInUse().backups = std::make_unique<CompanyBackups>(company);
     control_.CompName(facts.name);
     control_.UserName(facts.user);
     control_.ZgName(facts.rights.ZgName);
@@ -200,7 +204,7 @@ void MainWindow::ChooseCompany() {
 
 void MainWindow::BackUp() {
     if (DialectOf(company_) != 0)
-        return BackUpCompany(company_, ""); // says what serves instead
+        return Inform(S(windowTitle()), kBackedUp + CompanyBackups(company_).BackUp());
     const QString name =
         QFileInfo(Q(company_)).completeBaseName() + QDate::currentDate().toString("-yyyyMMdd") + ".db";
     QFileDialog dialog(this, "备份帐套", QDir::homePath() + "/" + name, "帐套 (*.db)");
@@ -210,7 +214,7 @@ void MainWindow::BackUp() {
         return;
     const std::string file = S(dialog.selectedFiles().front());
     BackUpCompany(company_, file);
-    Inform(S(windowTitle()), "备份完毕，并已检查可以读出：\n" + file);
+    Inform(S(windowTitle()), kBackedUp + file);
 }
 
 void MainWindow::ChangeUser() {
