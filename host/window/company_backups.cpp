@@ -24,7 +24,7 @@ constexpr int kPatience = 100; // milliseconds between two looks at the window
 
 QString FolderOf(const std::string& company) {
     return DialectOf(company) == 0
-               ? QFileInfo(Q(company)).absolutePath() + "/备份"
+               ? QFileInfo(Q(company)).absolutePath() + "/" + kBackupFolder
                : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + "/lzJxc 备份";
 }
 
@@ -103,7 +103,7 @@ class UnfinishedFile {
 
 } // namespace
 
-CompanyBackups::CompanyBackups(std::string company) : CompanyBackups(company, FolderOf(company)) {}
+CompanyBackups::CompanyBackups(const std::string& company) : CompanyBackups(company, FolderOf(company)) {}
 
 CompanyBackups::CompanyBackups(std::string company, QString folder)
     : company_(std::move(company)), folder_(std::move(folder)) {}

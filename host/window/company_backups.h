@@ -9,12 +9,15 @@
 
 namespace jxc {
 
+// Beside the company's file.
+inline const QString kBackupFolder = "备份";
+
 // A company in a file is copied into the folder 备份 beside it while others work on; one on a server by pg_dump into the
 // folder "lzJxc 备份" of the user's documents. The name tells company, day and time. A copy has its name only when it is
 // whole and could be read back; it is the owner's alone, and nothing half written stays.
 class CompanyBackups : public BackupKeeper {
   public:
-    explicit CompanyBackups(std::string company);
+    explicit CompanyBackups(const std::string& company);
     // The same into another folder.
     CompanyBackups(std::string company, QString folder);
     std::string BackUp() override;

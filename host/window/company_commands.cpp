@@ -217,6 +217,27 @@ void MainWindow::BackUp() {
     Inform(S(windowTitle()), kBackedUp + file);
 }
 
+void MainWindow::Restore() {
+    const bool file = HasCompany() && DialectOf(company_) == 0;
+    const QString folder = file ? QFileInfo(Q(company_)).absolutePath() : QDir::homePath();
+    const QString copies = folder + "/" + kBackupFolder;
+    const QString backup = QFileDialog::getOpenFileName(this, "从备份恢复：选择备份文件",
+                                                        QDir(copies).exists() ? copies : folder,
+                                                        "帐套 (*.db);;所有文件 (*)", nullptr);
+    if (backup.isEmpty())
+        return;
+    QFileDialog dialog(this, "恢复为新的帐套文件",
+                       folder + "/" + QFileInfo(backup).completeBaseName() + "-恢复.db", "帐套 (*.db)");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // what is there is never written over
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const std::string restored = S(dialog.selectedFiles().front());
+    RestoreCompany(S(backup), restored);
+    Inform(S(windowTitle()), "备份已恢复为：\n" + restored + "\n\n原帐套没有改动。");
+    OpenCompanyOf(restored, "");
+}
+
 void MainWindow::ChangeUser() {
     const CompanyFacts facts = ReadFacts(company_, session.UserName);
     if (const auto user = SignIn(this, facts.users, facts.user, facts.passwords))

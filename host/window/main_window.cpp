@@ -117,6 +117,7 @@ void MainWindow::BuildCompanyMenu() {
     company->addSeparator();
     ofCompany_ = {company->addAction("更换用户(&U)...", this, [this] { Guard([this] { ChangeUser(); }); }),
                   company->addAction("备份(&B)...", this, [this] { Guard([this] { BackUp(); }); })};
+    company->addAction("从备份恢复(&T)...", this, [this] { Guard([this] { Restore(); }); });
     company->addSeparator();
     company->addAction("退出(&X)", QKeySequence::Quit, this, [this] { close(); });
     QMenu* help = menuBar()->addMenu("帮助(&H)");

@@ -98,6 +98,8 @@ class MainWindow : public QMainWindow {
     bool OpenOrStay(const std::function<bool()>& open);
     QString FileOfNewCompany(const std::string& name);
     void BackUp();
+    // A backup becomes a company of its own, which is opened; the one it was taken of stays as it is.
+    void Restore();
     void ChangeUser();
     void About();
     // Runs a command of the window; what it throws is told.

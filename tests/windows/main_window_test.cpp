@@ -2,6 +2,7 @@
 // last_company_test.cpp.
 #include <QTest>
 
+#include "host/window/company_backups.h"
 #include "host/window/main_window.h"
 #include "session/session.h"
 #include "tests/windows/window_fixture.h"
@@ -147,6 +148,42 @@ TEST_F(Main, NewCompanyTakesItsFirstCard) {
 }
 
 // Each step back leads to what was typed, and nothing is left behind.
+// The way back: from a copy to a company of its own, and the one before as it was. What is no copy is refused.
+TEST_F(Main, RestoresACopyAsACompanyOfItsOwn) {
+    QTemporaryDir folder;
+    const std::string copy = CompanyBackups(company.Address(), folder.path()).BackUp();
+    const QString restored = folder.path() + "/back.db";
+    Save(1); // after the copy
+    const auto restore = [&](const QString& from) {
+        person.Next([&, from] {
+            person.Next([&, from] {
+                person.Find<QLineEdit>("fileNameEdit").setText(from);
+                person.Next([&] {
+                    person.Find<QLineEdit>("fileNameEdit").setText(restored);
+                    person.Press(Qt::Key_Return);
+                });
+                person.Press(Qt::Key_Return);
+            });
+            person.Press(Qt::Key_T);
+        });
+        person.Press(Qt::Key_F, Qt::AltModifier);
+    };
+    QFile broken(folder.path() + "/broken.db");
+    ASSERT_TRUE(QFile::copy(Q(copy), broken.fileName()));
+    broken.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_TRUE(broken.resize(broken.size() / 2));
+    restore(broken.fileName());
+    ASSERT_EQ(person.Boxes().size(), 1U);
+    EXPECT_FALSE(QFile::exists(restored));
+    EXPECT_EQ(Rows("select count(*) from tJXC_CkDj01"), Texts{"1"});
+
+    restore(Q(copy));
+    EXPECT_EQ(person.Boxes(), Texts{"备份已恢复为：\n" + S(restored) + "\n\n原帐套没有改动。"});
+    EXPECT_EQ(session.UserPath, S(restored));
+    EXPECT_EQ(QueryCompany(S(restored), "select count(*) from tJXC_CkDj01").At(0, 0).AsText(), "0");
+    EXPECT_EQ(Rows("select count(*) from tJXC_CkDj01"), Texts{"1"});
+}
+
 TEST_F(Main, NewCompanyThatCannotBeWrittenIsNotLost) {
     const QTemporaryDir folder;
     QFile taken(folder.filePath("taken.db"));
