@@ -88,7 +88,7 @@ TEST_F(LastCompany, IsMissedWithoutTheSampleInItsPlace) {
         for (const QAction* action : person.Front().actions())
             if (!action->isSeparator() && action->isEnabled())
                 enabled.push_back(S(action->text().left(4)));
-        EXPECT_EQ(enabled, (Texts{"打开帐套", "新建帐套", "最近的帐", "退出(&"}));
+        EXPECT_EQ(enabled, (Texts{"打开帐套", "新建帐套", "最近的帐", "从备份恢", "退出(&"}));
     });
     person.Press(Qt::Key_F, Qt::AltModifier);
     person.Press(Qt::Key_F6);
